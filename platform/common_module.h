@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace tarvo {
+
+class ProductPaths;
+
+// Services that the product's tools share. There is one per process, made when the main controller starts.
+class TarvoCommonModule {
+ public:
+  explicit TarvoCommonModule(const ProductPaths& paths);
+  std::string unixPathToClassic(const std::string& path) const;
+  std::string preferencesWordhavenCache() const;
+
+ private:
+  const ProductPaths& paths_;
+};
+
+}  // namespace tarvo

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarvo {
+
+class Window;
+
+struct Alert {
+  std::string title, message;
+  std::vector<std::string> buttons;  // the first is the default
+  std::string details;               // more than the message says, for who asks; may be empty
+};
+struct OpenPanel {
+  std::string title;
+  std::vector<std::string> types;  // extensions, compared ignoring case; empty: any
+  bool foldersOnly = false;
+};
+struct SavePanel {
+  std::string title, requiredType, folder, name;
+};
+
+// Alerts, file panels and the beep. Paths are answered as the user picked them (see Locations::picked).
+class Panels {
+ public:
+  virtual ~Panels() = default;
+  virtual void beep() = 0;
+  virtual int runAlertPanel(const Alert&) = 0;  // blocks; index of the button
+  virtual void beginAlertSheet(Window& host, const Alert&, std::function<void(int button)>) = 0;
+  virtual std::optional<std::string> runOpenPanel(const OpenPanel&) = 0;  // blocks; nothing: cancelled
+  virtual void beginSavePanel(Window& host, const SavePanel&,
+                              std::function<void(int code, const std::string& path)>) = 0;
+};
+
+}  // namespace tarvo

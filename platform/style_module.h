@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace tarvo {
+
+// Tells the translation engine where the product's styles and dictionaries lie. Called once at start-up, in this order.
+class StyleModule {
+ public:
+  virtual ~StyleModule() = default;
+  virtual void tarvoStyleInitialize() = 0;
+  virtual void tarvoStyleSetTStyleUrl(const std::string& stylePath) = 0;
+  virtual void tarvoStyleSetTechDictUrl(const std::string& englishFolder, const std::string& japaneseFolder) = 0;
+  virtual void tarvoStyleSetUserDictUrl(const std::string& folder) = 0;
+};
+
+}  // namespace tarvo
