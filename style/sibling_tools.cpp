@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "style/sibling_tools.h"
+
+#include "platform/texts.h"
+
+namespace tarvo {
+
+std::vector<std::string> toolIds(const Texts& texts) {
+  std::vector<std::string> ids;
+  for (const SiblingTool& tool : siblingTools) ids.push_back(texts.localized(tool.key));
+  return ids;
+}
+
+}  // namespace tarvo

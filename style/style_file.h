@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "platform/plist_file.h"
+
+namespace tarvo {
+
+// The user's style file on disk.
+// Duty: read it whole and write it whole in one step, keeping each record's encoded bytes so that a write encodes only
+// the records that changed. Not: holding the styles.
+class StyleFile {
+ public:
+  StyleFile(FileService& files, std::string path) : file_(files, std::move(path)) {}
+  const std::string& path() const { return file_.path(); }
+  std::optional<Dictionary> read() { return file_.read(); }
+  // False: the file is as it was.
+  bool write(const Dictionary& root);
+  // The record at the index, or every record, is no longer what was written last.
+  void recordChanged(std::size_t index);
+  void allChanged() { encoded_.clear(); }
+  // The records of the last write, each as it stands in the file; empty when "Style" was no array.
+  std::span<const std::string> encoded() const { return encoded_; }
+
+ private:
+  PlistFile file_;
+  std::vector<std::string> encoded_;  // by index in "Style"; an empty one has to be made anew
+};
+
+}  // namespace tarvo

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "style/style_store.h"
+
+#include <utility>
+
+#include "style/option_table.h"
+
+namespace tarvo {
+
+StyleStore::StyleStore(FileService& files, Engine& engine, UserDefaults& defaults, std::string path,
+                       std::string seedPath)
+    : file_(files, std::move(path)), seed_(files, std::move(seedPath)), registration_(engine, defaults) {}
+
+bool StyleStore::readUserStyles() {
+  std::optional<Dictionary> root = file_.read();
+  if (!root) return false;
+  tarvoStyle_ = std::move(*root);
+  file_.allChanged();
+  return true;
+}
+
+bool StyleStore::readSeedStyles() {
+  std::optional<Dictionary> root = seed_.read();
+  if (!root) return false;
+  tarvoStyle_ = std::move(*root);
+  file_.allChanged();
+  return true;
+}
+
+void StyleStore::fillInMissingOptions() {
+  Array* styles = tarvoStyle_.array(keyNameStyle);
+  if (styles == nullptr) return;
+  for (PropertyList& style : *styles) {
+    Dictionary* record = style.dictionary();
+    Dictionary* je = record != nullptr ? record->dictionary(keyNameJE) : nullptr;
+    if (je == nullptr) continue;
+    for (const auto& [key, value] : jeOptionDefaults()) {
+      if (!je->contains(key)) je->set(key, value);
+    }
+  }
+  file_.allChanged();
+}
+
+const Array* StyleStore::getAllStyle() const {
+  const Array* styles = tarvoStyle_.array(keyNameStyle);
+  return styles != nullptr && !styles->empty() ? styles : nullptr;
+}
+
+std::optional<Dictionary> StyleStore::getStyleAtIndex(int index) const {
+  const Array* styles = getAllStyle();
+  if (styles == nullptr || !std::in_range<std::size_t>(index) || static_cast<std::size_t>(index) >= styles->size()) {
+    return std::nullopt;
+  }
+  const Dictionary* record = (*styles)[static_cast<std::size_t>(index)].dictionary();
+  return record != nullptr ? std::optional(*record) : std::nullopt;
+}
+
+void StyleStore::setStyle(int index, Dictionary record) {
+  Array* styles = tarvoStyle_.array(keyNameStyle);
+  if (styles == nullptr || !std::in_range<std::size_t>(index) || static_cast<std::size_t>(index) >= styles->size())
+    return;
+  (*styles)[static_cast<std::size_t>(index)] = std::move(record);
+  file_.recordChanged(static_cast<std::size_t>(index));
+  writeTarvoStylePlist();
+}
+
+void StyleStore::replaceStyles(Array styles) {
+  tarvoStyle_.set(keyNameStyle, std::move(styles));
+  file_.allChanged();
+}
+
+void StyleStore::setSelection(int index) {
+  if (Dictionary* selection = tarvoStyle_.dictionary(keyNameSelection)) selection->set(currentID, index);
+  writeTarvoStylePlist();
+}
+
+int StyleStore::selectedStyle() const {
+  const Dictionary* selection = getSelection();
+  return selection != nullptr ? selection->integerValue(currentID) : 0;
+}
+
+void StyleStore::writeTarvoStylePlist() {
+  saved_ = file_.write(tarvoStyle_);
+  if (didWrite) didWrite();
+  if (awakeFlag) return;
+  if (const Array* styles = tarvoStyle_.array(keyNameStyle)) {
+    const StyleSet set{*styles, file_.encoded()};
+    registration_.registerStyles(&set);
+  } else {
+    registration_.registerStyles(nullptr);
+  }
+}
+
+}  // namespace tarvo

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "style/engine_registration.h"
+#include "style/style_file.h"
+#include "style/style_keys.h"
+
+// The styles in memory: the root of the style file, read once and written whole after every change.
+// Duty: hand out copies of records, put changed ones back, remember the style of the current tool, write, and register
+// after a write. Not: showing anything, or knowing what an option means beyond the defaults that a missing one gets.
+// Records leave and enter as values: a caller's copy never changes the store.
+namespace tarvo {
+
+class StyleStore {
+ public:
+  // path: the user's style file. seedPath: the copy that comes with the product.
+  StyleStore(FileService& files, Engine& engine, UserDefaults& defaults, std::string path, std::string seedPath);
+
+  // Replaces the root by the user's file, or by the seed. False: it cannot be read, and the root stays.
+  bool readUserStyles();
+  bool readSeedStyles();
+  // Gives every "JE" record that lacks one the product's defaults of "TOpt1" to "TOpt5". Writes nothing.
+  void fillInMissingOptions();
+
+  const Dictionary& root() const { return tarvoStyle_; }
+  // Null when "Style" is absent, no array, or empty.
+  const Array* getAllStyle() const;
+  // Nothing for an index outside the array (negative ones included) and for a record that is no dictionary.
+  std::optional<Dictionary> getStyleAtIndex(int index) const;
+  // Replaces the record and writes. An index outside the array changes and writes nothing.
+  void setStyle(int index, Dictionary record);
+  // Replaces all records without writing.
+  void replaceStyles(Array styles);
+  const Dictionary* getSelection() const { return tarvoStyle_.dictionary(keyNameSelection); }
+  // Remembers the style of the current tool, where there is a "Selection", and writes in any case.
+  void setSelection(int index);
+  // The remembered style of the current tool, 0 when there is none. Option edits go to this style.
+  int selectedStyle() const;
+
+  // Writes the file; then, once awake, registers all styles. A failed write registers all the same: memory is the
+  // truth.
+  void writeTarvoStylePlist();
+  bool isSaved() const { return saved_; }  // whether the last write reached the disk
+  std::function<void()> didWrite;          // told after each write, before the engine is
+  const std::string& path() const { return file_.path(); }
+
+  bool awakeFlag = true;  // start-up or a take-over from the engine is running: nothing is registered
+  std::string currentID;  // id of the chosen sibling tool, the key into "Selection"
+
+ private:
+  StyleFile file_, seed_;
+  EngineRegistration registration_;
+  Dictionary tarvoStyle_;
+  bool saved_ = true;
+};
+
+}  // namespace tarvo
