@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The model of one ordered dictionary list: a folder of dictionary files, and which of them are loaded, in which order.
+// Duty: scan the folder, mark what a style names, answer the loaded names in order, create dictionaries from the
+// bundle's templates. Not: holding style data, or any user interface. The caller hands in a style's names and reads
+// them back. Names are file names with extension, compared ignoring case (but for the four medical file names of the
+// scan).
+namespace tarvo {
+
+class Bundle;
+class FileService;
+class ProductPaths;
+class Texts;
+
+inline constexpr int TDMax = 8;    // technical dictionaries loaded per style and direction
+inline constexpr int UDMax = 5;    // user dictionaries
+inline constexpr int UTMAMax = 5;  // translation memories
+
+// One file found in the folder. Never stored.
+struct DictionaryEntry {
+  std::string name;    // as listed, extension included
+  bool check = false;  // loaded
+  int order = -1;      // position in the list last handed in; -1 when not loaded
+};
+
+using Names = std::vector<std::string>;
+
+class DictController {
+ public:
+  struct Services {
+    FileService& files;
+    const Texts& texts;
+    const Bundle& bundle;
+    const ProductPaths& paths;
+  };
+  explicit DictController(Services services) : services_(services) {}
+
+  // dicType: 0 technical dictionaries, 1 user dictionaries, 2 translation memories; any other kind lists nothing.
+  bool initializeDictController(int dicType, std::string dicPath, bool isEnglish);
+  void setDicType(int dicType) { dicType_ = dicType; }
+  void setIsEJ(bool isEnglish) { isEnglish_ = isEnglish; }
+  void setDicFolderPath(std::string path) { dicFolderPath_ = std::move(path); }
+  int dicType() const { return dicType_; }
+  const std::string& dicFolderPath() const { return dicFolderPath_; }
+
+  bool initializeDictionary();  // rescan; true when an entry was found
+  void updateDictionary(const Names& names);
+  std::optional<Names> selectedDictionary() const;  // nothing, never an empty list, when none is loaded
+  Names notSelectedDictionary() const;
+  Names getAllDictionary() const;
+  void loadDictionary(const Names& names);
+  void unloadDictionary(const std::string& name);
+  void exchangeDictionary(int position, int downDicNum);  // both valid positions of the loaded list
+  void updateAllDictionary();
+  void clearInformation();
+  bool checkMaxOver(const std::optional<Names>& names) const;
+  std::string getDicPath(const std::optional<std::string>& name) const;
+  bool isExitsDic(const std::string& name);  // a common dictionary that is missing is made anew, empty
+  // False: nothing was created and isLoaded is untouched. isLoaded: whether the list had room for it.
+  bool createDictionary(const std::string& name, bool& isLoaded);
+  bool addCreatedDictionary(const std::string& name);
+
+  const std::optional<std::vector<DictionaryEntry>>& allDictionaries() const {
+    return entries_;
+  }  // nothing before a scan
+
+ private:
+  bool isBeingCreated(std::string_view name) const;
+  Services services_;
+  int dicType_ = 0;
+  std::string dicFolderPath_;
+  bool isEnglish_ = false;
+  std::optional<std::vector<DictionaryEntry>> entries_;
+  Names beingCreated_;
+};
+
+}  // namespace tarvo

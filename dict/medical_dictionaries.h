@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string_view>
+
+// Medical dictionaries that can be installed beside the engine: the first start after one has appeared adds it to the
+// styles.
+namespace tarvo {
+
+class FileService;
+class StyleStore;
+class Texts;
+class UserDefaults;
+
+class MedicalDictionaries {
+ public:
+  MedicalDictionaries(FileService& files, const Texts& texts, UserDefaults& defaults, StyleStore& store);
+  // Inserts those that are installed and were never inserted, sets their flags and flushes the settings. True: a list
+  // may have changed and the style file has to be written.
+  bool insertInstalled();
+  // direction: "EJ" or "JE". Names are looked up in the text table once more.
+  void insertCorwell(std::string_view direction, std::string_view techName, std::string_view abbrevName);
+  void insertTekado(std::string_view direction, std::string_view techName);
+
+ private:
+  void insert(std::string_view direction, std::string_view techName, std::string_view abbrevName,
+              std::string_view word);
+  FileService& files_;
+  const Texts& texts_;
+  UserDefaults& defaults_;
+  StyleStore& store_;
+};
+
+}  // namespace tarvo

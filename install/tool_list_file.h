@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/controls.h"
+
+// The tool-list file, from which the installed Office macros learn which tool a button starts.
+// Eight lines "key=value" with CR LF, Shift_JIS without a byte-order mark, written whole.
+namespace tarvo {
+
+class FileService;
+class TarvoCommonModule;
+class UserDefaults;
+
+// Creator codes of the tools that the Office pane offers, in the order of its pop-up.
+inline constexpr std::array<std::string_view, 7> gAppCreatorArray{"tMG8", "tTX8", "tUD8", "tTM8",
+                                                                  "tTL8", "tNP8", "tQB8"};
+
+struct ToolListOutlets : Outlets {
+  PopUpButton officeToolPopup{*this, "officeToolPopup"};
+  ToolListOutlets() : Outlets("manager") {}
+};
+
+class ToolListFile {
+ public:
+  // module: made when the main controller starts; set before the first write. path: of the file.
+  ToolListFile(FileService& files, UserDefaults& defaults, const std::unique_ptr<TarvoCommonModule>& module,
+               ToolListOutlets& outlets, std::string path);
+  const std::string& path() const { return path_; }
+  // Selects the tool stored under "Tool_Path": the first one when nothing is stored; an unknown code leaves the pop-up
+  // alone.
+  void restoreTool();
+  // Stores the chosen tool in the settings, then writes the file. Nothing without a chosen tool.
+  void writeOffieTool();
+  void changeOfficeTool() { writeOffieTool(); }
+
+ private:
+  FileService& files_;
+  UserDefaults& defaults_;
+  const std::unique_ptr<TarvoCommonModule>& module_;
+  ToolListOutlets& outlets_;
+  std::string path_;
+};
+
+}  // namespace tarvo
