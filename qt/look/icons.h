@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QIcon>
+#include <QString>
+
+#include "qt/look/palette.h"
+
+// Drawings (SVG) as icons.
+// Duty: crisp at every size and scale; in the dark scheme the neutral ink of the drawings (#3A4250) becomes a light
+// one, all other colours stay. Not: finding files by image name (see platform/bundle.h). The file is read and parsed
+// when the icon is painted for the first time; copies of an icon share that work.
+namespace tarvo {
+
+// svgPath: the path of the drawing. A missing file gives a null icon, an unreadable one an icon that paints nothing.
+QIcon icon(const QString& svgPath, Scheme scheme);
+
+}  // namespace tarvo

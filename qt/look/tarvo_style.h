@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QProxyStyle>
+#include <string>
+
+#include "qt/look/palette.h"
+
+class QApplication;
+class QToolButton;
+
+// The look of the window.
+// Duty: metrics and hints, and the dispatch of each element to its drawing (draw.h); everything else is the Fusion
+// style's. Not: colours (palette.h), fonts (fonts.h).
+namespace tarvo {
+
+class TarvoStyle : public QProxyStyle {
+  Q_OBJECT
+ public:
+  explicit TarvoStyle(Scheme scheme);
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget = nullptr) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget = nullptr) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget = nullptr) const override;
+  QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget = nullptr) const override;
+  QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                       const QWidget* widget = nullptr) const override;
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                         const QWidget* widget = nullptr) const override;
+  int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
+                  const QWidget* widget = nullptr) const override;
+  int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
+                QStyleHintReturn* returned = nullptr) const override;
+  QPalette standardPalette() const override;
+  using QProxyStyle::polish;
+  void polish(QWidget* widget) override;
+
+ private:
+  Scheme scheme_;
+};
+
+// Gives the application style, palette and font; to be called once, before the first widget. The style belongs to the
+// application.
+void applyLook(QApplication& application, Scheme scheme, const std::string& language);
+
+// Makes a button one piece of a segmented control: the pieces of a control stand side by side without a gap and share
+// one plate. Checkable; which pieces are checked is the caller's affair.
+enum class SegmentPlace { only, first, middle, last };
+void makeSegment(QToolButton& button, SegmentPlace place);
+
+}  // namespace tarvo
