@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "platform/posix/finder_info.h"
+
+#include <algorithm>
+
+#include "platform/posix/attributes.h"
+
+namespace tarvo {
+namespace {
+
+constexpr const char* finderInfo = "user.com.apple.FinderInfo";
+constexpr std::size_t finderInfoSize = 32, typeAt = 0, creatorAt = 4, codeSize = 4;
+
+void put(std::string& info, std::size_t position, FourCharCode code) {
+  for (std::size_t i = 0; i < codeSize; ++i) {
+    info[position + i] = static_cast<char>(static_cast<unsigned char>(code >> (24 - 8 * i)));
+  }
+}
+
+}  // namespace
+
+FourCharCode finderType(const std::string& path) {
+  const auto info = attribute(path, finderInfo);
+  if (!info || info->size() < typeAt + codeSize) return 0;
+  FourCharCode code = 0;
+  for (std::size_t i = 0; i < codeSize; ++i) code = (code << 8) | static_cast<unsigned char>((*info)[typeAt + i]);
+  return code;
+}
+
+bool setFinderCodes(const std::string& path, FourCharCode type, FourCharCode creator) {
+  std::string info = attribute(path, finderInfo).value_or("");
+  info.resize(std::max(info.size(), finderInfoSize));
+  put(info, typeAt, type);
+  put(info, creatorAt, creator);
+  return setAttribute(path, finderInfo, info);
+}
+
+}  // namespace tarvo

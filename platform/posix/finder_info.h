@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "platform/file_service.h"
+
+// Type and creator codes in the extended attribute "user.com.apple.FinderInfo": 32 bytes, the type at 0 and the creator
+// at 4, big-endian; the rest belongs to the desktop and is kept. Source of the layout: struct FileInfo of the Finder
+// interface, and the attribute's name as file servers store it on Linux. Real absolute paths; links are followed.
+namespace tarvo {
+
+FourCharCode finderType(const std::string& path);  // 0 for none
+bool setFinderCodes(const std::string& path, FourCharCode type, FourCharCode creator);
+
+}  // namespace tarvo

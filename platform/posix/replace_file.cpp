@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "platform/posix/replace_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <climits>
+#include <optional>
+#include <utility>
+
+#include "platform/posix/attributes.h"
+#include "platform/posix/descriptor.h"
+#include "platform/text_rules.h"
+
+namespace tarvo {
+namespace {
+
+constexpr int maximumLinks = 40;  // as the system follows itself
+
+struct Target {
+  std::string path;
+  std::optional<struct stat> present;  // nothing: the file is new
+};
+
+std::optional<std::string> linkContent(const std::string& path) {
+  std::string content(PATH_MAX, '\0');
+  const ssize_t size = ::readlink(path.c_str(), content.data(), content.size());
+  if (size <= 0 || static_cast<std::size_t>(size) == content.size()) return std::nullopt;
+  content.resize(static_cast<std::size_t>(size));
+  return content;
+}
+
+// Where the bytes belong after following final links; nothing for a loop or for what is no regular file.
+std::optional<Target> findTarget(std::string path) {
+  for (int links = 0; links <= maximumLinks; ++links) {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) != 0) return errno == ENOENT ? std::optional(Target{path, {}}) : std::nullopt;
+    if (S_ISREG(status.st_mode)) return Target{path, status};
+    if (!S_ISLNK(status.st_mode)) return std::nullopt;
+    const auto content = linkContent(path);
+    if (!content) return std::nullopt;
+    path = isAbsolutePath(*content) ? *content : joinPath(deletingLastPathComponent(path), *content);
+  }
+  return std::nullopt;
+}
+
+// Hands owner, mode and attributes of the present file to the new one.
+bool takeOver(int folder, const std::string& name, const struct stat& present, int file) {
+  struct stat fresh {};
+  if (::fstat(file, &fresh) != 0) return false;
+  mode_t mode = present.st_mode & 07777;
+  if (fresh.st_uid != present.st_uid || fresh.st_gid != present.st_gid) {
+    const bool owned = ::fchown(file, present.st_uid, present.st_gid) == 0;
+    // A file that now belongs to somebody else must not run as its owner or group.
+    if (!owned) mode &= static_cast<mode_t>(~(S_ISUID | S_ISGID));
+    if (!owned && ::fchown(file, static_cast<uid_t>(-1), present.st_gid) != 0) mode &= ~mode_t{S_ISGID};
+  }
+  if (::fchmod(file, mode) != 0) return false;
+  const Descriptor old(::openat(folder, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  if (old) copyAttributes(old.get(), file);
+  return true;
+}
+
+bool fill(int folder, const std::string& name, const Target& target, Descriptor file, std::string_view bytes) {
+  if (target.present && !takeOver(folder, name, *target.present, file.get())) return false;
+  return writeAll(file.get(), bytes) && ::fsync(file.get()) == 0 && file.close();
+}
+
+}  // namespace
+
+bool replaceFile(const std::string& path, std::string_view bytes) {
+  const auto target = findTarget(path);
+  if (!target || target->path.ends_with('/')) return false;
+  const Descriptor folder = openFolder(AT_FDCWD, deletingLastPathComponent(target->path));
+  const std::string name = lastPathComponent(target->path);
+  const std::string temporary = temporaryName();
+  if (!folder || temporary.empty()) return false;
+  // A new file takes the umask's answer; one that replaces another is closed to everybody until it has its mode.
+  const mode_t mode = target->present ? 0600 : 0666;
+  Descriptor file(
+      ::openat(folder.get(), temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
+  if (!file) return false;
+  const bool replaced = fill(folder.get(), name, *target, std::move(file), bytes) &&
+                        ::renameat(folder.get(), temporary.c_str(), folder.get(), name.c_str()) == 0;
+  if (!replaced) {
+    ::unlinkat(folder.get(), temporary.c_str(), 0);
+    return false;
+  }
+  // From here on the new bytes are what everybody reads; some disks cannot sync a folder.
+  ::fsync(folder.get());
+  return true;
+}
+
+}  // namespace tarvo
