@@ -36,7 +36,8 @@ def read(path):
 
 
 def check_texts():
-    tables = {folder.stem: read(folder / "Localizable.strings") for folder in sorted((REPOSITORY / "resources").glob("*.lproj"))}
+    folders = sorted((REPOSITORY / "resources").glob("*.lproj"))
+    tables = {folder.stem: read(folder / "Localizable.strings") for folder in folders}
     expect(set(tables) == {"en", "ja"}, f"languages: {sorted(tables)}")
     every_key = set().union(*tables.values())
     for language, table in tables.items():
@@ -94,8 +95,9 @@ def check_styles(texts):
         expect(style.get("ID") == index, f"{name}: ID is {style.get('ID')!r}")
         if divider:
             continue
-        check_direction(f"{name} EJ", style["EJ"], ["Opt1", "Opt2", "Opt3"], {}, PRODUCT / "TechDic/EJ")
-        check_direction(f"{name} JE", style["JE"], ["TOpt1", "TOpt2", "TOpt3", "TOpt5"], details, PRODUCT / "TechDic/JE")
+        folder = PRODUCT / "TechDic"
+        check_direction(f"{name} EJ", style["EJ"], ["Opt1", "Opt2", "Opt3"], {}, folder / "EJ")
+        check_direction(f"{name} JE", style["JE"], ["TOpt1", "TOpt2", "TOpt3", "TOpt5"], details, folder / "JE")
         expect(style["JE"].get("TOpt4") is True, f"{name}: TOpt4 is not true")
     selection = root.get("Selection", {})
     expect(set(selection) == TOOLS, f"selection of {sorted(selection)}")
