@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/app_controller.h"
+
+#include <utility>
+
+#include "app/interface.h"
+#include "app/rooms.h"
+#include "app/style_menu.h"
+#include "platform/file_service.h"
+#include "platform/panels.h"
+#include "platform/product_paths.h"
+#include "platform/system_version.h"
+#include "platform/texts.h"
+#include "platform/user_defaults.h"
+#include "style/sibling_tools.h"
+#include "style/style_keys.h"
+
+namespace tarvo {
+
+AppController::AppController(Interface& interface, Rooms& rooms, const Services& services, UserDefaults& defaults,
+                             std::function<void()> terminate)
+    : interface_(interface),
+      rooms_(rooms),
+      services_(services),
+      defaults_(defaults),
+      terminate_(std::move(terminate)) {}
+
+bool AppController::awakeFromNib() {
+  if (!loadUserInfor()) return false;
+  createDictControllers();
+  fillStyleMenu(interface_.style.stylePopup, rooms_.store, services_.texts);
+  restoreTool();
+  rooms_.lists.updateButton(0);
+  rooms_.lists.updateButton(1);
+  rooms_.naming.updateStyleNameButton();
+  showFirstPages();
+  rooms_.store.awakeFlag = false;
+  return true;
+}
+
+void AppController::createDictControllers() {
+  const ProductPaths& paths = services_.paths;
+  rooms_.lists.ejTDController.initializeDictController(0, paths.tarvoPathTechnicalDicEngFolderURL(), true);
+  rooms_.lists.jeTDController.initializeDictController(0, paths.tarvoPathTechnicalDicJpnFolderURL(), false);
+  interface_.lists.ejTDTable.registerForDraggedTypes({"row"});
+  interface_.lists.jeTDTable.registerForDraggedTypes({"row"});
+  if (setsUpUserLists) rooms_.userLists.setUp();
+}
+
+bool AppController::loadUserInfor() {
+  bool dirty = false;
+  if (!rooms_.store.readUserStyles()) {
+    if (!makePreferencesFolder() || !rooms_.store.readSeedStyles()) {
+      tellThatNothingCanBeDone();
+      return false;
+    }
+    dirty = true;
+  }
+  if (rooms_.medical.insertInstalled()) dirty = true;
+  rooms_.store.fillInMissingOptions();
+  if (dirty) rooms_.store.writeTarvoStylePlist();
+  return true;
+}
+
+bool AppController::makePreferencesFolder() {
+  const std::string folder = services_.paths.tarvoPathPreferencesFolderURL();
+  return services_.files.exists(folder) || services_.files.makeFolder(folder);
+}
+
+void AppController::tellThatNothingCanBeDone() {
+  const Texts& texts = services_.texts;
+  services_.panels.beep();
+  services_.panels.runAlertPanel({texts.localized("ApplicationCautionHeader"),
+                                  texts.localized("ApplicationCautionMessage"),
+                                  {texts.localized("AlertClose")}});
+  terminate_();
+}
+
+void AppController::restoreTool() {
+  const std::vector<std::string> ids = toolIds(services_.texts);
+  const std::string* stored = defaults_.string(SMSelectedTag);
+  int tool = 0;
+  rooms_.store.currentID = siblingTools[0].key;  // the key itself: no id has been chosen yet
+  for (std::size_t i = 0; stored != nullptr && i < ids.size(); ++i) {
+    if (ids[i] != *stored) continue;
+    rooms_.store.currentID = ids[i];
+    tool = static_cast<int>(i);
+    break;
+  }
+  rooms_.chooser.setSelectSeg(tool);
+}
+
+void AppController::showFirstPages() {
+  OptionOutlets& options = interface_.options;
+  options.ejEditPopup.selectItemAtIndex(0);
+  options.jeEditPopup.selectItemAtIndex(0);
+  rooms_.options.selectEjEditPopup();
+  rooms_.options.selectJeEditPopup();
+  options.ejOptionView.scrollToTop();
+  options.jeOptionView.scrollToTop();
+}
+
+void AppController::changeStyle() {
+  const int index = interface_.style.stylePopup.indexOfSelectedItem();
+  rooms_.lists.ejTDController.clearInformation();
+  rooms_.lists.jeTDController.clearInformation();
+  rooms_.display.setupStyleData2(index);
+  interface_.lists.ejTDTable.reloadData();
+  interface_.lists.jeTDTable.reloadData();
+  rooms_.store.setSelection(index);
+  rooms_.lists.updateButton(0);
+  rooms_.lists.updateButton(1);
+  rooms_.naming.updateStyleNameButton();
+}
+
+void AppController::selectTableViewAction(int toolIndex) {
+  if (toolIndex < 0 || toolIndex >= static_cast<int>(siblingTools.size())) return;
+  interface_.style.toolIcon.setImage(std::string(siblingTools[static_cast<std::size_t>(toolIndex)].icon));
+  rooms_.store.currentID = toolIds(services_.texts)[static_cast<std::size_t>(toolIndex)];
+  if (rooms_.store.getSelection() != nullptr) {
+    interface_.style.stylePopup.selectItemAtIndex(rooms_.store.selectedStyle());
+    changeStyle();
+  }
+  defaults_.set(SMSelectedTag, rooms_.store.currentID);
+  defaults_.synchronize();
+}
+
+int AppController::getOSVersion() const { return systemVersion(services_.files); }
+
+}  // namespace tarvo

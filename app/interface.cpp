@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/interface.h"
+
+#include <algorithm>
+#include <initializer_list>
+
+#include "platform/texts.h"
+
+namespace tarvo {
+
+namespace {
+
+std::string_view outletOf(const Control& control) {
+  const std::string_view name = control.name();
+  return name.substr(name.find('.') + 1);
+}
+
+}  // namespace
+
+void Interface::connect(Rooms& rooms, const Texts& texts) {
+  styleRows(rooms, texts);
+  optionRows(rooms, texts);
+  listRows(rooms, texts);
+  managerRows(rooms, texts);
+  menuRows(rooms, texts);
+  apply(texts);
+}
+
+void Interface::apply(const Texts& texts) {
+  for (const Row& row : rows_) {
+    Control& control = row.control;
+    control.setTag(row.tag);
+    if (row.window != nullptr) control.setWindow(row.window);
+    if (row.tab != nullptr) control.setPage(row.tab, row.page);
+    control.setLabel(texts.localized(row.label.empty() ? "Label." + std::string(outletOf(control)) : row.label));
+    if (!row.tip.empty()) control.setToolTip(texts.localized(row.tip));
+    if (row.items) static_cast<PopUpButton&>(control).setItems(row.items());
+    if (control.kind() == Control::Kind::menu) static_cast<MenuItem&>(control).setTitle(control.label());
+    control.action = row.action;
+  }
+}
+
+std::vector<Control*> Interface::controls() const {
+  std::vector<Control*> all;
+  const std::initializer_list<const Outlets*> structs{&style, &options, &lists, &naming, &manager, &tools};
+  for (const Outlets* outlets : structs) {
+    all.insert(all.end(), outlets->controls().begin(), outlets->controls().end());
+  }
+  return all;
+}
+
+Control* Interface::find(std::string_view name) const {
+  const bool withOwner = name.find('.') != std::string_view::npos;
+  Control* found = nullptr;
+  for (Control* control : controls()) {
+    if (withOwner ? control->name() != name : outletOf(*control) != name) continue;
+    if (found != nullptr) return nullptr;
+    found = control;
+  }
+  return found;
+}
+
+}  // namespace tarvo

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "app/toolbar.h"
+#include "dict/dictionary_list_editing.h"
+#include "install/tool_list_file.h"
+#include "platform/controls.h"
+#include "platform/windows.h"
+#include "style/option_editing.h"
+#include "style/style_naming.h"
+
+// The interface file: every control of the program, where it stands, what it is called, what it does. One row per
+// control; the table is the only place where an action is connected.
+namespace tarvo {
+
+class Texts;
+struct Rooms;
+
+struct StyleOutlets : Outlets {
+  PopUpButton stylePopup{*this, "stylePopup"};
+  SegmentedControl TEAppSeg1{*this, "TEAppSeg1"}, TEAppSeg2{*this, "TEAppSeg2"}, TEAppSeg3{*this, "TEAppSeg3"};
+  ImageView toolIcon{*this, "toolIcon"};
+  MenuItem quitMenu{*this, "quitMenu"};
+  StyleOutlets() : Outlets("style") {}
+};
+
+struct ManagerOutlets : Outlets {
+  Window myWindow{*this, "myWindow"};
+  TabView myTabView{*this, "myTabView"};  // its page is the pane's tag
+  View styleManagerView{*this, "styleManagerView"};
+  View officeAddinView{*this, "officeAddinView"};
+  View mailTransView{*this, "mailTransView"};
+  Toolbar toolbar{*this, "toolbar"};
+  Button StyleManager{*this, "StyleManager"}, OA{*this, "OA"}, MT{*this, "MT"};  // the toolbar's items
+  Window displayAlertWindow{*this, "displayAlertWindow"};                        // the small-screen caution
+  TextField displayAlertText{*this, "displayAlertText", Control::Kind::text};
+  CheckBox noDisplayDialogCheckBox{*this, "noDisplayDialogCheckBox"};
+  Button displayCloseButton{*this, "displayCloseButton"};
+  MenuItem styleManagerMenu{*this, "styleManagerMenu"}, officeAddinMenu{*this, "officeAddinMenu"},
+      mailMenu{*this, "mailMenu"};
+  MenuItem toolbarMenu{*this, "toolbarMenu"}, customizeToolbarMenu{*this, "customizeToolbarMenu"},
+      aboutMenu{*this, "aboutMenu"};
+  ManagerOutlets() : Outlets("manager") {}
+};
+
+struct Row {
+  Control& control;  // brings owner, outlet and kind
+  int tag = 0;
+  Window* window = nullptr;
+  TabView* tab = nullptr;  // where it stands on a page of a tab view
+  int page = 0;
+  std::string label = {};  // text key; "Label.<outlet>" when empty. The label is the accessible name too
+  std::string tip = {};    // text key; none when empty
+  std::function<std::vector<PopUpButton::Item>()> items = {};
+  Control::Action action = {};
+};
+
+class Interface {
+ public:
+  StyleOutlets style;
+  OptionOutlets options;
+  ListOutlets lists;
+  NamingOutlets naming;
+  ManagerOutlets manager;
+  ToolListOutlets tools;
+
+  Interface() = default;
+  Interface(const Interface&) = delete;
+  Interface& operator=(const Interface&) = delete;
+
+  // Fills the rows and applies them: tags, places, labels, items, actions.
+  void connect(Rooms& rooms, const Texts& texts);
+  const std::vector<Row>& rows() const { return rows_; }
+  std::vector<Control*> controls() const;  // of every outlet struct
+  // "style.stylePopup", or "stylePopup" where only one owner has it; case-sensitive. Null when there is none.
+  Control* find(std::string_view name) const;
+
+ private:
+  void styleRows(Rooms& rooms, const Texts& texts);
+  void optionRows(Rooms& rooms, const Texts& texts);
+  void listRows(Rooms& rooms, const Texts& texts);
+  void managerRows(Rooms& rooms, const Texts& texts);
+  void menuRows(Rooms& rooms, const Texts& texts);
+  void row(Row row) { rows_.push_back(std::move(row)); }
+  void apply(const Texts& texts);
+  std::vector<Row> rows_;
+};
+
+// receiver(member) for the three shapes of an action: f(), f(Control& sender), f(int senderTag).
+template <class R>
+Control::Action to(R& receiver, void (R::*member)()) {
+  return [&receiver, member](Control&) { (receiver.*member)(); };
+}
+template <class R>
+Control::Action to(R& receiver, void (R::*member)(Control&)) {
+  return [&receiver, member](Control& sender) { (receiver.*member)(sender); };
+}
+template <class R>
+Control::Action to(R& receiver, void (R::*member)(int)) {
+  return [&receiver, member](Control& sender) { (receiver.*member)(sender.tag()); };
+}
+
+}  // namespace tarvo

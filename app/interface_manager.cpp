@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+
+#include "app/app_controller.h"
+#include "app/interface.h"
+#include "app/rooms.h"
+#include "app/t_manager_controller.h"
+#include "platform/texts.h"
+
+// The main window, its toolbar and panes, the small-screen caution and the menus.
+namespace tarvo {
+
+void Interface::managerRows(Rooms& rooms, const Texts& texts) {
+  TManagerController& controller = *rooms.manager;
+  Window* window = &manager.myWindow;
+  row({.control = manager.myWindow, .window = window});
+  manager.myWindow.didMove = [&controller] { controller.windowDidMove(); };
+  manager.myWindow.close = [&controller] { controller.closeWindow(); };
+  manager.myTabView.setPages({{"StyleManager", texts.localized("TransStyleTab")},
+                              {"OA", texts.localized("OfficeAddinTab")},
+                              {"MT", texts.localized("MailTranslationTab")}});
+  row({.control = manager.myTabView, .window = window});
+  int tag = 0;
+  for (View* pane : {&manager.styleManagerView, &manager.officeAddinView, &manager.mailTransView}) {
+    row({.control = *pane, .tag = tag, .tab = &manager.myTabView, .page = tag});
+    ++tag;
+  }
+  row({.control = manager.toolbar, .window = window});
+  const auto item = [&](Button& button, int pane, const char* label, const char* image) {
+    button.setImage(image);
+    row({.control = button,
+         .tag = pane,
+         .window = window,
+         .label = label,
+         .tip = std::string(label) + " Tip",
+         .action = to(controller, &TManagerController::selectToolbarAction)});
+  };
+  item(manager.StyleManager, 0, "StyleManager", "SM32");
+  item(manager.OA, 1, "OfficeAddin", "office32");
+  item(manager.MT, 2, "MailTranslation", "mail32");
+
+  row({.control = tools.officeToolPopup,
+       .tab = &manager.myTabView,
+       .page = 1,
+       .items =
+           [&texts] {
+             std::vector<PopUpButton::Item> items;
+             for (int i = 0; i < static_cast<int>(gAppCreatorArray.size()); ++i) {
+               items.push_back({texts.localized("OfficeTool." + std::to_string(i)), i});
+             }
+             return items;
+           },
+       .action = to(rooms.toolList, &ToolListFile::changeOfficeTool)});
+
+  Window* caution = &manager.displayAlertWindow;
+  row({.control = *caution, .window = caution});
+  caution->setTitle(texts.localized("Label.displayAlertWindow"));
+  caution->close = [&controller] { controller.screenCaution().closeCautionDisplayWindow(); };
+  row({.control = manager.displayAlertText, .window = caution, .label = "displayAlertWindow.text"});
+  manager.displayAlertText.setStringValue(texts.localized("displayAlertWindow.text"));
+  row({.control = manager.noDisplayDialogCheckBox, .window = caution});
+  row({.control = manager.displayCloseButton,
+       .window = caution,
+       .action = to(controller.screenCaution(), &ScreenCaution::closeCautionDisplayWindow)});
+}
+
+void Interface::menuRows(Rooms& rooms, const Texts&) {
+  TManagerController& controller = *rooms.manager;
+  const auto item = [&](MenuItem& menu, int tag, Control::Action action) {
+    menu.validate = [&controller](const MenuItem& asked) { return controller.allowsMenuItem(asked.title()); };
+    row({.control = menu, .tag = tag, .action = std::move(action)});
+  };
+  item(style.quitMenu, 0, to(*rooms.styles, &AppController::quitAction));
+  item(manager.styleManagerMenu, 0, to(controller, &TManagerController::selectToolbarActionforMenu));
+  item(manager.officeAddinMenu, 1, to(controller, &TManagerController::selectToolbarActionforMenu));
+  item(manager.mailMenu, 2, to(controller, &TManagerController::selectToolbarActionforMenu));
+  item(manager.toolbarMenu, 0, to(controller, &TManagerController::toggleToolbar));
+  item(manager.customizeToolbarMenu, 0, [&controller](Control&) {
+    if (controller.customizeToolbar) controller.customizeToolbar();
+  });
+  item(manager.aboutMenu, 0, to(controller, &TManagerController::showAbout));
+}
+
+}  // namespace tarvo

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/services.h"
+#include "platform/bundle.h"
+#include "platform/locations.h"
+#include "platform/product_paths.h"
+#include "platform/texts.h"
+
+// The installed product as the command line, the environment and the build describe it: both shells make one of it.
+namespace tarvo {
+
+class LocalStyleModule;
+
+// What the command line says; what is not said comes from the environment, else from the build.
+struct ProductOptions {
+  std::optional<std::string> root, home, language, resources, paths, engine;
+  std::vector<std::string> strings;  // files laid over the shipped texts in order; "none" drops what was laid before
+};
+
+class Product {
+ public:
+  explicit Product(const ProductOptions& options);
+  ~Product();
+  Product(const Product&) = delete;
+  Product& operator=(const Product&) = delete;
+
+  // What was asked for and could not be had (a text or path list that cannot be read); "" when all is well.
+  const std::string& problem() const { return problem_; }
+  const std::string& language() const { return language_; }
+  Locations& locations() { return locations_; }
+  FileService& files() { return *files_; }
+  Bundle& bundle() { return *bundle_; }
+  Texts& texts() { return texts_; }
+  ProductPaths& paths() { return *paths_; }
+  LocalStyleModule& styleModule() { return *styleModule_; }
+
+  // The engine that the options or the configuration name, working on these files.
+  std::unique_ptr<Engine> makeEngine(FileService& files);
+  // The services of a program: the product's, with the files and the engine given here, and the shell's.
+  Services services(FileService& files, Engine& engine, RunLoop& runLoop, Panels& panels, WindowHost& windowHost,
+                    Workspace& workspace);
+
+ private:
+  void layTexts(const std::vector<std::string>& strings);
+  std::optional<Dictionary> readPaths(const std::optional<std::string>& overlay);
+  std::string language_, problem_;
+  std::optional<std::string> engine_;
+  Locations locations_;
+  std::unique_ptr<FileService> files_;
+  std::unique_ptr<Bundle> bundle_;
+  Texts texts_;
+  std::unique_ptr<ProductPaths> paths_;
+  std::unique_ptr<LocalStyleModule> styleModule_;
+  std::unique_ptr<TarvoCommonModule> gTarvoCommonModule_;
+};
+
+}  // namespace tarvo

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/program.h"
+
+#include <cmath>
+#include <utility>
+
+#include "app/window_geometry.h"
+#include "platform/locations.h"
+#include "platform/texts.h"
+#include "style/style_keys.h"
+
+namespace tarvo {
+
+namespace {
+
+constexpr const char* identifier = "com.wordhaven.TarvoManager";
+
+DictController::Services dictionaryServices(const Services& services) {
+  return {services.files, services.texts, services.bundle, services.paths};
+}
+
+// The window of the interface: just large enough for the style pane, in the middle of the screen and a little above it.
+Rect firstFrame(WindowHost& host, const Window& window) {
+  const WindowHeights heights = host.heights(window);
+  const Size pane = host.paneSize(0);
+  const Rect screen = host.mainScreen();
+  const float height = pane.height + titlebarHeight(heights) + toolbarHeight(heights);
+  return {screen.x + std::floor((screen.width - pane.width) / 2),
+          screen.y + std::floor((screen.height - height) * 2 / 3), pane.width, height};
+}
+
+}  // namespace
+
+std::string userDefaultsPath(const Locations& locations) {
+  return locations.inHome(std::string("Library/Preferences/") + identifier + ".plist");
+}
+
+std::string lockPath(const Locations& locations) {
+  return locations.inHome(std::string("Library/Preferences/") + identifier + ".lock");
+}
+
+Program::Program(const Services& services)
+    : services_(services),
+      defaults_(services.files, userDefaultsPath(services.locations)),
+      windows_(services.windowHost),
+      store_(services.files, services.engine, defaults_, services.locations.inHome(std::string(gStylePath)),
+             std::string(gAppSupportStylePlist)),
+      options_(store_, interface_.options),
+      lists_(store_, interface_.style.stylePopup, interface_.lists, services.texts, dictionaryServices(services)),
+      dictionaryTable_(lists_, services.texts),
+      medical_(services.files, services.texts, defaults_, store_),
+      userLists_(dictionaryServices(services)),
+      naming_(interface_.style.stylePopup, interface_.naming, services.texts.localized(nomalStyle)),
+      display_(store_, options_, lists_, services.texts),
+      chooser_(interface_.style, interface_.options, flags_, [this](int tool) { styles_.selectTableViewAction(tool); }),
+      toolList_(services.files, defaults_, services.gTarvoCommonModule, interface_.tools,
+                services.locations.inHome("Library/Preferences/Wordhaven/TarvoManager.txt")),
+      mailScripts_(services.files, services.locations.home()),
+      rooms_{store_,  options_, lists_,   dictionaryTable_, medical_,     userLists_,
+             naming_, display_, chooser_, toolList_,        mailScripts_, flags_},
+      manager_(interface_, rooms_, services_, defaults_, notifications_, windows_, [this] { quit(); }),
+      styles_(interface_, rooms_, services_, defaults_, [this] { quit(); }) {
+  rooms_.manager = &manager_;
+  rooms_.styles = &styles_;
+}
+
+Program::~Program() = default;
+
+bool Program::construct() {
+  interface_.connect(rooms_, services_.texts);
+  Window& window = interface_.manager.myWindow;
+  window.setFrameInPlace(firstFrame(windows_.host(), window));
+  return manager_.init();
+}
+
+bool Program::load() {
+  if (!styles_.awakeFromNib()) return false;
+  manager_.awakeFromNib();
+  managerAwake_ = true;
+  return true;
+}
+
+void Program::launch() {
+  windows_.orderFront(interface_.manager.myWindow);
+  manager_.applicationDidFinishLaunching();
+}
+
+bool Program::start() {
+  if (!construct() || !load()) return false;
+  launch();
+  return true;
+}
+
+void Program::quit() {
+  if (std::exchange(terminated_, true)) return;
+  if (managerAwake_) manager_.applicationWillTerminate();
+  if (didTerminate) didTerminate();
+}
+
+}  // namespace tarvo

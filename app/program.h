@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "app/app_controller.h"
+#include "app/interface.h"
+#include "app/rooms.h"
+#include "app/services.h"
+#include "app/t_manager_controller.h"
+#include "platform/notification_center.h"
+#include "platform/user_defaults.h"
+#include "platform/windows.h"
+
+// The running program: it owns the controls, the rooms and both controllers, and brings them up and down in order.
+namespace tarvo {
+
+class Program {
+ public:
+  explicit Program(const Services& services);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  // The three steps of a start. False: the program has to end; the further steps are left out.
+  bool construct();  // both controllers, the main one first
+  bool load();       // both receive their controls, the style pane first
+  void launch();     // the window comes up
+  bool start();      // all three
+
+  // Ends the program: what has to be stored is stored, once, if the main controller was ready for it.
+  void quit();
+  bool isTerminated() const { return terminated_; }
+  std::function<void()> didTerminate;  // told once
+
+  Interface& interface() { return interface_; }
+  Rooms& rooms() { return rooms_; }
+  AppController& styles() { return styles_; }
+  TManagerController& manager() { return manager_; }
+  UserDefaults& defaults() { return defaults_; }
+  NotificationCenter& notifications() { return notifications_; }
+  Windows& windows() { return windows_; }
+  const Services& services() const { return services_; }
+
+ private:
+  Services services_;
+  UserDefaults defaults_;
+  NotificationCenter notifications_;
+  Windows windows_;
+  Interface interface_;
+  ProcessFlags flags_;
+  StyleStore store_;
+  OptionEditing options_;
+  DictionaryListEditing lists_;
+  DictionaryTable dictionaryTable_;
+  MedicalDictionaries medical_;
+  UserLists userLists_;
+  StyleNaming naming_;
+  StyleDisplay display_;
+  ToolChooser chooser_;
+  ToolListFile toolList_;
+  MailScriptInstaller mailScripts_;
+  Rooms rooms_;
+  TManagerController manager_;
+  AppController styles_;
+  bool managerAwake_ = false, terminated_ = false;
+};
+
+// Where the settings and the lock of a user lie, in the core's spelling.
+std::string userDefaultsPath(const Locations& locations);
+std::string lockPath(const Locations& locations);
+
+}  // namespace tarvo

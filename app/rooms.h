@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/style_display.h"
+#include "app/tool_chooser.h"
+#include "dict/dictionary_list_editing.h"
+#include "dict/dictionary_table.h"
+#include "dict/medical_dictionaries.h"
+#include "dict/user_lists.h"
+#include "install/mail_script_installer.h"
+#include "install/tool_list_file.h"
+#include "style/option_editing.h"
+#include "style/process_flags.h"
+#include "style/style_naming.h"
+#include "style/style_store.h"
+
+namespace tarvo {
+
+class AppController;
+class Program;
+class TManagerController;
+
+// The rooms of the program, side by side, and the controllers for whom the interface table connects controls. Not
+// owned.
+struct Rooms {
+  StyleStore& store;
+  OptionEditing& options;
+  DictionaryListEditing& lists;
+  DictionaryTable& dictionaryTable;
+  MedicalDictionaries& medical;
+  UserLists& userLists;
+  StyleNaming& naming;
+  StyleDisplay& display;
+  ToolChooser& chooser;
+  ToolListFile& toolList;
+  MailScriptInstaller& mailScripts;
+  ProcessFlags& flags;
+  AppController* styles = nullptr;  // set before the table is connected
+  TManagerController* manager = nullptr;
+};
+
+}  // namespace tarvo

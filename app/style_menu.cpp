@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/style_menu.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/texts.h"
+#include "style/style_keys.h"
+#include "style/style_store.h"
+
+namespace tarvo {
+
+void fillStyleMenu(PopUpButton& stylePopup, const StyleStore& store, const Texts& texts) {
+  const Array* styles = store.root().array(keyNameStyle);
+  if (styles == nullptr) return;
+  const std::string divider = texts.localized(keyNameSeparator);
+  std::vector<PopUpButton::Item> items;
+  items.reserve(styles->size());
+  for (const PropertyList& style : *styles) {
+    const Dictionary* record = style.dictionary();
+    const std::string* name = record != nullptr ? record->string(keyNameName) : nullptr;
+    PopUpButton::Item item{name != nullptr ? *name : std::string(), static_cast<int>(items.size())};
+    item.separator = item.title == divider;
+    items.push_back(std::move(item));
+  }
+  stylePopup.setItems(std::move(items));
+}
+
+}  // namespace tarvo

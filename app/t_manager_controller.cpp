@@ -1,0 +1,216 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/t_manager_controller.h"
+
+#include <array>
+#include <cstdlib>
+#include <utility>
+
+#include "app/interface.h"
+#include "app/menu_rules.h"
+#include "app/rooms.h"
+#include "app/window_geometry.h"
+#include "platform/common_module.h"
+#include "platform/notification_center.h"
+#include "platform/panels.h"
+#include "platform/product_paths.h"
+#include "platform/style_module.h"
+#include "platform/system_version.h"
+#include "platform/texts.h"
+#include "platform/user_defaults.h"
+
+namespace tarvo {
+
+namespace {
+
+struct Pane {
+  const char* identifier;  // stored under "ToolbarTag"; the name of the toolbar's item
+  const char* titleKey;
+};
+constexpr std::array<Pane, 3> panes{
+    {{"StyleManager", "TransStyleTab"}, {"OA", "OfficeAddinTab"}, {"MT", "MailTranslationTab"}}};
+
+constexpr const char* myWindowFrame = "MyWindowFrame";
+constexpr const char* toolbarTag = "ToolbarTag";
+constexpr const char* toolbarConfiguration = "Toolbar tarvoToolbar";
+constexpr int oldestVersionWithScreenCheck = 104;
+
+bool isPane(int tag) { return tag >= 0 && tag < static_cast<int>(panes.size()); }
+
+// The text with its first number format replaced. Texts are never used as formats themselves: a translated one may hold
+// anything.
+std::string withNumber(std::string text, int number) {
+  std::size_t first = std::string::npos;
+  std::size_t length = 0;
+  for (const std::string_view format : {"%d", "%i", "%ld", "%@"}) {
+    const std::size_t found = text.find(format);
+    if (found < first) {
+      first = found;
+      length = format.size();
+    }
+  }
+  if (first != std::string::npos) text.replace(first, length, std::to_string(number));
+  return text;
+}
+
+}  // namespace
+
+TManagerController::TManagerController(Interface& interface, Rooms& rooms, const Services& services,
+                                       UserDefaults& defaults, NotificationCenter& notifications, Windows& windows,
+                                       std::function<void()> terminate)
+    : interface_(interface),
+      rooms_(rooms),
+      services_(services),
+      defaults_(defaults),
+      notifications_(notifications),
+      windows_(windows),
+      terminate_(std::move(terminate)),
+      caution_(interface.manager, defaults, windows) {}
+
+TManagerController::~TManagerController() {
+  notifications_.removeObserver(this);
+  if (services_.gTarvoCommonModule == nullptr) return;
+  services_.paths.tarvoPathTerminate();
+  services_.gTarvoCommonModule.reset();
+}
+
+bool TManagerController::init() {
+  if (!startModules()) return false;
+  rooms_.mailScripts.createMailScriptFolder();
+  notifications_.addObserver(this, "ChangeToolbar", [this](const Notification&) { changeToolbar(); });
+  notifications_.addObserver(this, "ChangeOfficeToolbar", [this](const Notification&) { changeOfficeToolbar(); });
+  return true;
+}
+
+bool TManagerController::startModules() {
+  if (services_.gTarvoCommonModule != nullptr) return true;
+  ProductPaths& paths = services_.paths;
+  services_.gTarvoCommonModule = std::make_unique<TarvoCommonModule>(paths);
+  paths.tarvoPathInitialize();
+  if (const int code = paths.tarvoPathLoadDictAndHelper(0); code != 0) {
+    tellModuleFailure(code);
+    return false;
+  }
+  StyleModule& styles = services_.styleModule;
+  styles.tarvoStyleInitialize();
+  styles.tarvoStyleSetTStyleUrl(paths.tarvoPathTranslationStylePathURL());
+  styles.tarvoStyleSetTechDictUrl(paths.tarvoPathTechnicalDicEngFolderURL(), paths.tarvoPathTechnicalDicJpnFolderURL());
+  styles.tarvoStyleSetUserDictUrl(paths.tarvoPathUserDicFolderURL());
+  return true;
+}
+
+void TManagerController::tellModuleFailure(int code) {
+  const Texts& texts = services_.texts;
+  services_.panels.runAlertPanel(
+      {"", withNumber(texts.localized("Failed Instlation Contents"), code), {texts.localized("AlertClose")}});
+  terminate_();
+}
+
+void TManagerController::awakeFromNib() {
+  buildToolbar();
+  restoreFrame();
+  restorePane();
+  rooms_.toolList.restoreTool();
+  rooms_.toolList.writeOffieTool();
+}
+
+void TManagerController::buildToolbar() {
+  ManagerOutlets& outlets = interface_.manager;
+  Toolbar& toolbar = outlets.toolbar;
+  toolbar.setAllowedItems({{panes[0].identifier, &outlets.StyleManager},
+                           {panes[1].identifier, &outlets.OA},
+                           {panes[2].identifier, &outlets.MT}});
+  const PropertyList* stored = defaults_.find(toolbarConfiguration);
+  if (stored != nullptr && stored->dictionary() != nullptr) toolbar.applyConfiguration(*stored->dictionary());
+  toolbar.didToggle = [this](bool) { adaptToToolbar(); };
+  toolbar.didCustomize = [this] { keepToolbar(); };
+}
+
+void TManagerController::keepToolbar() {
+  defaults_.set(toolbarConfiguration, interface_.manager.toolbar.configuration());
+  defaults_.synchronize();
+}
+
+void TManagerController::adaptToToolbar() {
+  Window& window = interface_.manager.myWindow;
+  const WindowHeights heights = windows_.host().heights(window);
+  const Size pane = windows_.host().paneSize(interface_.manager.myTabView.selectedPage());
+  window.setFrameInPlace(paneFrame(window.frame(), pane, titlebarHeight(heights), toolbarHeight(heights)));
+  windows_.host().applyFrame(window, false);
+}
+
+void TManagerController::toggleToolbar() {
+  interface_.manager.toolbar.setShown(!interface_.manager.toolbar.isShown());
+  keepToolbar();
+}
+
+void TManagerController::restoreFrame() {
+  const std::string* stored = defaults_.string(myWindowFrame);
+  const std::optional<Rect> frame = stored != nullptr ? frameFromSavedString(*stored) : std::nullopt;
+  if (!frame) return;
+  interface_.manager.myWindow.setFrame(*frame);
+  windows_.host().applyFrame(interface_.manager.myWindow, false);
+}
+
+void TManagerController::restorePane() {
+  const std::string* stored = defaults_.string(toolbarTag);
+  int tag = 0;
+  for (std::size_t i = 0; stored != nullptr && i < panes.size(); ++i) {
+    if (*stored == panes[i].identifier) tag = static_cast<int>(i);
+  }
+  const std::string identifier = panes[static_cast<std::size_t>(tag)].identifier;
+  interface_.manager.toolbar.setSelectedItemIdentifier(identifier);
+  showPane(tag, identifier);
+}
+
+void TManagerController::selectToolbarAction(Control& item) {
+  if (!isPane(item.tag())) return;
+  const std::string identifier = panes[static_cast<std::size_t>(item.tag())].identifier;
+  interface_.manager.toolbar.setSelectedItemIdentifier(identifier);
+  showPane(item.tag(), identifier);
+}
+
+void TManagerController::selectToolbarActionforMenu(int tag) {
+  if (!isPane(tag)) return;
+  const std::string identifier = panes[static_cast<std::size_t>(tag)].identifier;
+  showPane(tag, identifier);
+  interface_.manager.toolbar.setSelectedItemIdentifier(identifier);
+}
+
+void TManagerController::showPane(int tag, const std::string& identifier) {
+  Window& window = interface_.manager.myWindow;
+  interface_.manager.myTabView.selectPage(tag);
+  window.setTitle(services_.texts.localized(panes[static_cast<std::size_t>(tag)].titleKey));
+  const WindowHeights heights = windows_.host().heights(window);
+  const Size pane = windows_.host().paneSize(tag);
+  windows_.setFrame(window, paneFrame(window.frame(), pane, titlebarHeight(heights), toolbarHeight(heights)));
+  defaults_.set(toolbarTag, identifier);
+  defaults_.synchronize();
+}
+
+void TManagerController::windowDidMove() {
+  const Rect& frame = interface_.manager.myWindow.frame();
+  defaults_.set(myWindowFrame, savedFrameString(frame, windows_.host().mainScreen()));
+  defaults_.synchronize();
+}
+
+void TManagerController::applicationDidFinishLaunching() {
+  if (getOSVersion() >= oldestVersionWithScreenCheck) caution_.checkScreenSize();
+}
+
+void TManagerController::applicationWillTerminate() { rooms_.toolList.writeOffieTool(); }
+
+int TManagerController::getOSVersion() const { return systemVersion(services_.files); }
+
+bool TManagerController::allowsMenuItem(std::string_view title) const {
+  return mainWindowAllows(title, rooms_.flags, services_.texts) &&
+         stylePaneAllows(title, interface_.manager.toolbar.selectedItemIdentifier(), services_.texts);
+}
+
+void TManagerController::showAbout() {
+  const Texts& texts = services_.texts;
+  services_.panels.runAlertPanel(
+      {"TarvoEiwa Manager " TARVO_VERSION, texts.localized("AboutText"), {texts.localized("AlertClose")}});
+}
+
+}  // namespace tarvo

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+
+namespace tarvo {
+
+class Control;
+struct OptionOutlets;
+struct ProcessFlags;
+struct StyleOutlets;
+class Texts;
+
+// The tool chooser: three segmented controls, three segments each, that together hold the sibling tools.
+// Tool index = segment + 3 x control.
+class ToolChooser {
+ public:
+  // select: run with the chosen tool index.
+  ToolChooser(StyleOutlets& outlets, OptionOutlets& options, ProcessFlags& flags, std::function<void(int)> select);
+  // Gives each segment its tool's icon and tip; the ninth has no tool and is disabled.
+  void setUpSegments(const Texts& texts);
+  void appSegChange(Control& sender);
+  // Selects a tool by program. An index beyond the segments leaves none selected.
+  void setSelectSeg(int index);
+  // Enables the seven option pop-ups, or disables them for the tools that have no options of their own.
+  void doEnabledButtons(int index);
+  bool isSegChange() const { return isSegChange_; }
+
+ private:
+  void deselectAll(int segments);
+  StyleOutlets& outlets_;
+  OptionOutlets& options_;
+  ProcessFlags& flags_;
+  std::function<void(int)> select_;
+  bool isSegChange_ = false;
+};
+
+}  // namespace tarvo
