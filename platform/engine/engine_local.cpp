@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "platform/engine/engine_local.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <chrono>
+#include <cstdio>
+#include <limits>
+#include <string_view>
+#include <utility>
+
+#include "platform/file_service.h"
+#include "platform/plist_writer.h"
+#include "platform/text_rules.h"
+
+namespace tarvo {
+namespace {
+
+constexpr std::string_view styleKey = "Style", stampKey = "Stamp";
+constexpr std::size_t counterWidth = 20;
+constexpr std::string_view timeShape = " 0000-00-00T00:00:00Z";
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+bool hasTimeShape(std::string_view text) {
+  return std::equal(text.begin(), text.end(), timeShape.begin(), timeShape.end(),
+                    [](char c, char shape) { return shape == '0' ? isDigit(c) : c == shape; });
+}
+
+std::uint64_t counterOf(std::string_view stamp) {
+  if (stamp.size() < counterWidth || !hasTimeShape(stamp.substr(counterWidth))) return 0;
+  std::uint64_t counter = 0;
+  const char* end = stamp.data() + counterWidth;
+  const auto [stop, error] = std::from_chars(stamp.data(), end, counter);
+  return error == std::errc() && stop == end ? counter : 0;
+}
+
+std::string makeStamp(std::uint64_t counter) {
+  using namespace std::chrono;
+  const auto now = floor<seconds>(system_clock::now());
+  const auto day = floor<days>(now);
+  const year_month_day date(day);
+  const hh_mm_ss time(now - day);
+  std::array<char, 64> text{};
+  const int size = std::snprintf(text.data(), text.size(), "%020llu %04d-%02u-%02uT%02d:%02d:%02dZ",
+                                 static_cast<unsigned long long>(counter), int(date.year()), unsigned(date.month()),
+                                 unsigned(date.day()), int(time.hours().count()), int(time.minutes().count()),
+                                 int(time.seconds().count()));
+  return std::string(text.data(), static_cast<std::size_t>(size));
+}
+
+// The whole file, with the records as they are.
+std::string encode(const StyleSet& styles, const std::string& stamp) {
+  std::size_t size = 1024;
+  for (const std::string& record : styles.encoded) size += record.size();
+  std::string out;
+  out.reserve(size);
+  out += plistHead;
+  out += "<dict>\n";
+  appendKey(out, stampKey, 1);
+  appendValue(out, PropertyList(stamp), 1);
+  appendKey(out, styleKey, 1);
+  appendEncodedArray(out, styles.encoded, 1);
+  out += "</dict>\n";
+  out += plistFoot;
+  return out;
+}
+
+}  // namespace
+
+EngineLocal::EngineLocal(FileService& files, std::string path) : files_(files), file_(files, std::move(path)) {}
+
+bool EngineLocal::checkConnectionWithCurl() { return true; }
+
+void EngineLocal::sendRegistStyle(const StyleSet& styles, std::string& updateString) {
+  if (!counter_) readSet();
+  const bool isLast = *counter_ == std::numeric_limits<std::uint64_t>::max();
+  const std::uint64_t next = isLast ? 1 : *counter_ + 1;
+  const std::string stamp = makeStamp(next);
+  files_.makeFolder(deletingLastPathComponent(file_.path()));
+  if (!file_.write(encode(styles, stamp))) return;
+  counter_ = next;
+  updateString = stamp;
+}
+
+bool EngineLocal::checkStyle() {
+  const auto set = readSet();
+  return set && set->array(styleKey) != nullptr;
+}
+
+bool EngineLocal::requestStyle(Array& styles, std::string& localUpdate) {
+  auto set = readSet();
+  Array* held = set ? set->array(styleKey) : nullptr;
+  if (held == nullptr || *counter_ <= counterOf(localUpdate)) return false;
+  styles = std::move(*held);
+  localUpdate = *set->string(stampKey);  // a counter above 0 comes from such a text
+  return true;
+}
+
+std::optional<Dictionary> EngineLocal::readSet() {
+  auto set = file_.read();
+  const std::string* stamp = set ? set->string(stampKey) : nullptr;
+  counter_ = stamp != nullptr ? counterOf(*stamp) : 0;
+  return set;
+}
+
+}  // namespace tarvo
