@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "platform/posix/descriptor.h"
+
+// The lock that keeps two programs from writing one user's files. It lies on a file, lasts as long as this object and
+// ends with the process, however that ends. The file itself stays.
+namespace tarvo {
+
+class InstanceLock {
+ public:
+  enum class State { held, heldByAnother, unavailable };  // unavailable: the disk gives none; the program goes without
+  // Tries once and does not wait. path: absolute, a real path; folders for it are made with mode 0777.
+  explicit InstanceLock(const std::string& path);
+  State state() const { return state_; }
+
+ private:
+  Descriptor file_;
+  State state_ = State::unavailable;
+};
+
+}  // namespace tarvo
