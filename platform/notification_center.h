@@ -3,12 +3,13 @@
 #pragma once
 
 #include <functional>
-#include <optional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
-// Notifications by name, delivered synchronously in the order of registration.
+// Notifications by name, delivered synchronously in the order of registration. Observers may post, register and remove
+// (also themselves) while one is delivered: who is removed hears no more of it, who is added hears the next one.
 namespace tarvo {
 
 struct Notification {
@@ -33,9 +34,12 @@ class NotificationCenter {
     const void* owner;
     std::string name;
     Observer observer;
+    bool removed = false;
   };
   void deliver(const Notification& notification);
-  std::vector<Entry> entries_;
+  template <class Matches>
+  void removeWhere(Matches matches);
+  std::vector<std::shared_ptr<Entry>> entries_;  // shared with deliveries under way
 };
 
 }  // namespace tarvo
