@@ -4,7 +4,8 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
 // The model of one ordered dictionary list: a folder of dictionary files, and which of them are loaded, in which order.
@@ -51,13 +52,15 @@ class DictController {
   const std::string& dicFolderPath() const { return dicFolderPath_; }
 
   bool initializeDictionary();  // rescan; true when an entry was found
-  void updateDictionary(const Names& names);
+  // Loads exactly these, in this order, as far as they have an entry and their file still exists. A common dictionary
+  // among them that is missing is made anew, which rescans.
+  void updateDictionary(Names names);
   std::optional<Names> selectedDictionary() const;  // nothing, never an empty list, when none is loaded
   Names notSelectedDictionary() const;
   Names getAllDictionary() const;
   void loadDictionary(const Names& names);
   void unloadDictionary(const std::string& name);
-  void exchangeDictionary(int position, int downDicNum);  // both valid positions of the loaded list
+  void exchangeDictionary(int position, int downDicNum);  // nothing for positions outside the loaded list
   void updateAllDictionary();
   void clearInformation();
   bool checkMaxOver(const std::optional<Names>& names) const;
@@ -72,12 +75,16 @@ class DictController {
   }  // nothing before a scan
 
  private:
-  bool isBeingCreated(std::string_view name) const;
+  DictionaryEntry* entryNamed(const std::string& name);
+  Names loadedNames() const;
+  bool isCommonName(const std::string& name) const;
+  bool isBeingCreated(const std::string& name) const;
   Services services_;
   int dicType_ = 0;
   std::string dicFolderPath_;
   bool isEnglish_ = false;
   std::optional<std::vector<DictionaryEntry>> entries_;
+  std::unordered_map<std::string, std::size_t> positions_;  // of the first entry under a folded name
   Names beingCreated_;
 };
 

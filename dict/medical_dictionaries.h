@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 // Medical dictionaries that can be installed beside the engine: the first start after one has appeared adds it to the
@@ -24,8 +26,9 @@ class MedicalDictionaries {
   void insertTekado(std::string_view direction, std::string_view techName);
 
  private:
-  void insert(std::string_view direction, std::string_view techName, std::string_view abbrevName,
-              std::string_view word);
+  // word: text key of the word that tells the dictionary in a list.
+  void insert(std::string_view direction, std::string_view word, const std::string& name,
+              const std::optional<std::string>& abbreviation);
   FileService& files_;
   const Texts& texts_;
   UserDefaults& defaults_;

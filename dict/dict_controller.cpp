@@ -1,0 +1,190 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "dict/dict_controller.h"
+
+#include <algorithm>
+
+#include "dict/dictionary_creation.h"
+#include "dict/dictionary_reorder.h"
+#include "dict/dictionary_scan.h"
+#include "platform/file_service.h"
+#include "platform/product_paths.h"
+#include "platform/text_rules.h"
+#include "platform/texts.h"
+
+namespace tarvo {
+namespace {
+
+// Text keys of the dictionaries that every user has.
+constexpr std::string_view commonNameKeys[] = {"EJCommonUD", "JECommonUD", "EJCommonUTMA", "JECommonUTMA"};
+
+std::size_t limitOf(int dicType) {
+  constexpr int limits[] = {TDMax, UDMax, UTMAMax};
+  return static_cast<std::size_t>(dicType >= 0 && dicType < 3 ? limits[dicType] : UDMax);
+}
+
+}  // namespace
+
+bool DictController::initializeDictController(int dicType, std::string dicPath, bool isEnglish) {
+  dicType_ = dicType;
+  dicFolderPath_ = std::move(dicPath);
+  isEnglish_ = isEnglish;
+  return initializeDictionary();
+}
+
+bool DictController::initializeDictionary() {
+  const DictionaryScan scan{services_.files, services_.texts, dicFolderPath_, dicType_, isEnglish_};
+  entries_.emplace();
+  positions_.clear();
+  for (std::string& name : scan.names()) {
+    positions_.try_emplace(caseFolded(name), entries_->size());
+    entries_->push_back({.name = std::move(name)});
+  }
+  return !entries_->empty();
+}
+
+DictionaryEntry* DictController::entryNamed(const std::string& name) {
+  const auto found = positions_.find(caseFolded(name));
+  return found == positions_.end() ? nullptr : &(*entries_)[found->second];
+}
+
+void DictController::updateDictionary(Names names) {
+  if (!entries_) return;
+  clearInformation();
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    // Without an entry there is nothing to mark, and only a common dictionary's file may have to be made.
+    if (entryNamed(names[i]) == nullptr && !isCommonName(names[i])) continue;
+    if (!isExitsDic(names[i])) continue;
+    // Looked up anew: making a common dictionary has rescanned.
+    if (DictionaryEntry* entry = entryNamed(names[i])) {
+      entry->check = true;
+      entry->order = static_cast<int>(i);
+    }
+  }
+}
+
+std::optional<Names> DictController::selectedDictionary() const {
+  if (!entries_) return std::nullopt;
+  std::vector<const DictionaryEntry*> loaded;
+  for (const DictionaryEntry& entry : *entries_) {
+    if (entry.check) loaded.push_back(&entry);
+  }
+  if (loaded.empty()) return std::nullopt;
+  std::stable_sort(loaded.begin(), loaded.end(), [](const auto* a, const auto* b) { return a->order < b->order; });
+  Names names;
+  for (const DictionaryEntry* entry : loaded) names.push_back(entry->name);
+  return names;
+}
+
+Names DictController::loadedNames() const { return selectedDictionary().value_or(Names{}); }
+
+Names DictController::notSelectedDictionary() const {
+  Names names;
+  if (!entries_) return names;
+  for (const DictionaryEntry& entry : *entries_) {
+    if (!entry.check) names.push_back(entry.name);
+  }
+  return names;
+}
+
+Names DictController::getAllDictionary() const {
+  Names names;
+  if (!entries_) return names;
+  for (const DictionaryEntry& entry : *entries_) names.push_back(entry.name);
+  if (dicType_ == 2) {
+    const std::string titles[] = {services_.paths.tarvoPathMemoryEtoJTitle(),
+                                  services_.paths.tarvoPathMemoryJtoETitle()};
+    std::erase_if(names, [&](const std::string& name) {
+      return equalIgnoringCase(name, titles[0]) || equalIgnoringCase(name, titles[1]);
+    });
+  }
+  return names;
+}
+
+void DictController::loadDictionary(const Names& names) {
+  Names all = loadedNames();
+  all.insert(all.end(), names.begin(), names.end());
+  updateDictionary(std::move(all));
+}
+
+void DictController::unloadDictionary(const std::string& name) {
+  Names names = loadedNames();
+  const auto found = std::find_if(names.begin(), names.end(),
+                                  [&](const std::string& other) { return equalIgnoringCase(other, name); });
+  if (found != names.end()) names.erase(found);
+  updateDictionary(std::move(names));
+}
+
+void DictController::exchangeDictionary(int position, int downDicNum) {
+  if (std::optional<Names> names = exchanged(loadedNames(), position, downDicNum)) updateDictionary(std::move(*names));
+}
+
+void DictController::updateAllDictionary() {
+  Names names = loadedNames();
+  initializeDictionary();
+  updateDictionary(std::move(names));
+}
+
+void DictController::clearInformation() {
+  if (!entries_) return;
+  for (DictionaryEntry& entry : *entries_) {
+    entry.check = false;
+    entry.order = -1;
+  }
+}
+
+bool DictController::checkMaxOver(const std::optional<Names>& names) const {
+  return names && loadedNames().size() + names->size() > limitOf(dicType_);
+}
+
+std::string DictController::getDicPath(const std::optional<std::string>& name) const {
+  if (!name) return {};
+  if (dicType_ == 2) {
+    const ProductPaths& paths = services_.paths;
+    const std::string title = isEnglish_ ? paths.tarvoPathMemoryEtoJTitle() : paths.tarvoPathMemoryJtoETitle();
+    if (equalIgnoringCase(*name, title)) {
+      return isEnglish_ ? paths.tarvoPathMemoryEtoJURL() : paths.tarvoPathMemoryJtoEURL();
+    }
+  }
+  return joinPath(dicFolderPath_, *name);
+}
+
+bool DictController::isCommonName(const std::string& name) const {
+  return std::any_of(std::begin(commonNameKeys), std::end(commonNameKeys),
+                     [&](std::string_view key) { return equalIgnoringCase(name, services_.texts.localized(key)); });
+}
+
+bool DictController::isBeingCreated(const std::string& name) const {
+  return std::any_of(beingCreated_.begin(), beingCreated_.end(),
+                     [&](const std::string& other) { return equalIgnoringCase(other, name); });
+}
+
+bool DictController::isExitsDic(const std::string& name) {
+  if (existsIgnoringCase(services_.files, getDicPath(name))) return true;
+  if (!isCommonName(name) || isBeingCreated(name)) return false;
+  bool isLoaded = false;
+  return createDictionary(name, isLoaded);
+}
+
+bool DictController::createDictionary(const std::string& name, bool& isLoaded) {
+  if (dicFolderPath_.empty()) return false;  // a list that was never set up
+  const std::string path = getDicPath(name);
+  if (existsIgnoringCase(services_.files, path)) return false;
+  if (!makeDictionaryFile(services_.files, services_.bundle, path, dicType_, isEnglish_)) return false;
+  // Loading the new name asks for it again; when there was no template, that must not create it once more.
+  beingCreated_.push_back(name);
+  isLoaded = addCreatedDictionary(name);
+  beingCreated_.pop_back();
+  return true;
+}
+
+bool DictController::addCreatedDictionary(const std::string& name) {
+  Names names = loadedNames();
+  const bool hasRoom = !checkMaxOver(Names{name});
+  if (hasRoom) names.push_back(name);
+  initializeDictionary();
+  updateDictionary(std::move(names));
+  return hasRoom;
+}
+
+}  // namespace tarvo

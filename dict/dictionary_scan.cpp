@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "dict/dictionary_scan.h"
+
+#include <algorithm>
+
+#include "platform/file_service.h"
+#include "platform/text_rules.h"
+#include "platform/texts.h"
+
+namespace tarvo {
+namespace {
+
+constexpr FourCharCode technicalType = fourCharCode("TRjt");
+
+// The four file names of the Corwell medical dictionary, and the text that says where the data behind each lies. These
+// names, and only these, are compared exactly.
+struct MedicalFile {
+  std::string_view name, dataPathKey;
+};
+constexpr MedicalFile medicalFiles[] = {
+    {"cwl.TRet", "TechECorwell6"}, {"cwla.TRet", "TechECorwell6"}, {"cwl", "TechJCorwell6"}, {"cwla", "TechJCorwell6"}};
+
+class MedicalFilter {
+ public:
+  explicit MedicalFilter(const DictionaryScan& scan)
+      : scan_(scan),
+        displayName_(scan.texts.localized("NameJCorwell6")),
+        abbreviationName_(scan.texts.localized("NameJCorwellAbbrev")) {}
+
+  bool keeps(const std::string& name) const {
+    for (const MedicalFile& file : medicalFiles) {
+      if (name == file.name) return scan_.files.exists(scan_.texts.localized(file.dataPathKey));
+    }
+    return !equalIgnoringCase(name, displayName_) && !equalIgnoringCase(name, abbreviationName_);
+  }
+
+ private:
+  const DictionaryScan& scan_;
+  std::string displayName_, abbreviationName_;
+};
+
+bool isOfKind(const DictionaryScan& scan, const std::string& name) {
+  const std::string extension = pathExtension(name);
+  const auto is = [&](std::string_view other) { return equalIgnoringCase(extension, other); };
+  switch (scan.dicType) {
+    case 0:  // the type code is asked for last: it costs a look at the disk
+      return is("TRet") || is("jtd") || scan.files.typeCode(joinPath(scan.folder, name)) == technicalType;
+    case 1: return is(scan.isEnglish ? "eud2" : "jud");
+    case 2: return is(scan.isEnglish ? "etm" : "jtm");
+    default: return false;
+  }
+}
+
+}  // namespace
+
+std::vector<std::string> DictionaryScan::names() const {
+  std::vector<std::string> found = files.list(folder).value_or(std::vector<std::string>{});
+  const MedicalFilter medical(*this);
+  std::erase_if(found, [&](const std::string& name) { return !medical.keeps(name) || !isOfKind(*this, name); });
+  return found;
+}
+
+}  // namespace tarvo

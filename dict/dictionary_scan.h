@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tarvo {
+
+class FileService;
+class Texts;
+
+// What to look for in a folder of dictionaries.
+struct DictionaryScan {
+  const FileService& files;
+  const Texts& texts;
+  std::string folder;  // absolute
+  int dicType = 0;     // as in DictController
+  bool isEnglish = false;
+
+  // The names in the folder that are dictionaries of the kind, in the order of the listing; none when the folder cannot
+  // be listed. Folders and hidden names count like any other. Extensions are compared ignoring case; a technical
+  // dictionary may have the type code 'TRjt' instead. Files of the Corwell medical dictionary are left out while its
+  // data is not installed, and files under its Japanese display names always.
+  std::vector<std::string> names() const;
+};
+
+}  // namespace tarvo

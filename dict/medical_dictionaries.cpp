@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "dict/medical_dictionaries.h"
+
+#include <utility>
+
+#include "platform/file_service.h"
+#include "platform/text_rules.h"
+#include "platform/texts.h"
+#include "platform/user_defaults.h"
+#include "style/style_keys.h"
+#include "style/style_store.h"
+
+namespace tarvo {
+namespace {
+
+// What a list of dictionaries says about the medical ones in it.
+struct MedicalPlaces {
+  bool hasGeneral = false, hasDictionary = false;
+  std::ptrdiff_t lastClinical = -1;
+};
+
+MedicalPlaces findMedical(const Array& list, const std::string& general, const std::string& clinical,
+                          const std::string& word) {
+  MedicalPlaces places;
+  for (std::size_t i = 0; i < list.size(); ++i) {
+    const std::string* name = list[i].string();
+    if (name == nullptr) continue;
+    if (containsIgnoringCase(*name, general)) {
+      places.hasGeneral = true;
+    } else if (containsIgnoringCase(*name, clinical)) {
+      places.lastClinical = static_cast<std::ptrdiff_t>(i);
+    } else if (containsIgnoringCase(*name, word)) {
+      places.hasDictionary = true;
+    }
+  }
+  return places;
+}
+
+template <typename Kind>
+Kind copyOr(const Kind* value) {
+  return value != nullptr ? *value : Kind{};
+}
+
+}  // namespace
+
+MedicalDictionaries::MedicalDictionaries(FileService& files, const Texts& texts, UserDefaults& defaults,
+                                         StyleStore& store)
+    : files_(files), texts_(texts), defaults_(defaults), store_(store) {}
+
+bool MedicalDictionaries::insertInstalled() {
+  bool inserted = false;
+  // A flag that is there counts, whatever it says: what a user has removed from a list is not put back.
+  const auto isDue = [&](std::string_view dataPathKey, std::string_view flag) {
+    return files_.exists(texts_.localized(dataPathKey)) && defaults_.find(flag) == nullptr;
+  };
+  const auto done = [&](std::string_view flag) {
+    defaults_.set(flag, true);
+    inserted = true;
+  };
+  if (isDue("TechECorwell6", "Corwell1stE")) {
+    insertCorwell(keyNameEJ, "cwl.TRet", "cwla.TRet");
+    done("Corwell1stE");
+  }
+  if (isDue("TechJCorwell6", "Corwell1stJ")) {
+    insertCorwell(keyNameJE, "cwl", "cwla");  // the files of this direction have no extension
+    done("Corwell1stJ");
+  }
+  if (isDue("TechETekado", "Tekado1stE")) {
+    insertTekado(keyNameEJ, texts_.localized("NameETekado"));
+    done("Tekado1stE");
+  }
+  if (isDue("TechJTekado", "Tekado1stJ")) {
+    insertTekado(keyNameJE, texts_.localized("NameJTekado"));
+    done("Tekado1stJ");
+  }
+  defaults_.synchronize();
+  return inserted;
+}
+
+void MedicalDictionaries::insertCorwell(std::string_view direction, std::string_view techName,
+                                        std::string_view abbrevName) {
+  insert(direction, "Corwell", texts_.localized(techName), texts_.localized(abbrevName));
+}
+
+void MedicalDictionaries::insertTekado(std::string_view direction, std::string_view techName) {
+  insert(direction, "Tekado", texts_.localized(techName), std::nullopt);
+}
+
+void MedicalDictionaries::insert(std::string_view direction, std::string_view word, const std::string& name,
+                                 const std::optional<std::string>& abbreviation) {
+  const Array* present = store_.root().array(keyNameStyle);
+  if (present == nullptr) return;  // no styles at all means something else than an empty list of them
+  const std::string general = texts_.localized("IgakuSougou"), clinical = texts_.localized("Shinryouka");
+  const std::string wordText = texts_.localized(word);
+  Array styles = *present;
+  for (PropertyList& style : styles) {
+    Dictionary* record = style.dictionary();
+    if (record == nullptr) continue;
+    Dictionary half = copyOr(record->dictionary(direction));
+    Array list = copyOr(half.array(keyNameTD));
+    const MedicalPlaces places = findMedical(list, general, clinical, wordText);
+    if (places.hasGeneral && !places.hasDictionary) {
+      list.insert(list.begin() + places.lastClinical + 1, name);
+      if (abbreviation) list.push_back(*abbreviation);
+    }
+    half.set(keyNameTD, std::move(list));
+    record->set(direction, std::move(half));
+  }
+  store_.replaceStyles(std::move(styles));
+}
+
+}  // namespace tarvo

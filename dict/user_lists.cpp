@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "dict/user_lists.h"
+
+#include "platform/file_service.h"
+#include "platform/product_paths.h"
+
+namespace tarvo {
+
+UserLists::UserLists(DictController::Services services)
+    : ejUDController(services),
+      jeUDController(services),
+      ejUTMAController(services),
+      jeUTMAController(services),
+      services_(services) {}
+
+void UserLists::setUp() {
+  const std::string dictionaries = services_.paths.tarvoPathUserDicFolderURL();
+  const std::string memories = services_.paths.tarvoPathUserTmaFolderURL();
+  for (const std::string& folder : {dictionaries, memories}) {
+    if (!services_.files.exists(folder)) services_.files.makeFolder(folder);
+  }
+  ejUDController.initializeDictController(1, dictionaries, true);
+  jeUDController.initializeDictController(1, dictionaries, false);
+  ejUTMAController.initializeDictController(2, memories, true);
+  jeUTMAController.initializeDictController(2, memories, false);
+}
+
+}  // namespace tarvo
