@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "install/directory_creation.h"
+
+#include <sstream>
+
+#include "platform/file_service.h"
+#include "platform/text_rules.h"
+
+namespace tarvo {
+
+bool createDirectoryFromPath(FileService& files, const std::string& relativePath, const std::string& parentPath) {
+  std::istringstream components(relativePath);
+  std::string current = parentPath;
+  for (std::string component; std::getline(components, component, '/');) {
+    if (component.empty()) continue;
+    current = joinPath(current, component);
+    if (!files.exists(current) && !files.makeFolder(current)) return false;
+  }
+  return true;
+}
+
+}  // namespace tarvo
