@@ -71,6 +71,13 @@ bool equalIgnoringCase(std::string_view a, std::string_view b) {
   return i == a.size() && j == b.size();
 }
 
+std::string caseFolded(std::string_view text) {
+  std::string out;
+  out.reserve(text.size());
+  for (std::size_t i = 0; i < text.size();) appendCodePoint(out, folded(nextCodePoint(text, i)));
+  return out;
+}
+
 bool containsIgnoringCase(std::string_view text, std::string_view word) {
   return !word.empty() && folded(text).find(folded(word)) != std::u32string::npos;
 }

@@ -11,6 +11,8 @@
 namespace tarvo {
 
 bool equalIgnoringCase(std::string_view a, std::string_view b);
+// A key for tables of names: two texts have the same exactly when they are equal ignoring case.
+std::string caseFolded(std::string_view text);
 // False for an empty word: nothing was asked for.
 bool containsIgnoringCase(std::string_view text, std::string_view word);
 // Without white space and line breaks at both ends (U+3000 and U+00A0 included, U+200B not).
