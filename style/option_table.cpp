@@ -22,34 +22,34 @@ constexpr std::array<IndexOption, 7> indexTable{{{keyNameEJOpt1, keyNameEJ, "ejO
 
 constexpr std::array<DetailOption, 36> detailTable{{
     {"PARS_SAHEN", "parsSahenPopup", {"present", "past"}, 2, 0, "Group.1"},
-    {"number", "numberPopup", {"0", "1"}, 2, 0, "Group.2"},
-    {"maru_num", "maru_numPopup", {"0", "1"}, 2, 0, "Group.2"},
-    {"roma_num", "roma_numPopup", {"0", "1"}, 2, 0, "Group.2"},
-    {"alphabet", "alphabetPopup", {"0", "1"}, 2, 0, "Group.2"},
-    {"katakana", "katakanaPopup", {"0", "1"}, 2, 0, "Group.2"},
-    {"kigou", "kigouPopup", {"0", "1"}, 2, 0, "Group.2"},
-    {"KATA1", "kata1Popup", {"0", "1"}, 2, 1, "Group.3"},
-    {"KATA2", "kata2Popup", {"0", "1"}, 2, 1, "Group.3"},
-    {"KATA3", "kata3Popup", {"0", "1"}, 2, 0, "Group.3"},
-    {"CHOUON_CNV", "chouon_cnvPopup", {"0", "1"}, 2, 1, "Group.3"},
-    {"NAKATEN", "nakatenPopup", {"0", "1"}, 2, 1, "Group.3"},
-    {"EQUAL", "equalPopup", {"0", "1"}, 2, 0, "Group.3"},
-    {"SPACE", "spacePopup", {"0", "1"}, 2, 0, "Group.3"},
-    {"TAIL_CHOUON", "tail_chouonPopup", {"0", "1"}, 2, 1, "Group.3"},
-    {"CHOUON_IN_KANA", "chouon_in_kanaPopup", {"0", "1"}, 2, 1, "Group.3"},
-    {"KIGOU_CNV", "kigou_cnvPopup", {"0", "1"}, 2, 0, "Group.3"},
-    {"HandleInputEMailPrefixes", "handleInputEmailPrefixesPopup", {"0", "1"}, 2, 1, "Group.3"},
-    {"GENE_LIST", "gene_listPopup", {"imperative", "declarative", "gerund", "toinf", "3sp"}, 5, 0, "Group.4"},
-    {"TRAN_NO_SUBJ", "tran_no_subjPopup", {"not_human", "passive", "human", "imperative", "3sp"}, 5, 2, "Group.4"},
-    {"GENE_ARTCL", "gene_artclPopup", {"the", "a", "Null", "Default"}, 4, 3, "Group.4"},
-    {"TRAN_ABBR", "tran_abbrPopup", {"yes", "no"}, 2, 0, "Group.4"},
-    {"GENE_IMP", "gene_impPopup", {"do", "please"}, 2, 0, "Group.4"},
-    {"IMP_SUBJ", "imp_subjPopup", {"must", "should", "asfor"}, 3, 1, "Group.4"},
-    {"ENGM_COMPN", "engm_compnPopup", {"space", "hyphen"}, 2, 0, "Group.5"},
-    {"KATA_ROMAN", "kata_romanPopup", {"ON", "OFF"}, 2, 1, "Group.5"},
-    {"TRAN_CST", "tran_cstPopup", {"make", "Null"}, 2, 0, "Group.5"},
-    {"TRAN_SAHEN", "tran_sahenPopup", {"verb", "noun"}, 2, 0, "Group.5"},
-    {"TRAN_RENGO", "tran_rengoPopup", {"noun", "verb"}, 2, 0, "Group.5"},
+    {"number", "numberPopup", {"0", "1"}, 2, 0, "Group.5"},
+    {"maru_num", "maru_numPopup", {"0", "1"}, 2, 0, "Group.5"},
+    {"roma_num", "roma_numPopup", {"0", "1"}, 2, 0, "Group.5"},
+    {"alphabet", "alphabetPopup", {"0", "1"}, 2, 0, "Group.5"},
+    {"katakana", "katakanaPopup", {"0", "1"}, 2, 0, "Group.5"},
+    {"kigou", "kigouPopup", {"0", "1"}, 2, 0, "Group.5"},
+    {"KATA1", "kata1Popup", {"0", "1"}, 2, 1, "Group.6"},
+    {"KATA2", "kata2Popup", {"0", "1"}, 2, 1, "Group.6"},
+    {"KATA3", "kata3Popup", {"0", "1"}, 2, 0, "Group.6"},
+    {"CHOUON_CNV", "chouon_cnvPopup", {"0", "1"}, 2, 1, "Group.6"},
+    {"NAKATEN", "nakatenPopup", {"0", "1"}, 2, 1, "Group.6"},
+    {"EQUAL", "equalPopup", {"0", "1"}, 2, 0, "Group.6"},
+    {"SPACE", "spacePopup", {"0", "1"}, 2, 0, "Group.6"},
+    {"TAIL_CHOUON", "tail_chouonPopup", {"0", "1"}, 2, 1, "Group.6"},
+    {"CHOUON_IN_KANA", "chouon_in_kanaPopup", {"0", "1"}, 2, 1, "Group.6"},
+    {"KIGOU_CNV", "kigou_cnvPopup", {"0", "1"}, 2, 0, "Group.5"},
+    {"HandleInputEMailPrefixes", "handleInputEmailPrefixesPopup", {"0", "1"}, 2, 1, "Group.5"},
+    {"GENE_LIST", "gene_listPopup", {"imperative", "declarative", "gerund", "toinf", "3sp"}, 5, 0, "Group.2"},
+    {"TRAN_NO_SUBJ", "tran_no_subjPopup", {"not_human", "passive", "human", "imperative", "3sp"}, 5, 2, "Group.2"},
+    {"GENE_ARTCL", "gene_artclPopup", {"the", "a", "Null", "Default"}, 4, 3, "Group.3"},
+    {"TRAN_ABBR", "tran_abbrPopup", {"yes", "no"}, 2, 0, "Group.3"},
+    {"GENE_IMP", "gene_impPopup", {"do", "please"}, 2, 0, "Group.2"},
+    {"IMP_SUBJ", "imp_subjPopup", {"must", "should", "asfor"}, 3, 1, "Group.2"},
+    {"ENGM_COMPN", "engm_compnPopup", {"space", "hyphen"}, 2, 0, "Group.3"},
+    {"KATA_ROMAN", "kata_romanPopup", {"ON", "OFF"}, 2, 1, "Group.6"},
+    {"TRAN_CST", "tran_cstPopup", {"make", "Null"}, 2, 0, "Group.1"},
+    {"TRAN_SAHEN", "tran_sahenPopup", {"verb", "noun"}, 2, 0, "Group.1"},
+    {"TRAN_RENGO", "tran_rengoPopup", {"noun", "verb"}, 2, 0, "Group.3"},
     {"TRAN_TEIRU_PG", "tran_teiru_pgPopup", {"progressive", "present"}, 2, 0, "Group.1"},
     {"TRAN_TEIRU_PF", "tran_teiru_pfPopup", {"perfective", "present"}, 2, 0, "Group.1"},
     {"TRAN_SARETA", "tran_saretaPopup", {"past", "present"}, 2, 0, "Group.1"},
@@ -58,10 +58,10 @@ constexpr std::array<DetailOption, 36> detailTable{{
      {"such_as", "kakko", "example", "e.g.", "that_is", "instance"},
      6,
      0,
-     "Group.5"},
-    {"ENGM_TITLE_CAP", "engm_title_capPopup", {"all", "head", "top"}, 3, 1, "Group.6"},
-    {"TRAN_NIHA", "tran_nihaPopup", {"how", "ing"}, 2, 0, "Group.6"},
-    {"TRAN_SAHEN_TITLE", "tran_sahen_titlePopup", {"noun", "ing"}, 2, 0, "Group.6"},
+     "Group.3"},
+    {"ENGM_TITLE_CAP", "engm_title_capPopup", {"all", "head", "top"}, 3, 1, "Group.4"},
+    {"TRAN_NIHA", "tran_nihaPopup", {"how", "ing"}, 2, 0, "Group.4"},
+    {"TRAN_SAHEN_TITLE", "tran_sahen_titlePopup", {"noun", "ing"}, 2, 0, "Group.4"},
 }};
 
 }  // namespace
@@ -81,6 +81,12 @@ const std::vector<std::pair<std::string_view, PropertyList>>& jeOptionDefaults()
 }
 
 std::span<const DetailOption> detailOptions() { return detailTable; }
+
+std::span<const std::string_view> detailHeadings() {
+  static constexpr std::array<std::string_view, 6> headings{"Group.1", "Group.2", "Group.3",
+                                                            "Group.4", "Group.5", "Group.6"};
+  return headings;
+}
 
 const DetailOption* detailOption(std::string_view key) {
   const auto* option =
