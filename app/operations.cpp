@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/operations.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "app/program.h"
+#include "platform/text_rules.h"
+
+namespace tarvo {
+
+namespace {
+
+using Arguments = std::span<const std::string>;
+using Result = std::optional<PropertyList>;
+
+int number(Arguments arguments) { return leadingInteger(arguments.front()); }
+
+// An operation on a room that takes one integer and answers nothing.
+template <class Call>
+Operation withNumber(std::string_view name, Call call) {
+  return {name, 1, [call](Program& program, Arguments arguments) -> Result {
+            call(program.rooms(), number(arguments));
+            return std::nullopt;
+          }};
+}
+
+std::vector<Operation> makeOperations() {
+  return {
+      withNumber("style.setupStyleData2", [](Rooms& rooms, int index) { rooms.display.setupStyleData2(index); }),
+      withNumber("style.setSelection", [](Rooms& rooms, int index) { rooms.store.setSelection(index); }),
+      withNumber("style.setSelectSeg", [](Rooms& rooms, int tool) { rooms.chooser.setSelectSeg(tool); }),
+      withNumber("style.doEnabledButtons", [](Rooms& rooms, int tool) { rooms.chooser.doEnabledButtons(tool); }),
+      withNumber("style.writeUpdateDicTarvoPlist",
+                 [](Rooms& rooms, int direction) { rooms.lists.writeUpdateDicTarvoPlist(direction); }),
+      withNumber("style.updateButton", [](Rooms& rooms, int code) { rooms.lists.updateButton(code); }),
+      {"style.getOSVersion", 0, [](Program& program, Arguments) -> Result { return program.styles().getOSVersion(); }},
+      {"manager.createMailScriptFolder", 0,
+       [](Program& program, Arguments) -> Result { return program.rooms().mailScripts.createMailScriptFolder(); }},
+  };
+}
+
+}  // namespace
+
+std::span<const Operation> operations() {
+  static const std::vector<Operation> all = makeOperations();
+  return all;
+}
+
+const Operation* findOperation(std::string_view name) {
+  const auto all = operations();
+  const auto found = std::find_if(all.begin(), all.end(), [name](const Operation& row) { return row.name == name; });
+  return found != all.end() ? &*found : nullptr;
+}
+
+}  // namespace tarvo

@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/product.h"
+
+#include <utility>
+
+#include "app/product_defaults.h"
+#include "platform/common_module.h"
+#include "platform/engine.h"
+#include "platform/engine/engine_factory.h"
+#include "platform/engine/local_style_module.h"
+#include "platform/plist_file.h"
+#include "platform/posix/posix_files.h"
+#include "platform/text_rules.h"
+
+namespace tarvo {
+
+namespace {
+
+// Texts that belong to one machine: where dictionaries of other makers were installed.
+constexpr const char* machineTexts = "/Library/Application Support/Wordhaven/TarvoEiwa/Local.strings";
+
+Locations locationsFor(const ProductOptions& options) {
+  Places places = findPlaces(options.root, options.home);
+  return {std::move(places.root), std::move(places.home)};
+}
+
+std::vector<std::string> languagesFor(const std::string& first) {
+  return first == "ja" ? std::vector<std::string>{"ja", "en"} : std::vector<std::string>{"en", "ja"};
+}
+
+}  // namespace
+
+Product::Product(const ProductOptions& options)
+    : language_(options.language.value_or(languageFromEnvironment())),
+      engine_(options.engine),
+      locations_(locationsFor(options)),
+      files_(std::make_unique<PosixFiles>(locations_)),
+      styleModule_(std::make_unique<LocalStyleModule>()) {
+  const std::string resources =
+      locations_.picked(options.resources ? absolutePath(*options.resources) : defaultResources());
+  bundle_ = std::make_unique<Bundle>(*files_, resources, languagesFor(language_));
+  layTexts(options.strings);
+  paths_ = std::make_unique<ProductPaths>(locations_, readPaths(options.paths));
+}
+
+Product::~Product() = default;
+
+void Product::layTexts(const std::vector<std::string>& strings) {
+  overlayShippedTable(texts_, *bundle_, *files_);
+  overlayTableFile(texts_, *files_, machineTexts);
+  for (const std::string& file : strings) {
+    if (file == "none") {
+      texts_.clear();
+    } else if (!overlayTableFile(texts_, *files_, locations_.picked(absolutePath(file)))) {
+      problem_ = "cannot read the texts in " + file;
+    }
+  }
+}
+
+std::optional<Dictionary> Product::readPaths(const std::optional<std::string>& overlay) {
+  std::optional<Dictionary> configuration =
+      PlistFile(*files_, joinPath(bundle_->folder(), "WordhavenPaths.plist")).read();
+  if (!overlay) return configuration;
+  const std::optional<Dictionary> over = PlistFile(*files_, locations_.picked(absolutePath(*overlay))).read();
+  if (!over) {
+    problem_ = "cannot read the paths in " + *overlay;
+    return configuration;
+  }
+  if (!configuration) configuration.emplace();
+  for (const auto& [key, value] : over->entries()) configuration->set(key, value);
+  return configuration;
+}
+
+std::unique_ptr<Engine> Product::makeEngine(FileService& files) {
+  return tarvo::makeEngine(engine_.value_or(paths_->engineURL()), files, paths_->localEnginePath());
+}
+
+Services Product::services(FileService& files, Engine& engine, RunLoop& runLoop, Panels& panels, WindowHost& windowHost,
+                           Workspace& workspace) {
+  return {locations_,          files,   *bundle_, texts_,     *paths_,  engine, *styleModule_,
+          gTarvoCommonModule_, runLoop, panels,   windowHost, workspace};
+}
+
+}  // namespace tarvo

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/product_defaults.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <initializer_list>
+#include <string_view>
+#include <system_error>
+
+#include "platform/text_rules.h"
+
+namespace tarvo {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value != nullptr ? value : "";
+}
+
+// A folder of the installed product, as it lies relative to the running program; nothing for a program in its build
+// tree.
+std::optional<std::string> besideProgram(const char* rest) {
+  std::error_code error;
+  const fs::path program = fs::read_symlink("/proc/self/exe", error);
+  if (error) return std::nullopt;
+  const fs::path folder = (program.parent_path() / "../share/tarvo-manager" / rest).lexically_normal();
+  return fs::is_directory(folder, error) ? std::optional(folder.string()) : std::nullopt;
+}
+
+std::string login() {
+  const passwd* entry = getpwuid(getuid());
+  if (entry != nullptr && entry->pw_name != nullptr) return entry->pw_name;
+  return environment("USER");
+}
+
+std::string systemHome() {
+  const std::string home = environment("HOME");
+  if (isAbsolutePath(home)) return home;
+  const passwd* entry = getpwuid(getuid());
+  return entry != nullptr && entry->pw_dir != nullptr ? entry->pw_dir : "/";
+}
+
+}  // namespace
+
+std::string absolutePath(const std::string& path) {
+  std::error_code error;
+  fs::path full = fs::absolute(path, error).lexically_normal();
+  if (!full.has_filename() && full != full.root_path()) full = full.parent_path();
+  return full.string();
+}
+
+std::string languageFromEnvironment() {
+  for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    const std::string value = environment(name);
+    if (!value.empty()) return value.starts_with("ja") ? "ja" : "en";
+  }
+  return "en";
+}
+
+std::string defaultResources() { return besideProgram("resources").value_or(TARVO_BUILD_RESOURCES); }
+
+Places findPlaces(const std::optional<std::string>& root, const std::optional<std::string>& home) {
+  Places places;
+  const std::string namedRoot = root ? *root : environment("TARVO_ROOT");
+  const std::string configured = TARVO_DEFAULT_ROOT;
+  if (!namedRoot.empty()) {
+    places.root = absolutePath(namedRoot);
+  } else {
+    places.root = !configured.empty() ? configured : besideProgram("root").value_or("/");
+  }
+  const std::string namedHome = home ? *home : environment("TARVO_HOME");
+  if (!namedHome.empty()) {
+    places.home = absolutePath(namedHome);
+  } else {
+    places.home = namedRoot.empty() ? systemHome() : joinPath(joinPath(places.root, "Users"), login());
+  }
+  return places;
+}
+
+}  // namespace tarvo

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+
+// Where the product, its resources and the user's home are when the command line does not say so.
+namespace tarvo {
+
+// A path of the command line, made absolute from the working folder, without a trailing slash.
+std::string absolutePath(const std::string& path);
+
+// "ja" or "en", from the locale's environment variables.
+std::string languageFromEnvironment();
+
+// The resource folder that belongs to the running program: beside an installed one, else the source tree it was built
+// from.
+std::string defaultResources();
+
+struct Places {
+  std::string root, home;  // absolute, without a trailing slash ("/" for no root)
+};
+// root, home: what the command line says. Then TARVO_ROOT and TARVO_HOME; then the root configured when the program was
+// built or lying beside an installed one, and the login's home: "<root>/Users/<login>" for a root that the user named.
+Places findPlaces(const std::optional<std::string>& root, const std::optional<std::string>& home);
+
+}  // namespace tarvo
