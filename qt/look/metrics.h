@@ -27,9 +27,10 @@ inline constexpr int fieldPadding = 8;    // edge to text in fields and pop-ups
 inline constexpr int popUpArrowWidth = 28;
 inline constexpr int popUpWidth = 220;  // width of pop-ups in a form, so that their edges line up
 inline constexpr int fieldWidth = 280;  // name fields of the sheets
-inline constexpr int checkBoxSize = 16;
+inline constexpr int minimumCheckBoxSize = 16;
 inline constexpr int checkBoxGap = 8;
 inline constexpr int scrollBarExtent = 12;
+inline constexpr int menuMark = 24;  // tick before a menu item, arrow behind it
 
 // Segments with an icon.
 inline constexpr int segmentIcon = 32;
@@ -56,6 +57,7 @@ inline constexpr double checkRadius = 4;
 constexpr int onGrid(int length) { return (length + grid - 1) / grid * grid; }
 
 inline int controlHeight(const QFontMetrics& font) { return std::max(minimumControlHeight, onGrid(font.height() + 8)); }
+inline int checkBoxSize(const QFontMetrics& font) { return std::max(minimumCheckBoxSize, onGrid(font.ascent() - 2)); }
 inline int rowHeight(const QFontMetrics& font) { return std::max(minimumRowHeight, onGrid(font.height() + 4)); }
 
 }  // namespace tarvo::metrics

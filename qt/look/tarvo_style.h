@@ -8,7 +8,6 @@
 #include "qt/look/palette.h"
 
 class QApplication;
-class QToolButton;
 
 // The look of the window.
 // Duty: metrics and hints, and the dispatch of each element to its drawing (draw.h); everything else is the Fusion
@@ -46,10 +45,5 @@ class TarvoStyle : public QProxyStyle {
 // Gives the application style, palette and font; to be called once, before the first widget. The style belongs to the
 // application.
 void applyLook(QApplication& application, Scheme scheme, const std::string& language);
-
-// Makes a button one piece of a segmented control: the pieces of a control stand side by side without a gap and share
-// one plate. Checkable; which pieces are checked is the caller's affair.
-enum class SegmentPlace { only, first, middle, last };
-void makeSegment(QToolButton& button, SegmentPlace place);
 
 }  // namespace tarvo

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "qt/look/icons.h"
+
+#include <QFile>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPixmap>
+#include <QSvgRenderer>
+#include <memory>
+
+namespace tarvo {
+namespace {
+
+constexpr char neutralInk[] = "#3A4250", lightInk[] = "#D5DAE3";
+
+QByteArray recoloured(QByteArray drawing, Scheme scheme) {
+  if (scheme == Scheme::light) return drawing;
+  return drawing.replace(neutralInk, lightInk).replace(QByteArray(neutralInk).toLower(), lightInk);
+}
+
+// One drawing, parsed at its first use.
+class Drawing {
+ public:
+  Drawing(QString path, Scheme scheme) : path_(std::move(path)), scheme_(scheme) {}
+  void render(QPainter& painter, const QRectF& rect) {
+    if (!renderer_) load();
+    if (!renderer_->isValid()) return;
+    const QSizeF size = QSizeF(renderer_->defaultSize()).scaled(rect.size(), Qt::KeepAspectRatio);
+    QRectF place(QPointF(), size);
+    place.moveCenter(rect.center());
+    renderer_->render(&painter, place);
+  }
+
+ private:
+  void load() {
+    QFile file(path_);
+    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    renderer_ = std::make_unique<QSvgRenderer>();
+    if (!text.isEmpty()) renderer_->load(recoloured(text, scheme_));
+  }
+  QString path_;
+  Scheme scheme_;
+  std::unique_ptr<QSvgRenderer> renderer_;
+};
+
+class DrawingEngine : public QIconEngine {
+ public:
+  explicit DrawingEngine(std::shared_ptr<Drawing> drawing) : drawing_(std::move(drawing)) {}
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    if (mode == QIcon::Disabled) painter->setOpacity(painter->opacity() * 0.4);
+    drawing_->render(*painter, rect);
+    painter->restore();
+  }
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paint(&painter, QRect(QPoint(), size), mode, state);
+    return pixmap;
+  }
+  // Window managers ask for fixed sizes.
+  QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override { return {{16, 16}, {32, 32}, {48, 48}, {128, 128}}; }
+  QIconEngine* clone() const override { return new DrawingEngine(drawing_); }
+
+ private:
+  std::shared_ptr<Drawing> drawing_;
+};
+
+}  // namespace
+
+QIcon icon(const QString& svgPath, Scheme scheme) {
+  if (!QFile::exists(svgPath)) return {};
+  return QIcon(new DrawingEngine(std::make_shared<Drawing>(svgPath, scheme)));
+}
+
+}  // namespace tarvo
