@@ -1,0 +1,161 @@
+# SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+# SPDX-License-Identifier: MIT
+"""Runs the measured programs and their floors in turn and prints each row beside its floor.
+
+Everything happens below build/bench/work, on the disk of the checkout: on a disk in memory a sync would cost nothing.
+"""
+
+import getpass
+import os
+import pathlib
+import plistlib
+import shutil
+import signal
+import statistics
+import subprocess
+import sys
+import time
+
+TOP = pathlib.Path(__file__).resolve().parent.parent.parent
+BUILD = TOP / "build/bench"
+WORK = BUILD / "work"
+MANAGER = BUILD / "qt/tarvo-manager"
+FLOOR_WINDOW = BUILD / "tests/bench/floor_window"
+EDIT_BENCH = BUILD / "tests/bench/edit_bench"
+SEED = "Library/Application Support/Wordhaven/TarvoEiwa/TarvoStyle2009.plist"
+USER_STYLES = "Library/Preferences/Wordhaven/TarvoStyle2009.plist"
+
+STARTS = 15
+EDITS = 41
+SETTLE_SECONDS = 0.5  # from the first paint until memory is read
+LONGEST_START = 30.0
+
+
+def fresh_root(name):
+    root = WORK / name
+    shutil.rmtree(root, ignore_errors=True)
+    subprocess.run([str(TOP / "sample/install"), str(root)], check=True, stdout=subprocess.DEVNULL)
+    return root
+
+
+def home_of(root):
+    return root / "Users" / getpass.getuser()
+
+
+def print_row(name, here, floor, unit, aim, met):
+    print(f"{name:34} {here:9.2f} {unit}   floor {floor:9.2f} {unit}   {here / floor:6.2f}x   {here - floor:+8.2f} {unit}   "
+          f"{aim}: {'met' if met else 'missed'}", flush=True)
+
+
+# Start: from exec to the first paint.
+
+class Start:
+    """One start of a program that tells of its first paint on the descriptor TARVO_PAINT_PROBE_FD."""
+
+    def __init__(self, command):
+        reading, writing = os.pipe()
+        environment = os.environ | {"TARVO_PAINT_PROBE_FD": str(writing)}
+        environment.setdefault("QT_QPA_PLATFORM", "xcb" if os.environ.get("DISPLAY") else "offscreen")
+        begin = time.monotonic()
+        process = subprocess.Popen([str(word) for word in command], env=environment, pass_fds=[writing],
+                                   stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
+        os.close(writing)
+        try:
+            told = os.read(reading, 64)
+            self.milliseconds = (time.monotonic() - begin) * 1000
+            self.painted_at = time.time_ns()
+            if told != b"first-paint\n":
+                raise SystemExit(f"{command[0]} ended before its first paint:\n{process.stderr.read().decode()}")
+            time.sleep(SETTLE_SECONDS)
+            self.megabytes = private_dirty(process.pid)
+        finally:
+            os.close(reading)
+            process.send_signal(signal.SIGKILL)
+            process.wait()
+            process.stderr.close()
+
+
+def private_dirty(process):
+    for line in pathlib.Path(f"/proc/{process}/smaps_rollup").read_text("ascii").splitlines():
+        if line.startswith("Private_Dirty:"):
+            return int(line.split()[1]) / 1024
+    raise SystemExit("the kernel tells nothing about private memory")
+
+
+def identities(root):
+    return {path: path.stat().st_ino for path in root.rglob("*") if path.is_file() and not path.is_symlink()}
+
+
+def written_until(root, before, moment):
+    """The files that a start replaced before its first paint."""
+    now = identities(root)
+    return [path for path, file in now.items() if before.get(path) != file and path.stat().st_mtime_ns <= moment]
+
+
+def start_both(language):
+    """A start of the manager on a fresh product, then one of the floor with the same writes."""
+    root, floor = fresh_root("root"), WORK / "floor"
+    before = identities(root)
+    manager = Start([MANAGER, "--root", root, "--home", home_of(root), "--language", language])
+    shutil.rmtree(floor, ignore_errors=True)
+    lines = []
+    for path in written_until(root, before, manager.painted_at):
+        target = floor / path.relative_to(root)
+        target.parent.mkdir(parents=True, exist_ok=True)
+        lines.append(f"{path}\t{target}\n")
+    (WORK / "list").write_text("".join(lines), "utf-8")
+    return manager, Start([FLOOR_WINDOW, language, WORK / "list"]), len(lines)
+
+
+def start_rows(wanted):
+    for language in ("en", "ja"):
+        start_both(language)  # warms up
+        pairs = [start_both(language) for _ in range(STARTS)]
+        files = pairs[-1][2]
+        if "start" in wanted:
+            here, floor = (statistics.median(pair[side].milliseconds for pair in pairs) for side in (0, 1))
+            print_row(f"start, {language}, {files} files", here, floor, "ms", "at most 25 ms over", here - floor <= 25)
+        if "memory" in wanted:
+            here, floor = (statistics.median(pair[side].megabytes for pair in pairs) for side in (0, 1))
+            print_row(f"private memory, {language}", here, floor, "MB", "at most 6 MB over", here - floor <= 6)
+
+
+# Edit: from the gesture until all its files are replaced and synced.
+
+def give_styles(root, count):
+    """Gives the user as many styles, all options set, as copies of those that come with the product."""
+    with open(root / SEED, "rb") as file:
+        styles = plistlib.load(file)
+    real = [style for style in styles["Style"] if "JE" in style]
+    styles["Style"] = [real[number % len(real)] | {"Name": f"Style {number}", "ID": number} for number in range(count)]
+    path = home_of(root) / USER_STYLES
+    path.parent.mkdir(parents=True, exist_ok=True)
+    with open(path, "wb") as file:
+        plistlib.dump(styles, file)
+
+
+def edit_rows(_wanted):
+    for engine in ("local", "none"):
+        root, floor = fresh_root("root"), WORK / "floor"
+        shutil.rmtree(floor, ignore_errors=True)
+        give_styles(root, 100)
+        command = [EDIT_BENCH, root, home_of(root), engine, floor, EDITS]
+        done = subprocess.run([str(word) for word in command], check=True, stdout=subprocess.PIPE, text=True)
+        here, bare, files = done.stdout.split()
+        print_row(f"edit of 100 styles, {engine}, {files} files", float(here), float(bare), "ms", "at most 2x",
+                  float(here) <= 2 * float(bare))
+
+
+def main(arguments):
+    wanted = set(arguments) or {"start", "memory", "edit"}
+    if wanted - {"start", "memory", "edit"}:
+        raise SystemExit("usage: script/bench [start] [memory] [edit]")
+    WORK.mkdir(parents=True, exist_ok=True)
+    if wanted & {"start", "memory"}:
+        start_rows(wanted)
+    if "edit" in wanted:
+        edit_rows(wanted)
+
+
+if __name__ == "__main__":
+    main(sys.argv[1:])
