@@ -1,0 +1,249 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+#include <sys/xattr.h>
+
+#include "platform/posix/posix_files.h"
+#include "tests/dict/dictionary_world.h"
+
+namespace tarvo::test {
+namespace {
+
+std::string contentOf(const DictionaryWorld& world, const std::string& name) {
+  return world.folder.read("dictionaries/" + name);
+}
+
+// Type and creator as the disk holds them, eight characters; "" when there are none.
+std::string codesOn(const std::string& path) {
+  std::string bytes(32, '\0');
+  const ssize_t size = ::getxattr(path.c_str(), "user.com.apple.FinderInfo", bytes.data(), bytes.size());
+  return size == 32 ? bytes.substr(0, 8) : "";
+}
+
+// A disk that keeps no codes and counts what it is asked.
+class CountingFiles : public PosixFiles {
+ public:
+  using PosixFiles::PosixFiles;
+  FourCharCode typeCode(const std::string& path) const override {
+    ++attributeReads;
+    return PosixFiles::typeCode(path);
+  }
+  std::optional<std::vector<std::string>> list(const std::string& folder) const override {
+    ++listings;
+    return PosixFiles::list(folder);
+  }
+  bool setCodes(const std::string&, FourCharCode, FourCharCode) override {
+    ++codesRefused;
+    return false;
+  }
+  mutable int attributeReads = 0, listings = 0;
+  int codesRefused = 0;
+};
+
+struct CreationCase {
+  const char* description;
+  int dicType;
+  bool isEnglish;
+  const char* name;
+  const char* content;
+  const char* codes;
+};
+
+const CreationCase creationCases[] = {
+    {"anEnglishDictionary", 1, true, "n.eud2", DictionaryWorld::englishTemplate, "TReu    "},
+    {"aJapaneseDictionary", 1, false, "n.jud", DictionaryWorld::japaneseTemplate, "TRju    "},
+    {"anEnglishMemory", 2, true, "n.etm", DictionaryWorld::englishTemplate, ""},
+    {"aJapaneseMemory", 2, false, "n.jtm", DictionaryWorld::japaneseTemplate, ""},
+    {"aTechnicalDictionary", 0, true, "n.TRet", DictionaryWorld::englishTemplate, ""}};
+
+class Creation : public testing::TestWithParam<CreationCase> {};
+
+TEST_P(Creation, copiesTheTemplateOfTheDirectionAndLoadsTheNewName) {
+  DictionaryWorld world;
+  DictController controller = world.list(GetParam().dicType, GetParam().isEnglish);
+  bool isLoaded = false;
+  EXPECT_TRUE(controller.createDictionary(GetParam().name, isLoaded));
+  EXPECT_TRUE(isLoaded);
+  EXPECT_EQ(contentOf(world, GetParam().name), GetParam().content);
+  EXPECT_EQ(loadedOf(controller), Names{GetParam().name});
+}
+
+TEST_P(Creation, givesCodesToUserDictionariesOnly) {
+  if (placeForAttributes().empty()) GTEST_SKIP() << "needs type codes: no disk here keeps extended attributes";
+  DictionaryWorld world(placeForAttributes());
+  DictController controller = world.list(GetParam().dicType, GetParam().isEnglish);
+  bool isLoaded = false;
+  ASSERT_TRUE(controller.createDictionary(GetParam().name, isLoaded));
+  EXPECT_EQ(codesOn(world.path(GetParam().name)), GetParam().codes);
+}
+
+INSTANTIATE_TEST_SUITE_P(DictionaryCreation, Creation, testing::ValuesIn(creationCases),
+                         [](const auto& test) { return test.param.description; });
+
+TEST(DictionaryCreation, anExistingNameIsRefusedAndTheAnswerLeftAlone) {
+  DictionaryWorld world;
+  world.put({"x.eud2"});
+  CountingFiles files(world.locations);
+  DictController controller(world.servicesOver(files));
+  controller.initializeDictController(1, world.dictionaryFolder(), true);
+  const int listings = files.listings;
+  for (const bool preset : {true, false}) {
+    bool isLoaded = preset;
+    EXPECT_FALSE(controller.createDictionary("x.eud2", isLoaded));
+    EXPECT_EQ(isLoaded, preset);
+  }
+  EXPECT_EQ(files.listings, listings) << "nothing is scanned again";
+  EXPECT_EQ(contentOf(world, "x.eud2"), "");
+}
+
+TEST(DictionaryCreation, anExistingNameInAnotherLetterCaseIsRefused) {
+  DictionaryWorld world;
+  world.put({"x.eud2"});
+  DictController controller = world.list(1);
+  bool isLoaded = false;
+  EXPECT_FALSE(controller.createDictionary("X.EUD2", isLoaded));
+  EXPECT_EQ(world.folder.names("dictionaries"), Names{"x.eud2"});
+}
+
+TEST(DictionaryCreation, aMissingFolderIsAFailureThatChangesNothing) {
+  DictionaryWorld world;
+  world.put({"a.eud2"});
+  DictController controller = world.list(1);
+  std::filesystem::remove_all(world.dictionaryFolder());
+  bool isLoaded = true;
+  EXPECT_FALSE(controller.createDictionary("n.eud2", isLoaded));
+  EXPECT_TRUE(isLoaded);
+  EXPECT_EQ(entryNames(controller), Names{"a.eud2"}) << "nothing is scanned again";
+  EXPECT_FALSE(std::filesystem::exists(world.dictionaryFolder()));
+}
+
+TEST(DictionaryCreation, aListThatWasNeverSetUpCreatesNothing) {
+  DictionaryWorld world;
+  DictController controller(world.services());
+  bool isLoaded = true;
+  EXPECT_FALSE(controller.createDictionary("n.eud2", isLoaded));
+  EXPECT_TRUE(isLoaded);
+  EXPECT_FALSE(controller.allDictionaries());
+  EXPECT_FALSE(controller.selectedDictionary());
+}
+
+TEST(DictionaryCreation, aNewNameBeyondTheLimitIsMadeAndListedButNotLoaded) {
+  DictionaryWorld world;
+  const Names five{"a.eud2", "b.eud2", "c.eud2", "d.eud2", "e.eud2"};
+  for (const std::string& name : five) world.put({name.c_str()});
+  DictController controller = world.list(1);
+  controller.updateDictionary(five);
+  bool isLoaded = true;
+  EXPECT_TRUE(controller.createDictionary("six.eud2", isLoaded));
+  EXPECT_FALSE(isLoaded);
+  EXPECT_TRUE(world.folder.exists("dictionaries/six.eud2"));
+  EXPECT_FALSE(entryOf(controller, "six.eud2").check);
+  EXPECT_EQ(loadedOf(controller), five);
+  EXPECT_EQ(controller.notSelectedDictionary(), Names{"six.eud2"});
+}
+
+TEST(DictionaryCreation, roomCountsAsLoadedEvenWhenTheScanDropsTheFile) {
+  DictionaryWorld world;
+  DictController controller = world.list(2);
+  bool isLoaded = false;
+  EXPECT_TRUE(controller.createDictionary("Terms.eud2", isLoaded));
+  EXPECT_TRUE(isLoaded);
+  EXPECT_TRUE(entryNames(controller).empty());
+}
+
+TEST(DictionaryCreation, aDiskThatKeepsNoCodesIsNoFailure) {
+  DictionaryWorld world;
+  CountingFiles files(world.locations);
+  DictController controller(world.servicesOver(files));
+  controller.initializeDictController(1, world.dictionaryFolder(), true);
+  bool isLoaded = false;
+  EXPECT_TRUE(controller.createDictionary("n.eud2", isLoaded));
+  EXPECT_TRUE(isLoaded);
+  EXPECT_EQ(files.codesRefused, 1);
+  EXPECT_EQ(loadedOf(controller), Names{"n.eud2"});
+}
+
+TEST(DictionaryCreation, scanningAsksForAttributesOnlyWhereTheExtensionDoesNotDecide) {
+  DictionaryWorld world;
+  world.put({"a.TRet", "b.jtd", "c.dat", "d.eud2", "e.jud", "f.etm", "g.jtm"});
+  CountingFiles files(world.locations);
+  DictController controller(world.servicesOver(files));
+  for (const int kind : {1, 2, 3}) controller.initializeDictController(kind, world.dictionaryFolder(), true);
+  EXPECT_EQ(files.attributeReads, 0);
+  controller.initializeDictController(0, world.dictionaryFolder(), true);
+  EXPECT_EQ(files.attributeReads, 5);
+}
+
+TEST(DictionaryCreation, withoutATemplateNothingIsCopiedAndCreationCountsAsDone) {
+  DictionaryWorld world;
+  std::filesystem::remove_all(world.folder / "resources");
+  DictController controller = world.list(1);
+  bool isLoaded = false;
+  EXPECT_TRUE(controller.createDictionary("n.eud2", isLoaded));
+  EXPECT_TRUE(isLoaded);
+  EXPECT_TRUE(world.folder.names("dictionaries").empty());
+  EXPECT_FALSE(controller.selectedDictionary());
+}
+
+const char* const commonKeys[] = {"EJCommonUD", "JECommonUD", "EJCommonUTMA", "JECommonUTMA"};
+
+TEST(CommonDictionaries, aMissingOneComesBackEmptyWhenAListNamesIt) {
+  for (const char* key : commonKeys) {
+    for (const bool isEnglish : {true, false}) {
+      DictionaryWorld world;
+      world.setText(key, "Common.TRet");
+      world.put({"a.TRet"});
+      DictController controller = world.list(0, isEnglish);
+      controller.updateDictionary({"COMMON.TRet", "a.TRet"});
+      EXPECT_EQ(contentOf(world, "COMMON.TRet"),
+                isEnglish ? DictionaryWorld::englishTemplate : DictionaryWorld::japaneseTemplate)
+          << key;
+      EXPECT_EQ(loadedOf(controller), (Names{"COMMON.TRet", "a.TRet"})) << key;
+      EXPECT_EQ(entryOf(controller, "a.TRet").order, 1) << key;
+    }
+  }
+}
+
+TEST(CommonDictionaries, anyOtherMissingNameIsNotMade) {
+  DictionaryWorld world;
+  DictController controller = world.list();
+  EXPECT_FALSE(controller.isExitsDic("gone.TRet"));
+  controller.updateDictionary({"gone.TRet"});
+  EXPECT_TRUE(world.folder.names("dictionaries").empty());
+}
+
+TEST(CommonDictionaries, askingForAMissingOneMakesItAndLoadsIt) {
+  DictionaryWorld world;
+  world.setText("EJCommonUD", "Common.TRet");
+  DictController controller = world.list();
+  EXPECT_TRUE(controller.isExitsDic("Common.TRet"));
+  EXPECT_TRUE(world.folder.exists("dictionaries/Common.TRet"));
+  EXPECT_EQ(loadedOf(controller), Names{"Common.TRet"});
+}
+
+TEST(CommonDictionaries, withTheTemplateMissingTooTheNameIsSkippedAndTheLookEnds) {
+  DictionaryWorld world;
+  world.setText("EJCommonUD", "Common.TRet");
+  world.setText("JECommonUD", "Other.TRet");
+  std::filesystem::remove_all(world.folder / "resources");
+  world.put({"a.TRet", "b.TRet"});
+  DictController controller = world.list();
+  controller.updateDictionary({"a.TRet", "common.TRet", "Other.TRet", "Common.TRet", "b.TRet"});
+  EXPECT_EQ(loadedOf(controller), (Names{"a.TRet", "b.TRet"}));
+  EXPECT_EQ(entryOf(controller, "b.TRet").order, 4);
+  EXPECT_TRUE(controller.isExitsDic("Common.TRet")) << "creation counts as done";
+  EXPECT_EQ(world.folder.names("dictionaries"), (Names{"a.TRet", "b.TRet"}));
+}
+
+TEST(CommonDictionaries, aTextWithoutExtensionMakesAFileThatIsNoEntry) {
+  DictionaryWorld world;
+  world.setText("EJCommonUD", "Common Dictionary");
+  DictController controller = world.list(1);
+  controller.updateDictionary({"Common Dictionary"});
+  EXPECT_EQ(contentOf(world, "Common Dictionary"), DictionaryWorld::englishTemplate);
+  EXPECT_TRUE(entryNames(controller).empty());
+  EXPECT_FALSE(controller.selectedDictionary());
+}
+
+}  // namespace
+}  // namespace tarvo::test

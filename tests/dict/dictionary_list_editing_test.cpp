@@ -1,0 +1,324 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "dict/dictionary_list_editing.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/dict/style_pane_world.h"
+
+namespace tarvo::test {
+namespace {
+
+const Names abc{"a.TRet", "b.TRet", "c.TRet"};
+
+Names numbered(int count) {
+  Names names;
+  for (int i = 0; i < count; ++i) names.push_back("n" + std::to_string(10 + i) + ".TRet");
+  return names;
+}
+
+struct Buttons {
+  bool load, up, down, remove;
+  friend bool operator==(const Buttons&, const Buttons&) = default;
+};
+std::ostream& operator<<(std::ostream& out, const Buttons& buttons) {
+  return out << "load " << buttons.load << ", up " << buttons.up << ", down " << buttons.down << ", remove "
+             << buttons.remove;
+}
+
+Buttons ejButtons(const ListOutlets& outlets) {
+  return {outlets.ejLoadDicButton.isEnabled(), outlets.ejRaiseDicButton.isEnabled(),
+          outlets.ejDownDicButton.isEnabled(), outlets.ejRemoveDicButton.isEnabled()};
+}
+Buttons jeButtons(const ListOutlets& outlets) {
+  return {outlets.jeLoadDicButton.isEnabled(), outlets.jeRaiseDicButton.isEnabled(),
+          outlets.jeDownDicButton.isEnabled(), outlets.jeRemoveDicButton.isEnabled()};
+}
+// A state that no update gives, so that an update is seen.
+void muddle(ListOutlets& outlets) {
+  for (Button* button : {&outlets.ejRaiseDicButton, &outlets.jeRaiseDicButton}) button->setEnabled(true);
+  for (Button* button : {&outlets.ejLoadDicButton, &outlets.ejDownDicButton, &outlets.ejRemoveDicButton,
+                         &outlets.jeLoadDicButton, &outlets.jeDownDicButton, &outlets.jeRemoveDicButton}) {
+    button->setEnabled(false);
+  }
+}
+constexpr Buttons muddled{false, true, false, false};
+
+TEST(DictionaryListEditing, everyDirectionButZeroIsJapaneseToEnglish) {
+  StylePaneWorld world;
+  EXPECT_EQ(&world.editing.getActiveDictController(0), &world.editing.ejTDController);
+  EXPECT_EQ(&world.editing.getActiveTableView(0), &world.outlets.ejTDTable);
+  for (const int direction : {1, 2, 100, -1}) {
+    EXPECT_EQ(&world.editing.getActiveDictController(direction), &world.editing.jeTDController) << direction;
+    EXPECT_EQ(&world.editing.getActiveTableView(direction), &world.outlets.jeTDTable) << direction;
+  }
+}
+
+TEST(SavingAList, changesNothingButTheDirectionsDictionaries) {
+  StylePaneWorld world;
+  world.openWithLists({"b.TRet", "a.TRet"}, {"j.TRet"});
+  const Dictionary before = world.styleOnDisk();
+  world.editing.ejTDController.updateDictionary({"a.TRet", "b.TRet"});
+  world.editing.writeUpdateDicTarvoPlist(0);
+  EXPECT_EQ(world.writes, 1);
+  Dictionary expected = before;
+  expected.dictionary(keyNameEJ)->set(keyNameTD, Array{"a.TRet", "b.TRet"});
+  EXPECT_EQ(world.styleOnDisk(), expected);
+}
+
+TEST(SavingAList, ofTheOtherDirectionTakesAnyCodeButZero) {
+  StylePaneWorld world;
+  world.openWithLists(abc, {"p.TRet", "q.TRet"});
+  world.editing.jeTDController.updateDictionary({"q.TRet"});
+  world.editing.ejTDController.clearInformation();
+  world.editing.writeUpdateDicTarvoPlist(7);
+  EXPECT_EQ(world.listOnDisk(keyNameJE), Array{"q.TRet"});
+  EXPECT_EQ(world.listOnDisk(keyNameEJ), arrayOf(abc));
+}
+
+TEST(SavingAList, thatIsEmptyRemovesTheKey) {
+  StylePaneWorld world;
+  world.openWithLists(abc, {});
+  world.editing.ejTDController.clearInformation();
+  world.editing.writeUpdateDicTarvoPlist(0);
+  EXPECT_EQ(world.writes, 1);
+  EXPECT_EQ(world.listOnDisk(keyNameEJ), Array{"(absent)"});
+  EXPECT_EQ(world.halfOnDisk(keyNameEJ).integerValue("Opt1"), 1);
+}
+
+TEST(SavingAList, intoARecordWithoutTheDirectionWritesItBackAsItIs) {
+  StylePaneWorld world;
+  Dictionary divider;
+  divider.set(keyNameName, "----");
+  world.open({divider});
+  world.put({"a.TRet"});
+  world.showLists({"a.TRet"}, {});
+  world.editing.writeUpdateDicTarvoPlist(0);
+  EXPECT_EQ(world.writes, 1);
+  EXPECT_EQ(world.styleOnDisk(), divider);
+}
+
+TEST(SavingAList, withoutAShownStyleChangesAndWritesNothing) {
+  StylePaneWorld world;
+  world.openWithLists(abc, {});
+  world.editing.ejTDController.clearInformation();
+  for (const int index : {-1, 1}) {
+    world.menu.stylePopup.setItems(std::vector<PopUpButton::Item>(2));
+    world.menu.stylePopup.selectItemAtIndex(index);
+    world.editing.writeUpdateDicTarvoPlist(0);
+  }
+  EXPECT_EQ(world.writes, 0);
+  EXPECT_EQ(world.listOnDisk(keyNameEJ), arrayOf(abc));
+}
+
+TEST(SavingAList, goesToTheStyleOfTheMenu) {
+  StylePaneWorld world;
+  Dictionary first, second;
+  first.set(keyNameEJ, Dictionary{});
+  second.set(keyNameEJ, Dictionary{});
+  world.open({first, second});
+  world.menu.stylePopup.selectItemAtIndex(1);
+  world.put({"a.TRet"});
+  world.showLists({"a.TRet"}, {});
+  world.editing.writeUpdateDicTarvoPlist(0);
+  EXPECT_EQ(world.store.getStyleAtIndex(0), first);
+  EXPECT_NE(world.store.getStyleAtIndex(1), second);
+}
+
+struct ButtonCase {
+  int rows, selected;
+  Buttons buttons;
+};
+
+class ButtonStates : public testing::TestWithParam<ButtonCase> {};
+
+TEST_P(ButtonStates, followTheSelectedRowAndTheNumberOfRows) {
+  for (const int direction : {0, 1}) {
+    StylePaneWorld world;
+    world.openWithLists(numbered(GetParam().rows), numbered(GetParam().rows));
+    world.editing.getActiveTableView(direction).selectRows({GetParam().selected});
+    muddle(world.outlets);
+    world.editing.updateButton(direction);
+    EXPECT_EQ(direction == 0 ? ejButtons(world.outlets) : jeButtons(world.outlets), GetParam().buttons);
+    EXPECT_EQ(direction == 0 ? jeButtons(world.outlets) : ejButtons(world.outlets), muddled);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    DictionaryListEditing, ButtonStates,
+    testing::Values(ButtonCase{3, 0, {true, false, true, true}}, ButtonCase{3, 1, {true, true, true, true}},
+                    ButtonCase{3, 2, {true, true, false, true}}, ButtonCase{3, -1, {true, false, false, false}},
+                    ButtonCase{1, 0, {true, false, false, true}}, ButtonCase{0, -1, {true, false, false, false}},
+                    ButtonCase{7, -1, {true, false, false, false}}, ButtonCase{8, -1, {false, false, false, false}},
+                    ButtonCase{9, 4, {false, true, true, true}}));
+
+TEST(UpdatingButtons, takesTheTableByCodeAndTheButtonsByParity) {
+  StylePaneWorld world;
+  world.openWithLists(abc, {"j.TRet"});
+  world.outlets.jeTDTable.selectRows({0});
+  muddle(world.outlets);
+  world.editing.updateButton(2);
+  EXPECT_EQ(ejButtons(world.outlets), (Buttons{true, false, false, true})) << "of the Japanese table's one row";
+  EXPECT_EQ(jeButtons(world.outlets), muddled);
+  world.editing.updateButton(3);
+  EXPECT_EQ(jeButtons(world.outlets), (Buttons{true, false, false, true}));
+}
+
+TEST(UpdatingButtons, ofAnotherCodeDoesNothing) {
+  StylePaneWorld world;
+  world.openWithLists(abc, abc);
+  muddle(world.outlets);
+  for (const int code : {-1, 6, 20, 100}) world.editing.updateButton(code);
+  EXPECT_EQ(ejButtons(world.outlets), muddled);
+  EXPECT_EQ(jeButtons(world.outlets), muddled);
+}
+
+TEST(MovingARow, upSelectsItAtItsNewPlaceAndSaves) {
+  StylePaneWorld world;
+  world.openWithLists(abc, {});
+  world.outlets.ejTDTable.selectRows({2});
+  world.editing.raiseUpTD(0);
+  const Names moved{"a.TRet", "c.TRet", "b.TRet"};
+  EXPECT_EQ(loadedOf(world.editing.ejTDController), moved);
+  EXPECT_EQ(world.outlets.ejTDTable.selectedRows(), std::vector<int>{1});
+  EXPECT_EQ(world.writes, 1);
+  EXPECT_EQ(world.listOnDisk(keyNameEJ), arrayOf(moved));
+  EXPECT_EQ(ejButtons(world.outlets), (Buttons{true, true, true, true}));
+}
+
+TEST(MovingARow, downToTheEndTurnsTheDownButtonOff) {
+  StylePaneWorld world;
+  world.openWithLists({}, abc);
+  world.outlets.jeTDTable.selectRows({1});
+  world.editing.raiseDownTD(1);
+  EXPECT_EQ(world.listOnDisk(keyNameJE), (Array{"a.TRet", "c.TRet", "b.TRet"}));
+  EXPECT_EQ(world.outlets.jeTDTable.selectedRows(), std::vector<int>{2});
+  EXPECT_EQ(jeButtons(world.outlets), (Buttons{true, true, false, true}));
+}
+
+TEST(MovingARow, withoutARowOrBeyondAnEndDoesNothing) {
+  StylePaneWorld world;
+  world.openWithLists(abc, {});
+  world.editing.raiseUpTD(0);
+  world.editing.raiseDownTD(0);
+  world.editing.removeTD(0);
+  world.editing.raiseUpTD(1);
+  world.outlets.ejTDTable.selectRows({0});
+  world.editing.raiseUpTD(0);
+  world.outlets.ejTDTable.selectRows({2});
+  world.editing.raiseDownTD(0);
+  EXPECT_EQ(loadedOf(world.editing.ejTDController), abc);
+  EXPECT_EQ(world.writes, 0);
+}
+
+TEST(MovingARow, ofATableThatShowsMoreThanIsLoadedDoesNothing) {
+  StylePaneWorld world;
+  world.openWithLists(abc, {});
+  world.outlets.ejTDTable.selectRows({2});
+  world.take("b.TRet");
+  world.editing.ejTDController.updateAllDictionary();
+  world.editing.raiseUpTD(0);
+  world.editing.removeTD(0);
+  EXPECT_EQ(loadedOf(world.editing.ejTDController), (Names{"a.TRet", "c.TRet"}));
+  EXPECT_EQ(world.writes, 0);
+}
+
+TEST(RemovingARow, keepsThePlaceSelectedWhileThereIsARowAtIt) {
+  StylePaneWorld world;
+  world.openWithLists(abc, {});
+  world.outlets.ejTDTable.selectRows({1});
+  world.editing.removeTD(0);
+  EXPECT_EQ(world.listOnDisk(keyNameEJ), (Array{"a.TRet", "c.TRet"}));
+  EXPECT_EQ(world.writes, 1);
+  EXPECT_EQ(world.outlets.ejTDTable.selectedRow(), 1);
+  EXPECT_EQ(ejButtons(world.outlets), (Buttons{true, true, false, true}));
+}
+
+TEST(RemovingARow, atTheEndLeavesNothingSelected) {
+  StylePaneWorld world;
+  world.openWithLists(abc, {});
+  world.outlets.ejTDTable.selectRows({2});
+  world.editing.removeTD(0);
+  EXPECT_EQ(world.outlets.ejTDTable.selectedRow(), -1);
+  EXPECT_EQ(ejButtons(world.outlets), (Buttons{true, false, false, false}));
+}
+
+TEST(RemovingARow, thatIsTheOnlyOneRemovesTheListFromTheStyle) {
+  StylePaneWorld world;
+  world.openWithLists({}, {"a.TRet"});
+  world.outlets.jeTDTable.selectRows({0});
+  world.editing.removeTD(1);
+  EXPECT_EQ(world.listOnDisk(keyNameJE), Array{"(absent)"});
+  EXPECT_EQ(world.outlets.jeTDTable.reportedRows(), -1);
+  EXPECT_EQ(world.outlets.jeTDTable.numberOfRows(), 0);
+  EXPECT_EQ(jeButtons(world.outlets), (Buttons{true, false, false, false}));
+}
+
+TEST(RemovingARow, turnsLoadingOnOnlyBelowTheLimit) {
+  StylePaneWorld world;
+  world.openWithLists(numbered(10), {});
+  for (const bool canLoad : {false, false, true}) {
+    world.outlets.ejTDTable.selectRows({0});
+    world.editing.removeTD(0);
+    EXPECT_EQ(world.outlets.ejLoadDicButton.isEnabled(), canLoad) << world.outlets.ejTDTable.numberOfRows();
+  }
+}
+
+TEST(RemovingARow, dropsOthersWhoseFilesWentAway) {
+  StylePaneWorld world;
+  world.openWithLists(abc, {});
+  world.take("c.TRet");
+  world.outlets.ejTDTable.selectRows({0});
+  world.editing.removeTD(0);
+  EXPECT_EQ(world.listOnDisk(keyNameEJ), Array{"b.TRet"});
+}
+
+TEST(ChoosingATab, keepsTheStateOfBothDirections) {
+  StylePaneWorld world;
+  world.openWithLists(abc, abc);
+  const auto choose = [&](const char* key) { world.editing.didSelectTabViewItem(world.texts.localized(key)); };
+  EXPECT_EQ(world.editing.baseTabKey(), 0);
+  EXPECT_EQ(world.editing.currentTabKey(), 1);
+  EXPECT_EQ(world.editing.currentEJKey(), 1);
+  EXPECT_EQ(world.editing.currentJEKey(), 1);
+
+  choose("JETab");
+  EXPECT_EQ(world.editing.baseTabKey(), 100);
+  EXPECT_EQ(world.editing.currentTabKey(), 101);
+  choose("UDTab");
+  EXPECT_EQ(world.editing.currentJEKey(), 2);
+  EXPECT_EQ(world.editing.currentEJKey(), 1);
+  EXPECT_EQ(world.editing.currentTabKey(), 102);
+  choose("EJTab");
+  EXPECT_EQ(world.editing.baseTabKey(), 0);
+  EXPECT_EQ(world.editing.currentTabKey(), 1);
+  choose("UTMATab");
+  EXPECT_EQ(world.editing.currentTabKey(), 3);
+  choose("TDTab");
+  EXPECT_EQ(world.editing.currentTabKey(), 1);
+  choose("JETab");
+  EXPECT_EQ(world.editing.currentTabKey(), 102);
+}
+
+TEST(ChoosingATab, updatesTheButtonsOfItsDirection) {
+  StylePaneWorld world;
+  world.openWithLists(abc, abc);
+  muddle(world.outlets);
+  world.editing.didSelectTabViewItem(world.texts.localized("JETab"));
+  EXPECT_EQ(jeButtons(world.outlets), (Buttons{true, false, false, false}));
+  EXPECT_EQ(ejButtons(world.outlets), muddled);
+  world.editing.didSelectTabViewItem(world.texts.localized("EJTab"));
+  EXPECT_EQ(ejButtons(world.outlets), (Buttons{true, false, false, false}));
+}
+
+TEST(ChoosingATab, knowsItByItsTextAndNotByItsKey) {
+  StylePaneWorld world;
+  world.openWithLists(abc, abc);
+  world.editing.didSelectTabViewItem("JETab");
+  EXPECT_EQ(world.editing.baseTabKey(), 0);
+  world.editing.didSelectTabViewItem("something else");
+  EXPECT_EQ(world.editing.currentTabKey(), 1);
+}
+
+}  // namespace
+}  // namespace tarvo::test

@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "install/tool_list_file.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cstdio>
+
+#include "platform/common_module.h"
+#include "platform/locations.h"
+#include "platform/posix/posix_files.h"
+#include "platform/product_paths.h"
+#include "platform/user_defaults.h"
+#include "tests/support/temporary_folder.h"
+
+namespace tarvo::test {
+namespace {
+
+constexpr const char* listFile = "Users/taro/Library/Preferences/Wordhaven/TarvoManager.txt";
+constexpr const char* listFolder = "Users/taro/Library/Preferences/Wordhaven";
+
+// Notes each write of a file beside what the settings tell.
+class NotingFiles : public PosixFiles {
+ public:
+  NotingFiles(const Locations& locations, std::string& log) : PosixFiles(locations), log_(log) {}
+  bool write(const std::string& path, std::string_view bytes) override {
+    log_ += "write:" + path.substr(path.rfind('/') + 1) + " ";
+    return PosixFiles::write(path, bytes);
+  }
+
+ private:
+  std::string& log_;
+};
+
+class ToolList : public testing::Test {
+ protected:
+  ToolList() {
+    folder.makeFolder(listFolder);
+    std::vector<PopUpButton::Item> items;
+    for (const char* title : {"MG", "TX", "UD", "TM", "TL", "NP", "QB"}) items.push_back({.title = title});
+    outlets.officeToolPopup.setItems(items);
+    defaults.observer = [this](std::string_view key, const PropertyList*) {
+      log += key.empty() ? "flush " : std::string(key) + " ";
+    };
+  }
+  void choose(int index) {
+    outlets.officeToolPopup.selectItemAtIndex(index);
+    toolList.changeOfficeTool();
+  }
+  std::string written() const { return folder.read(listFile); }
+  std::string lastLines() const { return written().substr(written().find("Tool_Path=")); }
+
+  TemporaryFolder folder;
+  std::string log;
+  Locations locations{folder.path(), folder / "Users/taro"};
+  NotingFiles files{locations, log};
+  ProductPaths paths{locations, Dictionary{}};
+  std::unique_ptr<TarvoCommonModule> module = std::make_unique<TarvoCommonModule>(paths);
+  UserDefaults defaults{files, "/Users/taro/Library/Preferences/manager.plist"};
+  ToolListOutlets outlets;
+  ToolListFile toolList{files, defaults, module, outlets, "/Users/taro/Library/Preferences/Wordhaven/TarvoManager.txt"};
+};
+
+TEST_F(ToolList, isEightLinesInOneFixedForm) {
+  choose(0);
+  const std::string expected =
+      "Server_Path=tTS8\r\n"
+      "Cache_Path=Macintosh HD:Users:taro:Library:Preferences:Wordhaven:Cache\r\n"
+      "Setting_Path=tSM8\r\n"
+      "Helpfile_Path=Macintosh HD:Applications:TarvoEiwa.localized:Contents:AddInHelp:index.htm\r\n"
+      "Tool_Name=MG\r\n"
+      "Tool_Path=tMG8\r\n"
+      "Tool_Action=1\r\n"
+      "Tool_Parameter=fileTranslate\r\n";
+  EXPECT_EQ(written(), expected);
+  EXPECT_EQ(written().size(), 274U);
+  EXPECT_EQ(std::count(expected.begin(), expected.end(), '\n'), 8);
+}
+
+TEST_F(ToolList, namesCodeActionAndParameterOfEachTool) {
+  const char* const lines[] = {"Tool_Path=tMG8\r\nTool_Action=1\r\nTool_Parameter=fileTranslate\r\n",
+                               "Tool_Path=tTX8\r\nTool_Action=1\r\nTool_Parameter=fileTranslate\r\n",
+                               "Tool_Path=tUD8\r\nTool_Action=2\r\nTool_Parameter=doSearch\r\n",
+                               "Tool_Path=tTM8\r\nTool_Action=0\r\nTool_Parameter=\r\n",
+                               "Tool_Path=tTL8\r\nTool_Action=0\r\nTool_Parameter=\r\n",
+                               "Tool_Path=tNP8\r\nTool_Action=0\r\nTool_Parameter=\r\n",
+                               "Tool_Path=tQB8\r\nTool_Action=0\r\nTool_Parameter=\r\n"};
+  for (int index = 0; index < 7; ++index) {
+    choose(index);
+    EXPECT_EQ(lastLines(), lines[index]) << index;
+  }
+}
+
+TEST_F(ToolList, aToolWithoutActionIsWrittenShorterThanItIsRemembered) {
+  choose(3);
+  EXPECT_EQ(written().size(), 261U);
+  EXPECT_EQ(*defaults.find("Tool_Parameter"), PropertyList(" "));
+  EXPECT_EQ(*defaults.find("Tool_Action"), PropertyList(0));
+}
+
+TEST_F(ToolList, theChoiceIsRememberedBeforeTheFileIsWritten) {
+  choose(2);
+  EXPECT_EQ(log, "Tool_Name Tool_Path Tool_Action Tool_Parameter flush write:manager.plist write:TarvoManager.txt ");
+  EXPECT_EQ(*defaults.find("Tool_Name"), PropertyList("UD"));
+  EXPECT_EQ(*defaults.find("Tool_Path"), PropertyList("tUD8"));
+  EXPECT_EQ(*defaults.find("Tool_Action"), PropertyList(2));
+  EXPECT_EQ(*defaults.find("Tool_Parameter"), PropertyList("doSearch"));
+  const UserDefaults anotherRun(files, "/Users/taro/Library/Preferences/manager.plist");
+  EXPECT_EQ(*anotherRun.find("Tool_Action"), PropertyList(2));
+}
+
+// What another encoder makes of a text in UTF-8.
+std::string convertedByIconv(const TemporaryFolder& folder, const std::string& text) {
+  folder.write("utf8.txt", text);
+  const std::string command = "iconv -f UTF-8 -t CP932 '" + folder / "utf8.txt" + "' > '" + folder / "cp932.txt" + "'";
+  if (std::system(command.c_str()) != 0) return "iconv failed";
+  return folder.read("cp932.txt");
+}
+
+TEST_F(ToolList, theTitleIsWrittenInShiftJisAsOtherProgramsWriteIt) {
+  // 表, ソ and 能 have a backslash as their second byte; the half-width letters take one byte each.
+  for (const char* title : {"翻訳エディタ", "表示 ソフト 能", "ﾂｰﾙ", "①髙～"}) {
+    outlets.officeToolPopup.setItemTitle(0, title);
+    choose(0);
+    EXPECT_NE(written().find(convertedByIconv(folder, "\r\nTool_Name=" + std::string(title) + "\r\n")),
+              std::string::npos)
+        << title;
+  }
+}
+
+TEST_F(ToolList, aCharacterThatShiftJisLacksBecomesAQuestionMark) {
+  outlets.officeToolPopup.setItemTitle(0, "한글 é 😀 x");
+  choose(0);
+  EXPECT_NE(written().find("\r\nTool_Name=?? ? ? x\r\n"), std::string::npos);
+}
+
+TEST_F(ToolList, onlyTheParameterIsTrimmedAndNoValueIsReadAsAFormat) {
+  outlets.officeToolPopup.setItemTitle(0, " %@ %s=");
+  choose(0);
+  EXPECT_NE(written().find("\r\nTool_Name= %@ %s=\r\n"), std::string::npos);
+  EXPECT_EQ(*defaults.find("Tool_Name"), PropertyList(" %@ %s="));
+}
+
+TEST_F(ToolList, replacesALongerFileWhole) {
+  folder.write(listFile, std::string(5000, 'x'));
+  choose(0);
+  EXPECT_EQ(written().size(), 274U);
+}
+
+TEST_F(ToolList, isWrittenAnewThoughNothingChanged) {
+  choose(0);
+  const std::string before = written();
+  struct stat first {
+  }, second{};
+  ASSERT_EQ(::stat((folder / listFile).c_str(), &first), 0);
+  log.clear();
+  toolList.writeOffieTool();
+  ASSERT_EQ(::stat((folder / listFile).c_str(), &second), 0);
+  EXPECT_EQ(written(), before);
+  EXPECT_NE(first.st_ino, second.st_ino);
+  EXPECT_EQ(log, "Tool_Name Tool_Path Tool_Action Tool_Parameter flush write:TarvoManager.txt ");
+}
+
+TEST_F(ToolList, withoutItsFolderIsNotWrittenAndTheFolderNotMade) {
+  ASSERT_TRUE(files.remove("/Users/taro/Library/Preferences/Wordhaven"));
+  choose(2);
+  EXPECT_FALSE(folder.exists(listFolder));
+  EXPECT_EQ(*defaults.find("Tool_Path"), PropertyList("tUD8"));
+}
+
+TEST_F(ToolList, keepsTheOldFileWhenItCannotBeReplaced) {
+  folder.makeFolder(std::string(listFile) + "/folder in the way");
+  choose(2);
+  EXPECT_EQ(folder.names(listFolder), std::vector<std::string>{"TarvoManager.txt"}) << "no temporary file stays";
+  EXPECT_TRUE(folder.exists(std::string(listFile) + "/folder in the way"));
+  EXPECT_EQ(*defaults.find("Tool_Path"), PropertyList("tUD8"));
+}
+
+TEST_F(ToolList, withoutAKnownChoiceStoresAndWritesNothing) {
+  outlets.officeToolPopup.setItems(std::vector<PopUpButton::Item>(9));
+  for (const int index : {-1, 7, 8}) choose(index);
+  EXPECT_EQ(log, "");
+  EXPECT_FALSE(folder.exists(listFile));
+}
+
+TEST_F(ToolList, theCachePathFollowsTheConfiguration) {
+  Dictionary configuration;
+  configuration.set("preferencesWordhavenCache", "/Volumes/Data/Cache:1");
+  configuration.set("VolumeName", "Boot");
+  const ProductPaths configured(locations, configuration);
+  module = std::make_unique<TarvoCommonModule>(configured);
+  choose(0);
+  EXPECT_NE(written().find("\r\nCache_Path=Data:Cache/1\r\n"), std::string::npos);
+  EXPECT_NE(written().find("\r\nHelpfile_Path=Boot:Applications:"), std::string::npos);
+}
+
+TEST_F(ToolList, restoringSelectsTheStoredTool) {
+  for (std::size_t i = 0; i < gAppCreatorArray.size(); ++i) {
+    defaults.set("Tool_Path", gAppCreatorArray[i]);
+    toolList.restoreTool();
+    EXPECT_EQ(outlets.officeToolPopup.indexOfSelectedItem(), static_cast<int>(i));
+  }
+}
+
+TEST_F(ToolList, restoringTakesTheFirstToolWhenNoneIsStored) {
+  outlets.officeToolPopup.selectItemAtIndex(4);
+  toolList.restoreTool();
+  EXPECT_EQ(outlets.officeToolPopup.indexOfSelectedItem(), 0);
+}
+
+TEST_F(ToolList, restoringAnUnknownToolLeavesTheChoiceAlone) {
+  outlets.officeToolPopup.selectItemAtIndex(4);
+  for (const char* code : {"tXX8", "tmg8", ""}) {
+    defaults.set("Tool_Path", code);
+    toolList.restoreTool();
+    EXPECT_EQ(outlets.officeToolPopup.indexOfSelectedItem(), 4) << code;
+  }
+}
+
+TEST_F(ToolList, restoringReadsAStoredValueOfAnotherKindAsNone) {
+  outlets.officeToolPopup.selectItemAtIndex(4);
+  defaults.set("Tool_Path", 3);
+  toolList.restoreTool();
+  EXPECT_EQ(outlets.officeToolPopup.indexOfSelectedItem(), 0);
+}
+
+}  // namespace
+}  // namespace tarvo::test
