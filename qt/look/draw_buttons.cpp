@@ -17,8 +17,13 @@ bool is(const QStyleOption& option, QStyle::StateFlag flag) { return option.stat
 QColor pushed(const QStyleOption& option, const QColor& plate) {
   const QColor ink = option.palette.color(QPalette::ButtonText);
   if (!is(option, QStyle::State_Enabled)) return plate;
-  if (is(option, QStyle::State_Sunken) || is(option, QStyle::State_On)) return mixed(plate, ink, 0.12);
+  if (is(option, QStyle::State_Sunken)) return mixed(plate, ink, 0.12);
   return is(option, QStyle::State_MouseOver) ? mixed(plate, ink, 0.05) : plate;
+}
+
+QColor pushedOrOn(const QStyleOption& option, const QColor& plate) {
+  const QColor ink = option.palette.color(QPalette::ButtonText);
+  return pushed(option, is(option, QStyle::State_On) ? mixed(plate, ink, 0.09) : plate);
 }
 
 bool isAccented(const QStyleOptionButton& button) {
@@ -48,7 +53,8 @@ bool drawPushButtonPlate(QPainter& painter, const QStyleOption& option, const QW
     return true;
   }
   const QColor plate = option.palette.color(QPalette::Button);
-  drawPlate(painter, option.rect, metrics::controlRadius, pushed(option, plate), option.palette.color(QPalette::Mid));
+  drawPlate(painter, option.rect, metrics::controlRadius, pushedOrOn(option, plate),
+            option.palette.color(QPalette::Mid));
   if (showsFocus(option)) drawFocusRing(painter, option.rect, metrics::controlRadius, option.palette);
   return true;
 }
@@ -77,7 +83,7 @@ bool drawToolButtonPlate(QPainter& painter, const QStyleOption& option, const QW
   const bool isRaised = !is(option, QStyle::State_AutoRaise);
   const QColor plate = option.palette.color(isRaised ? QPalette::Button : QPalette::Window);
   const QColor border = isRaised ? option.palette.color(QPalette::Mid) : QColor();
-  drawPlate(painter, option.rect, metrics::controlRadius, pushed(option, plate), border);
+  drawPlate(painter, option.rect, metrics::controlRadius, pushedOrOn(option, plate), border);
   return true;
 }
 

@@ -3,7 +3,6 @@
 #include "qt/look/fonts.h"
 
 #include <QFontDatabase>
-#include <QGuiApplication>
 #include <QStringList>
 #include <algorithm>
 
@@ -11,19 +10,17 @@ namespace tarvo {
 namespace {
 
 QStringList candidates(bool japanese) {
-  if (japanese)
-    return {"Noto Sans CJK JP", "Noto Sans JP", "Hiragino Sans", "Yu Gothic UI",
-            "IPAexGothic",      "IPAPGothic",   "VL PGothic"};
-  return {"Noto Sans", "Open Sans", "Helvetica Neue", "Segoe UI", "DejaVu Sans"};
+  if (japanese) return {"Noto Sans CJK JP", "Noto Sans JP", "IPAexGothic", "IPAPGothic", "VL PGothic"};
+  return {"Noto Sans", "Open Sans", "DejaVu Sans"};
 }
 
 // The first installed family; for Japanese any family that the system knows to hold it comes before giving up.
 QString installed(bool japanese) {
   for (const QString& family : candidates(japanese))
     if (QFontDatabase::hasFamily(family)) return family;
-  if (!japanese) return QGuiApplication::font().family();
+  if (!japanese) return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
   const QStringList able = QFontDatabase::families(QFontDatabase::Japanese);
-  return able.isEmpty() ? QGuiApplication::font().family() : able.front();
+  return able.isEmpty() ? QFontDatabase::systemFont(QFontDatabase::GeneralFont).family() : able.front();
 }
 
 double scale() {
@@ -36,7 +33,7 @@ double scale() {
 
 QFont applicationFont(const std::string& language) {
   const bool japanese = language.starts_with("ja");
-  QFont font = QGuiApplication::font();
+  QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
   font.setFamilies({installed(japanese), installed(!japanese)});
   font.setPointSizeF(std::max(10.0, font.pointSizeF()) * scale());
   return font;

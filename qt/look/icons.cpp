@@ -12,11 +12,15 @@
 namespace tarvo {
 namespace {
 
-constexpr char neutralInk[] = "#3A4250", lightInk[] = "#D5DAE3";
+struct Ink {
+  const char *light, *dark;
+};
+constexpr Ink inks[] = {{"#3A4250", "#D5DAE3"}, {"#2F6FED", "#5B93FF"}};
 
 QByteArray recoloured(QByteArray drawing, Scheme scheme) {
   if (scheme == Scheme::light) return drawing;
-  return drawing.replace(neutralInk, lightInk).replace(QByteArray(neutralInk).toLower(), lightInk);
+  for (const auto& [light, dark] : inks) drawing.replace(light, dark).replace(QByteArray(light).toLower(), dark);
+  return drawing;
 }
 
 // One drawing, parsed at its first use.

@@ -46,7 +46,7 @@ inline constexpr int toolbarItemGap = 4;
 // Lists: icon 16 by 16 after a margin of 3, text after a further 3.
 inline constexpr int cellIcon = 16;
 inline constexpr int cellMargin = 3;
-inline constexpr int minimumRowHeight = 24;
+inline constexpr int minimumRowHeight = 28;
 inline constexpr int listPadding = 4;  // frame of a list to its rows
 
 // Corner radii.
@@ -58,6 +58,7 @@ constexpr int onGrid(int length) { return (length + grid - 1) / grid * grid; }
 
 inline int controlHeight(const QFontMetrics& font) { return std::max(minimumControlHeight, onGrid(font.height() + 8)); }
 inline int checkBoxSize(const QFontMetrics& font) { return std::max(minimumCheckBoxSize, onGrid(font.ascent() - 2)); }
-inline int rowHeight(const QFontMetrics& font) { return std::max(minimumRowHeight, onGrid(font.height() + 4)); }
+inline int rowHeight(const QFontMetrics& font) { return std::max(minimumRowHeight, onGrid(font.height() + 8)); }
+inline int menuItemHeight(const QFontMetrics& font) { return onGrid(font.height() + 4); }
 
 }  // namespace tarvo::metrics

@@ -101,7 +101,13 @@ QSize menuItemSize(const QStyleOptionMenuItem& item, QSize contents) {
   if (item.maxIconWidth > 0) width += metrics::cellIcon + metrics::checkBoxGap;
   if (item.menuItemType == QStyleOptionMenuItem::SubMenu) width += metrics::menuMark;
   if (item.reservedShortcutWidth > 0 || item.text.contains(QLatin1Char('\t'))) width += 6 * metrics::grid;
-  return {width, metrics::rowHeight(item.fontMetrics)};
+  return {width, metrics::menuItemHeight(item.fontMetrics)};
+}
+
+QSize comboSize(const QStyleOption& option, QSize contents) {
+  const int slack = option.fontMetrics.height() / 4;  // the contents are measured by their ink, drawn by their advance
+  return {metrics::fieldPadding + 2 + contents.width() + slack + metrics::popUpArrowWidth,
+          metrics::controlHeight(option.fontMetrics)};
 }
 
 QSize pushButtonSize(const QStyleOptionButton& button, QSize contents) {
@@ -180,9 +186,7 @@ std::optional<QSize> sizeOf(QStyle::ContentsType type, const QStyleOption* optio
       if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))
         return menuItemSize(*item, contents);
       break;
-    case QStyle::CT_ComboBox:
-      return QSize(contents.width() + metrics::fieldPadding + 2 + metrics::popUpArrowWidth,
-                   metrics::controlHeight(option->fontMetrics));
+    case QStyle::CT_ComboBox: return comboSize(*option, contents);
     case QStyle::CT_LineEdit: return QSize(contents.width(), metrics::controlHeight(option->fontMetrics));
     case QStyle::CT_MenuBarItem: return contents + QSize(5 * metrics::grid, 2 * metrics::grid);
     default: break;

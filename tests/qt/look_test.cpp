@@ -1,0 +1,310 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPixmap>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionSlider>
+#include <QTabBar>
+#include <QTableWidget>
+#include <QToolBar>
+#include <QToolButton>
+#include <functional>
+#include <memory>
+
+#include "qt/look/fonts.h"
+#include "qt/look/metrics.h"
+#include "qt/look/palette.h"
+#include "qt/look/plate.h"
+#include "qt/look/segment.h"
+#include "qt/look/tarvo_style.h"
+
+namespace tarvo {
+namespace {
+
+QStyle& style() { return *QApplication::style(); }
+
+QImage picture(QWidget& widget, QSize size) {
+  widget.resize(size);
+  QImage image(size, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::white);
+  widget.render(&image);
+  return image;
+}
+
+int pixels(const QImage& image, const std::function<bool(const QColor&)>& wanted) {
+  int count = 0;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) count += wanted(image.pixelColor(x, y)) ? 1 : 0;
+  return count;
+}
+
+bool isRed(const QColor& color) { return color.red() - color.green() > 60 && color.red() - color.blue() > 60; }
+
+// --- Text has room -------------------------------------------------------------------------------------------------
+
+struct Kind {
+  const char* name;
+  std::unique_ptr<QWidget> (*make)(const QString& text);
+};
+
+std::unique_ptr<QWidget> popUp(const QString& text) {
+  auto combo = std::make_unique<QComboBox>();
+  combo->addItem(text);
+  return combo;
+}
+
+std::unique_ptr<QWidget> toolbarItem(const QString& text) {
+  auto button = std::make_unique<QToolButton>();
+  button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+  button->setIconSize({metrics::toolbarIcon, metrics::toolbarIcon});
+  QPixmap drawing(metrics::toolbarIcon, metrics::toolbarIcon);  // without a picture the text would stand alone
+  drawing.fill(Qt::green);
+  button->setIcon(drawing);
+  button->setText(text);
+  return button;
+}
+
+std::unique_ptr<QWidget> segment(const QString& text) {
+  auto button = std::make_unique<QToolButton>();
+  button->setText(text);
+  makeSegment(*button, SegmentPlace::only);
+  return button;
+}
+
+std::unique_ptr<QWidget> tabs(const QString& text) {
+  auto bar = std::make_unique<QTabBar>();
+  bar->setDrawBase(false);
+  bar->addTab(text);
+  return bar;
+}
+
+std::unique_ptr<QWidget> menu(const QString& text) {
+  auto shown = std::make_unique<QMenu>();
+  shown->addAction(text);
+  return shown;
+}
+
+const Kind kinds[] = {
+    {"pushButton", [](const QString& text) -> std::unique_ptr<QWidget> { return std::make_unique<QPushButton>(text); }},
+    {"checkBox", [](const QString& text) -> std::unique_ptr<QWidget> { return std::make_unique<QCheckBox>(text); }},
+    {"popUp", popUp},
+    {"toolbarItem", toolbarItem},
+    {"segment", segment},
+    {"tabs", tabs},
+    {"menu", menu},
+};
+
+class TextRoom : public testing::TestWithParam<std::tuple<Kind, const char*, int>> {};
+
+// A text that is clipped or shortened at the size that the control asks for has less ink than with room to spare.
+TEST_P(TextRoom, aControlAsksForRoomForItsWholeText) {
+  const auto& [kind, language, percent] = GetParam();
+  const QString text =
+      qstrcmp(language, "ja") == 0 ? QStringLiteral("専門辞書の読み込みjg…") : QStringLiteral("Åjgy Load…");
+  const std::unique_ptr<QWidget> control = kind.make(text);
+  QFont font = applicationFont(language);
+  font.setPointSizeF(font.pointSizeF() * percent / 100);
+  control->setFont(font);
+  QPalette red = makePalette(Scheme::light);
+  for (const auto role : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text}) red.setColor(role, Qt::red);
+  control->setPalette(red);
+  control->ensurePolished();
+  const QSize wanted = control->sizeHint();
+  const int ink = pixels(picture(*control, wanted), isRed);
+  EXPECT_GT(ink, 50);
+  EXPECT_EQ(pixels(picture(*control, wanted + QSize(80, 40)), isRed), ink);
+}
+
+INSTANTIATE_TEST_SUITE_P(Controls, TextRoom,
+                         testing::Combine(testing::ValuesIn(kinds), testing::Values("en", "ja"),
+                                          testing::Values(100, 200)),
+                         [](const auto& row) {
+                           return std::string(std::get<0>(row.param).name) + std::get<1>(row.param) +
+                                  std::to_string(std::get<2>(row.param));
+                         });
+
+TEST(Metrics, heightsFollowTheFontOnTheGrid) {
+  for (const char* language : {"en", "ja"}) {
+    for (const int factor : {1, 2, 3}) {
+      QFont font = applicationFont(language);
+      font.setPointSizeF(font.pointSizeF() * factor);
+      const QFontMetrics text(font);
+      for (const int height : {metrics::controlHeight(text), metrics::rowHeight(text), metrics::checkBoxSize(text)})
+        EXPECT_EQ(height % metrics::grid, 0);
+      EXPECT_GE(metrics::controlHeight(text), text.height() + 8);
+      EXPECT_GE(metrics::rowHeight(text), text.height() + 8);
+    }
+  }
+}
+
+TEST(Metrics, controlsOfOneRowAreOfOneHeight) {
+  const QPushButton button(QStringLiteral("Edit…"));
+  const QComboBox combo;
+  const QLineEdit field;
+  EXPECT_EQ(button.sizeHint().height(), combo.sizeHint().height());
+  EXPECT_EQ(button.sizeHint().height(), field.sizeHint().height());
+  EXPECT_EQ(button.sizeHint().width(), metrics::buttonMinimumWidth);
+}
+
+TEST(Metrics, theToolbarsMarginsAreTheStyles) {
+  QToolBar bar;
+  QWidget& item = *toolbarItem(QStringLiteral("Mail")).release();
+  bar.addWidget(&item);
+  bar.setMovable(false);
+  bar.ensurePolished();
+  EXPECT_EQ(bar.iconSize(), QSize(metrics::toolbarIcon, metrics::toolbarIcon));
+  EXPECT_EQ(bar.sizeHint().height(), item.sizeHint().height() + 2 * metrics::toolbarMargin);
+  EXPECT_GE(item.sizeHint().width(), metrics::toolbarItemMinimumWidth);
+}
+
+// --- Habits --------------------------------------------------------------------------------------------------------
+
+TEST(Look, theDefaultButtonOfARowIsRightmostAndBare) {
+  QDialogButtonBox row(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  row.resize(400, row.sizeHint().height());
+  row.ensurePolished();
+  row.layout()->activate();
+  const QPushButton* ok = row.button(QDialogButtonBox::Ok);
+  EXPECT_GT(ok->x(), row.button(QDialogButtonBox::Cancel)->x());
+  EXPECT_TRUE(ok->icon().isNull());
+}
+
+TEST(Look, theWheelDoesNotChangePopUps) { EXPECT_EQ(style().styleHint(QStyle::SH_ComboBox_AllowWheelScrolling), 0); }
+
+TEST(Look, theStylesPaletteIsTheSchemes) {
+  EXPECT_EQ(style().standardPalette(), makePalette(Scheme::light));
+  EXPECT_EQ(TarvoStyle(Scheme::dark).standardPalette(), makePalette(Scheme::dark));
+}
+
+TEST(ScrollBar, theSliderRunsFromEndToEndWithoutArrows) {
+  QScrollBar bar(Qt::Vertical);
+  bar.setRange(0, 1000);
+  bar.setPageStep(10);
+  bar.resize(metrics::scrollBarExtent, 200);
+  QStyleOptionSlider option;
+  option.initFrom(&bar);
+  option.orientation = Qt::Vertical;
+  option.minimum = 0, option.maximum = 1000, option.pageStep = 10, option.upsideDown = false;
+  const auto part = [&](QStyle::SubControl sub) { return style().subControlRect(QStyle::CC_ScrollBar, &option, sub); };
+  for (const int position : {0, 500, 1000}) {
+    option.sliderPosition = position;
+    const QRect slider = part(QStyle::SC_ScrollBarSlider);
+    EXPECT_GE(slider.height(), 24);
+    EXPECT_EQ(part(QStyle::SC_ScrollBarSubPage).height() + slider.height() + part(QStyle::SC_ScrollBarAddPage).height(),
+              200);
+    EXPECT_EQ(slider.top() == 0, position == 0);
+    EXPECT_EQ(slider.bottom() == 199, position == 1000);
+  }
+  EXPECT_TRUE(part(QStyle::SC_ScrollBarAddLine).isEmpty());
+  EXPECT_TRUE(part(QStyle::SC_ScrollBarSubLine).isEmpty());
+}
+
+// --- Drawing -------------------------------------------------------------------------------------------------------
+
+TEST(Plate, borderIsOneSharpLineAtEveryScale) {
+  for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+    QImage image(QSizeF(40 * scale, 20 * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    drawPlate(painter, QRectF(3, 3, 34, 14), 4, Qt::green, Qt::red);
+    painter.end();
+    const int middle = image.height() / 2, line = static_cast<int>(scale);
+    int red = 0, other = 0;
+    for (int x = 0; x < image.width() / 2; ++x) {
+      const QColor color = image.pixelColor(x, middle);
+      red += color == QColor(Qt::red) ? 1 : 0;
+      other += color != QColor(Qt::red) && color != QColor(Qt::green) && color != QColor(Qt::white) ? 1 : 0;
+    }
+    EXPECT_EQ(red, line) << "at scale " << scale;
+    EXPECT_EQ(other, 0) << "half-covered pixels at scale " << scale;
+  }
+}
+
+TEST(Segments, placesFollowFromIndexAndCount) {
+  EXPECT_EQ(segmentPlaceOf(0, 1), SegmentPlace::only);
+  EXPECT_EQ(segmentPlaceOf(0, 3), SegmentPlace::first);
+  EXPECT_EQ(segmentPlaceOf(1, 3), SegmentPlace::middle);
+  EXPECT_EQ(segmentPlaceOf(2, 3), SegmentPlace::last);
+  const QToolButton button;
+  EXPECT_FALSE(segmentPlace(&button).has_value());
+  EXPECT_FALSE(segmentPlace(nullptr).has_value());
+}
+
+TEST(Segments, onlyTheEndsOfAControlAreRound) {
+  QToolButton piece;
+  const QColor track = makePalette(Scheme::light).color(QPalette::Mid);
+  const auto cornersAreSquare = [&](SegmentPlace place) {
+    makeSegment(piece, place);
+    const QImage image = picture(piece, {60, 44});
+    return std::pair(image.pixelColor(0, 0) == track, image.pixelColor(59, 0) == track);
+  };
+  EXPECT_EQ(cornersAreSquare(SegmentPlace::only), std::pair(false, false));
+  EXPECT_EQ(cornersAreSquare(SegmentPlace::first), std::pair(false, true));
+  EXPECT_EQ(cornersAreSquare(SegmentPlace::middle), std::pair(true, true));
+  EXPECT_EQ(cornersAreSquare(SegmentPlace::last), std::pair(true, false));
+}
+
+TEST(Segments, theChosenOneCarriesTheAccent) {
+  QToolButton piece;
+  makeSegment(piece, SegmentPlace::middle);
+  const QColor accent = makePalette(Scheme::light).color(QPalette::Highlight);
+  const auto accented = [&] { return pixels(picture(piece, {60, 44}), [&](const QColor& c) { return c == accent; }); };
+  EXPECT_EQ(accented(), 0);
+  piece.setChecked(true);
+  EXPECT_GT(accented(), 100);
+}
+
+TEST(CheckBox, isFilledWithTheAccentWhenOn) {
+  QCheckBox box;
+  const QColor accent = makePalette(Scheme::light).color(QPalette::Highlight);
+  const auto accented = [&] { return pixels(picture(box, {20, 20}), [&](const QColor& c) { return c == accent; }); };
+  EXPECT_EQ(accented(), 0);
+  box.setChecked(true);
+  EXPECT_GT(accented(), 100);
+}
+
+TEST(PushButton, theDefaultOneIsFilledWithTheAccentUnlessDisabled) {
+  QPushButton button(QStringLiteral("OK"));
+  const QColor accent = makePalette(Scheme::light).color(QPalette::Highlight);
+  const auto plate = [&] { return picture(button, {80, 28}).pixelColor(6, 14); };
+  EXPECT_NE(plate(), accent);
+  button.setDefault(true);
+  EXPECT_EQ(plate(), accent);
+  button.setEnabled(false);
+  EXPECT_NE(plate(), accent);
+}
+
+TEST(Table, theChosenRowIsOnePlateOverAllColumns) {
+  QTableWidget table(3, 3);
+  table.setSelectionBehavior(QAbstractItemView::SelectRows);
+  table.setShowGrid(false);
+  table.verticalHeader()->hide();
+  table.horizontalHeader()->hide();
+  const QImage plain = picture(table, {340, 120});
+  table.selectRow(1);
+  const QImage chosen = picture(table, {340, 120});
+  const int top = metrics::listPadding + table.rowViewportPosition(1);
+  const QColor plate = chosen.pixelColor(150, top + table.rowHeight(1) / 2);
+  EXPECT_NE(plate, plain.pixelColor(150, top + table.rowHeight(1) / 2));
+  for (const int column : {1, 2}) {
+    const int edge = metrics::listPadding + table.columnViewportPosition(column);
+    for (const int x : {edge - 1, edge}) EXPECT_EQ(chosen.pixelColor(x, top), plate) << "a gap at x = " << x;
+  }
+  EXPECT_NE(chosen.pixelColor(metrics::listPadding, top), plate) << "the row's own corner is round";
+  EXPECT_EQ(table.rowHeight(0), metrics::rowHeight(table.fontMetrics()));
+}
+
+}  // namespace
+}  // namespace tarvo
