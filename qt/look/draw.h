@@ -10,7 +10,7 @@ class QWidget;
 
 // One drawing per element.
 // Duty: paint what the option says, with the option's palette. Each returns false when it is not its case, so that the
-// style's base draws. Not: sizes and places of parts, which the style answers (tarvo_style.cpp).
+// style's base draws. Not: sizes and places of parts, which the style answers (style_metrics.h).
 namespace tarvo {
 
 using Draw = bool (*)(QPainter& painter, const QStyleOption& option, const QWidget* widget);

@@ -9,9 +9,8 @@
 // below and mixes them, nothing else in the shell names a colour. Not: fonts, sizes.
 // Contrast (WCAG 2.1 ratios): text at least 7:1 on each surface that carries it, PlaceholderText (which is also the
 // secondary text) at least 4.5:1, disabled text and the lines that show where a control is (Dark) at least 3:1.
-// Roles: Window = the pane; Base = lists and fields; Button = plates of buttons; Midlight = quiet plates (chosen
-// toolbar item, track of a segmented control); Mid = decorative lines; Dark = marks and borders that must be seen;
-// Highlight = the accent.
+// Roles: Window = the pane; Base = lists and fields; Button = plates of buttons; Midlight = the track of a
+// segmented control; Mid = decorative lines; Dark = marks and borders that must be seen; Highlight = the accent.
 namespace tarvo {
 
 enum class Scheme { light, dark };
