@@ -51,7 +51,7 @@ inline constexpr int listPadding = 4;  // frame of a list to its rows
 
 // Corner radii.
 inline constexpr double controlRadius = 6;
-inline constexpr double cardRadius = 8;  // lists, tool tips
+inline constexpr double cardRadius = 8;  // lists, toolbar items
 inline constexpr double checkRadius = 4;
 
 constexpr int onGrid(int length) { return (length + grid - 1) / grid * grid; }
