@@ -22,7 +22,7 @@ Names namesOf(const Array& list) {
   return names;
 }
 
-Array arrayOf(const Names& names) { return {names.begin(), names.end()}; }
+Array arrayOf(const Names& names) { return Array(names.begin(), names.end()); }
 
 }  // namespace
 

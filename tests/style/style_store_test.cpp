@@ -1,0 +1,272 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "style/style_store.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "platform/locations.h"
+#include "platform/plist_reader.h"
+#include "platform/plist_writer.h"
+#include "platform/posix/posix_files.h"
+#include "platform/user_defaults.h"
+#include "tests/support/fake_shell.h"
+#include "tests/support/sample_styles.h"
+#include "tests/support/temporary_folder.h"
+
+namespace tarvo::test {
+namespace {
+
+class StyleStoreTest : public testing::Test {
+ protected:
+  StyleStoreTest()
+      : locations_("/", folder_.path()), files_(locations_), defaults_(files_, folder_ / "defaults.plist") {
+    locations_.leaveAsIs(folder_.path());
+  }
+  StyleStore makeStore() { return {files_, engine_, defaults_, folder_ / "styles.plist", folder_ / "seed.plist"}; }
+  StyleStore storeOf(const Dictionary& root) {
+    folder_.write("styles.plist", writePropertyList(root));
+    StyleStore store = makeStore();
+    EXPECT_TRUE(store.readUserStyles());
+    store.currentID = "MG";
+    return store;
+  }
+  Dictionary onDisk() const {
+    const auto read = readPropertyList(folder_.read("styles.plist"));
+    return read && read->dictionary() != nullptr ? *read->dictionary() : Dictionary();
+  }
+
+  TemporaryFolder folder_;
+  Log log_;
+  Locations locations_;
+  PosixFiles files_;
+  FakeEngine engine_{log_};
+  UserDefaults defaults_;
+};
+
+TEST_F(StyleStoreTest, readsTheRootKeyForKeyAndTypeForType) { EXPECT_EQ(storeOf(sampleRoot()).root(), sampleRoot()); }
+
+TEST_F(StyleStoreTest, hasNoStylesInARootWithoutAnyOrWithAnEmptyArray) {
+  EXPECT_EQ(storeOf({}).getAllStyle(), nullptr);
+  Dictionary empty;
+  empty.set("Style", Array{});
+  EXPECT_EQ(storeOf(empty).getAllStyle(), nullptr);
+  EXPECT_EQ(storeOf(empty).getStyleAtIndex(0), std::nullopt);
+  EXPECT_EQ(storeOf(sampleRoot()).getAllStyle()->size(), 4U);
+}
+
+TEST_F(StyleStoreTest, givesNoRecordOutsideTheArray) {
+  const StyleStore store = storeOf(sampleRoot());
+  EXPECT_EQ(*store.getStyleAtIndex(3)->string("Name"), "Beta");
+  for (const int index : {-1, 4, -2147483647 - 1, 2147483647}) {
+    EXPECT_EQ(store.getStyleAtIndex(index), std::nullopt) << index;
+  }
+}
+
+TEST_F(StyleStoreTest, readsAWrongKindAsAbsentAndLeavesItInTheFile) {
+  Dictionary root = sampleRoot();
+  root.array("Style")->at(1) = "no record";
+  root.set("Selection", "no dictionary");
+  StyleStore store = storeOf(root);
+  EXPECT_EQ(store.getStyleAtIndex(1), std::nullopt);
+  EXPECT_EQ(store.getSelection(), nullptr);
+  EXPECT_EQ(store.selectedStyle(), 0);
+  store.setSelection(3);
+  EXPECT_EQ(onDisk(), root);
+}
+
+TEST_F(StyleStoreTest, keepsTheRecordOfTheMomentItWasPutBack) {
+  StyleStore store = storeOf(sampleRoot());
+  Dictionary record = *store.getStyleAtIndex(1);
+  record.dictionary("EJ")->set("Opt1", 2);
+  store.setStyle(1, record);
+  record.dictionary("EJ")->set("Opt1", 0);
+  EXPECT_EQ(store.getStyleAtIndex(1)->dictionary("EJ")->integerValue("Opt1"), 2);
+  store.setSelection(1);
+  EXPECT_EQ(onDisk().array("Style")->at(1).dictionary()->dictionary("EJ")->integerValue("Opt1"), 2);
+}
+
+TEST_F(StyleStoreTest, isUntouchedByARecordThatWasNotPutBack) {
+  StyleStore store = storeOf(sampleRoot());
+  Dictionary record = *store.getStyleAtIndex(1);
+  record.dictionary("JE")->set("TOpt1", 4);
+  store.setSelection(0);
+  EXPECT_EQ(onDisk(), sampleRoot());
+}
+
+TEST_F(StyleStoreTest, changesAndWritesNothingForAnIndexOutsideTheArray) {
+  StyleStore store = storeOf(sampleRoot());
+  folder_.write("styles.plist", "untouched");
+  store.setStyle(4, {});
+  store.setStyle(-1, {});
+  EXPECT_EQ(store.root(), sampleRoot());
+  EXPECT_EQ(folder_.read("styles.plist"), "untouched");
+}
+
+TEST_F(StyleStoreTest, remembersTheStyleOfTheCurrentToolAndKeepsTheOthers) {
+  StyleStore store = storeOf(sampleRoot());
+  store.setSelection(3);
+  EXPECT_EQ(onDisk().dictionary("Selection")->integerValue("MG"), 3);
+  EXPECT_EQ(onDisk().dictionary("Selection")->integerValue("QB"), 3);
+  EXPECT_EQ(onDisk().dictionary("Selection")->size(), 2U);
+}
+
+TEST_F(StyleStoreTest, storesNoSelectionWhereThereIsNoneButWritesAllTheSame) {
+  Dictionary root = sampleRoot();
+  root.remove("Selection");
+  StyleStore store = storeOf(root);
+  folder_.write("styles.plist", "old");
+  store.setSelection(3);
+  EXPECT_EQ(onDisk(), root);
+  EXPECT_EQ(store.selectedStyle(), 0);
+}
+
+TEST_F(StyleStoreTest, fillsMissingJapaneseOptionsInMemoryOnly) {
+  Dictionary root = sampleRoot();
+  root.array("Style")->at(1).dictionary()->set("JE", Dictionary());
+  StyleStore store = storeOf(root);
+  const std::string before = folder_.read("styles.plist");
+  store.fillInMissingOptions();
+  const Dictionary filled = *store.getStyleAtIndex(1)->dictionary("JE");
+  EXPECT_EQ(filled.size(), 5U);
+  EXPECT_EQ(*filled.find("TOpt1"), PropertyList(0));
+  EXPECT_EQ(*filled.find("TOpt2"), PropertyList(2));
+  EXPECT_EQ(*filled.find("TOpt3"), PropertyList(3));
+  EXPECT_EQ(*filled.find("TOpt4"), PropertyList(true));
+  EXPECT_EQ(*filled.find("TOpt5"), PropertyList(0));
+  EXPECT_EQ(folder_.read("styles.plist"), before);
+}
+
+TEST_F(StyleStoreTest, neitherChecksNorClampsPresentOptions) {
+  Dictionary root = sampleRoot();
+  Dictionary* je = root.array("Style")->at(1).dictionary()->dictionary("JE");
+  je->set("TOpt2", 0);
+  je->set("TOpt3", 9);
+  je->set("TOpt5", "x");
+  StyleStore store = storeOf(root);
+  store.fillInMissingOptions();
+  store.writeTarvoStylePlist();
+  EXPECT_EQ(onDisk(), root);
+}
+
+TEST_F(StyleStoreTest, givesEnglishOptionsAndTheDividerNoDefaults) {
+  Dictionary root = sampleRoot();
+  root.array("Style")->at(1).dictionary()->set("EJ", Dictionary());
+  StyleStore store = storeOf(root);
+  store.fillInMissingOptions();
+  EXPECT_TRUE(store.getStyleAtIndex(1)->dictionary("EJ")->empty());
+  EXPECT_EQ(store.getStyleAtIndex(2)->size(), 1U);
+}
+
+TEST_F(StyleStoreTest, registersNothingDuringStartUp) {
+  engine_.online = true;
+  StyleStore store = storeOf(sampleRoot());
+  store.setSelection(1);
+  EXPECT_TRUE(log_.empty());
+}
+
+TEST_F(StyleStoreTest, registersAllStylesAfterEachWriteAndKeepsTheStamp) {
+  engine_.online = true;
+  StyleStore store = storeOf(sampleRoot());
+  store.awakeFlag = false;
+  store.setSelection(1);
+  EXPECT_EQ(log_, (Log{"reachable", "register 4"}));
+  EXPECT_EQ(engine_.registered, *store.getAllStyle());
+  EXPECT_EQ(*defaults_.string("LastUpdate"), "U1");
+}
+
+TEST_F(StyleStoreTest, leavesTheStampAloneWhenTheEngineIsAway) {
+  defaults_.set("LastUpdate", "U0");
+  StyleStore store = storeOf(sampleRoot());
+  store.awakeFlag = false;
+  store.setSelection(1);
+  EXPECT_EQ(log_, Log{"unreachable"});
+  EXPECT_EQ(*defaults_.string("LastUpdate"), "U0");
+}
+
+TEST_F(StyleStoreTest, neverRegistersAFileWithoutStyles) {
+  engine_.online = true;
+  StyleStore store = storeOf({});
+  store.awakeFlag = false;
+  store.setSelection(0);
+  EXPECT_EQ(log_, Log{"reachable"});
+  EXPECT_EQ(defaults_.find("LastUpdate"), nullptr);
+}
+
+TEST_F(StyleStoreTest, asksTheEngineEvenAfterAFailedWriteAndWritesEverythingLater) {
+  StyleStore store = storeOf(sampleRoot());
+  store.awakeFlag = false;
+  files_.remove(folder_ / "styles.plist");
+  folder_.makeFolder("styles.plist/in the way");
+  Dictionary record = *store.getStyleAtIndex(0);
+  record.dictionary("EJ")->set("Opt1", 2);
+  store.setStyle(0, record);
+  EXPECT_FALSE(store.isSaved());
+  EXPECT_EQ(log_, Log{"unreachable"});
+  files_.remove(folder_ / "styles.plist");
+  record.dictionary("EJ")->set("Opt2", 2);
+  store.setStyle(0, record);
+  EXPECT_TRUE(store.isSaved());
+  const Dictionary* ej = onDisk().array("Style")->at(0).dictionary()->dictionary("EJ");
+  EXPECT_EQ(onDisk(), store.root());
+  EXPECT_NE(ej, nullptr);
+}
+
+TEST_F(StyleStoreTest, readsTheBinaryFormAndWritesTheReadableOne) {
+  // A dictionary {"Extra": "keep"} in the binary form.
+  const std::string binary = std::string(
+                                 "bplist00\xD1\x01\x02"
+                                 "UExtraTkeep\x08\x0B\x11",
+                                 24) +
+                             std::string(6, '\0') + std::string("\x01\x01", 2) + std::string(7, '\0') + "\x03" +
+                             std::string(8, '\0') + std::string(7, '\0') + "\x16";
+  folder_.write("styles.plist", binary);
+  StyleStore store = makeStore();
+  ASSERT_TRUE(store.readUserStyles());
+  EXPECT_EQ(*store.root().string("Extra"), "keep");
+  store.writeTarvoStylePlist();
+  EXPECT_EQ(folder_.read("styles.plist").substr(0, 5), "<?xml");
+}
+
+TEST_F(StyleStoreTest, keepsTheBytesThatItCouldNotReadBesideTheNewFile) {
+  folder_.write("styles.plist", "not a property list");
+  folder_.write("seed.plist", writePropertyList(sampleRoot()));
+  StyleStore store = makeStore();
+  EXPECT_FALSE(store.readUserStyles());
+  EXPECT_TRUE(store.readSeedStyles());
+  store.writeTarvoStylePlist();
+  EXPECT_EQ(onDisk(), sampleRoot());
+  EXPECT_EQ(folder_.read("styles.plist.unreadable"), "not a property list");
+}
+
+TEST_F(StyleStoreTest, joinsTheSameBytesAsAWholeEncodingAfterAnyEdits) {
+  StyleStore store = storeOf(sampleRoot());
+  std::mt19937 random(20260321);
+  for (int edit = 0; edit < 300; ++edit) {
+    const int index = static_cast<int>(random() % 4);
+    Dictionary record = *store.getStyleAtIndex(index);
+    record.set("k" + std::to_string(random() % 3), static_cast<int>(random() % 100));
+    switch (random() % 4) {
+      case 0: store.setSelection(index); break;
+      case 1: store.replaceStyles(*store.getAllStyle()); break;
+      default: store.setStyle(index, std::move(record));
+    }
+    if (random() % 4 != 1) store.writeTarvoStylePlist();
+    store.writeTarvoStylePlist();
+    ASSERT_EQ(folder_.read("styles.plist"), writePropertyList(store.root())) << edit;
+  }
+}
+
+TEST_F(StyleStoreTest, handsTheEngineEachRecordAsItStandsInTheFile) {
+  engine_.online = true;
+  StyleStore store = storeOf(sampleRoot());
+  store.awakeFlag = false;
+  store.setSelection(1);
+  const std::string file = folder_.read("styles.plist");
+  ASSERT_EQ(engine_.encoded.size(), 4U);
+  for (const std::string& record : engine_.encoded) EXPECT_NE(file.find(record), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tarvo::test
