@@ -134,7 +134,7 @@ def give_styles(root, count):
         plistlib.dump(styles, file)
 
 
-def edit_rows(_wanted):
+def edit_rows():
     for engine in ("local", "none"):
         root, floor = fresh_root("root"), WORK / "floor"
         shutil.rmtree(floor, ignore_errors=True)
@@ -154,7 +154,7 @@ def main(arguments):
     if wanted & {"start", "memory"}:
         start_rows(wanted)
     if "edit" in wanted:
-        edit_rows(wanted)
+        edit_rows()
 
 
 if __name__ == "__main__":
