@@ -54,7 +54,7 @@ class ScenarioSession {
   ScriptedEngine& engine();  // throws ScriptError where --engine named another one
 
   // A path of a script in the core's spelling: "root:/…", "home:/…", absolute, or relative to the script's folder.
-  std::string path(const std::string& text) const;
+  std::string path(const std::string& text);
 
  private:
   void drop();

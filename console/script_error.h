@@ -11,4 +11,7 @@ struct ScriptError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// Thrown out of a modal run in which the script ended; the interpreter knows why it did.
+struct Unfinished {};
+
 }  // namespace tarvo

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <ostream>
+#include <string>
+
+namespace tarvo {
+
+class Product;
+class RunLoop;
+
+// How a run of the tool ended, as its exit status.
+enum class ExitStatus { done = 0, refused = 1, usage = 2, locked = 3, scriptFailed = 4 };
+
+// What a verb works on. Results go to out, everything else to err.
+struct Console {
+  Product& product;
+  RunLoop& runLoop;
+  std::ostream& out;
+  std::ostream& err;
+  // Takes the lock at this real path for the rest of the process. False: another process holds it.
+  std::function<bool(const std::string& path)> takeLock;
+  bool engineIsWanted = true;  // an engine that cannot be reached is worth a word
+};
+
+// One verb with its words.
+// Duty: call the actions that a click would call, and print. Not: any logic of its own.
+class Command {
+ public:
+  virtual ~Command() = default;
+  virtual ExitStatus run(Console& console) = 0;
+};
+
+}  // namespace tarvo

@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+#include "app/product.h"
+#include "console/doctor.h"
+#include "console/manual_run_loop.h"
+#include "console/run_script.h"
+#include "console/style_commands.h"
+#include "platform/posix/instance_lock.h"
+#include "platform/posix/posix_run_loop.h"
+
+// The command line of tarvoctl.
+namespace tarvo {
+
+namespace {
+
+// The real clock under a script.
+class RealClock : public ScenarioClock {
+ public:
+  void post(std::function<void()> call) override { loop_.post(std::move(call)); }
+  Timer after(double seconds, std::function<void()> call) override { return loop_.after(seconds, std::move(call)); }
+  void cancel(Timer timer) override { loop_.cancel(timer); }
+  void settle() override { advance(0); }
+  void advance(double seconds) override {
+    loop_.after(seconds, [this] { loop_.stop(); });
+    loop_.run();
+  }
+
+ private:
+  PosixRunLoop loop_;
+};
+
+struct Arguments {
+  ProductOptions product;
+  std::string clock, script = "-";
+  std::vector<std::string> pairs;
+  int index = 0;
+  bool json = false;
+};
+
+void addCommonOptions(CLI::App& app, Arguments& arguments) {
+  ProductOptions& product = arguments.product;
+  app.add_option("--root", product.root, "prefix of the product's and the system's fixed paths");
+  app.add_option("--home", product.home, "the user's home folder");
+  app.add_option("--language", product.language, "text table")->check(CLI::IsMember({"en", "ja"}));
+  app.add_option("--strings", product.strings, "texts laid over the table; none drops those before it")
+      ->allow_extra_args(false);
+  app.add_option("--paths", product.paths, "a property list laid over the product's paths");
+  app.add_option("--resources", product.resources, "the resource folder");
+  app.add_option("--engine", product.engine, "style service; none is never reachable");
+  app.add_option("--clock", arguments.clock, "manual: timers fire only through advance (under run)")
+      ->check(CLI::IsMember({"manual", "real"}));
+  app.set_version_flag("--version", "tarvoctl " TARVO_VERSION);
+}
+
+using Run = std::function<ExitStatus()>;
+
+ExitStatus runVerb(const Arguments& arguments, Command& command) {
+  Product product(arguments.product);
+  if (!product.problem().empty()) {
+    std::cerr << product.problem() << '\n';
+    return ExitStatus::usage;
+  }
+  PosixRunLoop loop;
+  std::optional<InstanceLock> lock;
+  Console console{product, loop, std::cout, std::cerr, [&lock](const std::string& path) {
+                    lock.emplace(path);
+                    return lock->state() != InstanceLock::State::heldByAnother;
+                  }};
+  console.engineIsWanted = arguments.product.engine != "none";
+  return command.run(console);
+}
+
+ExitStatus runScriptFile(const Arguments& arguments) {
+  const bool fromInput = arguments.script == "-";
+  std::ifstream file;
+  if (!fromInput) {
+    file.open(arguments.script);
+    if (!file || std::filesystem::is_directory(arguments.script)) {
+      std::cerr << "cannot read " << arguments.script << '\n';
+      return ExitStatus::usage;
+    }
+  }
+  std::istream& input = fromInput ? std::cin : file;
+  std::string text{std::istreambuf_iterator<char>(input), std::istreambuf_iterator<char>()};
+  const std::filesystem::path folder =
+      fromInput ? std::filesystem::current_path() : std::filesystem::absolute(arguments.script).parent_path();
+  const std::unique_ptr<ScenarioClock> clock = arguments.clock == "real"
+                                                   ? std::unique_ptr<ScenarioClock>(std::make_unique<RealClock>())
+                                                   : std::make_unique<ManualRunLoop>();
+  return runScript({arguments.product, folder.lexically_normal().string()}, *clock, arguments.script, std::move(text),
+                   std::cout, std::cerr);
+}
+
+void addListing(CLI::App& verb, Arguments& arguments) { verb.add_flag("--json", arguments.json, "one line of JSON"); }
+
+void addStyleVerbs(CLI::App& app, Arguments& arguments, Run& run) {
+  CLI::App* styles = app.add_subcommand("styles", "list the styles");
+  addListing(*styles, arguments);
+  styles->callback([&] {
+    run = [&] {
+      StylesCommand command(arguments.json);
+      return runVerb(arguments, command);
+    };
+  });
+  CLI::App* style = app.add_subcommand("style", "one style")->require_subcommand(1)->fallthrough();
+  CLI::App* show = style->add_subcommand("show", "print it")->fallthrough();
+  show->add_option("N", arguments.index)->required();
+  addListing(*show, arguments);
+  show->callback([&] {
+    run = [&] {
+      StyleShowCommand command(arguments.index, arguments.json);
+      return runVerb(arguments, command);
+    };
+  });
+  CLI::App* set = style->add_subcommand("set", "set options")->fallthrough();
+  set->add_option("N", arguments.index)->required();
+  set->add_option("KEY=VALUE", arguments.pairs)->required();
+  set->callback([&] {
+    run = [&] {
+      StyleSetCommand command(arguments.index, arguments.pairs);
+      return runVerb(arguments, command);
+    };
+  });
+}
+
+void addOtherVerbs(CLI::App& app, Arguments& arguments, Run& run) {
+  CLI::App* doctor = app.add_subcommand("doctor", "every path looked at, and what is there");
+  addListing(*doctor, arguments);
+  doctor->callback([&] {
+    run = [&] {
+      DoctorCommand command(arguments.json);
+      return runVerb(arguments, command);
+    };
+  });
+  CLI::App* script = app.add_subcommand("run", "run a script of the scenario language");
+  script->add_option("FILE", arguments.script, "the script; - reads it from the input");
+  script->callback([&] { run = [&] { return runScriptFile(arguments); }; });
+}
+
+ExitStatus main(int count, char** words) {
+  CLI::App app("Manages the translation styles of TarvoEiwa.", "tarvoctl");
+  app.require_subcommand(1)->fallthrough();
+  Arguments arguments;
+  Run run;
+  addCommonOptions(app, arguments);
+  addStyleVerbs(app, arguments, run);
+  addOtherVerbs(app, arguments, run);
+  try {
+    app.parse(count, words);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error, std::cout, std::cerr) == 0 ? ExitStatus::done : ExitStatus::usage;
+  }
+  return run();
+}
+
+}  // namespace
+
+}  // namespace tarvo
+
+int main(int count, char** words) { return static_cast<int>(tarvo::main(count, words)); }

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "console/scenario_session.h"
+
+#include "app/program.h"
+#include "console/script_error.h"
+#include "platform/text_rules.h"
+#include "style/style_keys.h"
+
+namespace tarvo {
+
+ScenarioSession::ScenarioSession(const ScenarioOptions& options, ScenarioShell& shell, ScenarioClock& clock)
+    : product_(options.product),
+      shell_(shell),
+      clock_(clock),
+      folder_(options.folder),
+      recorder_(product_.locations()),
+      files_(product_.files(), recorder_),
+      configured_(options.product.engine ? product_.makeEngine(files_) : nullptr),
+      engine_(configured_ ? *configured_ : scripted_, recorder_),
+      panels_(recorder_, shell),
+      workspace_(recorder_),
+      usesConfigured_(options.product.engine.has_value()) {
+  product_.locations().leaveAsIs(folder_);
+  files_.name(product_.locations().inHome(std::string(gStylePath)), "styles");
+  files_.name(userDefaultsPath(product_.locations()), "");
+  files_.name(product_.paths().localEnginePath(), "");
+}
+
+ScenarioSession::~ScenarioSession() { drop(); }
+
+std::string ScenarioSession::problem() {
+  if (!product_.problem().empty()) return product_.problem();
+  return usesConfigured_ && !configured_ ? "nothing serves this engine address" : "";
+}
+
+ScriptedEngine& ScenarioSession::engine() {
+  if (usesConfigured_) throw ScriptError("the engine is not the scripted one");
+  return scripted_;
+}
+
+Program& ScenarioSession::program() {
+  if (!program_) throw ScriptError("no program runs");
+  return *program_;
+}
+
+void ScenarioSession::start() {
+  drop();
+  program_ =
+      std::make_unique<Program>(product_.services(files_, engine_, clock_, panels_, shell_.windowHost(), workspace_));
+  phase_ = Phase::running;
+  files_.name(program_->rooms().toolList.path(), "tool list");
+  recorder_.observe(*program_);
+  program_->didTerminate = [this] {
+    recorder_.note({{"terminated", true}});
+    phase_ = Phase::terminated;
+  };
+  shell_.programMade(*program_);
+  if (!program_->construct()) return;
+  constructed_ = true;
+  shell_.programConstructed(*program_);
+  if (program_->load()) program_->launch();
+}
+
+void ScenarioSession::drop() {
+  if (!program_) return;
+  shell_.programEnds(*program_);
+  constructed_ = false;
+  program_.reset();
+}
+
+void ScenarioSession::kill() {
+  if (program().windows().modalWindow() != nullptr) throw ScriptError("a modal window is up");
+  drop();
+  phase_ = Phase::none;
+}
+
+std::string ScenarioSession::path(const std::string& text) {
+  if (text.starts_with("root:/")) return text.substr(5);
+  if (text.starts_with("home:/")) return product_.locations().inHome(text.substr(6));
+  return isAbsolutePath(text) ? text : joinPath(folder_, text);
+}
+
+}  // namespace tarvo

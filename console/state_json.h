@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "console/json.h"
+
+namespace tarvo {
+
+class Control;
+
+// What a control shows, as one object: name, kind, enabled, visible, and what belongs to its kind.
+Json stateOf(const Control& control);
+
+}  // namespace tarvo

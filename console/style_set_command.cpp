@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include <charconv>
+#include <optional>
+
+#include "app/product.h"
+#include "app/program.h"
+#include "console/style_commands.h"
+#include "console/style_reading.h"
+#include "console/verb_program.h"
+#include "platform/texts.h"
+#include "style/option_table.h"
+#include "style/style_keys.h"
+
+namespace tarvo {
+
+namespace {
+
+// What is to be chosen where: the place of the pop-up in its list and the item.
+struct Edit {
+  bool detailed;
+  std::size_t popup;
+  int item;
+};
+
+std::optional<Edit> indexEdit(std::string_view key, std::string_view value) {
+  for (std::size_t i = 0; i < indexOptions().size(); ++i) {
+    const IndexOption& option = indexOptions()[i];
+    if (option.key != key) continue;
+    int item = -1;
+    const char* end = value.data() + value.size();
+    if (std::from_chars(value.data(), end, item).ptr != end || value.empty()) return std::nullopt;
+    if (item < 0 || item >= option.itemCount) return std::nullopt;
+    return Edit{false, i, item};
+  }
+  return std::nullopt;
+}
+
+std::optional<Edit> detailEdit(std::string_view key, std::string_view value) {
+  for (std::size_t i = 0; i < detailOptions().size(); ++i) {
+    const DetailOption& option = detailOptions()[i];
+    const int item = option.key == key ? option.tagForValue(value) : -1;
+    if (item >= 0) return Edit{true, i, item};
+  }
+  return std::nullopt;
+}
+
+std::optional<std::vector<Edit>> readPairs(const std::vector<std::string>& pairs, std::ostream& err) {
+  std::vector<Edit> edits;
+  for (const std::string& pair : pairs) {
+    const std::size_t equals = std::min(pair.find('='), pair.size());
+    const std::string_view key = std::string_view(pair).substr(0, equals);
+    const std::string_view value = std::string_view(pair).substr(std::min(equals + 1, pair.size()));
+    std::optional<Edit> edit = indexEdit(key, value);
+    if (!edit) edit = detailEdit(key, value);
+    if (!edit) {
+      err << "no control offers " << pair << '\n';
+      return std::nullopt;
+    }
+    edits.push_back(*edit);
+  }
+  return edits;
+}
+
+// Whether the style menu lets one choose that style, and option edits then reach it.
+ExitStatus checkStyle(Console& console, int index) {
+  const std::optional<Dictionary> root = readStyles(console.product);
+  const Array* styles = root ? root->array(keyNameStyle) : nullptr;
+  if (styles == nullptr || index < 0 || index >= static_cast<int>(styles->size())) {
+    console.err << "there is no style " << index << '\n';
+    return ExitStatus::usage;
+  }
+  const Dictionary* record = (*styles)[static_cast<std::size_t>(index)].dictionary();
+  const std::string* name = record != nullptr ? record->string(keyNameName) : nullptr;
+  if (name != nullptr && *name == console.product.texts().localized(keyNameSeparator)) {
+    console.err << "style " << index << " is the divider\n";
+    return ExitStatus::usage;
+  }
+  if (index != 0 && root->dictionary(keyNameSelection) == nullptr) {
+    console.err << "the style file remembers no choice of a style: options can be set for style 0 only\n";
+    return ExitStatus::refused;
+  }
+  return ExitStatus::done;
+}
+
+}  // namespace
+
+ExitStatus StyleSetCommand::run(Console& console) {
+  const std::optional<std::vector<Edit>> edits = readPairs(pairs_, console.err);
+  if (!edits) return ExitStatus::usage;
+  if (const ExitStatus status = checkStyle(console, index_); status != ExitStatus::done) return status;
+  return VerbProgram(console).run([&](Program& program, Hand& hand) {
+    PopUpButton& menu = program.interface().style.stylePopup;
+    OptionOutlets& options = program.interface().options;
+    const int former = menu.indexOfSelectedItem();
+    hand.choose(menu, index_);
+    for (const Edit& edit : *edits) {
+      hand.choose(edit.detailed ? options.detailPopups[edit.popup] : options.indexPopups[edit.popup], edit.item);
+    }
+    // As a tool brings its style back: the former one may be the divider, which nobody can click.
+    menu.selectItemAtIndex(former);
+    program.styles().changeStyle();
+  });
+}
+
+}  // namespace tarvo

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "console/verb_program.h"
+
+#include "app/product.h"
+#include "app/program.h"
+
+namespace tarvo {
+
+class VerbProgram::ToldPanels : public Panels {
+ public:
+  explicit ToldPanels(std::ostream& err) : err_(err) {}
+  bool refused() const { return refused_; }
+  void beep() override {}
+  int runAlertPanel(const Alert& alert) override {
+    err_ << (alert.title.empty() ? "" : alert.title + ": ") << alert.message << '\n';
+    refused_ = true;
+    return 0;
+  }
+  void beginAlertSheet(Window&, const Alert& alert, std::function<void(int)> handler) override {
+    handler(runAlertPanel(alert));
+  }
+  std::optional<std::string> runOpenPanel(const OpenPanel&) override { return std::nullopt; }
+  void beginSavePanel(Window&, const SavePanel&, std::function<void(int, const std::string&)> handler) override {
+    handler(0, "");
+  }
+
+ private:
+  std::ostream& err_;
+  bool refused_ = false;
+};
+
+// Says once that the service cannot be reached.
+class VerbProgram::ToldEngine : public Engine {
+ public:
+  ToldEngine(Engine& engine, Console& console) : engine_(engine), console_(console), told_(!console.engineIsWanted) {}
+  bool checkConnectionWithCurl() override {
+    const bool reachable = engine_.checkConnectionWithCurl();
+    if (!reachable && !told_) console_.err << "the style service cannot be reached; it keeps its former styles\n";
+    told_ = told_ || !reachable;
+    return reachable;
+  }
+  void sendRegistStyle(const StyleSet& styles, std::string& updateString) override {
+    engine_.sendRegistStyle(styles, updateString);
+  }
+  bool checkStyle() override { return engine_.checkStyle(); }
+  bool requestStyle(Array& styles, std::string& localUpdate) override {
+    return engine_.requestStyle(styles, localUpdate);
+  }
+
+ private:
+  Engine& engine_;
+  Console& console_;
+  bool told_;
+};
+
+class VerbProgram::ToldWorkspace : public Workspace {
+ public:
+  explicit ToldWorkspace(std::ostream& err) : err_(err) {}
+  void openFile(const std::string& path) override { err_ << "would open " << path << '\n'; }
+  void openAddress(const std::string& address) override { err_ << "would open " << address << '\n'; }
+  void launchApplication(const std::string& name) override { err_ << "would start " << name << '\n'; }
+  std::vector<std::string> launchedApplications() override { return {}; }
+
+ private:
+  std::ostream& err_;
+};
+
+VerbProgram::VerbProgram(Console& console)
+    : console_(console),
+      panels_(std::make_unique<ToldPanels>(console.err)),
+      service_(console.product.makeEngine(console.product.files())),
+      engine_(service_ ? std::make_unique<ToldEngine>(*service_, console) : nullptr),
+      workspace_(std::make_unique<ToldWorkspace>(console.err)) {}
+
+VerbProgram::~VerbProgram() = default;
+
+ExitStatus VerbProgram::run(const std::function<void(Program& program, Hand& hand)>& act) {
+  if (!engine_) {
+    console_.err << "nothing serves this engine address\n";
+    return ExitStatus::usage;
+  }
+  const Locations& locations = console_.product.locations();
+  if (!console_.takeLock(locations.resolve(lockPath(locations)))) {
+    console_.err << "another manager works on these files\n";
+    return ExitStatus::locked;
+  }
+  return runProgram(act);
+}
+
+ExitStatus VerbProgram::runProgram(const std::function<void(Program& program, Hand& hand)>& act) {
+  Program program(console_.product.services(console_.product.files(), *engine_, console_.runLoop, *panels_,
+                                            shell_.windowHost(), *workspace_));
+  bool saved = true;
+  StyleStore& store = program.rooms().store;
+  store.didWrite = [&] { saved = saved && store.isSaved(); };
+  shell_.programMade(program);
+  const bool started = program.construct() && program.load();
+  if (started) {
+    act(program, shell_.hand());
+    program.quit();
+  }
+  shell_.programEnds(program);
+  if (!saved) console_.err << "the style file could not be written\n";
+  return started && saved && !panels_->refused() ? ExitStatus::done : ExitStatus::refused;
+}
+
+}  // namespace tarvo

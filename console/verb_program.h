@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <ostream>
+
+#include "console/command.h"
+#include "console/memory_shell.h"
+#include "platform/engine.h"
+#include "platform/panels.h"
+#include "platform/workspace.h"
+
+namespace tarvo {
+
+class Program;
+
+// A program for one verb: no window, no launch step; what it would tell in alerts goes to the error stream.
+// Duty: start it, watch whether something was refused or could not be written, end it. Not: what the verb does with it.
+class VerbProgram {
+ public:
+  explicit VerbProgram(Console& console);
+  ~VerbProgram();
+  VerbProgram(const VerbProgram&) = delete;
+  VerbProgram& operator=(const VerbProgram&) = delete;
+
+  // Takes the lock, starts, lets the verb act, and ends as the quit command does.
+  ExitStatus run(const std::function<void(Program& program, Hand& hand)>& act);
+
+ private:
+  class ToldPanels;
+  class ToldEngine;
+  class ToldWorkspace;
+  ExitStatus runProgram(const std::function<void(Program& program, Hand& hand)>& act);
+  Console& console_;
+  MemoryShell shell_;
+  std::unique_ptr<ToldPanels> panels_;
+  std::unique_ptr<Engine> service_;
+  std::unique_ptr<ToldEngine> engine_;
+  std::unique_ptr<ToldWorkspace> workspace_;
+};
+
+}  // namespace tarvo
