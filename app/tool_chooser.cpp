@@ -34,7 +34,8 @@ void ToolChooser::setUpSegments(const Texts& texts) {
     for (int i = 0; i < segmentsEach; ++i, ++tool) {
       const bool exists = tool < siblingTools.size();
       segments.push_back({exists ? std::string(siblingTools[tool].icon) : std::string(),
-                          exists ? texts.localized("Tool." + std::string(siblingTools[tool].key)) : std::string(), exists});
+                          exists ? texts.localized("Tool." + std::string(siblingTools[tool].key)) : std::string(),
+                          exists});
     }
     control->setSegments(std::move(segments));
   }

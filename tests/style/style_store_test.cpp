@@ -218,7 +218,7 @@ TEST_F(StyleStoreTest, readsTheBinaryFormAndWritesTheReadableOne) {
   const std::string binary = std::string(
                                  "bplist00\xD1\x01\x02"
                                  "UExtraTkeep\x08\x0B\x11",
-                                 24) +
+                                 25) +
                              std::string(6, '\0') + std::string("\x01\x01", 2) + std::string(7, '\0') + "\x03" +
                              std::string(8, '\0') + std::string(7, '\0') + "\x16";
   folder_.write("styles.plist", binary);

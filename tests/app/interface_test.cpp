@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/interface.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <sstream>
+
+#include "platform/texts.h"
+#include "tests/app/controls_page.h"
+#include "tests/support/test_program.h"
+
+namespace tarvo::test {
+namespace {
+
+class InterfaceTest : public testing::Test {
+ protected:
+  InterfaceTest() { test_.program().construct(); }
+  TestProgram test_;
+};
+
+TEST_F(InterfaceTest, hasOneRowForEachControl) {
+  std::multiset<std::string> rows, controls;
+  for (const Row& row : test_.interface().rows()) rows.insert(row.control.name());
+  for (const Control* control : test_.interface().controls()) controls.insert(control->name());
+  EXPECT_EQ(rows, controls);
+  EXPECT_EQ(std::set<std::string>(controls.begin(), controls.end()).size(), controls.size());
+}
+
+TEST_F(InterfaceTest, placesEachControlInAWindowUnlessItIsAMenuItem) {
+  for (const Control* control : test_.interface().controls()) {
+    EXPECT_EQ(control->window() == nullptr, control->kind() == Control::Kind::menu) << control->name();
+  }
+}
+
+TEST_F(InterfaceTest, connectsEveryControlThatAUserOperates) {
+  const std::set<std::string> silent{"style.StyleNameEditButton", "style.ejLoadDicButton", "style.jeLoadDicButton",
+                                     "manager.noDisplayDialogCheckBox"};
+  for (const Row& row : test_.interface().rows()) {
+    const Control::Kind kind = row.control.kind();
+    const bool operated = kind == Control::Kind::popup || kind == Control::Kind::segments ||
+                          kind == Control::Kind::button || kind == Control::Kind::check || kind == Control::Kind::menu;
+    EXPECT_EQ(static_cast<bool>(row.control.action), operated && !silent.contains(row.control.name()))
+        << row.control.name();
+  }
+}
+
+TEST_F(InterfaceTest, findsControlsByFullAndByUniqueName) {
+  Interface& interface = test_.interface();
+  EXPECT_EQ(interface.find("style.stylePopup"), &interface.style.stylePopup);
+  EXPECT_EQ(interface.find("stylePopup"), &interface.style.stylePopup);
+  EXPECT_EQ(interface.find("officeToolPopup"), &interface.tools.officeToolPopup);
+  EXPECT_EQ(interface.find("StylePopup"), nullptr);
+  EXPECT_EQ(interface.find("manager.stylePopup"), nullptr);
+  EXPECT_EQ(interface.find(""), nullptr);
+}
+
+TEST_F(InterfaceTest, givesThePopUpsOfOptionsTheirTags) {
+  const std::vector<int> tags{0, 1, 2, 3, 4, 5, 7};
+  for (std::size_t i = 0; i < tags.size(); ++i) EXPECT_EQ(test_.interface().options.indexPopups[i].tag(), tags[i]);
+}
+
+TEST_F(InterfaceTest, isPrintedInTheControlsPage) {
+  const std::filesystem::path page = std::filesystem::path(TARVO_SOURCE_DIR) / "docs/controls.md";
+  const std::string expected = controlsPage(test_.interface());
+  if (std::getenv("TARVO_WRITE_CONTROLS") != nullptr) std::ofstream(page) << expected;
+  std::stringstream present;
+  present << std::ifstream(page).rdbuf();
+  EXPECT_EQ(present.str(), expected);
+}
+
+class EachLanguage : public testing::TestWithParam<const char*> {};
+
+TEST_P(EachLanguage, hasATextForEveryLabelItemAndPage) {
+  TestProgram test({.language = GetParam(), .strings = {"/dev/null"}});
+  ASSERT_TRUE(test.program().construct());
+  const Texts& texts = test.product->texts();
+  for (const Row& row : test.interface().rows()) {
+    const std::string name = row.control.name();
+    const std::string key = row.label.empty() ? "Label." + name.substr(name.find('.') + 1) : row.label;
+    EXPECT_NE(texts.find(key), nullptr) << key;
+    if (!row.tip.empty()) {
+      EXPECT_NE(texts.find(row.tip), nullptr) << row.tip;
+    }
+    if (!row.items) continue;
+    for (const PopUpButton::Item& item : row.items()) {
+      EXPECT_FALSE(item.title.empty());
+      EXPECT_TRUE(texts.find(item.title) == nullptr) << "shown as its key: " << item.title;
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Shipped, EachLanguage, testing::Values("en", "ja"));
+
+}  // namespace
+}  // namespace tarvo::test

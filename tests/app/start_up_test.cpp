@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include "app/operations.h"
+#include "platform/plist_writer.h"
+#include "platform/style_module.h"
+#include "style/style_keys.h"
+#include "tests/support/sample_styles.h"
+#include "tests/support/test_program.h"
+
+// Starting and ending the program, where a test has to look behind the controls.
+namespace tarvo::test {
+namespace {
+
+std::string pathsFile(const TestProgram& test, const Dictionary& paths) {
+  test.root.write("paths.plist", writePropertyList(paths));
+  return test.root / "paths.plist";
+}
+
+TEST(StartUp, beginsWithNoToolNoStylesAndTheRegistrationOff) {
+  TestProgram test;
+  EXPECT_TRUE(test.program().rooms().store.awakeFlag);
+  EXPECT_EQ(test.program().rooms().store.currentID, "");
+  EXPECT_TRUE(test.program().rooms().store.root().empty());
+  EXPECT_EQ(test.program().rooms().lists.baseTabKey(), 0);
+  EXPECT_EQ(test.program().rooms().lists.currentTabKey(), 1);
+  EXPECT_FALSE(test.root.exists(test.inHome("Library")));
+}
+
+TEST(StartUp, tellsTheStyleModuleWhereEverythingLiesInOrder) {
+  TestProgram test;
+  FakeStyleModule module(test.log);
+  Services services = test.program().services();
+  test.drop();
+  Program program({services.locations, services.files, services.bundle, services.texts, services.paths, services.engine,
+                   module, services.gTarvoCommonModule, services.runLoop, services.panels, services.windowHost,
+                   services.workspace});
+  ASSERT_TRUE(program.construct());
+  const std::string product = "/Library/Application Support/Wordhaven/TarvoEiwa/TechDic/";
+  EXPECT_EQ(test.log, (Log{"tarvoStyleInitialize",
+                           "tarvoStyleSetTStyleUrl /Users/taro/Library/Preferences/Wordhaven/TarvoStyle2009.plist",
+                           "tarvoStyleSetTechDictUrl " + product + "EJ " + product + "JE",
+                           "tarvoStyleSetUserDictUrl /Users/taro/Library/Application Support/Wordhaven/UserDic"}));
+  EXPECT_TRUE(services.paths.isInitialized());
+}
+
+TEST(StartUp, endsTheModulesWithTheControllerAndStartsThemOncePerProcess) {
+  TestProgram test;
+  ASSERT_TRUE(test.program().construct());
+  const Services services = test.program().services();
+  EXPECT_NE(services.gTarvoCommonModule, nullptr);
+  test.drop();
+  EXPECT_EQ(services.gTarvoCommonModule, nullptr);
+  EXPECT_FALSE(services.paths.isInitialized());
+}
+
+TEST(StartUp, endsAtOnceWithTheModulesCodeWhenTheyCannotBeStarted) {
+  TestProgram first;
+  Dictionary paths;
+  paths.set("tarvoPathLoadDictAndHelper", 42);
+  first.root.write("texts.plist", writePropertyList([] {
+                     Dictionary table;
+                     table.set("Failed Instlation Contents", "Code %d, %d of %@ 100%");
+                     return table;
+                   }()));
+  TestProgram test({.paths = pathsFile(first, paths), .strings = {"none", first.root / "texts.plist"}});
+  test.writeStyles(sampleRoot());
+  EXPECT_FALSE(test.program().start());
+  EXPECT_EQ(test.log, (Log{"alert  / Code 42, %d of %@ 100%", "terminated"}));
+  EXPECT_EQ(test.panels.alerts.front().buttons, std::vector<std::string>{"AlertClose"});
+  EXPECT_FALSE(test.root.exists(test.inHome("Library/Scripts")));
+  EXPECT_TRUE(test.defaultsOnDisk().empty());
+}
+
+TEST(StartUp, storesNothingWhenTheStylePaneCannotStart) {
+  TestProgram test;
+  test.root.write(test.inHome("Library/Preferences/Wordhaven/TarvoStyle2009.plist"), "damaged");
+  EXPECT_FALSE(test.program().start());
+  EXPECT_EQ(test.log, (Log{"beep", "alert ApplicationCautionHeader / ApplicationCautionMessage", "terminated"}));
+  EXPECT_EQ(test.root.read(test.inHome(TestProgram::stylePath)), "damaged");
+  EXPECT_FALSE(test.root.exists(test.inHome("Library/Preferences/Wordhaven/TarvoManager.txt")));
+  EXPECT_EQ(test.defaultsOnDisk().find("ToolbarTag"), nullptr);
+}
+
+TEST(StartUp, opensTheWindowJustAsLargeAsTheStylePaneOnAFirstStart) {
+  TestProgram test;
+  test.writeStyles(sampleRoot());
+  ASSERT_TRUE(test.program().start());
+  const Rect& frame = test.interface().manager.myWindow.frame();
+  EXPECT_EQ(frame.width, paneSizes[0].width);
+  EXPECT_EQ(frame.height, paneSizes[0].height + FakeHost::titleBar + FakeHost::toolbar);
+  EXPECT_EQ(test.defaultsOnDisk().find("MyWindowFrame"), nullptr);
+}
+
+TEST(StartUp, leavesTheUserListsAloneWhereTheyAreNotAskedFor) {
+  TestProgram test;
+  test.writeStyles(sampleRoot());
+  ASSERT_TRUE(test.program().construct());
+  test.program().styles().setsUpUserLists = false;
+  ASSERT_TRUE(test.program().load());
+  EXPECT_FALSE(test.root.exists(test.inHome("Library/Application Support/Wordhaven/UserDic")));
+}
+
+TEST(StartUp, makesTheUserFoldersForEverybody) {
+  TestProgram test;
+  test.writeStyles(sampleRoot());
+  ASSERT_TRUE(test.program().start());
+  for (const char* folder : {"UserDic", "UserTMA"}) {
+    EXPECT_EQ(test.root.mode(test.inHome("Library/Application Support/Wordhaven/") + folder), 0777U);
+  }
+}
+
+TEST(Quitting, storesOnceAndTellsOnce) {
+  TestProgram test;
+  test.writeStyles(sampleRoot());
+  ASSERT_TRUE(test.program().start());
+  test.log.clear();
+  const std::string before = test.root.read(test.inHome(TestProgram::stylePath));
+  test.program().styles().quitAction();
+  test.program().quit();
+  EXPECT_EQ(test.log, Log{"terminated"});
+  EXPECT_EQ(test.root.read(test.inHome(TestProgram::stylePath)), before);
+}
+
+TEST(Quitting, endsTheProgramWhenTheWindowCloses) {
+  TestProgram test;
+  test.writeStyles(sampleRoot());
+  ASSERT_TRUE(test.program().start());
+  test.interface().manager.myWindow.userClose();
+  EXPECT_TRUE(test.program().isTerminated());
+}
+
+TEST(Toolbar, isNoMoveWhenItIsHiddenAndKeepsTheTopEdge) {
+  TestProgram test;
+  test.writeStyles(sampleRoot());
+  ASSERT_TRUE(test.program().start());
+  Window& window = test.interface().manager.myWindow;
+  const Rect before = window.frame();
+  test.host.toolbarHidden = true;
+  test.interface().manager.toolbarMenu.userChoose();
+  EXPECT_EQ(window.frame().top(), before.top());
+  EXPECT_EQ(window.frame().height, before.height - FakeHost::toolbar);
+  EXPECT_EQ(test.defaultsOnDisk().find("MyWindowFrame"), nullptr);
+  EXPECT_FALSE(test.defaultsOnDisk().dictionary("Toolbar tarvoToolbar")->find("Shown")->booleanValue());
+}
+
+TEST(StyleMenu, keepsItsItemsWhereTheFileHasNoStyles) {
+  TestProgram test;
+  Dictionary root;
+  root.set("Selection", Dictionary());
+  test.writeStyles(root);
+  ASSERT_TRUE(test.program().construct());
+  test.interface().style.stylePopup.setItems({{"X", 0}, {"Y", 1}});
+  ASSERT_TRUE(test.program().load());
+  EXPECT_EQ(test.interface().style.stylePopup.items().size(), 2U);
+}
+
+TEST(ToolChooser, leavesNoSegmentSelectedBeyondTheToolsAndKeepsTheTool) {
+  TestProgram test;
+  test.writeStyles(sampleRoot());
+  ASSERT_TRUE(test.program().start());
+  const StyleOutlets& style = test.interface().style;
+  const std::string before = test.root.read(test.inHome(TestProgram::stylePath));
+  for (const int tool : {9, -1, 100}) {
+    test.program().rooms().chooser.setSelectSeg(tool);
+    EXPECT_EQ(style.TEAppSeg1.selectedSegment(), -1);
+    EXPECT_EQ(style.TEAppSeg3.selectedSegment(), -1);
+    EXPECT_EQ(test.program().rooms().flags.saveHit, tool);
+  }
+  test.program().rooms().chooser.setSelectSeg(8);
+  EXPECT_EQ(style.TEAppSeg3.selectedSegment(), 2);
+  EXPECT_EQ(test.program().rooms().store.currentID, "MG");
+  EXPECT_EQ(test.root.read(test.inHome(TestProgram::stylePath)), before);
+}
+
+TEST(ToolChooser, disablesTheOptionPopUpsOfTheToolsWithoutOptions) {
+  TestProgram test;
+  ASSERT_TRUE(test.program().construct());
+  for (int tool = 0; tool < 8; ++tool) {
+    test.program().rooms().chooser.doEnabledButtons(tool);
+    for (const PopUpButton& popup : test.interface().options.indexPopups) {
+      EXPECT_EQ(popup.isEnabled(), tool != 5 && tool != 6) << tool;
+    }
+  }
+}
+
+TEST(Operations, areFoundByOwnerAndNameAndAnswerWhatTheyKnow) {
+  TestProgram test;
+  test.root.write("System/Library/CoreServices/SystemVersion.plist", writePropertyList([] {
+                    Dictionary version;
+                    version.set("ProductVersion", "10.6.8");
+                    return version;
+                  }()));
+  ASSERT_TRUE(test.program().construct());
+  EXPECT_EQ(findOperation("getOSVersion"), nullptr);
+  EXPECT_EQ(findOperation("style.getOSVersion")->run(test.program(), {}), PropertyList(106));
+  EXPECT_EQ(findOperation("manager.createMailScriptFolder")->run(test.program(), {}), PropertyList(true));
+}
+
+}  // namespace
+}  // namespace tarvo::test
