@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "platform/texts.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/bundle.h"
+#include "platform/locations.h"
+#include "platform/plist_writer.h"
+#include "platform/posix/posix_files.h"
+#include "tests/support/temporary_folder.h"
+
+namespace tarvo {
+namespace {
+
+Dictionary table(std::initializer_list<std::pair<const char*, PropertyList>> rows) {
+  Dictionary out;
+  for (const auto& [key, value] : rows) out.set(key, value);
+  return out;
+}
+
+class TextsTest : public testing::Test {
+ protected:
+  test::TemporaryFolder folder;
+  Locations locations{"/", folder.path()};
+  PosixFiles files{locations};
+  Texts texts;
+};
+
+TEST_F(TextsTest, aLaterTableWinsKeyByKey) {
+  texts.overlay(table({{"a", "1"}, {"b", "2"}}));
+  texts.overlay(table({{"b", "3"}, {"c", ""}}));
+  EXPECT_EQ(texts.localized("a"), "1");
+  EXPECT_EQ(texts.localized("b"), "3");
+  EXPECT_EQ(texts.localized("c"), "") << "an empty text is a text";
+}
+
+TEST_F(TextsTest, aKeyWithoutATextIsItsTextOrAnEmptyOne) {
+  EXPECT_EQ(texts.localized("key"), "key");
+  EXPECT_EQ(texts.localizedOrEmpty("key"), "");
+  EXPECT_EQ(texts.find("key"), nullptr);
+  texts.overlay(table({{"key", "text"}, {"number", 5}}));
+  EXPECT_EQ(texts.localizedOrEmpty("key"), "text");
+  EXPECT_EQ(*texts.find("key"), "text");
+  EXPECT_EQ(texts.localized("number"), "number");
+  texts.clear();
+  EXPECT_EQ(texts.localized("key"), "key");
+}
+
+TEST_F(TextsTest, theShippedTableIsThatOfTheFirstLanguageThatHasOne) {
+  folder.write("en.lproj/Localizable.strings", writePropertyList(table({{"a", "english"}})));
+  folder.write("ja.lproj/Localizable.strings", writePropertyList(table({{"a", "日本語"}, {"b", "ja only"}})));
+  folder.makeFolder("fr.lproj");
+  const auto shipped = [&](std::vector<std::string> languages) {
+    Texts laid;
+    overlayShippedTable(laid, Bundle(files, folder.path(), std::move(languages)), files);
+    return laid.localized("a") + "," + laid.localized("b");
+  };
+  EXPECT_EQ(shipped({"ja", "en"}), "日本語,ja only");
+  EXPECT_EQ(shipped({"fr", "en", "ja"}), "english,b");
+  EXPECT_EQ(shipped({"fr"}), "a,b");
+}
+
+TEST_F(TextsTest, aTableFileMustBeADictionary) {
+  folder.write("good", writePropertyList(table({{"a", "1"}})));
+  folder.write("array", writePropertyList(Array{PropertyList("a")}));
+  folder.write("broken", "<plist>");
+  EXPECT_TRUE(overlayTableFile(texts, files, folder / "good"));
+  for (const char* name : {"array", "broken", "missing"}) EXPECT_FALSE(overlayTableFile(texts, files, folder / name));
+  EXPECT_EQ(texts.localized("a"), "1");
+}
+
+}  // namespace
+}  // namespace tarvo
