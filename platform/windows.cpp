@@ -13,15 +13,14 @@ void Window::setTitle(std::string title) {
 }
 
 void Window::setFrame(const Rect& frame) {
+  if (setFrameInPlace(frame) && didMove) didMove();
+}
+
+bool Window::setFrameInPlace(const Rect& frame) {
   const bool moved = frame.x != frame_.x || frame.y != frame_.y;
   frame_ = frame;
   changed(Change::value);
-  if (moved && didMove) didMove();
-}
-
-void Window::setFrameInPlace(const Rect& frame) {
-  frame_ = frame;
-  changed(Change::value);
+  return moved;
 }
 
 void Window::userMove(float x, float y) { setFrame({x, y, frame_.width, frame_.height}); }
@@ -47,9 +46,10 @@ void Windows::orderOut(Window& window) {
 }
 
 void Windows::setFrame(Window& window, const Rect& frame) {
-  window.setFrame(frame);
+  const bool moved = window.setFrameInPlace(frame);
   host_.applyFrame(window, true);
   tell(Event::framed, window);
+  if (moved && window.didMove) window.didMove();
 }
 
 void Windows::beginSheet(Window& sheet, Window& host, EndHandler handler) {

@@ -21,8 +21,9 @@ class Window : public Control {
   const Rect& frame() const { return frame_; }
   // didMove is told when the origin changes.
   void setFrame(const Rect& frame);
-  // For a toolbar that comes or goes: the window grows or shrinks where it stands, which is no move.
-  void setFrameInPlace(const Rect& frame);
+  // For a toolbar that comes or goes: the window grows or shrinks where it stands, which is no move. Answers whether
+  // the origin changed all the same.
+  bool setFrameInPlace(const Rect& frame);
   bool isShown() const { return shown_; }
 
   std::function<void()> didMove;  // the origin changed, by whomever
@@ -70,7 +71,7 @@ class Windows {
 
   void orderFront(Window& window);
   void orderOut(Window& window);
-  // A new frame with redisplay and animation, as a pane switch sets it.
+  // A new frame with redisplay and animation, as a pane switch sets it. A move is told last.
   void setFrame(Window& window, const Rect& frame);
   // Returns at once; a host has one sheet.
   void beginSheet(Window& sheet, Window& host, EndHandler handler);
