@@ -25,7 +25,8 @@ struct Integer {
   friend bool operator==(const Integer&, const Integer&) = default;
 };
 
-// A real keeps the text it was written with; one that comes from a binary file has its shortest exact decimal form.
+// A real keeps the text it was written with, white space around it aside; one that comes from a binary file has its
+// shortest exact decimal form.
 struct Real {
   std::string text;
   friend bool operator==(const Real&, const Real&) = default;
@@ -44,6 +45,8 @@ using Array = std::vector<PropertyList>;
 class Dictionary {
  public:
   using Entry = std::pair<std::string, PropertyList>;
+  // From entries in any order, in n log n; of entries with one key the last stays.
+  static Dictionary fromEntries(std::vector<Entry> entries);
   const PropertyList* find(std::string_view key) const;
   PropertyList* find(std::string_view key);
   bool contains(std::string_view key) const { return find(key) != nullptr; }
