@@ -56,7 +56,7 @@ std::string Locations::picked(const std::string& path) {
 }
 
 std::string Locations::shown(const std::string& path) const {
-  const std::string real = resolve(path);
+  std::string real = resolve(path);
   const auto tagged = [&real](const char* tag, const std::string& folder) {
     const std::string rest = restBelow(real, folder);
     return std::string(tag) + (rest.empty() ? "/" : rest);

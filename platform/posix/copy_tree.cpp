@@ -33,7 +33,7 @@ bool copyBytes(int from, int to) {
   // The system copies by itself where it can; wherever that ends, the plain loop goes on from there.
   while (::copy_file_range(from, nullptr, to, nullptr, atOnce, 0) > 0) {
   }
-  std::array<char, 64 * 1024> buffer{};
+  std::array<char, std::size_t{64} * 1024> buffer{};
   while (true) {
     const ssize_t count = ::read(from, buffer.data(), buffer.size());
     if (count < 0 && errno == EINTR) continue;

@@ -43,7 +43,7 @@ bool writeAll(int file, std::string_view bytes) {
 }
 
 std::optional<std::string> readAll(int file, std::size_t expected, std::size_t limit) {
-  constexpr std::size_t step = 64 * 1024;
+  constexpr std::size_t step = std::size_t{64} * 1024;
   if (expected > limit) return std::nullopt;
   std::string bytes;
   std::size_t filled = 0;

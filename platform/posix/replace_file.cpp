@@ -47,21 +47,24 @@ std::optional<Target> findTarget(std::string path) {
   return std::nullopt;
 }
 
-// Hands owner, mode and attributes of the present file to the new one.
+// Gives the file the owner where the system allows; the permissions that are safe under the owner it then has.
+mode_t handOver(int file, const struct stat& present) {
+  const mode_t mode = present.st_mode & 07777;
+  if (::fchown(file, present.st_uid, present.st_gid) == 0) return mode;
+  // A file that now belongs to somebody else must not run as its owner or group.
+  const bool hasGroup = ::fchown(file, static_cast<uid_t>(-1), present.st_gid) == 0;
+  return mode & static_cast<mode_t>(hasGroup ? ~S_ISUID : ~(S_ISUID | S_ISGID));
+}
+
+// Hands attributes, owner and mode of the present file to the new one. In this order: an owner may set attributes only
+// while he may write.
 bool takeOver(int folder, const std::string& name, const struct stat& present, int file) {
-  struct stat fresh {};
-  if (::fstat(file, &fresh) != 0) return false;
-  mode_t mode = present.st_mode & 07777;
-  if (fresh.st_uid != present.st_uid || fresh.st_gid != present.st_gid) {
-    const bool owned = ::fchown(file, present.st_uid, present.st_gid) == 0;
-    // A file that now belongs to somebody else must not run as its owner or group.
-    if (!owned) mode &= static_cast<mode_t>(~(S_ISUID | S_ISGID));
-    if (!owned && ::fchown(file, static_cast<uid_t>(-1), present.st_gid) != 0) mode &= ~mode_t{S_ISGID};
-  }
-  if (::fchmod(file, mode) != 0) return false;
   const Descriptor old(::openat(folder, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
   if (old) copyAttributes(old.get(), file);
-  return true;
+  struct stat fresh {};
+  if (::fstat(file, &fresh) != 0) return false;
+  const bool sameOwner = fresh.st_uid == present.st_uid && fresh.st_gid == present.st_gid;
+  return ::fchmod(file, sameOwner ? present.st_mode & 07777 : handOver(file, present)) == 0;
 }
 
 bool fill(int folder, const std::string& name, const Target& target, Descriptor file, std::string_view bytes) {
