@@ -20,6 +20,7 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QMenu;
 class QPushButton;
 class QScrollArea;
 class QStackedWidget;
@@ -41,6 +42,7 @@ namespace tarvo {
 
 class Bundle;
 class Interface;
+class Locations;
 class Texts;
 class Toolbar;
 class Window;
@@ -49,8 +51,8 @@ using PageBuilder = std::function<QWidget*(QWidget* parent)>;  // of one page; c
 
 class Binder {
  public:
-  // Texts and bundle outlive the binder, the binder outlives the widgets.
-  Binder(const Texts& texts, const Bundle& bundle, Scheme scheme);
+  // What it is given outlives the binder, the binder outlives the widgets.
+  Binder(const Texts& texts, const Bundle& bundle, const Locations& locations, Scheme scheme);
   Binder(const Binder&) = delete;
   Binder& operator=(const Binder&) = delete;
 
@@ -72,9 +74,12 @@ class Binder {
 
   void view(View& control, QWidget& shown);             // a pane that somebody built
   QScrollArea* scroll(View& control, QWidget* parent);  // empty: give it its widget
-  void menuItem(MenuItem& control, QAction& action);    // the action sends; see menu_validation.h for menus
-  void toolbar(Toolbar& control, QToolBar& bar);        // fills and refills the bar with the shown items
-  void window(Window& control, QWidget& shown);         // title, close box, Escape of a dialog
+  // The action sends. Shortcuts work without a menu being open, so the item is asked when it is chosen; in a menu it is
+  // also asked when that opens, see menu().
+  void menuItem(MenuItem& control, QAction& action);
+  void menu(QMenu& menu);                         // asks its items when it opens
+  void toolbar(Toolbar& control, QToolBar& bar);  // fills and refills the bar with the shown items
+  void window(Window& control, QWidget& shown);   // title, close box, Escape of a dialog
 
   QString localized(std::string_view key) const;
   // The drawing of an image name ("MG", "EJTD16.tif"); null for none. Each is read once.
@@ -84,6 +89,7 @@ class Binder {
  private:
   const Texts& texts_;
   const Bundle& bundle_;
+  const Locations& locations_;
   Scheme scheme_;
   Registry registry_;
   std::map<std::string, QIcon, std::less<>> icons_;

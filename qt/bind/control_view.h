@@ -32,4 +32,7 @@ class ControlView : public QObject {
   Registry& registry_;
 };
 
+// Hidden by itself, not because its page or window is not shown.
+bool isHiddenItself(const QWidget& widget);
+
 }  // namespace tarvo

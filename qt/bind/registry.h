@@ -22,7 +22,7 @@ class Registry {
     QObject* shown;
   };
   void enter(const Control& control, QObject& shown);
-  void leave(const Control& control);
+  void leave(const Control& control, const QObject& shown);
 
   // Null for a control that is not shown. W: the widget's class, null for another one.
   QObject* find(std::string_view name) const;

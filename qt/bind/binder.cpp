@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "qt/bind/binder.h"
+
+#include "platform/bundle.h"
+#include "platform/locations.h"
+#include "platform/texts.h"
+#include "qt/look/icons.h"
+
+namespace tarvo {
+
+Binder::Binder(const Texts& texts, const Bundle& bundle, const Locations& locations, Scheme scheme)
+    : texts_(texts), bundle_(bundle), locations_(locations), scheme_(scheme) {}
+
+QString Binder::localized(std::string_view key) const { return toQString(texts_.localized(key)); }
+
+QIcon Binder::icon(std::string_view image) {
+  const auto known = icons_.find(image);
+  if (known != icons_.end()) return known->second;
+  const std::optional<std::string> path = image.empty() ? std::nullopt : bundle_.image(image);
+  return icons_[std::string(image)] = path ? tarvo::icon(toQString(locations_.resolve(*path)), scheme_) : QIcon();
+}
+
+}  // namespace tarvo

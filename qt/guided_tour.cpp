@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "qt/guided_tour.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QPixmap>
+#include <QTimer>
+#include <iostream>
+
+#include "qt/bind/in_step.h"
+#include "qt/shell.h"
+#include "qt/window/main_window.h"
+
+namespace tarvo {
+namespace {
+
+constexpr int settling = 400;  // ms for a pane switch and its painting
+
+class Tour {
+ public:
+  Tour(Shell& shell, const QString& folder) : shell_(shell), folder_(folder) {}
+
+  bool walk() {
+    return picture("styles") && next("style.stylePopup") && picture("another-style") && next("style.ejEditPopup") &&
+           next("style.ejOption1Popup") && picture("option-changed") && press("manager.OA") && picture("office") &&
+           press("manager.MT") && picture("mail") && press("manager.StyleManager") && isSaved();
+  }
+
+  const std::vector<QString>& pictures() const { return pictures_; }
+
+ private:
+  bool fail(const std::string& reason) {
+    std::cerr << "tarvo-manager: tour: " << reason << '\n';
+    return false;
+  }
+
+  void settle() {
+    QEventLoop loop;
+    QTimer::singleShot(settling, &loop, &QEventLoop::quit);
+    loop.exec();
+  }
+
+  bool settled() {
+    settle();
+    const std::string difference = outOfStep(shell_.registry());
+    return difference.empty() || fail(difference);
+  }
+
+  template <class Widget>
+  Widget* usable(const char* name) {
+    auto* widget = shell_.registry().find<Widget>(name);
+    if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) {
+      fail(std::string(name) + " cannot be used");
+      return nullptr;
+    }
+    return widget;
+  }
+
+  // One item further by the keyboard.
+  bool next(const char* name) {
+    auto* combo = usable<QComboBox>(name);
+    if (combo == nullptr) return false;
+    const int before = combo->currentIndex();
+    combo->setFocus(Qt::TabFocusReason);
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent key(type, Qt::Key_Down, Qt::NoModifier);
+      QApplication::sendEvent(combo, &key);
+    }
+    return combo->currentIndex() != before ? settled() : fail(std::string(name) + " did not change");
+  }
+
+  bool press(const char* name) {
+    auto* button = usable<QAbstractButton>(name);
+    if (button == nullptr) return false;
+    button->click();
+    return button->isChecked() ? settled() : fail(std::string(name) + " was not chosen");
+  }
+
+  bool picture(const char* name) {
+    if (!settled()) return false;
+    const QString number = QStringLiteral("%1-").arg(pictures_.size() + 1);
+    const QString path = QDir(folder_).filePath(number + QLatin1String(name) + QStringLiteral(".png"));
+    if (!shell_.windows().mainWindow()->grab().save(path)) return fail("cannot write " + path.toStdString());
+    pictures_.push_back(path);
+    return true;
+  }
+
+  bool isSaved() { return shell_.program().rooms().store.isSaved() || fail("the styles could not be saved"); }
+
+  Shell& shell_;
+  QString folder_;
+  std::vector<QString> pictures_;
+};
+
+}  // namespace
+
+bool takeGuidedTour(Shell& shell, Product& product, const std::string& folder) {
+  const QString place = QDir().absoluteFilePath(toQString(folder));
+  if (!QDir().mkpath(place)) {
+    std::cerr << "tarvo-manager: tour: cannot make the folder " << folder << '\n';
+    return false;
+  }
+  Tour tour(shell, place);
+  const bool isWalked = tour.walk();
+  shell.program().quit();
+  if (!isWalked) return false;
+  for (const QString& path : tour.pictures()) std::cout << path.toStdString() << '\n';
+  std::cout << product.locations().resolve(shell.program().rooms().store.path()) << '\n';
+  return true;
+}
+
+}  // namespace tarvo

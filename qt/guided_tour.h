@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace tarvo {
+
+class Product;
+class Shell;
+
+// Walks through the started program by key and mouse, leaves pictures in a folder (made if need be), quits, and prints
+// where the pictures and the style file lie. False, with the reason on the error output, when a step does not do what
+// it should.
+bool takeGuidedTour(Shell& shell, Product& product, const std::string& folder);
+
+}  // namespace tarvo

@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "qt/shell.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLibraryInfo>
+#include <QTranslator>
+#include <utility>
+
+#include "app/t_manager_controller.h"
+#include "platform/engine.h"
+#include "qt/panes/mail_pane.h"
+#include "qt/panes/office_pane.h"
+#include "qt/panes/style_pane.h"
+#include "qt/services/first_paint_probe.h"
+#include "qt/window/main_window.h"
+#include "qt/window/toolbar_customise.h"
+
+namespace tarvo {
+
+std::vector<PageBuilder> paneBuilders(Interface& interface, Binder& binder) {
+  using Build = QWidget* (*)(Interface&, Binder&, QWidget*);
+  std::vector<PageBuilder> builders;
+  for (const Build build : {buildStylePane, buildOfficePane, buildMailPane}) {
+    builders.push_back([&interface, &binder, build](QWidget* parent) { return build(interface, binder, parent); });
+  }
+  return builders;
+}
+
+Shell::Shell(Product& product, QApplication& application, std::function<std::vector<std::string>()> running)
+    : product_(product),
+      application_(application),
+      engine_(product.makeEngine(product.files())),
+      panels_([this](Window* window) { return windows_.widgetOf(*window); }, [this] { return windows_.sheetTop(); }),
+      workspace_(product.locations(), std::move(running)),
+      program_(product.services(product.files(), *engine_, runLoop_, panels_, windows_, workspace_)),
+      binder_(product.texts(), product.bundle(), product.locations(), schemeFromEnvironment()) {
+  // Closing the window asks the program; the program alone ends the loop.
+  QApplication::setQuitOnLastWindowClosed(false);
+  program_.didTerminate = [] { QApplication::quit(); };
+}
+
+Shell::~Shell() {
+  program_.manager().customizeToolbar = nullptr;
+  program_.rooms().store.didWrite = nullptr;
+  windows_.close();
+}
+
+bool Shell::start() {
+  if (!program_.construct()) return false;
+  windows_.open(program_.interface(), program_.windows(), binder_, paneBuilders(program_.interface(), binder_));
+  tellUnsavedStyles();
+  program_.manager().customizeToolbar = [this] {
+    buildToolbarCustomise(program_.interface().manager.toolbar, binder_, windows_.mainWindow())->open();
+  };
+  if (!program_.load()) return false;
+  probeFirstPaint(*windows_.mainWindow(), [this] { program_.quit(); });
+  afterFirstPaint(*windows_.mainWindow(), [this] { finishLater(); });
+  program_.launch();
+  return true;
+}
+
+void Shell::run() {
+  if (!program_.isTerminated()) QApplication::exec();
+}
+
+void Shell::tellUnsavedStyles() {
+  StyleStore& store = program_.rooms().store;
+  store.didWrite = [this, &store] {
+    const QString path = toQString(product_.locations().resolve(store.path()));
+    windows_.mainWindow()->setNotice(store.isSaved() ? QString() : binder_.localized("NotSavedYet") + path);
+  };
+}
+
+// What nobody sees in the first picture.
+void Shell::finishLater() {
+  QApplication::setWindowIcon(binder_.icon("TarvoManager"));
+  if (product_.language() != "ja") return;
+  auto* translator = new QTranslator(&application_);  // of the toolkit's own texts
+  const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+  if (translator->load(QStringLiteral("qtbase_ja"), folder)) QApplication::installTranslator(translator);
+}
+
+}  // namespace tarvo

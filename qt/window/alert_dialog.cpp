@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "qt/window/alert_dialog.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "qt/bind/binder.h"
+#include "qt/look/fonts.h"
+#include "qt/look/metrics.h"
+
+namespace tarvo {
+namespace {
+
+constexpr int textWidth = 46;  // in widths of a letter
+
+QLabel* paragraph(const std::string& text, QWidget& dialog) {
+  auto* label = new QLabel(toQString(text), &dialog);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  label->setMinimumWidth(textWidth * label->fontMetrics().averageCharWidth());
+  return label;
+}
+
+}  // namespace
+
+AlertDialog::AlertDialog(const Alert& alert, QWidget* parent)
+    : QDialog(parent), last_(static_cast<int>(alert.buttons.size()) - 1) {
+  setObjectName(QStringLiteral("alert"));
+  setWindowTitle(toQString(alert.title.empty() ? alert.message : alert.title));
+  auto* rows = new QVBoxLayout(this);
+  rows->setSizeConstraint(QLayout::SetFixedSize);
+  if (!alert.title.empty()) {
+    QLabel* title = paragraph(alert.title, *this);
+    title->setFont(headingFont(font()));
+    rows->addWidget(title);
+  }
+  rows->addWidget(paragraph(alert.message, *this));
+  if (!alert.details.empty()) {
+    auto* details = new QPlainTextEdit(toQString(alert.details), this);
+    details->setReadOnly(true);
+    details->setTabChangesFocus(true);
+    rows->addWidget(details);
+  }
+  rows->addSpacing(metrics::rowGap);
+  auto* buttons = new QHBoxLayout;
+  rows->addLayout(buttons);
+  for (int i = last_; i >= 0; --i) {
+    auto* button = new QPushButton(toQString(alert.buttons[static_cast<std::size_t>(i)]), this);
+    button->setObjectName(QStringLiteral("alert.%1").arg(i));
+    button->setAutoDefault(false);
+    button->setDefault(i == 0);
+    if (i == 0) button->setFocus();
+    connect(button, &QPushButton::clicked, this, [this, i] { done(i); });
+    buttons->addWidget(button);
+  }
+  buttons->insertStretch(0);
+}
+
+void AlertDialog::reject() { done(last_); }
+
+}  // namespace tarvo

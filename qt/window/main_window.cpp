@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "qt/window/main_window.h"
+
+#include <QBoxLayout>
+#include <QEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QStackedWidget>
+#include <QTimer>
+#include <utility>
+
+#include "app/interface.h"
+#include "qt/bind/control_view.h"
+#include "qt/look/metrics.h"
+#include "qt/window/frame_animation.h"
+#include "qt/window/toolbar_view.h"
+
+namespace tarvo {
+
+MainWindow::MainWindow(Interface& interface, Binder& binder, std::vector<PageBuilder> panes)
+    : interface_(interface),
+      binder_(binder),
+      builders_(std::move(panes)),
+      actions_(interface, binder, *this),
+      menuBar_(buildMenuBar(actions_, interface, binder, this)),
+      toolbar_(new ToolbarView(actions_, interface, binder, this)),
+      paneArea_(new QWidget(this)),
+      animation_(new FrameAnimation(*this, [this](bool moving) {
+        // An empty pane while the window moves: laying it out at each step would look restless.
+        if (panes_ == nullptr) return;
+        fitPane();
+        panes_->setVisible(!moving);
+      })) {
+  binder.window(interface.manager.myWindow, *this);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  rows->setMenuBar(menuBar_);
+  rows->addWidget(toolbar_);
+  rows->addWidget(paneArea_, 1);
+  paneArea_->installEventFilter(this);
+  // The items change theirs in the same round of events.
+  connect(toolbar_, &QToolBar::toolButtonStyleChanged, this, [this] {
+    QTimer::singleShot(0, this, [this] {
+      if (toolbarChangedHeight) toolbarChangedHeight();
+    });
+  });
+}
+
+int MainWindow::menuHeight() const { return menuBar_->sizeHint().height(); }
+
+int MainWindow::toolbarHeight() const { return toolbar_->sizeHint().height(); }
+
+void MainWindow::buildPanes() {
+  if (panes_ != nullptr) return;
+  panes_ = binder_.pages(interface_.manager.myTabView, std::move(builders_), paneArea_);
+  fitPane();
+}
+
+QSize MainWindow::minimumOfPane(int pane) {
+  buildPanes();
+  const QWidget* page = panes_->widget(pane);
+  return page != nullptr ? page->minimumSizeHint() : QSize();
+}
+
+void MainWindow::resizeTo(QSize client, bool animate) { animation_->resizeTo(client, animate); }
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == paneArea_ && event->type() == QEvent::Resize && panes_ != nullptr && !isHiddenItself(*panes_))
+    fitPane();
+  return QWidget::eventFilter(watched, event);
+}
+
+void MainWindow::fitPane() { panes_->setGeometry(paneArea_->rect()); }
+
+void MainWindow::setNotice(const QString& text) {
+  if (notice_ == nullptr) {
+    if (text.isEmpty()) return;
+    notice_ = new QLabel(this);
+    notice_->setObjectName(QStringLiteral("notice"));
+    notice_->setTextFormat(Qt::PlainText);
+    notice_->setMargin(metrics::labelGap);
+    notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // a long path never widens the window
+    static_cast<QBoxLayout*>(layout())->addWidget(notice_);
+  }
+  notice_->setText(text);
+  notice_->setToolTip(text);
+  notice_->setVisible(!text.isEmpty());
+}
+
+}  // namespace tarvo

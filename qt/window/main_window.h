@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <vector>
+
+#include "qt/bind/binder.h"
+#include "qt/window/menu_bar.h"
+
+class QLabel;
+class QStackedWidget;
+
+namespace tarvo {
+
+class FrameAnimation;
+class Interface;
+class ToolbarView;
+
+// The main window: menu bar, toolbar, the shown pane, and a line at the foot while something could not be saved.
+// Duty: lay them out and change its size. Not: its place on the screen, or deciding which pane is shown. The user
+// cannot resize it; panes are built when they are first shown or measured.
+class MainWindow : public QWidget {
+ public:
+  // panes: a builder each, in the order of the pane tags.
+  MainWindow(Interface& interface, Binder& binder, std::vector<PageBuilder> panes);
+
+  int menuHeight() const;
+  int toolbarHeight() const;  // as high as it is when it is shown
+  QSize minimumOfPane(int pane);
+  void resizeTo(QSize client, bool animate);
+  void buildPanes();  // the shown one
+  // A line at the foot; "" takes it away.
+  void setNotice(const QString& text);
+
+  std::function<void()> toolbarChangedHeight;
+
+ private:
+  void fitPane();
+  Interface& interface_;
+  Binder& binder_;
+  std::vector<PageBuilder> builders_;
+  MenuActions actions_;
+  QMenuBar* menuBar_;
+  ToolbarView* toolbar_;
+  QWidget* paneArea_;
+  QLabel* notice_ = nullptr;
+  QStackedWidget* panes_ = nullptr;
+  FrameAnimation* animation_;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+};
+
+}  // namespace tarvo

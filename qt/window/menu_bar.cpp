@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "qt/window/menu_bar.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "app/interface.h"
+#include "qt/bind/binder.h"
+
+namespace tarvo {
+namespace {
+
+QAction* boundAction(MenuItem& item, Binder& binder, QWidget& window, const QKeySequence& shortcut = {}) {
+  auto* action = new QAction(&window);
+  action->setShortcut(shortcut);
+  binder.menuItem(item, *action);
+  window.addAction(action);
+  return action;
+}
+
+QMenu* lazyMenu(QMenuBar& bar, Binder& binder, const char* titleKey, QList<QAction*> entries) {
+  QMenu* menu = bar.addMenu(binder.localized(titleKey));
+  // Connected before the binder asks the entries.
+  QObject::connect(menu, &QMenu::aboutToShow, menu, [menu, entries = std::move(entries)] {
+    if (!menu->isEmpty()) return;
+    for (QAction* entry : entries) entry != nullptr ? menu->addAction(entry) : void(menu->addSeparator());
+  });
+  binder.menu(*menu);
+  return menu;
+}
+
+}  // namespace
+
+MenuActions::MenuActions(Interface& interface, Binder& binder, QWidget& window) {
+  ManagerOutlets& manager = interface.manager;
+  quit = boundAction(interface.style.quitMenu, binder, window, Qt::CTRL | Qt::Key_Q);
+  styles = boundAction(manager.styleManagerMenu, binder, window, Qt::CTRL | Qt::Key_1);
+  office = boundAction(manager.officeAddinMenu, binder, window, Qt::CTRL | Qt::Key_2);
+  mail = boundAction(manager.mailMenu, binder, window, Qt::CTRL | Qt::Key_3);
+  showToolbar = boundAction(manager.toolbarMenu, binder, window);
+  showToolbar->setCheckable(true);
+  customizeToolbar = boundAction(manager.customizeToolbarMenu, binder, window);
+  about = boundAction(manager.aboutMenu, binder, window);
+}
+
+QMenuBar* buildMenuBar(const MenuActions& actions, Interface& interface, Binder& binder, QWidget* parent) {
+  auto* bar = new QMenuBar(parent);
+  lazyMenu(*bar, binder, "Menu.File", {actions.quit});
+  QMenu* view =
+      lazyMenu(*bar, binder, "Menu.View",
+               {actions.styles, actions.office, actions.mail, nullptr, actions.showToolbar, actions.customizeToolbar});
+  tickShownToolbar(*view, actions, interface);
+  lazyMenu(*bar, binder, "Menu.Help", {actions.about});
+  return bar;
+}
+
+void tickShownToolbar(QMenu& menu, const MenuActions& actions, const Interface& interface) {
+  QObject::connect(&menu, &QMenu::aboutToShow, actions.showToolbar, [action = actions.showToolbar, &interface] {
+    action->setChecked(interface.manager.toolbar.isShown());
+  });
+}
+
+}  // namespace tarvo

@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "qt/window/qt_windows.h"
+
+#include <QDialog>
+#include <QEventLoop>
+#include <algorithm>
+#include <utility>
+
+#include "app/interface.h"
+#include "app/window_geometry.h"
+#include "qt/bind/window_frame.h"
+#include "qt/window/caution_window.h"
+#include "qt/window/frame_animation.h"
+#include "qt/window/main_window.h"
+#include "qt/window/sheet.h"
+
+namespace tarvo {
+namespace {
+
+constexpr int fixedTitle = 22;
+constexpr float fixedToolbar = 56;
+constexpr Rect fixedScreen{0, 0, 1440, 900};
+
+}  // namespace
+
+QtWindows::QtWindows(Figures figures) : figures_(figures) {}
+
+QtWindows::~QtWindows() = default;
+
+void QtWindows::open(Interface& interface, Windows& windows, Binder& binder, std::vector<PageBuilder> panes) {
+  interface_ = &interface;
+  windows_ = &windows;
+  main_ = std::make_unique<MainWindow>(interface, binder, std::move(panes));
+  frame_ = new WindowFrame(interface.manager.myWindow, *main_, figures_ == Figures::fixed ? fixedTitle : -1);
+  main_->toolbarChangedHeight = [this] { fitToToolbar(); };
+  addDialog(interface.manager.displayAlertWindow,
+            [&interface, &binder](QWidget* parent) { return buildScreenCaution(interface, binder, parent); });
+}
+
+void QtWindows::close() {
+  dialogs_.clear();
+  builders_.clear();
+  frame_ = nullptr;
+  main_.reset();
+}
+
+void QtWindows::addDialog(Window& window, DialogBuilder builder) { builders_[&window] = std::move(builder); }
+
+bool QtWindows::isMain(const Window& window) const {
+  return main_ != nullptr && &window == &interface_->manager.myWindow;
+}
+
+QWidget* QtWindows::widgetOf(const Window& window) const {
+  if (isMain(window)) return main_.get();
+  const auto built = dialogs_.find(&window);
+  return built == dialogs_.end() ? nullptr : built->second;
+}
+
+int QtWindows::sheetTop() const {
+  if (main_ == nullptr) return 0;
+  return main_->menuHeight() + (interface_->manager.toolbar.isShown() ? main_->toolbarHeight() : 0);
+}
+
+QDialog* QtWindows::dialog(Window& window) {
+  const auto built = dialogs_.find(&window);
+  if (built != dialogs_.end()) return built->second;
+  const auto builder = builders_.find(&window);
+  if (builder == builders_.end()) return nullptr;
+  return dialogs_[&window] = builder->second(main_.get());
+}
+
+void QtWindows::show(Window& window) {
+  if (isMain(window)) {
+    main_->buildPanes();
+    applyFrame(window, false);
+    main_->show();
+    return;
+  }
+  QDialog* shown = dialog(window);
+  if (shown == nullptr) return;
+  const Window* host = windows_->hostOf(window);
+  QWidget* below = host != nullptr ? widgetOf(*host) : nullptr;
+  below != nullptr ? openSheet(*shown, *below, below == main_.get() ? sheetTop() : 0) : shown->show();
+}
+
+void QtWindows::hide(Window& window) {
+  if (QWidget* shown = widgetOf(window)) shown->hide();
+}
+
+void QtWindows::applyFrame(Window& window, bool animate) {
+  if (!isMain(window)) return;
+  frame_->place();
+  main_->resizeTo(frame_->clientSize(), animate && figures_ == Figures::real && isAnimationWanted(*main_));
+}
+
+void QtWindows::runModal(Window& window) {
+  QDialog* run = dialog(window);
+  if (run == nullptr) return;
+  run->setWindowModality(Qt::ApplicationModal);
+  run->exec();
+}
+
+void QtWindows::stopModal(Window& window) {
+  if (QDialog* run = dialog(window)) run->done(0);
+}
+
+WindowHeights QtWindows::heights(const Window& window) {
+  const Toolbar* toolbar = isMain(window) ? &interface_->manager.toolbar : nullptr;
+  const bool isFixed = figures_ == Figures::fixed;
+  const int title = isFixed ? fixedTitle : frame_ != nullptr ? frame_->decorationHeight() + main_->menuHeight() : 0;
+  const float bar = isFixed ? fixedToolbar : main_ != nullptr ? static_cast<float>(main_->toolbarHeight()) : 0;
+  WindowHeights heights;
+  heights.hasToolbar = isFixed || toolbar != nullptr;
+  heights.toolbarHidden = toolbar != nullptr && !toolbar->isShown();
+  heights.contentHeightToggled = window.frame().height;
+  heights.contentHeight = window.frame().height - static_cast<float>(title);
+  heights.contentViewHeight = heights.contentHeight - (heights.toolbarHidden ? 0 : bar);
+  return heights;
+}
+
+Size QtWindows::paneSize(int pane) {
+  const Size least = paneSizes[static_cast<std::size_t>(pane)];
+  if (figures_ == Figures::fixed || main_ == nullptr) return least;
+  const QSize needed = main_->minimumOfPane(pane);
+  return {std::max(least.width, static_cast<float>(needed.width())),
+          std::max(least.height, static_cast<float>(needed.height()))};
+}
+
+Rect QtWindows::mainScreen() { return figures_ == Figures::fixed ? fixedScreen : primaryScreen(); }
+
+// Icons without texts, say, need less room: the pane keeps its size and the window its top edge.
+void QtWindows::fitToToolbar() {
+  Window& window = interface_->manager.myWindow;
+  const WindowHeights now = heights(window);
+  const Size pane = paneSize(interface_->manager.myTabView.selectedPage());
+  window.setFrameInPlace(paneFrame(window.frame(), pane, titlebarHeight(now), tarvo::toolbarHeight(now)));
+  applyFrame(window, false);
+}
+
+}  // namespace tarvo
