@@ -25,6 +25,7 @@ void Interface::connect(Rooms& rooms, const Texts& texts) {
   managerRows(rooms, texts);
   menuRows(rooms, texts);
   apply(texts);
+  for (PopUpButton& popup : options.detailPopups) popup.selectItemAtIndex(-1);  // no style is shown yet
 }
 
 void Interface::apply(const Texts& texts) {
