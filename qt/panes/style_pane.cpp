@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "qt/panes/style_pane.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "app/interface.h"
+#include "qt/bind/binder.h"
+#include "qt/look/metrics.h"
+#include "qt/panes/direction_page.h"
+#include "qt/panes/tool_chooser_view.h"
+
+namespace tarvo {
+namespace {
+
+constexpr int stylePopupWidth = 320;
+constexpr int toolIconSide = 64;
+
+// The icon of the chosen tool beside what is chosen for it.
+QLayout* buildHead(Interface& interface, Binder& binder, QWidget* pane) {
+  auto* head = new QGridLayout;
+  head->setHorizontalSpacing(metrics::labelGap);
+  head->setVerticalSpacing(metrics::rowGap);
+  head->setColumnStretch(2, 1);
+  const auto label = [&](const QString& text, int row, QWidget* field) {
+    auto* shown = new QLabel(text, pane);
+    shown->setBuddy(field);
+    head->addWidget(shown, row, 1, Qt::AlignRight | Qt::AlignVCenter);
+    head->addWidget(field, row, 2, Qt::AlignLeft | Qt::AlignVCenter);
+  };
+  QWidget* icon = binder.image(interface.style.toolIcon, toolIconSide, pane);
+  head->addWidget(icon, 0, 0, 2, 1, Qt::AlignCenter);
+  head->setColumnMinimumWidth(0, toolIconSide + metrics::rowGap);
+  QComboBox* styles = binder.popup(interface.style.stylePopup, pane);
+  styles->setMinimumWidth(stylePopupWidth);
+  label(toQString(interface.style.stylePopup.label()), 0, styles);
+  label(binder.localized("Label.toolChooser"), 1, buildToolChooser(interface, binder, pane));
+  return head;
+}
+
+}  // namespace
+
+QWidget* buildStylePane(Interface& interface, Binder& binder, QWidget* parent) {
+  auto* pane = new QWidget(parent);
+  auto* column = new QVBoxLayout(pane);
+  column->setContentsMargins(metrics::paneMargin, metrics::paneMargin, metrics::paneMargin, metrics::paneMargin);
+  column->setSpacing(metrics::sectionGap - metrics::rowGap);
+  column->addLayout(buildHead(interface, binder, pane));
+  std::vector<PageBuilder> pages;
+  for (const Direction direction : {Direction::englishToJapanese, Direction::japaneseToEnglish}) {
+    pages.push_back([&interface, &binder, direction](QWidget* page) {
+      return buildDirectionPage(interface, binder, direction, page);
+    });
+  }
+  QTabWidget* directions = binder.tabs(interface.lists.directionTab, std::move(pages), pane);
+  directions->tabBar()->setAccessibleName(directions->accessibleName());
+  column->addWidget(directions, 1);
+  binder.view(interface.manager.styleManagerView, *pane);
+  return pane;
+}
+
+}  // namespace tarvo
