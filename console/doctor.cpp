@@ -172,7 +172,7 @@ ExitStatus DoctorCommand::run(Console& console) {
   if (json_) {
     Json::List list;
     for (const Finding& finding : findings) {
-      list.push_back(Json::Object{
+      list.emplace_back(Json::Object{
           {"path", finding.path}, {"what", finding.what}, {"state", finding.state}, {"detail", finding.detail}});
     }
     console.out << writeJson(list) << '\n';

@@ -78,7 +78,7 @@ ExitStatus StylesCommand::run(Console& console) {
     const bool isDivider = name == divider;
     const std::vector<std::string> tools = toolsAt(*root, index, ids);
     rows.push_back({std::to_string(index), isDivider ? "(divider)" : name, joined(tools, " ")});
-    list.push_back(Json::Object{
+    list.emplace_back(Json::Object{
         {"index", index}, {"name", name}, {"divider", isDivider}, {"tools", Json::List(tools.begin(), tools.end())}});
     ++index;
   }

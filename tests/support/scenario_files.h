@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/product.h"
+#include "tests/support/temporary_folder.h"
+
+// The scenario files, and how each wants to be run. Comment lines at its head say it:
+//   # options: --strings none …   command-line options; relative files start in the scenarios' folder
+//   # root: NAME                  a copy of fixtures/NAME is the product's root ("plain" when nothing is said)
+//   # needs: attributes           only where the disk keeps extended attributes
+namespace tarvo::test {
+
+struct ScenarioFile {
+  std::string path, name;  // name: of the file, without extension
+  std::vector<std::string> options;
+  std::string root = "plain";
+  bool needsAttributes = false;
+};
+
+std::string scenarioFolder();
+std::vector<ScenarioFile> scenarioFiles();  // ascending by name
+ScenarioFile readScenario(const std::string& path);
+
+// A private copy of the file's root, with a home "Users/taro" below it, gone with this object.
+class ScenarioRoot {
+ public:
+  explicit ScenarioRoot(const std::string& fixture);
+  std::string root() const { return folder_ / "root"; }
+  std::string home() const { return folder_ / "root/Users/taro"; }
+  const TemporaryFolder& folder() const { return folder_; }
+
+ private:
+  TemporaryFolder folder_;
+};
+
+// What the file's options and that root come to, on the command line and in the program.
+std::vector<std::string> scenarioArguments(const ScenarioFile& file, const ScenarioRoot& root);
+ProductOptions scenarioProduct(const ScenarioFile& file, const ScenarioRoot& root);
+
+}  // namespace tarvo::test
