@@ -19,8 +19,8 @@ namespace {
 constexpr std::string_view commonNameKeys[] = {"EJCommonUD", "JECommonUD", "EJCommonUTMA", "JECommonUTMA"};
 
 std::size_t limitOf(int dicType) {
-  constexpr int limits[] = {TDMax, UDMax, UTMAMax};
-  return static_cast<std::size_t>(dicType >= 0 && dicType < 3 ? limits[dicType] : UDMax);
+  if (dicType == 0) return TDMax;
+  return dicType == 2 ? UTMAMax : UDMax;
 }
 
 }  // namespace

@@ -269,6 +269,15 @@ INSTANTIATE_TEST_SUITE_P(DictController, Limits,
                                          LimitCase{1, false, ".jud", UDMax}, LimitCase{2, true, ".etm", UTMAMax},
                                          LimitCase{2, false, ".jtm", UTMAMax}));
 
+TEST(DictController, aKindThatListsNothingHasTheLowerLimit) {
+  DictionaryWorld world;
+  for (const int kind : {-1, 3, 7}) {
+    const DictController controller = world.list(kind);
+    EXPECT_FALSE(controller.checkMaxOver(numbered(5))) << kind;
+    EXPECT_TRUE(controller.checkMaxOver(numbered(6))) << kind;
+  }
+}
+
 TEST(DictController, theLimitsAreEightAndFive) {
   EXPECT_EQ(TDMax, 8);
   EXPECT_EQ(UDMax, 5);

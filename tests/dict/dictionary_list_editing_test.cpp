@@ -196,6 +196,17 @@ TEST(MovingARow, downToTheEndTurnsTheDownButtonOff) {
   EXPECT_EQ(jeButtons(world.outlets), (Buttons{true, true, false, true}));
 }
 
+TEST(MovingARow, updatesTheButtonsAfterTheSave) {
+  StylePaneWorld world;
+  world.openWithLists(abc, {});
+  world.outlets.ejTDTable.selectRows({1});
+  world.store.didWrite = [&] { muddle(world.outlets); };
+  world.editing.raiseUpTD(0);
+  EXPECT_EQ(ejButtons(world.outlets), (Buttons{true, false, true, true}));
+  world.editing.removeTD(0);
+  EXPECT_EQ(ejButtons(world.outlets), (Buttons{true, false, true, true}));
+}
+
 TEST(MovingARow, withoutARowOrBeyondAnEndDoesNothing) {
   StylePaneWorld world;
   world.openWithLists(abc, {});
