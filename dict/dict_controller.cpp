@@ -18,7 +18,7 @@ namespace {
 // Text keys of the dictionaries that every user has.
 constexpr std::string_view commonNameKeys[] = {"EJCommonUD", "JECommonUD", "EJCommonUTMA", "JECommonUTMA"};
 
-std::size_t limitOf(int dicType) {
+int limitOf(int dicType) {
   if (dicType == 0) return TDMax;
   return dicType == 2 ? UTMAMax : UDMax;
 }
@@ -134,7 +134,7 @@ void DictController::clearInformation() {
 }
 
 bool DictController::checkMaxOver(const std::optional<Names>& names) const {
-  return names && loadedNames().size() + names->size() > limitOf(dicType_);
+  return names && loadedNames().size() + names->size() > static_cast<std::size_t>(limitOf(dicType_));
 }
 
 std::string DictController::getDicPath(const std::optional<std::string>& name) const {
