@@ -60,8 +60,8 @@ class Dictionary {
   const std::string* string(std::string_view key) const;
   int integerValue(std::string_view key) const;  // 0 when absent
   const std::vector<Entry>& entries() const { return entries_; }
-  std::size_t size() const { return entries_.size(); }
-  bool empty() const { return entries_.empty(); }
+  std::size_t size() const;
+  bool empty() const;
   friend bool operator==(const Dictionary&, const Dictionary&);
 
  private:
@@ -107,5 +107,9 @@ class PropertyList {
  private:
   Value value_;
 };
+
+// Down here because an entry is a complete type only now.
+inline std::size_t Dictionary::size() const { return entries_.size(); }
+inline bool Dictionary::empty() const { return entries_.empty(); }
 
 }  // namespace tarvo
