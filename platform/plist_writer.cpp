@@ -66,10 +66,17 @@ void appendText(std::string& out, std::string_view text) {
   }
 }
 
-void appendElement(std::string& out, std::string_view name, std::string_view text) {
-  out.append(1, '<').append(name).append(1, '>');
+// The start and end of an element that holds text.
+struct Tags {
+  std::string_view start, end;
+};
+constexpr Tags keyTags{"<key>", "</key>\n"}, stringTags{"<string>", "</string>\n"}, realTags{"<real>", "</real>\n"},
+    dateTags{"<date>", "</date>\n"};
+
+void appendElement(std::string& out, const Tags& tags, std::string_view text) {
+  out += tags.start;
   appendText(out, text);
-  out.append("</").append(name).append(">\n");
+  out += tags.end;
 }
 
 // One overload per kind; the indentation of the first line stands already.
@@ -78,9 +85,9 @@ struct Writer {
   int depth;
 
   void operator()(bool value) const { out += value ? "<true/>\n" : "<false/>\n"; }
-  void operator()(const Real& value) const { appendElement(out, "real", value.text); }
-  void operator()(const Date& value) const { appendElement(out, "date", value.text); }
-  void operator()(const std::string& value) const { appendElement(out, "string", value); }
+  void operator()(const Real& value) const { appendElement(out, realTags, value.text); }
+  void operator()(const Date& value) const { appendElement(out, dateTags, value.text); }
+  void operator()(const std::string& value) const { appendElement(out, stringTags, value); }
 
   void operator()(const Integer& value) const {
     std::array<char, 24> digits;
@@ -133,7 +140,7 @@ void appendValue(std::string& out, const PropertyList& value, int depth) {
 
 void appendKey(std::string& out, std::string_view key, int depth) {
   indent(out, depth);
-  appendElement(out, "key", key);
+  appendElement(out, keyTags, key);
 }
 
 void appendEncodedArray(std::string& out, std::span<const std::string> encoded, int depth) {
