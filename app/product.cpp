@@ -42,6 +42,9 @@ Product::Product(const ProductOptions& options)
   bundle_ = std::make_unique<Bundle>(*files_, resources, languagesFor(language_));
   layTexts(options.strings);
   paths_ = std::make_unique<ProductPaths>(locations_, readPaths(options.paths));
+  if (tarvo::makeEngine(engineURL(), *files_, paths_->localEnginePath()) == nullptr) {
+    problem_ = "there is no style service of this kind: " + engineURL();
+  }
 }
 
 Product::~Product() = default;
@@ -72,8 +75,11 @@ std::optional<Dictionary> Product::readPaths(const std::optional<std::string>& o
   return configuration;
 }
 
+std::string Product::engineURL() const { return engine_.value_or(paths_->engineURL()); }
+
 std::unique_ptr<Engine> Product::makeEngine(FileService& files) {
-  return tarvo::makeEngine(engine_.value_or(paths_->engineURL()), files, paths_->localEnginePath());
+  std::unique_ptr<Engine> engine = tarvo::makeEngine(engineURL(), files, paths_->localEnginePath());
+  return engine != nullptr ? std::move(engine) : tarvo::makeEngine("none", files, "");
 }
 
 Services Product::services(FileService& files, Engine& engine, RunLoop& runLoop, Panels& panels, WindowHost& windowHost,

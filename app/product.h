@@ -41,13 +41,15 @@ class Product {
   ProductPaths& paths() { return *paths_; }
   LocalStyleModule& styleModule() { return *styleModule_; }
 
-  // The engine that the options or the configuration name, working on these files.
+  // The engine that the options or the configuration name, working on these files; one that is never reachable when
+  // there is none of that kind (see problem()).
   std::unique_ptr<Engine> makeEngine(FileService& files);
   // The services of a program: the product's, with the files and the engine given here, and the shell's.
   Services services(FileService& files, Engine& engine, RunLoop& runLoop, Panels& panels, WindowHost& windowHost,
                     Workspace& workspace);
 
  private:
+  std::string engineURL() const;
   void layTexts(const std::vector<std::string>& strings);
   std::optional<Dictionary> readPaths(const std::optional<std::string>& overlay);
   std::string language_, problem_;
