@@ -15,7 +15,7 @@ Number parse(const std::string& word, const char* what) {
   Number value{};
   const char* end = word.data() + word.size();
   const auto read = std::from_chars(word.data(), end, value);
-  if (read.ec != std::errc{} || read.ptr != end) throw ScriptError(word + " is no " + what);
+  if (read.ec != std::errc{} || read.ptr != end) throw ScriptError(word + " is not " + what);
   return value;
 }
 

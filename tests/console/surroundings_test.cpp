@@ -1,0 +1,192 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "console/recorder.h"
+
+#include <gtest/gtest.h>
+
+#include "console/manual_run_loop.h"
+#include "console/memory_shell.h"
+#include "console/scripted_engine.h"
+#include "console/scripted_panels.h"
+#include "platform/posix/posix_files.h"
+#include "platform/windows.h"
+#include "tests/support/temporary_folder.h"
+
+// The surroundings of a scenario, one by one.
+namespace tarvo::test {
+namespace {
+
+class Surroundings : public testing::Test {
+ protected:
+  std::string log() {
+    std::string all;
+    for (const Json& event : recorder_.take()) all += writeJson(event) + "\n";
+    return all;
+  }
+  const TemporaryFolder folder_;
+  Locations locations_{folder_.path(), folder_ / "home"};
+  PosixFiles disk_{locations_};
+  Recorder recorder_{locations_};
+  RecordedFiles files_{disk_, recorder_};
+};
+
+TEST_F(Surroundings, writesAreNotedByNameOrPath) {
+  files_.name("/styles", "styles");
+  files_.name("/settings", "");
+  for (const char* path : {"/styles", "/settings", "/other"}) EXPECT_TRUE(files_.write(path, "x"));
+  EXPECT_FALSE(files_.write("/home/missing/x", "x"));
+  EXPECT_EQ(log(), "{\"wrote\":\"styles\"}\n{\"wrote\":\"root:/other\"}\n{\"writeFailed\":\"home:/missing/x\"}\n");
+  EXPECT_EQ(log(), "");
+}
+
+TEST_F(Surroundings, nothingIsNotedWhileTheScriptActs) {
+  recorder_.setOn(false);
+  files_.write("/a", "x");
+  recorder_.setOn(true);
+  EXPECT_EQ(log(), "");
+}
+
+TEST_F(Surroundings, theDiskRefusesAtAndBelowAPathUntilItIsAllowed) {
+  using Operation = RecordedFiles::Operation;
+  folder_.write("a/b/file", "old");
+  folder_.write("ab", "old");
+  for (const Operation operation :
+       {Operation::write, Operation::copy, Operation::remove, Operation::make, Operation::list}) {
+    files_.refuse(operation, "/a");
+  }
+  EXPECT_FALSE(files_.write("/a/b/file", "new"));
+  EXPECT_FALSE(files_.copy("/ab", "/a/copy"));
+  EXPECT_FALSE(files_.copy("/a/b", "/copy"));
+  EXPECT_FALSE(files_.remove("/a/b/file"));
+  EXPECT_FALSE(files_.removeEmptyFolder("/a/b"));
+  EXPECT_FALSE(files_.makeFolder("/a/new"));
+  EXPECT_FALSE(files_.list("/a").has_value());
+  EXPECT_TRUE(files_.write("/ab", "new"));
+  EXPECT_EQ(folder_.read("a/b/file"), "old");
+  files_.allow();
+  EXPECT_TRUE(files_.write("/a/b/file", "new"));
+  EXPECT_TRUE(files_.list("/a").has_value());
+}
+
+TEST_F(Surroundings, theEngineStartsUnreachableAndEmpty) {
+  ScriptedEngine scripted;
+  RecordedEngine engine(scripted, recorder_);
+  EXPECT_FALSE(engine.checkConnectionWithCurl());
+  EXPECT_FALSE(engine.checkStyle());
+  Array styles;
+  std::string stamp = "P9";
+  EXPECT_FALSE(engine.requestStyle(styles, stamp));
+  EXPECT_EQ(stamp, "P9");
+  EXPECT_EQ(log(),
+            "{\"engine\":\"checkConnectionWithCurl\",\"result\":false}\n{\"engine\":\"checkStyle\",\"result\":false}\n"
+            "{\"engine\":\"requestStyle\",\"result\":false,\"stamp\":\"P9\",\"styles\":0}\n");
+}
+
+TEST_F(Surroundings, aRegistrationBecomesTheHeldSet) {
+  ScriptedEngine scripted;
+  RecordedEngine engine(scripted, recorder_);
+  const Array records{PropertyList(Dictionary{}), PropertyList(Dictionary{})};
+  std::string stamp;
+  engine.sendRegistStyle({records, {}}, stamp);
+  engine.sendRegistStyle({records, {}}, stamp);
+  EXPECT_EQ(stamp, "U2");
+  Array styles;
+  EXPECT_FALSE(engine.requestStyle(styles, stamp));
+  stamp = "";
+  EXPECT_TRUE(engine.requestStyle(styles, stamp));
+  EXPECT_EQ(styles.size(), 2U);
+  EXPECT_EQ(stamp, "U2");
+  scripted.holdNothing();
+  EXPECT_FALSE(engine.checkStyle());
+}
+
+TEST_F(Surroundings, queuedProbesComeBeforeTheState) {
+  ScriptedEngine engine;
+  engine.setOnline(true);
+  engine.queueProbes({false, true, false});
+  EXPECT_FALSE(engine.checkConnectionWithCurl());
+  EXPECT_TRUE(engine.checkConnectionWithCurl());
+  EXPECT_FALSE(engine.checkConnectionWithCurl());
+  EXPECT_TRUE(engine.checkConnectionWithCurl());
+}
+
+TEST_F(Surroundings, alertsTakeTheirAnswersInOrderElseTheDefaultButton) {
+  MemoryShell shell;
+  ScriptedPanels panels(recorder_, shell);
+  panels.answerAlert(1);
+  EXPECT_EQ(panels.runAlertPanel({"T", "M", {"OK", "Cancel"}}), 1);
+  EXPECT_EQ(panels.runAlertPanel({"T", "M", {"OK", "Cancel"}}), 0);
+  EXPECT_FALSE(panels.hasAnswers());
+  EXPECT_EQ(panels.failure(), "");
+  EXPECT_EQ(log(),
+            "{\"alert\":{\"answer\":2,\"buttons\":[\"OK\",\"Cancel\"],\"message\":\"M\",\"title\":\"T\"}}\n"
+            "{\"alert\":{\"answer\":1,\"buttons\":[\"OK\",\"Cancel\"],\"message\":\"M\",\"title\":\"T\"}}\n");
+}
+
+TEST_F(Surroundings, anAlertSheetNamesItsWindow) {
+  struct Outlet : Outlets {
+    Window window{*this, "myWindow"};
+    Outlet() : Outlets("manager") {}
+  } outlets;
+  MemoryShell shell;
+  ScriptedPanels panels(recorder_, shell);
+  int answered = -1;
+  panels.beginAlertSheet(outlets.window, {"T", "M", {"OK"}}, [&](int button) { answered = button; });
+  EXPECT_EQ(answered, 0);
+  EXPECT_FALSE(panels.isAlertUp());
+  EXPECT_EQ(log(),
+            "{\"alert\":{\"answer\":1,\"buttons\":[\"OK\"],\"message\":\"M\",\"over\":\"manager.myWindow\","
+            "\"title\":\"T\"}}\n");
+}
+
+TEST_F(Surroundings, aFilePanelWithoutAnAnswerFailsTheScript) {
+  MemoryShell shell;
+  ScriptedPanels panels(recorder_, shell);
+  EXPECT_FALSE(panels.runOpenPanel({"Import", {}, false}));
+  EXPECT_EQ(panels.failure(), "nothing answers the open panel \"Import\"");
+}
+
+TEST_F(Surroundings, theDesktopIsOnlyNoted) {
+  RecordedWorkspace workspace(recorder_);
+  workspace.openFile("/home/a");
+  workspace.openAddress("https://support.example/");
+  workspace.launchApplication("Script Editor");
+  workspace.running = {"/Applications/Mail.app"};
+  EXPECT_EQ(workspace.launchedApplications(), std::vector<std::string>{"/Applications/Mail.app"});
+  EXPECT_EQ(log(),
+            "{\"opened\":\"home:/a\"}\n{\"address\":\"https://support.example/\"}\n{\"launched\":\"Script Editor\"}\n");
+}
+
+TEST(ManualRunLoop, timersFireWhenTheirTimeHasCome) {
+  ManualRunLoop loop;
+  std::string order;
+  loop.after(2, [&] { order += 'b'; });
+  loop.after(1, [&] {
+    order += 'a';
+    loop.after(1, [&] { order += 'c'; });
+  });
+  const RunLoop::Timer gone = loop.after(1, [&] { order += 'x'; });
+  loop.cancel(gone);
+  loop.settle();
+  EXPECT_EQ(order, "");
+  loop.advance(1.999);
+  EXPECT_EQ(order, "a");
+  loop.advance(0.001);
+  EXPECT_EQ(order, "abc");
+}
+
+TEST(ManualRunLoop, postedCallsRunInOrderAndMayPost) {
+  ManualRunLoop loop;
+  std::string order;
+  loop.post([&] {
+    order += '1';
+    loop.post([&] { order += '3'; });
+  });
+  loop.post([&] { order += '2'; });
+  EXPECT_EQ(order, "");
+  loop.settle();
+  EXPECT_EQ(order, "123");
+}
+
+}  // namespace
+}  // namespace tarvo::test
