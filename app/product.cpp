@@ -17,9 +17,6 @@ namespace tarvo {
 
 namespace {
 
-// Texts that belong to one machine: where dictionaries of other makers were installed.
-constexpr const char* machineTexts = "/Library/Application Support/Wordhaven/TarvoEiwa/Local.strings";
-
 Locations locationsFor(const ProductOptions& options) {
   Places places = findPlaces(options.root, options.home);
   return {std::move(places.root), std::move(places.home)};

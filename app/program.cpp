@@ -40,6 +40,10 @@ std::string lockPath(const Locations& locations) {
   return locations.inHome(std::string("Library/Preferences/") + identifier + ".lock");
 }
 
+std::string toolListPath(const Locations& locations) {
+  return locations.inHome("Library/Preferences/Wordhaven/TarvoManager.txt");
+}
+
 Program::Program(const Services& services)
     : services_(services),
       defaults_(services.files, userDefaultsPath(services.locations)),
@@ -55,7 +59,7 @@ Program::Program(const Services& services)
       display_(store_, options_, lists_, services.texts),
       chooser_(interface_.style, interface_.options, flags_, [this](int tool) { styles_.selectTableViewAction(tool); }),
       toolList_(services.files, defaults_, services.gTarvoCommonModule, interface_.tools,
-                services.locations.inHome("Library/Preferences/Wordhaven/TarvoManager.txt")),
+                toolListPath(services.locations)),
       mailScripts_(services.files, services.locations.home()),
       rooms_{store_,  options_, lists_,   dictionaryTable_, medical_,     userLists_,
              naming_, display_, chooser_, toolList_,        mailScripts_, flags_},

@@ -69,8 +69,9 @@ class Program {
   bool managerAwake_ = false, terminated_ = false;
 };
 
-// Where the settings and the lock of a user lie, in the core's spelling.
+// Where the settings, the lock and the tool list of a user lie, in the core's spelling.
 std::string userDefaultsPath(const Locations& locations);
 std::string lockPath(const Locations& locations);
+std::string toolListPath(const Locations& locations);
 
 }  // namespace tarvo

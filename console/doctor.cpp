@@ -10,7 +10,6 @@
 #include "console/json.h"
 #include "console/text_table.h"
 #include "dict/dict_controller.h"
-#include "install/tool_list_file.h"
 #include "platform/file_service.h"
 #include "platform/plist_reader.h"
 #include "platform/system_version.h"
@@ -99,7 +98,7 @@ class Examination {
     for (const std::string& language : bundle.languages()) {
       keys(bundle.folder() + "/" + language + ".lproj/Localizable.strings", "texts", "keys are shown instead");
     }
-    keys(std::string(machineTexts), "texts of this machine", "none are needed");
+    keys(machineTexts, "texts of this machine", "none are needed");
   }
 
   void folder(const std::string& path, const char* what) {
@@ -155,12 +154,10 @@ class Examination {
       const int number = systemVersion(product_.files());
       add(version, "system version", number != 0 ? "ok" : "problem", std::to_string(number));
     }
-    plain(product_.locations().inHome(std::string(toolListPath)), "tool list", "written at every start");
+    plain(toolListPath(product_.locations()), "tool list", "written at every start");
     keys(product_.paths().localEnginePath(), "styles of the local engine", "made by the first registration");
   }
 
-  static constexpr const char* machineTexts = "/Library/Application Support/Wordhaven/TarvoEiwa/Local.strings";
-  static constexpr const char* toolListPath = "Library/Preferences/Wordhaven/TarvoManager.txt";
   Product& product_;
   std::vector<Finding> findings_;
 };

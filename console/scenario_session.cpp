@@ -23,6 +23,7 @@ ScenarioSession::ScenarioSession(const ScenarioOptions& options, ScenarioShell& 
       usesConfigured_(options.product.engine.has_value()) {
   product_.locations().leaveAsIs(folder_);
   files_.name(product_.locations().inHome(std::string(gStylePath)), "styles");
+  files_.name(toolListPath(product_.locations()), "tool list");
   files_.name(userDefaultsPath(product_.locations()), "");
   files_.name(product_.paths().localEnginePath(), "");
 }
@@ -49,7 +50,6 @@ void ScenarioSession::start() {
   program_ =
       std::make_unique<Program>(product_.services(files_, engine_, clock_, panels_, shell_.windowHost(), workspace_));
   phase_ = Phase::running;
-  files_.name(program_->rooms().toolList.path(), "tool list");
   recorder_.observe(*program_);
   program_->didTerminate = [this] {
     recorder_.note({{"terminated", true}});
