@@ -18,9 +18,9 @@ TEST_P(OneEdit, changesOneValueAndKeepsEveryKeyThatNobodyKnows) {
   if (place.empty()) GTEST_SKIP() << "no disk here keeps the type codes by which some dictionaries are found";
   const TemporaryFolder folder(place);
   const std::string source = TARVO_SOURCE_DIR;
-  const std::string command = "python3 " + quoted(source + "/tests/console/one_value_changed.py") + " " +
-                              quoted(TARVOCTL) + " " + quoted(source + "/sample/install") + " " +
-                              quoted(folder.path()) + " " + GetParam() + " 2>&1";
+  const std::string command = "python3 " + test::quoted(source + "/tests/console/one_value_changed.py") + " " +
+                              test::quoted(TARVOCTL) + " " + test::quoted(source + "/sample/install") + " " +
+                              test::quoted(folder.path()) + " " + GetParam() + " 2>&1";
   EXPECT_EQ(outputOf(command), "");
 }
 
