@@ -39,8 +39,8 @@ Product::Product(const ProductOptions& options)
   bundle_ = std::make_unique<Bundle>(*files_, resources, languagesFor(language_));
   layTexts(options.strings);
   paths_ = std::make_unique<ProductPaths>(locations_, readPaths(options.paths));
-  if (tarvo::makeEngine(engineURL(), *files_, paths_->localEnginePath()) == nullptr) {
-    problem_ = "there is no style service of this kind: " + engineURL();
+  if (engine_ && tarvo::makeEngine(*engine_, *files_, paths_->localEnginePath()) == nullptr) {
+    problem_ = "there is no style service of this kind: " + *engine_;
   }
 }
 

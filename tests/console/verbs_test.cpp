@@ -203,9 +203,16 @@ TEST_F(Verbs, styleSetTellsWhyTheStartFailed) {
 TEST_F(Verbs, anEngineAddressThatNothingServesIsAUsageError) {
   putStyles("root4.plist");
   const ToolResult result = run({"--engine", "gopher://engine.example", "style", "set", "1", "Opt1=2"});
-  EXPECT_EQ(result.err, "nothing serves this engine address\n");
+  EXPECT_EQ(result.err, "there is no style service of this kind: gopher://engine.example\n");
   EXPECT_EQ(result.status, 2);
   EXPECT_EQ(run({"--engine", "none", "style", "set", "1", "Opt1=2"}).err, "");
+}
+
+TEST_F(Verbs, anEngineThatCannotBeReachedIsToldOnce) {
+  putStyles("root4.plist");
+  const ToolResult result = run({"--paths", "fixtures/no-engine-paths.plist", "style", "set", "1", "Opt1=2", "Opt2=2"});
+  EXPECT_EQ(result.err, "the style service cannot be reached; it keeps its former styles\n");
+  EXPECT_EQ(result.status, 0);
 }
 
 std::map<std::string, Json> byPath(const std::string& listing) {
