@@ -10,7 +10,7 @@
 #include "console/scenario_session.h"
 #include "console/script_commands.h"
 #include "console/script_error.h"
-#include "platform/plist_file.h"
+#include "platform/plist_reader.h"
 #include "platform/text_rules.h"
 #include "style/style_keys.h"
 
@@ -49,10 +49,12 @@ void advance(Interpreter& interpreter, ScriptLine& line) {
   interpreter.session().clock().advance(seconds);
 }
 
-// A style file's array, or an array as the whole list.
+// Of a style file, or a list that is nothing else.
 Array stylesOf(ScenarioSession& session, const std::string& path) {
-  const std::optional<Dictionary> root = PlistFile(session.product().files(), path).read();
-  const Array* styles = root ? root->array(keyNameStyle) : nullptr;
+  const std::optional<std::string> bytes = session.product().files().read(path);
+  const std::optional<PropertyList> list = bytes ? readPropertyList(*bytes) : std::nullopt;
+  const Array* styles = list ? list->array() : nullptr;
+  if (list && list->dictionary() != nullptr) styles = list->dictionary()->array(keyNameStyle);
   if (styles == nullptr) throw ScriptError("there are no styles in " + path);
   return *styles;
 }

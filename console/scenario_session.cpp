@@ -30,11 +30,6 @@ ScenarioSession::ScenarioSession(const ScenarioOptions& options, ScenarioShell& 
 
 ScenarioSession::~ScenarioSession() { drop(); }
 
-std::string ScenarioSession::problem() {
-  if (!product_.problem().empty()) return product_.problem();
-  return usesConfigured_ && !configured_ ? "nothing serves this engine address" : "";
-}
-
 ScriptedEngine& ScenarioSession::engine() {
   if (usesConfigured_) throw ScriptError("the engine is not the scripted one");
   return scripted_;

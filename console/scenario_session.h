@@ -32,7 +32,7 @@ class ScenarioSession {
   ScenarioSession& operator=(const ScenarioSession&) = delete;
 
   // Why no program can be started with these options; "" when one can.
-  std::string problem();
+  const std::string& problem() const { return product_.problem(); }
 
   enum class Phase { none, running, terminated };  // none: before a start and after a kill
   Phase phase() const { return phase_; }

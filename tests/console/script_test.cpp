@@ -196,6 +196,14 @@ TEST(Script, setsSettingsWithoutALogAndReadsThemFromTheFile) {
   EXPECT_EQ(result.status, 0);
 }
 
+TEST(Script, givesTheEngineAStyleFileOrAList) {
+  const ToolResult result = runText(
+      "engine holds fixtures/root4.plist U0\nengine holds fixtures/root4-list.plist U1\nengine probe t f\n"
+      "engine empty\n");
+  EXPECT_EQ(result.err, "");
+  EXPECT_EQ(result.status, 0);
+}
+
 TEST(Script, mayUseTheRealClock) {
   const ToolResult result = runText(std::string(prepare) + "advance 0.01\nquit\n", {"--clock", "real"});
   EXPECT_EQ(result.err, "");
