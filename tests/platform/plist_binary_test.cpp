@@ -253,7 +253,7 @@ TEST(BinaryPropertyList, aSharedTextThatMultipliesGivesNothing) {
 }
 
 TEST(BinaryPropertyList, manyRecordsThatShareTheirTextsAreRead) {
-  const std::size_t records = 20'000;
+  const std::size_t records = 100'000;
   BinaryPlist list{{"\xAF\x12" + bigEndian(records, 4)}, 4, 4};
   list.objects.push_back("\x5F\x10\x40" + std::string(64, 'k'));
   for (std::size_t i = 0; i < records; ++i) {
