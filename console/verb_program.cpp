@@ -70,16 +70,12 @@ VerbProgram::VerbProgram(Console& console)
     : console_(console),
       panels_(std::make_unique<ToldPanels>(console.err)),
       service_(console.product.makeEngine(console.product.files())),
-      engine_(service_ ? std::make_unique<ToldEngine>(*service_, console) : nullptr),
+      engine_(std::make_unique<ToldEngine>(*service_, console)),
       workspace_(std::make_unique<ToldWorkspace>(console.err)) {}
 
 VerbProgram::~VerbProgram() = default;
 
 ExitStatus VerbProgram::run(const std::function<void(Program& program, Hand& hand)>& act) {
-  if (!engine_) {
-    console_.err << "nothing serves this engine address\n";
-    return ExitStatus::usage;
-  }
   const Locations& locations = console_.product.locations();
   if (!console_.takeLock(locations.resolve(lockPath(locations)))) {
     console_.err << "another manager works on these files\n";
