@@ -36,9 +36,7 @@ Shell::Shell(Product& product, QApplication& application, std::function<std::vec
       workspace_(product.locations(), std::move(running)),
       program_(product.services(product.files(), *engine_, runLoop_, panels_, windows_, workspace_)),
       binder_(product.texts(), product.bundle(), product.locations(), schemeFromEnvironment()) {
-  // Closing the window asks the program; the program alone ends the loop.
-  QApplication::setQuitOnLastWindowClosed(false);
-  program_.didTerminate = [] { QApplication::quit(); };
+  QApplication::setQuitOnLastWindowClosed(false);  // closing the window asks the program, which alone ends the loop
 }
 
 Shell::~Shell() {
@@ -62,7 +60,9 @@ bool Shell::start() {
 }
 
 void Shell::run() {
-  if (!program_.isTerminated()) QApplication::exec();
+  if (program_.isTerminated()) return;
+  program_.didTerminate = [] { QApplication::exit(); };
+  QApplication::exec();
 }
 
 void Shell::tellUnsavedStyles() {

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include <QHBoxLayout>
 #include <QToolButton>
+#include <algorithm>
 
 #include "qt/bind/binder.h"
 #include "qt/bind/control_view.h"
 #include "qt/bind/gesture.h"
 #include "qt/bind/segments_widget.h"
+#include "qt/look/metrics.h"
 #include "qt/look/segment.h"
 
 namespace tarvo {
@@ -64,9 +66,12 @@ class SegmentsView : public ControlView {
   void showSegments() {
     const bool isNew = segments_.segments().size() != control_.segments().size();
     segments_.setSegmentCount(control_.segments().size());
+    const bool hasImages = std::any_of(control_.segments().begin(), control_.segments().end(),
+                                       [](const SegmentedControl::Segment& segment) { return !segment.image.empty(); });
     for (int i = 0; i < control_.segmentCount(); ++i) {
       const SegmentedControl::Segment& segment = control_.segments()[static_cast<std::size_t>(i)];
       at(i).setIcon(binder_.icon(segment.image));
+      if (hasImages) at(i).setMinimumSize(metrics::segmentWidth, metrics::segmentHeight);  // also the one without
       at(i).setToolTip(toQString(segment.toolTip));
       at(i).setAccessibleName(toQString(segment.toolTip));
       at(i).setEnabled(segment.enabled);

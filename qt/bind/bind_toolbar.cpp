@@ -62,7 +62,7 @@ class ToolbarControlView : public ControlView {
   }
 
   void refill() {
-    bar_.clear();
+    qDeleteAll(bar_.actions());  // and their buttons
     shown_ = control_.order();
     for (const std::string& identifier : shown_) addItem(identifier, *control_.item(identifier));
   }

@@ -64,7 +64,12 @@ void WindowFrame::place() {
 
 bool WindowFrame::eventFilter(QObject*, QEvent* event) {
   switch (event->type()) {
-    case QEvent::Show: QTimer::singleShot(settlingTime, this, [this] { isSettled_ = true; }); break;
+    case QEvent::Show:
+      QTimer::singleShot(settlingTime, this, [this] {
+        isSettled_ = true;
+        look();
+      });
+      break;
     case QEvent::Move:
     case QEvent::WindowActivate: look(); break;
     default: break;

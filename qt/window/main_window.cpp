@@ -50,7 +50,7 @@ MainWindow::MainWindow(Interface& interface, Binder& binder, std::vector<PageBui
 
 int MainWindow::menuHeight() const { return menuBar_->sizeHint().height(); }
 
-int MainWindow::toolbarHeight() const { return toolbar_->sizeHint().height(); }
+int MainWindow::toolbarHeight() const { return toolbar_->shownHeight(); }
 
 void MainWindow::buildPanes() {
   if (panes_ != nullptr) return;

@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QEventLoop>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "app/interface.h"
@@ -34,6 +35,7 @@ void QtWindows::open(Interface& interface, Windows& windows, Binder& binder, std
   main_ = std::make_unique<MainWindow>(interface, binder, std::move(panes));
   frame_ = new WindowFrame(interface.manager.myWindow, *main_, figures_ == Figures::fixed ? fixedTitle : -1);
   main_->toolbarChangedHeight = [this] { fitToToolbar(); };
+  makeRoomForBars();
   addDialog(interface.manager.displayAlertWindow,
             [&interface, &binder](QWidget* parent) { return buildScreenCaution(interface, binder, parent); });
 }
@@ -128,6 +130,18 @@ Size QtWindows::paneSize(int pane) {
 }
 
 Rect QtWindows::mainScreen() { return figures_ == Figures::fixed ? fixedScreen : primaryScreen(); }
+
+// The program made its first frame before the bars were known; it stays as far above the middle of the screen. A frame
+// with the right height is not moved by the first pane switch.
+void QtWindows::makeRoomForBars() {
+  Window& window = interface_->manager.myWindow;
+  const WindowHeights now = heights(window);
+  Rect frame = window.frame();
+  const float height = paneSizes[0].height + titlebarHeight(now) + tarvo::toolbarHeight(now);
+  frame.y = std::floor(frame.y - (height - frame.height) * 2 / 3);
+  frame.height = height;
+  window.setFrameInPlace(frame);
+}
 
 // Icons without texts, say, need less room: the pane keeps its size and the window its top edge.
 void QtWindows::fitToToolbar() {

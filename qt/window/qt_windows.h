@@ -52,6 +52,7 @@ class QtWindows : public WindowHost {
  private:
   bool isMain(const Window& window) const;
   QDialog* dialog(Window& window);
+  void makeRoomForBars();
   void fitToToolbar();
   Figures figures_;
   Interface* interface_ = nullptr;

@@ -5,6 +5,8 @@
 #include <QActionGroup>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QStyle>
+#include <QToolButton>
 
 #include "app/interface.h"
 #include "qt/bind/binder.h"
@@ -18,6 +20,17 @@ ToolbarView::ToolbarView(const MenuActions& actions, Interface& interface, Binde
   setMovable(false);
   setIconSize({metrics::toolbarIcon, metrics::toolbarIcon});
   binder.toolbar(interface.manager.toolbar, *this);
+}
+
+int ToolbarView::shownHeight() const {
+  if (!actions().isEmpty()) return sizeHint().height();
+  QToolButton item;
+  item.setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+  item.setIconSize(iconSize());
+  item.setArrowType(Qt::DownArrow);  // a picture and a text: one without either is measured as less
+  item.setText(QStringLiteral("x"));
+  item.ensurePolished();
+  return item.sizeHint().height() + 2 * style()->pixelMetric(QStyle::PM_ToolBarItemMargin, nullptr, this);
 }
 
 void ToolbarView::contextMenuEvent(QContextMenuEvent* event) {

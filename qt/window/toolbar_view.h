@@ -13,6 +13,7 @@ namespace tarvo {
 class ToolbarView : public QToolBar {
  public:
   ToolbarView(const MenuActions& actions, Interface& interface, Binder& binder, QWidget* parent);
+  int shownHeight() const;  // as high as it is with its items, also before it has them
 
  protected:
   void contextMenuEvent(QContextMenuEvent* event) override;
