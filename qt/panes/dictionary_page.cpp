@@ -31,7 +31,7 @@ List technicalDictionaries(ListOutlets& outlets, Direction direction) {
 QWidget* buildList(const List& list, Binder& binder, QWidget* parent) {
   auto* page = new QWidget(parent);
   auto* row = new QHBoxLayout(page);
-  row->setContentsMargins(0, metrics::sectionGap - metrics::rowGap, 0, 0);
+  row->setContentsMargins(0, metrics::sectionGap - metrics::rowGap, 0, metrics::paneMargin);
   row->setSpacing(metrics::sectionGap - metrics::rowGap);
   row->addWidget(binder.table(list.table, page), 1);
   auto* column = new QVBoxLayout;
@@ -47,8 +47,7 @@ QWidget* buildList(const List& list, Binder& binder, QWidget* parent) {
 QWidget* buildDictionaryPage(Interface& interface, Binder& binder, Direction direction, QWidget* parent) {
   ListOutlets& lists = interface.lists;
   TabView& tab = direction == Direction::englishToJapanese ? lists.ejListTab : lists.jeListTab;
-  QTabWidget* tabs = binder.tabs(tab,
-                                 {[&lists, &binder, direction](QWidget* place) {
+  QTabWidget* tabs = binder.tabs(tab, {[&lists, &binder, direction](QWidget* place) {
                                    return buildList(technicalDictionaries(lists, direction), binder, place);
                                  }},
                                  parent);

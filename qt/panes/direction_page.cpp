@@ -13,6 +13,7 @@
 #include "qt/look/metrics.h"
 #include "qt/panes/dictionary_page.h"
 #include "qt/panes/option_page.h"
+#include "qt/panes/popup_width.h"
 
 namespace tarvo {
 
@@ -30,22 +31,22 @@ QWidget* buildDirectionPage(Interface& interface, Binder& binder, Direction dire
   row->setSpacing(metrics::labelGap);
   auto* label = new QLabel(toQString(choice.label()), page);
   QComboBox* popup = binder.popup(choice, page);
+  popup->setFixedWidth(popUpWidth(choice, page->fontMetrics()));
   label->setBuddy(popup);
   row->addWidget(label);
   row->addWidget(popup);
   row->addStretch(1);
   column->addLayout(row);
 
-  column->addWidget(
-      binder.pages(isToJapanese ? options.ejEditTab : options.jeEditTab,
-                   {[&interface, &binder, direction](QWidget* place) {
-                      return buildDictionaryPage(interface, binder, direction, place);
-                    },
-                    [&interface, &binder, direction](QWidget* place) {
-                      return buildOptionPage(interface, binder, direction, place);
-                    }},
-                   page),
-      1);
+  column->addWidget(binder.pages(isToJapanese ? options.ejEditTab : options.jeEditTab,
+                                 {[&interface, &binder, direction](QWidget* place) {
+                                    return buildDictionaryPage(interface, binder, direction, place);
+                                  },
+                                  [&interface, &binder, direction](QWidget* place) {
+                                    return buildOptionPage(interface, binder, direction, place);
+                                  }},
+                                 page),
+                    1);
   return page;
 }
 

@@ -10,6 +10,7 @@
 #include "qt/bind/binder.h"
 #include "qt/bind/form.h"
 #include "qt/look/metrics.h"
+#include "qt/panes/popup_width.h"
 
 namespace tarvo {
 
@@ -20,7 +21,10 @@ QWidget* buildOfficePane(Interface& interface, Binder& binder, QWidget* parent) 
   explanation->setTextFormat(Qt::PlainText);
   explanation->setWordWrap(true);
   explanation->setForegroundRole(QPalette::PlaceholderText);
-  form.row(interface.tools.officeToolPopup, binder.popup(interface.tools.officeToolPopup, pane));
+  PopUpButton& tool = interface.tools.officeToolPopup;
+  QComboBox* popup = binder.popup(tool, pane);
+  popup->setFixedWidth(popUpWidth(tool, pane->fontMetrics()));
+  form.row(tool, popup);
   form.wide(explanation);
   form.closeRows();
   binder.view(interface.manager.officeAddinView, *pane);

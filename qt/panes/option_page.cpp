@@ -3,6 +3,7 @@
 #include "qt/panes/option_page.h"
 
 #include <QComboBox>
+#include <QLayout>
 #include <QScrollArea>
 #include <vector>
 
@@ -36,14 +37,15 @@ QWidget* buildOptionPage(Interface& interface, Binder& binder, Direction directi
   auto* page = new QWidget(area);
   Form form(binder, *page);
   OptionRows rows(form, *page);
-  std::vector<PopUpButton*> popups = indexPopups(options, isToJapanese ? keyNameEJ : keyNameJE);
-  rows.measure(popups);
+  const std::vector<PopUpButton*> popups = indexPopups(options, isToJapanese ? keyNameEJ : keyNameJE);
+  for (const PopUpButton* popup : popups) rows.measure(*popup);
   if (!isToJapanese) {
-    for (PopUpButton& popup : options.detailPopups) rows.measure({&popup});
+    for (const PopUpButton& popup : options.detailPopups) rows.measure(popup);
   }
   for (PopUpButton* popup : popups) rows.add(*popup, binder.popup(*popup, page));
   if (!isToJapanese) addDetailOptions(options, binder, form, rows, *page);
   form.closeRows();
+  page->layout()->setContentsMargins(0, 0, 0, metrics::paneMargin);
   area->setWidget(page);
   return area;
 }

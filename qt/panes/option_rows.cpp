@@ -3,8 +3,9 @@
 #include "qt/panes/option_rows.h"
 
 #include <QComboBox>
+#include <QFontMetrics>
 #include <QLabel>
-#include <QWidget>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "app/window_geometry.h"
@@ -12,39 +13,39 @@
 #include "qt/bind/binder.h"
 #include "qt/bind/form.h"
 #include "qt/look/metrics.h"
+#include "qt/panes/popup_width.h"
 
 namespace tarvo {
 namespace {
 
 constexpr int room = static_cast<int>(paneSizes[0].width) - 2 * metrics::paneMargin - 2 * metrics::scrollBarExtent;
-constexpr int popUpSides = 2 * metrics::fieldPadding + metrics::popUpArrowWidth;  // of a pop-up, around its title
 
 }  // namespace
 
-OptionRows::OptionRows(Form& form, QWidget& page) : form_(form), page_(page), font_(page.font()) {}
+OptionRows::OptionRows(Form& form, QWidget& page) : form_(form), page_(page) {}
 
-void OptionRows::measure(const std::vector<PopUpButton*>& popups) {
-  for (const PopUpButton* popup : popups) {
-    widestLabel_ = std::max(widestLabel_, font_.horizontalAdvance(toQString(popup->label())));
-    for (const PopUpButton::Item& item : popup->items()) {
-      widestTitle_ = std::max(widestTitle_, font_.horizontalAdvance(toQString(item.title)));
-    }
-  }
+void OptionRows::measure(const PopUpButton& popup) {
+  const QFontMetrics font(page_.font());
+  widestLabel_ = std::max(widestLabel_, font.horizontalAdvance(toQString(popup.label())));
+  widestPopup_ = std::max(widestPopup_, popUpWidth(popup, font));
 }
 
-bool OptionRows::isRoomBeside() const {
-  return widestLabel_ + metrics::labelGap + widestTitle_ + popUpSides <= room;
-}
+bool OptionRows::isRoomBeside() const { return widestLabel_ + metrics::labelGap + widestPopup_ <= room; }
 
 void OptionRows::add(const PopUpButton& control, QComboBox* popup) {
-  popup->setFixedWidth(std::min(room, metrics::onGrid(widestTitle_ + popUpSides)));
+  popup->setFixedWidth(std::min(room, widestPopup_));
   if (isRoomBeside()) return form_.row(control, popup);
-  auto* label = new QLabel(toQString(control.label()), &page_);
+  auto* both = new QWidget(&page_);
+  auto* column = new QVBoxLayout(both);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(metrics::grid);
+  auto* label = new QLabel(toQString(control.label()), both);
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
   label->setBuddy(popup);
-  form_.wide(label);
-  form_.wide(popup);
+  column->addWidget(label);
+  column->addWidget(popup);
+  form_.wide(both);
 }
 
 }  // namespace tarvo

@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QFontMetrics>
-#include <vector>
-
 class QComboBox;
 class QWidget;
 
@@ -19,15 +16,14 @@ class PopUpButton;
 class OptionRows {
  public:
   OptionRows(Form& form, QWidget& page);
-  void measure(const std::vector<PopUpButton*>& popups);
+  void measure(const PopUpButton& popup);
   void add(const PopUpButton& control, QComboBox* popup);
 
  private:
   bool isRoomBeside() const;
   Form& form_;
   QWidget& page_;
-  QFontMetrics font_;
-  int widestLabel_ = 0, widestTitle_ = 0;
+  int widestLabel_ = 0, widestPopup_ = 0;
 };
 
 }  // namespace tarvo

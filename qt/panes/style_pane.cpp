@@ -48,7 +48,8 @@ QLayout* buildHead(Interface& interface, Binder& binder, QWidget* pane) {
 QWidget* buildStylePane(Interface& interface, Binder& binder, QWidget* parent) {
   auto* pane = new QWidget(parent);
   auto* column = new QVBoxLayout(pane);
-  column->setContentsMargins(metrics::paneMargin, metrics::paneMargin, metrics::paneMargin, metrics::paneMargin);
+  // Pages may scroll to the lower edge.
+  column->setContentsMargins(metrics::paneMargin, metrics::paneMargin, metrics::paneMargin, 0);
   column->setSpacing(metrics::sectionGap - metrics::rowGap);
   column->addLayout(buildHead(interface, binder, pane));
   std::vector<PageBuilder> pages;

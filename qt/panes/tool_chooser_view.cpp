@@ -3,13 +3,30 @@
 #include "qt/panes/tool_chooser_view.h"
 
 #include <QHBoxLayout>
-#include <QWidget>
+#include <QToolButton>
 
 #include "app/interface.h"
 #include "qt/bind/binder.h"
+#include "qt/bind/segments_widget.h"
 #include "qt/look/metrics.h"
+#include "qt/look/segment.h"
 
 namespace tarvo {
+namespace {
+
+// There are nine segments for eight tools: the one without a tool takes no room.
+void closeUp(const SegmentedControl& control, const SegmentsWidget& shown) {
+  int tools = 0;
+  for (int i = 0; i < control.segmentCount(); ++i) {
+    const bool isTool = !control.segments()[static_cast<std::size_t>(i)].image.empty();
+    tools += isTool ? 1 : 0;
+    if (!isTool) shown.segments()[static_cast<std::size_t>(i)]->hide();
+  }
+  if (tools == 0) return;
+  makeSegment(*shown.segments()[static_cast<std::size_t>(tools - 1)], segmentPlaceOf(tools - 1, tools));
+}
+
+}  // namespace
 
 QWidget* buildToolChooser(Interface& interface, Binder& binder, QWidget* parent) {
   auto* chooser = new QWidget(parent);
@@ -18,7 +35,9 @@ QWidget* buildToolChooser(Interface& interface, Binder& binder, QWidget* parent)
   row->setSpacing(metrics::labelGap);
   StyleOutlets& style = interface.style;
   for (SegmentedControl* group : {&style.TEAppSeg1, &style.TEAppSeg2, &style.TEAppSeg3}) {
-    row->addWidget(binder.segments(*group, chooser));
+    QWidget* segments = binder.segments(*group, chooser);
+    closeUp(*group, dynamic_cast<SegmentsWidget&>(*segments));
+    row->addWidget(segments);
   }
   chooser->setFocusProxy(chooser->findChild<QWidget*>(toQString(style.TEAppSeg1.name() + ".0")));
   return chooser;
