@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "tests/qt/qt_scenario_shell.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QPushButton>
+#include <QTest>
+
+#include "app/program.h"
+#include "platform/texts.h"
+#include "qt/shell.h"
+
+namespace tarvo::test {
+
+namespace {
+
+// Once the alert is up: a click on its button. An alert without that button is closed.
+void pressLater(int button) {
+  QMetaObject::invokeMethod(
+      qApp,
+      [button] {
+        auto* alert = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (alert == nullptr) return;
+        auto* wanted = alert->findChild<QPushButton*>(QStringLiteral("alert.%1").arg(button));
+        if (wanted == nullptr) return alert->done(-1);
+        QTest::mouseClick(wanted, Qt::LeftButton);
+      },
+      Qt::QueuedConnection);
+}
+
+}  // namespace
+
+QtScenarioShell::QtScenarioShell()
+    : windows_(screen),
+      panels_([this](Window* window) { return windows_.widgetOf(*window); }, [this] { return windows_.sheetTop(); }) {}
+
+void QtScenarioShell::programConstructed(Program& program) {
+  const Services& services = program.services();
+  binder_.emplace(services.texts, services.bundle, services.locations, Scheme::light);
+  hand_.emplace(binder_->registry());
+  windows_.open(program.interface(), program.windows(), *binder_, paneBuilders(program.interface(), *binder_));
+}
+
+void QtScenarioShell::programEnds(Program&) {
+  windows_.close();
+  hand_.reset();
+  binder_.reset();
+}
+
+int QtScenarioShell::runAlert(const Alert& alert, int button) {
+  pressLater(button);
+  return panels_.runAlertPanel(alert);
+}
+
+void QtScenarioShell::beginAlertSheet(Window& host, const Alert& alert, int button, std::function<void(int)> handler) {
+  pressLater(button);
+  panels_.beginAlertSheet(host, alert, std::move(handler));
+}
+
+}  // namespace tarvo::test
