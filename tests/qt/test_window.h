@@ -24,9 +24,11 @@ class TestWindow {
   ~TestWindow() { end(); }
 
   std::string root() const { return folder / "root"; }
-  void start() {
-    product.emplace(ProductOptions{
-        .root = root(), .home = root() + "/Users/taro", .language = "en", .resources = TARVO_SOURCE_DIR "/resources"});
+  void start(const std::string& language = "en") {
+    product.emplace(ProductOptions{.root = root(),
+                                   .home = root() + "/Users/taro",
+                                   .language = language,
+                                   .resources = TARVO_SOURCE_DIR "/resources"});
     shell.emplace(*product, *qApp, [] { return std::vector<std::string>(); });
     started = shell->start();
     settle();
