@@ -50,7 +50,7 @@ Program::Program(const Services& services)
       windows_(services.windowHost),
       store_(services.files, services.engine, defaults_, services.locations.inHome(std::string(gStylePath)),
              std::string(gAppSupportStylePlist)),
-      options_(store_, interface_.options),
+      options_(store_, interface_.options, services.texts),
       lists_(store_, interface_.style.stylePopup, interface_.lists, services.texts, dictionaryServices(services)),
       dictionaryTable_(lists_, services.texts),
       medical_(services.files, services.texts, defaults_, store_),

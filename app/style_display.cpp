@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "dict/dictionary_list_editing.h"
-#include "platform/texts.h"
+#include "style/divider.h"
 #include "style/option_editing.h"
 #include "style/style_keys.h"
 #include "style/style_store.h"
@@ -46,8 +46,7 @@ void StyleDisplay::showList(int index, Dictionary& record, int direction) {
 void StyleDisplay::setupStyleData2(int index) {
   std::optional<Dictionary> record = store_.getStyleAtIndex(index);
   if (!record) return;
-  const std::string* name = record->string(keyNameName);
-  if (name != nullptr && *name == texts_.localized(keyNameSeparator)) return;
+  if (isDivider(*record, texts_)) return;
   options_.showOptions(*record);
   options_.showDetailedOptions(*record);
   showList(index, *record, 0);

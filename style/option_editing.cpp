@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "style/divider.h"
 #include "style/option_table.h"
 #include "style/style_keys.h"
 #include "style/style_store.h"
@@ -45,8 +46,9 @@ void OptionEditing::setValue(std::string_view direction, std::string_view key, P
   const int index = store_.selectedStyle();
   std::optional<Dictionary> record = store_.getStyleAtIndex(index);
   if (!record) return;
-  // A record without that half gets none; it is written back as it is.
-  if (Dictionary* half = record->dictionary(direction)) half->set(key, std::move(value));
+  // A record without that half gets none, and the divider no options; it is written back as it is.
+  Dictionary* half = record->dictionary(direction);
+  if (half != nullptr && !isDivider(*record, texts_)) half->set(key, std::move(value));
   store_.setStyle(index, std::move(*record));
 }
 

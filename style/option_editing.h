@@ -12,6 +12,7 @@
 namespace tarvo {
 
 class StyleStore;
+class Texts;
 
 struct OptionOutlets : Outlets {
   PopUpButton ejEditPopup{*this, "ejEditPopup"}, jeEditPopup{*this, "jeEditPopup"};
@@ -24,7 +25,8 @@ struct OptionOutlets : Outlets {
 
 class OptionEditing {
  public:
-  OptionEditing(StyleStore& store, OptionOutlets& outlets) : store_(store), outlets_(outlets) {}
+  OptionEditing(StyleStore& store, OptionOutlets& outlets, const Texts& texts)
+      : store_(store), outlets_(outlets), texts_(texts) {}
 
   // Selects the items whose indexes a record holds; a missing key reads as 0.
   void showOptions(const Dictionary& record);
@@ -45,6 +47,7 @@ class OptionEditing {
   void setValue(std::string_view direction, std::string_view key, PropertyList value);
   StyleStore& store_;
   OptionOutlets& outlets_;
+  const Texts& texts_;
 };
 
 }  // namespace tarvo

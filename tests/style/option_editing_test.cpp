@@ -58,7 +58,8 @@ class OptionEditingTest : public testing::Test {
   UserDefaults defaults_;
   StyleStore store_;
   OptionOutlets outlets_;
-  OptionEditing editing_{store_, outlets_};
+  Texts texts_;
+  OptionEditing editing_{store_, outlets_, texts_};
   int writes_ = 0;
 };
 
@@ -158,6 +159,17 @@ TEST_F(OptionEditingTest, createsNoHalfThatTheRecordLacksButWritesItBack) {
   editing_.selectJeOptionPopup(popup("kata1Popup"));
   editing_.optionPopupChange(3);
   EXPECT_FALSE(record(0).contains("JE"));
+  EXPECT_EQ(writes_, 2);
+}
+
+TEST_F(OptionEditingTest, writesTheDividerBackUnchangedThoughItHasBothHalves) {
+  Dictionary root = sampleRoot();
+  Dictionary& divider = *root.array("Style")->at(0).dictionary();
+  divider.set("Name", "keyNameSeparator");
+  start(root);
+  editing_.optionPopupChange(0);
+  editing_.selectJeOptionPopup(popup("kata1Popup"));
+  EXPECT_EQ(record(0), divider);
   EXPECT_EQ(writes_, 2);
 }
 
