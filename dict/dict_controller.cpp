@@ -159,8 +159,12 @@ bool DictController::isBeingCreated(const std::string& name) const {
                      [&](const std::string& other) { return equalIgnoringCase(other, name); });
 }
 
+bool DictController::isExitsDic2(const std::string& name) const {
+  return existsIgnoringCase(services_.files, getDicPath(name));
+}
+
 bool DictController::isExitsDic(const std::string& name) {
-  if (existsIgnoringCase(services_.files, getDicPath(name))) return true;
+  if (isExitsDic2(name)) return true;
   if (!isCommonName(name) || isBeingCreated(name)) return false;
   bool isLoaded = false;
   return createDictionary(name, isLoaded);
@@ -168,9 +172,8 @@ bool DictController::isExitsDic(const std::string& name) {
 
 bool DictController::createDictionary(const std::string& name, bool& isLoaded) {
   if (dicFolderPath_.empty()) return false;  // a list that was never set up
-  const std::string path = getDicPath(name);
-  if (existsIgnoringCase(services_.files, path)) return false;
-  if (!makeDictionaryFile(services_.files, services_.bundle, path, dicType_, isEnglish_)) return false;
+  if (isExitsDic2(name)) return false;
+  if (!makeDictionaryFile(services_.files, services_.bundle, getDicPath(name), dicType_, isEnglish_)) return false;
   // Loading the new name asks for it again; when there was no template, that must not create it once more.
   beingCreated_.push_back(name);
   isLoaded = addCreatedDictionary(name);

@@ -66,6 +66,7 @@ class DictController {
   bool checkMaxOver(const std::optional<Names>& names) const;
   std::string getDicPath(const std::optional<std::string>& name) const;
   bool isExitsDic(const std::string& name);  // a common dictionary that is missing is made anew, empty
+  bool isExitsDic2(const std::string& name) const;
   // False: nothing was created and isLoaded is untouched. isLoaded: whether the list had room for it.
   bool createDictionary(const std::string& name, bool& isLoaded);
   bool addCreatedDictionary(const std::string& name);

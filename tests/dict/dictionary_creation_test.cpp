@@ -212,6 +212,16 @@ TEST(CommonDictionaries, anyOtherMissingNameIsNotMade) {
   EXPECT_TRUE(world.folder.names("dictionaries").empty());
 }
 
+TEST(CommonDictionaries, canBeAskedForWithoutBeingMade) {
+  DictionaryWorld world;
+  world.setText("EJCommonUD", "Common.TRet");
+  world.folder.write("dictionaries/a.TRet", "");
+  const DictController controller = world.list();
+  EXPECT_FALSE(controller.isExitsDic2("Common.TRet"));
+  EXPECT_FALSE(world.folder.exists("dictionaries/Common.TRet"));
+  EXPECT_TRUE(controller.isExitsDic2("A.tret"));
+}
+
 TEST(CommonDictionaries, askingForAMissingOneMakesItAndLoadsIt) {
   DictionaryWorld world;
   world.setText("EJCommonUD", "Common.TRet");
