@@ -58,12 +58,23 @@ bool RecordedFiles::isRefused(Operation operation, const std::string& path) cons
   return false;
 }
 
-bool RecordedFiles::write(const std::string& path, std::string_view bytes) {
-  const bool written = !isRefused(Operation::write, path) && disk_.write(path, bytes);
+void RecordedFiles::noteWrite(const std::string& path, bool written) {
   const auto named = names_.find(path);
   const std::string name = named != names_.end() ? named->second : recorder_.shown(path);
   if (!name.empty()) recorder_.note({{written ? "wrote" : "writeFailed", name}});
+}
+
+bool RecordedFiles::write(const std::string& path, std::string_view bytes) {
+  const bool written = !isRefused(Operation::write, path) && disk_.write(path, bytes);
+  noteWrite(path, written);
   return written;
+}
+
+bool RecordedFiles::keepUnreadable(const std::string& path) {
+  const bool kept = !isRefused(Operation::copy, path) && disk_.keepUnreadable(path);
+  // The file is not replaced then: that is how its write fails.
+  if (!kept) noteWrite(path, false);
+  return kept;
 }
 
 std::optional<std::vector<std::string>> RecordedFiles::list(const std::string& folder) const {

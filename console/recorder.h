@@ -52,7 +52,7 @@ class RecordedFiles : public FileService {
   Kind kind(const std::string& path) const override { return disk_.kind(path); }
   std::optional<std::string> read(const std::string& path) const override { return disk_.read(path); }
   bool write(const std::string& path, std::string_view bytes) override;
-  bool keepUnreadable(const std::string& path) override { return disk_.keepUnreadable(path); }
+  bool keepUnreadable(const std::string& path) override;
   std::optional<std::vector<std::string>> list(const std::string& folder) const override;
   bool makeFolder(const std::string& path) override;
   bool copy(const std::string& from, const std::string& to) override;
@@ -65,6 +65,7 @@ class RecordedFiles : public FileService {
 
  private:
   bool isRefused(Operation operation, const std::string& path) const;
+  void noteWrite(const std::string& path, bool written);
   struct Refusal {
     Operation operation;
     std::string path;
