@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <charconv>
 #include <optional>
 
@@ -8,7 +9,7 @@
 #include "console/style_commands.h"
 #include "console/style_reading.h"
 #include "console/verb_program.h"
-#include "platform/texts.h"
+#include "style/divider.h"
 #include "style/option_table.h"
 #include "style/style_keys.h"
 
@@ -71,8 +72,7 @@ ExitStatus checkStyle(Console& console, int index) {
     return ExitStatus::usage;
   }
   const Dictionary* record = (*styles)[static_cast<std::size_t>(index)].dictionary();
-  const std::string* name = record != nullptr ? record->string(keyNameName) : nullptr;
-  if (name != nullptr && *name == console.product.texts().localized(keyNameSeparator)) {
+  if (record != nullptr && isDivider(*record, console.product.texts())) {
     console.err << "style " << index << " is the divider\n";
     return ExitStatus::usage;
   }
@@ -83,13 +83,23 @@ ExitStatus checkStyle(Console& console, int index) {
   return ExitStatus::done;
 }
 
+// Whether the record holds every half that is to be changed: a missing one is not made, and nobody would notice.
+bool canTake(const std::optional<Dictionary>& record, const std::vector<Edit>& edits) {
+  return record && std::all_of(edits.begin(), edits.end(), [&record](const Edit& edit) {
+           return record->dictionary(edit.detailed ? keyNameJE : indexOptions()[edit.popup].direction) != nullptr;
+         });
+}
+
 }  // namespace
 
 ExitStatus StyleSetCommand::run(Console& console) {
   const std::optional<std::vector<Edit>> edits = readPairs(pairs_, console.err);
   if (!edits) return ExitStatus::usage;
   if (const ExitStatus status = checkStyle(console, index_); status != ExitStatus::done) return status;
-  return VerbProgram(console).run([&](Program& program, Hand& hand) {
+  bool taken = true;
+  const ExitStatus status = VerbProgram(console).run([&](Program& program, Hand& hand) {
+    taken = canTake(program.rooms().store.getStyleAtIndex(index_), *edits);
+    if (!taken) return;
     PopUpButton& menu = program.interface().style.stylePopup;
     OptionOutlets& options = program.interface().options;
     const int former = menu.indexOfSelectedItem();
@@ -101,6 +111,9 @@ ExitStatus StyleSetCommand::run(Console& console) {
     menu.selectItemAtIndex(former);
     program.styles().changeStyle();
   });
+  if (taken) return status;
+  console.err << "style " << index_ << " is damaged: it lacks the direction of these options\n";
+  return ExitStatus::refused;
 }
 
 }  // namespace tarvo

@@ -156,6 +156,16 @@ TEST_F(Verbs, styleSetOnAStyleThatCannotBeChosenChangesNothing) {
   EXPECT_EQ(tree(), before);
 }
 
+TEST_F(Verbs, styleSetTellsThatAStyleLacksTheDirection) {
+  putStyles("no-je.plist");
+  EXPECT_EQ(run({"style", "set", "1", "Opt1=2"}).status, 0);
+  const std::string before = style(1);
+  const ToolResult refused = run({"style", "set", "1", "Opt1=0", "KATA1=0"});
+  EXPECT_EQ(refused.err, "style 1 is damaged: it lacks the direction of these options\n");
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_EQ(style(1), before);
+}
+
 TEST_F(Verbs, styleSetReachesTheFirstStyleWithoutARememberedChoice) {
   putStyles("no-selection.plist");
   EXPECT_EQ(run({"style", "set", "0", "Opt1=2"}).status, 0);
