@@ -59,6 +59,31 @@ TEST_F(InterfaceTest, findsControlsByFullAndByUniqueName) {
   EXPECT_EQ(interface.find(""), nullptr);
 }
 
+TEST_F(InterfaceTest, givesTheToolbarItsThreeItemsInOrder) {
+  struct Expected {
+    const char *identifier, *label, *tip, *image;
+    int tag;
+  };
+  const std::vector<Expected> items{{"StyleManager", "StyleManager", "StyleManager Tip", "SM32", 0},
+                                    {"OA", "OfficeAddin", "OfficeAddin Tip", "office32", 1},
+                                    {"MT", "MailTranslation", "MailTranslation Tip", "mail32", 2}};
+  test_.writeStyles({});
+  ASSERT_TRUE(test_.program().load());
+  const Toolbar& toolbar = test_.interface().manager.toolbar;
+  ASSERT_EQ(toolbar.allowedItems().size(), items.size());
+  EXPECT_EQ(toolbar.order(), (std::vector<std::string>{"StyleManager", "OA", "MT"}));
+  EXPECT_EQ(toolbar.displayMode(), Toolbar::DisplayMode::iconAndLabel);
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    const Button& button = *toolbar.allowedItems()[i].button;
+    EXPECT_EQ(toolbar.allowedItems()[i].identifier, items[i].identifier);
+    EXPECT_EQ(button.label(), items[i].label);
+    EXPECT_EQ(button.toolTip(), items[i].tip);
+    EXPECT_EQ(button.image(), items[i].image);
+    EXPECT_EQ(button.tag(), items[i].tag);
+    EXPECT_TRUE(button.action);
+  }
+}
+
 TEST_F(InterfaceTest, givesThePopUpsOfOptionsTheirTags) {
   const std::vector<int> tags{0, 1, 2, 3, 4, 5, 7};
   for (std::size_t i = 0; i < tags.size(); ++i) EXPECT_EQ(test_.interface().options.indexPopups[i].tag(), tags[i]);

@@ -55,6 +55,24 @@ TEST(StartUp, endsTheModulesWithTheControllerAndStartsThemOncePerProcess) {
   EXPECT_FALSE(services.paths.isInitialized());
 }
 
+TEST(StartUp, aControllerThatIsGoneHearsNoNotification) {
+  TestProgram test;
+  test.writeStyles(sampleRoot());
+  Program& program = test.program();
+  ASSERT_TRUE(program.start());
+  std::vector<std::string> shown;
+  program.windows().observer = [&](Windows::Event, Window& window, int) { shown.push_back(window.title()); };
+  {
+    TManagerController second(program.interface(), program.rooms(), program.services(), program.defaults(),
+                              program.notifications(), program.windows(), [] {});
+    ASSERT_TRUE(second.init());
+    program.notifications().post("ChangeOfficeToolbar");
+    EXPECT_EQ(shown.size(), 2U);
+  }
+  program.notifications().post("ChangeToolbar");
+  EXPECT_EQ(shown.size(), 3U);
+}
+
 TEST(StartUp, endsAtOnceWithTheModulesCodeWhenTheyCannotBeStarted) {
   TestProgram first;
   Dictionary paths;
