@@ -194,6 +194,34 @@ TEST_F(StyleStoreTest, neverRegistersAFileWithoutStyles) {
   EXPECT_EQ(defaults_.find("LastUpdate"), nullptr);
 }
 
+TEST_F(StyleStoreTest, registersAnEmptyListAsItIs) {
+  engine_.online = true;
+  Dictionary root;
+  root.set("Style", Array{});
+  StyleStore store = storeOf(root);
+  store.awakeFlag = false;
+  store.setSelection(0);
+  EXPECT_EQ(log_, (Log{"reachable", "register 0"}));
+}
+
+// An engine that can be reached but gives no stamp.
+struct StamplessEngine : FakeEngine {
+  using FakeEngine::FakeEngine;
+  void sendRegistStyle(const StyleSet&, std::string& updateString) override { EXPECT_EQ(updateString, ""); }
+};
+
+TEST_F(StyleStoreTest, keepsAnEmptyStampToo) {
+  StamplessEngine engine(log_);
+  engine.online = true;
+  defaults_.set("LastUpdate", "U0");
+  StyleStore store(files_, engine, defaults_, folder_ / "styles.plist", folder_ / "seed.plist");
+  store.replaceStyles(*sampleRoot().array("Style"));
+  store.awakeFlag = false;
+  store.setSelection(1);
+  ASSERT_NE(defaults_.string("LastUpdate"), nullptr);
+  EXPECT_EQ(*defaults_.string("LastUpdate"), "");
+}
+
 TEST_F(StyleStoreTest, asksTheEngineEvenAfterAFailedWriteAndWritesEverythingLater) {
   StyleStore store = storeOf(sampleRoot());
   store.awakeFlag = false;
