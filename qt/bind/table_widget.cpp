@@ -11,8 +11,25 @@
 #include "qt/look/metrics.h"
 
 namespace tarvo {
+namespace {
+
+// Titles are as wide as they are drawn; the base measures them in bold, for which it loads another font file.
+class TitleRow : public QHeaderView {
+ public:
+  explicit TitleRow(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {}
+
+ protected:
+  QSize sectionSizeFromContents(int section) const override {
+    const QString title = model()->headerData(section, Qt::Horizontal).toString();
+    const int width = fontMetrics().horizontalAdvance(title) + 2 * metrics::fieldPadding;
+    return {width, metrics::rowHeight(fontMetrics())};
+  }
+};
+
+}  // namespace
 
 TableWidget::TableWidget(TableModel& model, QWidget* parent) : QTableView(parent), model_(model) {
+  setHorizontalHeader(new TitleRow(this));
   setModel(&model);
   setShowGrid(false);
   setTabKeyNavigation(false);  // Tab leaves the list

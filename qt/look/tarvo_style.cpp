@@ -134,6 +134,12 @@ int TarvoStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
   return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
+QIcon TarvoStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const {
+  // The toolkit's bars ask for it though nothing ever overflows here; reading it would load every image plugin.
+  if (picture == SP_ToolBarHorizontalExtensionButton || picture == SP_ToolBarVerticalExtensionButton) return {};
+  return QProxyStyle::standardIcon(picture, option, widget);
+}
+
 QPalette TarvoStyle::standardPalette() const { return makePalette(scheme_); }
 
 void TarvoStyle::polish(QWidget* widget) {

@@ -34,6 +34,8 @@ class TarvoStyle : public QProxyStyle {
                   const QWidget* widget = nullptr) const override;
   int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
                 QStyleHintReturn* returned = nullptr) const override;
+  QIcon standardIcon(StandardPixmap picture, const QStyleOption* option = nullptr,
+                     const QWidget* widget = nullptr) const override;
   QPalette standardPalette() const override;
   using QProxyStyle::polish;
   void polish(QWidget* widget) override;

@@ -14,14 +14,14 @@
 namespace tarvo {
 namespace {
 
-constexpr int textWidth = 46;  // in widths of a letter
+constexpr int textWidth = 24;  // in heights of a line
 
 QLabel* paragraph(const std::string& text, QWidget& dialog) {
   auto* label = new QLabel(toQString(text), &dialog);
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
   label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  label->setMinimumWidth(textWidth * label->fontMetrics().averageCharWidth());
+  label->setMinimumWidth(textWidth * label->fontMetrics().height());
   return label;
 }
 

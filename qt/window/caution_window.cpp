@@ -21,7 +21,7 @@ QDialog* buildScreenCaution(Interface& interface, Binder& binder, QWidget* paren
   auto* rows = new QVBoxLayout(dialog);
   rows->setSizeConstraint(QLayout::SetFixedSize);
   QLabel* text = binder.text(outlets.displayAlertText, dialog);
-  text->setMinimumWidth(46 * text->fontMetrics().averageCharWidth());
+  text->setMinimumWidth(24 * text->fontMetrics().height());
   rows->addWidget(text);
   rows->addSpacing(metrics::rowGap);
   auto* foot = new QHBoxLayout;
