@@ -21,7 +21,7 @@ class Window;
 class Control {
  public:
   enum class Kind { popup, segments, tabs, table, button, check, field, text, image, view, window, menu, toolbar };
-  enum class Change { look, items, value, reload, scroll };
+  enum class Change { look, items, value, reload, scroll, filter };
   using Action = std::function<void(Control& sender)>;
 
   virtual ~Control();
@@ -95,6 +95,7 @@ class TextField : public Control {
   const std::string& stringValue() const { return text_; }
   void setStringValue(std::string text);
   void userType(std::string text);  // no action: the buttons beside it act
+  std::function<void()> didChange;  // after every change, by the user or the program
 
  private:
   std::string text_;

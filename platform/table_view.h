@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -75,10 +76,15 @@ class TableView : public Control {
   // Rows that do not exist are left out. extend: added to the selection where several may be selected.
   void selectRows(std::vector<int> rows, bool extend = false);
   void deselectAll() { selectRows({}); }
+  // A row that the filter refuses is not shown and out of the user's reach, but stays a row: counts, indexes, selection
+  // and values are those of the source. Asked at every look; an empty filter shows all.
+  void setRowFilter(std::function<bool(int row)> filter);
+  bool isRowShown(int row) const { return !filter_ || filter_(row); }
   void scrollRowToVisible(int row);
   int scrolledRow() const { return scrolledRow_; }
 
-  // Asks shouldSelectRow for each row that was not selected; a refusal leaves all as it was.
+  // Asks shouldSelectRow for each row that was not selected; a refusal leaves all as it was. New rows that a filter
+  // hides are left out.
   void userSelect(std::vector<int> rows);
   // One gesture: the value first, then the row is selected.
   void userTick(int row, bool on);
@@ -96,6 +102,7 @@ class TableView : public Control {
   std::vector<int> selected_;
   TableDataSource* source_ = nullptr;
   TableDelegate* delegate_ = nullptr;
+  std::function<bool(int row)> filter_;
   int reported_ = 0, scrolledRow_ = 0;
   bool multiple_ = false;
 };

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace tarvo {
+
+class ProductPaths;
+class Workspace;
+
+// Tells which of the product's other tools run beside the manager. It refuses nothing: changes are made, and told about
+// afterwards.
+class RunningApplicationGuard {
+ public:
+  RunningApplicationGuard(Workspace& workspace, const ProductPaths& paths) : workspace_(workspace), paths_(paths) {}
+  virtual ~RunningApplicationGuard() = default;
+  RunningApplicationGuard(const RunningApplicationGuard&) = delete;
+  RunningApplicationGuard& operator=(const RunningApplicationGuard&) = delete;
+
+  static constexpr int userDictionaryTool = 4;
+  // Whether the tool runs at this moment, from exactly the place that the product's paths name.
+  bool isStartedApplication(int tool);
+  // Called after a list of that kind has changed. The manager's lists are read anew by the tools, so nobody needs to be
+  // told; who has to watch the changes derives.
+  virtual void alertStartedApplication([[maybe_unused]] int kind) {}
+
+ private:
+  Workspace& workspace_;
+  const ProductPaths& paths_;
+};
+
+}  // namespace tarvo

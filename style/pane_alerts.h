@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// The alerts of the style pane that have one button, the text of "AlertClose". They return when the user has closed
+// them. Texts are given as they are, or as keys of the text table (a key without a text shows itself).
+namespace tarvo {
+
+class Panels;
+class Texts;
+
+class PaneAlerts {
+ public:
+  PaneAlerts(Panels& panels, const Texts& texts) : panels_(panels), texts_(texts) {}
+
+  void runAlertWithText(const std::string& header, const std::string& message);
+  void beepAndAlert(std::string_view headerKey, std::string_view messageKey);
+  void beepAndAlertWithText(const std::string& header, const std::string& message);
+  // A list is full. kind: 0 technical dictionaries, 1 user dictionaries, 2 translation memories; others tell nothing.
+  void openMaxOverAlert(int kind);
+
+ private:
+  Panels& panels_;
+  const Texts& texts_;
+};
+
+}  // namespace tarvo
