@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "dict/running_application_guard.h"
 #include "platform/texts.h"
 #include "style/style_keys.h"
 #include "style/style_store.h"
@@ -18,13 +19,15 @@ bool isRowOf(const std::optional<Names>& names, int row) {
 }  // namespace
 
 DictionaryListEditing::DictionaryListEditing(StyleStore& store, const PopUpButton& stylePopup, ListOutlets& outlets,
-                                             const Texts& texts, DictController::Services services)
+                                             const Texts& texts, DictController::Services services,
+                                             RunningApplicationGuard& guard)
     : ejTDController(services),
       jeTDController(services),
       store_(store),
       stylePopup_(stylePopup),
       outlets_(outlets),
-      texts_(texts) {}
+      texts_(texts),
+      guard_(guard) {}
 
 void DictionaryListEditing::raiseUpTD(int senderTag) { move(senderTag, -1); }
 
@@ -54,6 +57,7 @@ void DictionaryListEditing::removeTD(int senderTag) {
   table.reloadData();
   writeUpdateDicTarvoPlist(senderTag);
   updateButton(senderTag);
+  guard_.alertStartedApplication(2);
 }
 
 void DictionaryListEditing::writeUpdateDicTarvoPlist(int direction) {

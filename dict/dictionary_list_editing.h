@@ -14,6 +14,7 @@
 // English to Japanese, any other Japanese to English.
 namespace tarvo {
 
+class RunningApplicationGuard;
 class StyleStore;
 
 struct ListOutlets : Outlets {
@@ -30,7 +31,7 @@ struct ListOutlets : Outlets {
 class DictionaryListEditing {
  public:
   DictionaryListEditing(StyleStore& store, const PopUpButton& stylePopup, ListOutlets& outlets, const Texts& texts,
-                        DictController::Services services);
+                        DictController::Services services, RunningApplicationGuard& guard);
 
   DictController ejTDController, jeTDController;
   DictController& getActiveDictController(int direction) { return direction != 0 ? jeTDController : ejTDController; }
@@ -57,6 +58,7 @@ class DictionaryListEditing {
   const PopUpButton& stylePopup_;
   ListOutlets& outlets_;
   const Texts& texts_;
+  RunningApplicationGuard& guard_;
   int baseTabKey_ = 0, currentTabKey_ = 1, currentEJKey_ = 1, currentJEKey_ = 1;
 };
 

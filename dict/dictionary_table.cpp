@@ -8,8 +8,7 @@
 
 #include "dict/dictionary_list_editing.h"
 #include "dict/dictionary_reorder.h"
-#include "platform/text_rules.h"
-#include "platform/texts.h"
+#include "dict/display_names.h"
 
 namespace tarvo {
 namespace {
@@ -34,19 +33,6 @@ std::optional<std::vector<int>> draggedRows(const Pasteboard& pasteboard) {
 }
 
 }  // namespace
-
-std::string dictionaryDisplayName(const std::string& name, const Texts& texts) {
-  // The extension goes first, so that the file "cwl.TRet" of either direction bears the name that stands for "cwl".
-  constexpr std::pair<std::string_view, std::string_view> medicalNames[] = {{"cwl.TRet", "NameECorwell6"},
-                                                                            {"cwla.TRet", "NameECorwellAbbrev"},
-                                                                            {"cwl", "NameJCorwell6"},
-                                                                            {"cwla", "NameJCorwellAbbrev"}};
-  std::string stem = deletingPathExtension(name);
-  for (const auto& [medical, key] : medicalNames) {
-    if (stem == medical) return texts.localized(key);
-  }
-  return stem;
-}
 
 int DictionaryTable::numberOfRowsInTableView(TableView& table) {
   const std::optional<Names> names = shownNames(editing_, table);

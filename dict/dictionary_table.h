@@ -31,7 +31,4 @@ class DictionaryTable : public TableDataSource, public TableDelegate {
   const Texts& texts_;
 };
 
-// What people read for a dictionary's file name: without the extension, the medical ones by their names.
-std::string dictionaryDisplayName(const std::string& name, const Texts& texts);
-
 }  // namespace tarvo

@@ -23,8 +23,6 @@ class UserLists;
 struct ProcessFlags;
 struct UserListOutlets;
 
-inline constexpr const char* newDicNotification = "newDicNotification";  // its object: the file name to be made
-
 struct NewDictionaryOutlets : Outlets {
   Window NewDicWindow{*this, "NewDicWindow"};
   TextField NewDicNameField{*this, "NewDicNameField"};
@@ -77,7 +75,6 @@ class NewDictionary {
     TableView& table;  // shows the list while the chosen tool is the shown one
   };
   Target target();
-  void tellCreated(bool isLoaded);
   Collaborators with_;
   NewDictionarySheet sheet_;
 };

@@ -69,7 +69,7 @@ class TechDicController : public TableDataSource, public TableDelegate {
   // Both close the window and end its run; who closed it is not recorded.
   void OKButtonAction() { close(); }
   void CancelButtonAction() { close(); }
-  Names getCheckedArray(int tag) const;  // file names of the ticked rows, in list order
+  Names getCheckedArray(int tag);  // file names of the ticked rows, in list order
   // No names: the list stays as it is, and is read anew.
   void setNotSelectedArray(const std::optional<Names>& names, int tag);
   void OpenFolder(int senderTag);
@@ -77,6 +77,8 @@ class TechDicController : public TableDataSource, public TableDelegate {
   void setRoom(int room);
   void selectShown();  // ticks every row that the filter shows
   void selectNone();   // unticks all rows
+  // Shows the rows whose display names contain the filter field's text, ignoring case; changes no tick.
+  void filterDidChange();
 
   void newUD(int senderTag);
   void newDicOKButtonAction() { sheet_.newDicOKButtonAction(); }
@@ -97,13 +99,13 @@ class TechDicController : public TableDataSource, public TableDelegate {
   struct Entry {
     std::string name;
     bool check = false;
+    std::string folded = {};  // what the filter looks into, for the list that has one
   };
   using Entries = std::vector<Entry>;
   void open(bool isEJ);
   void close();
-  const Entries* entries(int tag) const;  // null for another tag
-  TableView* table(int tag);
-  void filter();
+  Entries* entries(int tag);  // null for another tag
+  TableView& table(int tag);  // of a list that there is
   void showRoom();
   Collaborators with_;
   const Texts& texts_;
@@ -114,8 +116,5 @@ class TechDicController : public TableDataSource, public TableDelegate {
   std::vector<bool> shown_;  // per row of techDicArray_, what the filter lets through
   int room_ = 0;
 };
-
-// What people read for a file name in the picker: the name as it stands, the medical ones by their names.
-std::string pickerDisplayName(const std::string& name, const Texts& texts);
 
 }  // namespace tarvo

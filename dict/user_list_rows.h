@@ -31,6 +31,7 @@ class UserListRows : public TableDataSource {
   CellValue objectValueForTableColumn(TableView& table, std::string_view column, int row) override;
 
  private:
+  static std::size_t pairOf(const TableView& table);
   std::array<TableView*, pairs> shown_;
   std::array<const DictController*, pairs> lists_;
   std::array<Names, pairs> rows_;

@@ -73,6 +73,7 @@ void CheckBox::userCheck(bool state) {
 void TextField::setStringValue(std::string text) {
   text_ = std::move(text);
   changed(Change::value);
+  if (didChange) didChange();
 }
 
 void TextField::userType(std::string text) { setStringValue(std::move(text)); }

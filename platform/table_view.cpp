@@ -57,6 +57,11 @@ void TableView::selectRows(std::vector<int> rows, bool extend) {
   setSelection(std::move(rows));
 }
 
+void TableView::setRowFilter(std::function<bool(int row)> filter) {
+  filter_ = std::move(filter);
+  changed(Change::filter);
+}
+
 void TableView::scrollRowToVisible(int row) {
   scrolledRow_ = row;
   changed(Change::scroll);
@@ -66,9 +71,10 @@ void TableView::userSelect(std::vector<int> rows) {
   if (!isEnabled()) return;
   sortUnique(rows);
   const std::vector<int> before = selected_;
+  const auto isNew = [&](int row) { return !std::binary_search(before.begin(), before.end(), row); };
+  std::erase_if(rows, [&](int row) { return isNew(row) && !isRowShown(row); });
   for (const int row : rows) {
-    const bool isNew = !std::binary_search(before.begin(), before.end(), row);
-    if (isNew && delegate_ != nullptr && !delegate_->shouldSelectRow(*this, row)) {
+    if (isNew(row) && delegate_ != nullptr && !delegate_->shouldSelectRow(*this, row)) {
       changed(Change::value);
       return;
     }
@@ -77,7 +83,7 @@ void TableView::userSelect(std::vector<int> rows) {
 }
 
 void TableView::userTick(int row, bool on) {
-  if (!isEnabled() || source_ == nullptr || row < 0 || row >= numberOfRows()) return;
+  if (!isEnabled() || source_ == nullptr || row < 0 || row >= numberOfRows() || !isRowShown(row)) return;
   const auto column = std::find_if(columns_.begin(), columns_.end(), [](const Column& c) { return c.checkBox; });
   if (column == columns_.end()) return;
   source_->setObjectValue(*this, on, column->identifier, row);

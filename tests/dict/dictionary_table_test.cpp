@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "dict/display_names.h"
 #include "tests/dict/style_pane_world.h"
 
 namespace tarvo::test {

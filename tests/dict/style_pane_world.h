@@ -7,6 +7,7 @@
 
 #include "dict/dictionary_list_editing.h"
 #include "dict/dictionary_table.h"
+#include "dict/running_application_guard.h"
 #include "platform/engine/engine_none.h"
 #include "platform/plist_file.h"
 #include "platform/plist_writer.h"
@@ -14,8 +15,17 @@
 #include "style/style_keys.h"
 #include "style/style_store.h"
 #include "tests/dict/dictionary_world.h"
+#include "tests/support/fake_shell.h"
 
 namespace tarvo::test {
+
+// Keeps the kinds of the lists that were told to have changed.
+class WatchedGuard : public RunningApplicationGuard {
+ public:
+  using RunningApplicationGuard::RunningApplicationGuard;
+  void alertStartedApplication(int kind) override { changedKinds.push_back(kind); }
+  std::vector<int> changedKinds;
+};
 
 inline Array arrayOf(const Names& names) { return {names.begin(), names.end()}; }
 
@@ -99,8 +109,10 @@ struct StylePaneWorld : DictionaryWorld {
   UserDefaults defaults{files, folder / "defaults.plist"};
   StyleStore store{files, engine, defaults, stylePath, folder / "seed.plist"};
   MenuOutlets menu;
+  FakeWorkspace workspace;
   ListOutlets outlets;
-  DictionaryListEditing editing{store, menu.stylePopup, outlets, texts, services()};
+  WatchedGuard guard{workspace, paths};
+  DictionaryListEditing editing{store, menu.stylePopup, outlets, texts, services(), guard};
   DictionaryTable table{editing, texts};
   int writes = 0;
 };

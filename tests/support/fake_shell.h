@@ -61,10 +61,11 @@ class FakeHost : public WindowHost {
 
 class FakeWorkspace : public Workspace {
  public:
-  void openFile(const std::string&) override {}
+  void openFile(const std::string& path) override { opened.push_back(path); }
   void openAddress(const std::string&) override {}
   void launchApplication(const std::string&) override {}
-  std::vector<std::string> launchedApplications() override { return {}; }
+  std::vector<std::string> launchedApplications() override { return running; }
+  std::vector<std::string> opened, running;
 };
 
 class FakeRunLoop : public RunLoop {

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "dict/dictionary_loading.h"
+
+#include <string>
+
+#include "dict/dictionary_list_editing.h"
+#include "dict/new_dictionary_request.h"
+#include "dict/running_application_guard.h"
+#include "dict/tech_dic_controller.h"
+#include "platform/texts.h"
+#include "style/pane_alerts.h"
+
+namespace tarvo {
+namespace {
+
+constexpr int technical = 0;  // the kind of every list that the picker serves
+
+int directionOf(bool isEJ) { return isEJ ? 0 : 1; }
+
+// Takes the names without a file out; answers the last of them.
+std::optional<std::string> removeMissing(Names& names, DictController& controller) {
+  std::optional<std::string> missing;
+  std::erase_if(names, [&](const std::string& name) {
+    if (controller.isExitsDic(name)) return false;
+    missing = name;
+    return true;
+  });
+  return missing;
+}
+
+}  // namespace
+
+DictionaryLoading::DictionaryLoading(DictionaryListEditing& lists, TechDicController& picker,
+                                     NewDictionaryRequest& request, PaneAlerts& alerts, RunningApplicationGuard& guard,
+                                     const Texts& texts)
+    : lists_(lists), picker_(picker), request_(request), alerts_(alerts), guard_(guard), texts_(texts) {}
+
+void DictionaryLoading::loadTD(int senderTag) {
+  DictController& controller = lists_.getActiveDictController(senderTag);
+  controller.updateAllDictionary();
+  request_.isEJ = senderTag == 0;
+  setNonSelectionDic(request_.isEJ);
+  picker_.setRoom(TDMax - static_cast<int>(controller.selectedDictionary().value_or(Names{}).size()));
+  if (request_.isEJ) {
+    picker_.openEJList();
+  } else {
+    picker_.openJEList();
+  }
+}
+
+void DictionaryLoading::dicWindowOK() {
+  const int direction = directionOf(request_.isEJ);
+  DictController& controller = lists_.getActiveDictController(direction);
+  Names names = picker_.getCheckedArray(technical);
+  if (names.empty()) {
+    picker_.OKButtonAction();
+    return;
+  }
+  if (const std::optional<std::string> missing = removeMissing(names, controller)) {
+    alerts_.beepAndAlertWithText(texts_.localized("notExistsFileAlertHeader"),
+                                 texts_.localized("notExistsFileAlertContents") + "\n" + "\n" + *missing);
+  }
+  if (controller.checkMaxOver(names)) {
+    alerts_.openMaxOverAlert(technical);
+    return;
+  }
+  if (!names.empty()) controller.loadDictionary(names);
+  lists_.getActiveTableView(direction).reloadData();
+  lists_.writeUpdateDicTarvoPlist(direction);
+  lists_.updateButton(direction);
+  if (!names.empty()) guard_.alertStartedApplication(2);
+  picker_.OKButtonAction();
+}
+
+void DictionaryLoading::dicWindowOK2() {
+  const int direction = directionOf(request_.isEJ);
+  DictController& controller = lists_.getActiveDictController(direction);
+  const Names names = picker_.getCheckedArray(technical);
+  if (controller.checkMaxOver(names)) {
+    alerts_.openMaxOverAlert(technical);
+    return;
+  }
+  if (!names.empty()) controller.loadDictionary(names);
+  lists_.getActiveTableView(direction).reloadData();
+  picker_.OKButtonAction();
+  lists_.writeUpdateDicTarvoPlist(direction);
+  lists_.updateButton(direction);
+}
+
+void DictionaryLoading::dicWindowCancel() { picker_.CancelButtonAction(); }
+
+void DictionaryLoading::setSelectedDic(bool isEJ) {
+  lists_.getActiveDictController(directionOf(isEJ)).updateDictionary(picker_.getCheckedArray(technical));
+}
+
+void DictionaryLoading::setNonSelectionDic(bool isEJ) {
+  picker_.setNotSelectedArray(lists_.getActiveDictController(directionOf(isEJ)).notSelectedDictionary(), technical);
+}
+
+}  // namespace tarvo

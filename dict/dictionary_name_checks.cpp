@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "dict/dictionary_name_checks.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "dict/new_dictionary_request.h"
+#include "platform/controls.h"
+#include "platform/file_service.h"
+#include "platform/panels.h"
+#include "platform/product_paths.h"
+#include "platform/text_encoding.h"
+#include "platform/text_rules.h"
+#include "platform/texts.h"
+
+namespace tarvo {
+namespace {
+
+constexpr std::size_t longestName = 30;  // bytes in Shift_JIS: the engine's tables have no room for more
+
+}  // namespace
+
+DictionaryNameChecks::DictionaryNameChecks(TextField& nameField, NewDictionaryRequest& request, Rules rules,
+                                           Services services)
+    : nameField_(nameField), request_(request), rules_(std::move(rules)), services_(services) {}
+
+const std::string& DictionaryNameChecks::name() const { return nameField_.stringValue(); }
+
+void DictionaryNameChecks::alert(const std::string& header, std::string_view messageKey) {
+  const Texts& texts = services_.texts;
+  services_.panels.runAlertPanel({.title = header,
+                                  .message = texts.localizedOrEmpty(messageKey),
+                                  .buttons = {texts.localizedOrEmpty("AlertClose")}});
+}
+
+bool DictionaryNameChecks::passAll() {
+  return checkDicNameEnough() && checkInvalidName() && checkIsCommonDicName() && checkIsOverCountName() &&
+         checkExistsNewDic();
+}
+
+bool DictionaryNameChecks::checkDicNameEnough() {
+  nameField_.setStringValue(trimmed(name()));
+  if (!name().empty()) return true;
+  // A memory shares the message with a dictionary, under a header of its own; only it beeps.
+  if (request_.dTypeNum == userDictionaryKind) {
+    alert(services_.texts.localizedOrEmpty("NoUDNameHeader"), "NoUDNameMessage");
+  } else if (request_.dTypeNum == memoryKind) {
+    services_.panels.beep();
+    alert(services_.texts.localizedOrEmpty("NoUTMNameHeader"), "NoUDNameMessage");
+  }
+  return false;
+}
+
+bool DictionaryNameChecks::compareInvalidName(std::string_view forbidden) const {
+  return forbidden.empty() || name().find(forbidden) == std::string::npos;
+}
+
+bool DictionaryNameChecks::checkInvalidName() {
+  if (std::all_of(rules_.forbidden.begin(), rules_.forbidden.end(),
+                  [this](std::string_view text) { return compareInvalidName(text); })) {
+    return true;
+  }
+  if (request_.dTypeNum == userDictionaryKind || request_.dTypeNum == memoryKind) {
+    services_.panels.beep();
+    alert(services_.texts.localizedOrEmpty("invalidNameHeader"),
+          request_.dTypeNum == userDictionaryKind ? "invalidNameUDMessage" : "invalidNameUTMAMessage");
+  }
+  return false;
+}
+
+bool DictionaryNameChecks::checkIsCommonDicName() {
+  std::string_view key;
+  if (request_.dTypeNum == userDictionaryKind) {
+    key = request_.isEJ ? "EJCommonUD" : "JECommonUD";
+  } else if (request_.dTypeNum == memoryKind) {
+    key = request_.isEJ ? "EJCommonUTMA" : "JECommonUTMA";
+  } else {
+    return true;
+  }
+  if (!equalIgnoringCase(name(), services_.texts.localizedOrEmpty(key))) return true;
+  alert(services_.texts.localizedOrEmpty("invalidNameHeader2"), "invalidNameUDMessage2");
+  return false;
+}
+
+bool DictionaryNameChecks::checkIsOverCountName() {
+  if (shiftJisFromUtf8(name()).size() <= longestName) return true;
+  const bool isKnown = request_.dTypeNum == userDictionaryKind || request_.dTypeNum == memoryKind;
+  if (!isKnown && !rules_.tellsOverlongNamesOfOddKinds) return false;
+  std::string_view message;  // odd kinds have none
+  if (isKnown) message = request_.dTypeNum == userDictionaryKind ? "tooLongNameUDMessage" : "tooLongNameUTMAMessage";
+  services_.panels.beep();
+  alert(services_.texts.localizedOrEmpty("tooLongNameHeader"), message);
+  return false;
+}
+
+bool DictionaryNameChecks::checkExistsNewDic() {
+  request_.fDictName.clear();
+  std::string folder;
+  std::string_view message, extension;
+  if (request_.dTypeNum == userDictionaryKind) {
+    folder = services_.paths.tarvoPathUserDicFolderURL();
+    message = "existsUDMessage";
+    extension = request_.isEJ ? "eud2" : "jud";
+  } else if (request_.dTypeNum == memoryKind) {
+    folder = services_.paths.tarvoPathUserTmaFolderURL();
+    message = "existsUTMAMessage";
+    extension = request_.isEJ ? "etm" : "jtm";
+  } else {
+    return true;
+  }
+  request_.fDictName = name() + "." + std::string(extension);
+  if (!existsIgnoringCase(services_.files, joinPath(folder, request_.fDictName))) return true;
+  services_.panels.beep();
+  alert("\"" + request_.fDictName + "\"" + services_.texts.localizedOrEmpty("existsDicHeader"), message);
+  return false;
+}
+
+}  // namespace tarvo

@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "dict/tech_dic_controller.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "dict/display_names.h"
+#include "dict/running_application_guard.h"
+#include "platform/notification_center.h"
+#include "platform/product_paths.h"
+#include "platform/text_rules.h"
+#include "platform/texts.h"
+#include "platform/workspace.h"
+#include "style/pane_alerts.h"
+
+namespace tarvo {
+namespace {
+
+constexpr std::string_view checkColumn = "Value", nameColumn = "dicName";
+
+bool isRow(int row, std::size_t count) {
+  return std::in_range<std::size_t>(row) && static_cast<std::size_t>(row) < count;
+}
+
+}  // namespace
+
+TechDicController::TechDicController(const Collaborators& with, DictionaryNameChecks::Services services)
+    : with_(with),
+      texts_(services.texts),
+      paths_(services.paths),
+      sheet_({with.outlets.newDicWindow, with.outlets.newDicNameField, with.outlets.newDicTitleField,
+              with.outlets.newDicFolderNameField, with.outlets.newDicFolderTitleField},
+             request_, {.forbidden = {".", ":", "/"}, .tellsOverlongNamesOfOddKinds = false}, services, with.windows) {}
+
+void TechDicController::open(bool isEJ) {
+  PickerOutlets& outlets = with_.outlets;
+  outlets.filterField.setStringValue("");
+  outlets.myWindow.setTitle(texts_.localized(isEJ ? "EJ-TDEdit" : "JE-TDEdit"));
+  outlets.TDTitleField.setStringValue(texts_.localized(isEJ ? "EJName" : "JEName"));
+  outlets.techDicTable.scrollRowToVisible(0);
+  request_.isEJ = isEJ;
+  with_.windows.runModalForWindow(outlets.myWindow);
+  with_.windows.orderOut(outlets.myWindow);
+}
+
+void TechDicController::close() {
+  with_.windows.orderOut(with_.outlets.myWindow);
+  with_.windows.stopModal();
+}
+
+TechDicController::Entries* TechDicController::entries(int tag) {
+  switch (tag) {
+    case 0: return &techDicArray_;
+    case userDictionaryKind: return &UserDicArray_;
+    case memoryKind: return &UserTMAArray_;
+    default: return nullptr;
+  }
+}
+
+TableView& TechDicController::table(int tag) {
+  if (tag == 0) return with_.outlets.techDicTable;
+  return tag == userDictionaryKind ? with_.outlets.UserDicTable : with_.outlets.UserTMATable;
+}
+
+Names TechDicController::getCheckedArray(int tag) {
+  Names names;
+  const Entries* list = entries(tag);
+  if (list == nullptr) return names;
+  for (const Entry& entry : *list) {
+    if (entry.check) names.push_back(entry.name);
+  }
+  return names;
+}
+
+void TechDicController::setNotSelectedArray(const std::optional<Names>& names, int tag) {
+  Entries* list = entries(tag);
+  if (list == nullptr) return;
+  if (names) {
+    list->clear();
+    list->reserve(names->size());
+    for (const std::string& name : *names) {
+      list->push_back({name, false, tag == 0 ? caseFolded(pickerDisplayName(name, texts_)) : ""});
+    }
+  }
+  table(tag).reloadData();
+  if (tag != 0) return;
+  filterDidChange();
+  showRoom();
+}
+
+void TechDicController::filterDidChange() {
+  const std::string word = caseFolded(with_.outlets.filterField.stringValue());
+  if (word.empty()) {
+    with_.outlets.techDicTable.setRowFilter({});
+    return;
+  }
+  shown_.resize(techDicArray_.size());
+  for (std::size_t row = 0; row < shown_.size(); ++row) {
+    shown_[row] = techDicArray_[row].folded.find(word) != std::string::npos;
+  }
+  with_.outlets.techDicTable.setRowFilter(
+      [this](int row) { return isRow(row, shown_.size()) && shown_[static_cast<std::size_t>(row)]; });
+}
+
+void TechDicController::selectShown() {
+  for (std::size_t row = 0; row < techDicArray_.size(); ++row) {
+    if (with_.outlets.techDicTable.isRowShown(static_cast<int>(row))) techDicArray_[row].check = true;
+  }
+  with_.outlets.techDicTable.reloadData();
+  showRoom();
+}
+
+void TechDicController::selectNone() {
+  for (Entry& entry : techDicArray_) entry.check = false;
+  with_.outlets.techDicTable.reloadData();
+  showRoom();
+}
+
+void TechDicController::setRoom(int room) {
+  room_ = room;
+  showRoom();
+}
+
+void TechDicController::showRoom() {
+  const auto isTicked = [](const Entry& entry) { return entry.check; };
+  const auto ticked = std::count_if(techDicArray_.begin(), techDicArray_.end(), isTicked);
+  const int left = room_ - static_cast<int>(ticked);
+  with_.outlets.roomText.setStringValue(left >= 0 ? texts_.localized("PickerRoom") + std::to_string(left)
+                                                  : texts_.localized("PickerRoomOver") + std::to_string(-left));
+}
+
+void TechDicController::OpenFolder(int senderTag) {
+  std::string folder;
+  switch (senderTag) {
+    case 0:
+      folder = request_.isEJ ? paths_.tarvoPathTechnicalDicEngFolderURL() : paths_.tarvoPathTechnicalDicJpnFolderURL();
+      break;
+    case userDictionaryKind: folder = paths_.tarvoPathUserDicFolderURL(); break;
+    case memoryKind: folder = paths_.tarvoPathUserTmaFolderURL(); break;
+    default: break;
+  }
+  if (!folder.empty()) with_.workspace.openFile(folder);
+}
+
+int TechDicController::numberOfRowsInTableView(TableView& table) {
+  return table.tag() == 0 ? static_cast<int>(techDicArray_.size()) : -1;
+}
+
+CellValue TechDicController::objectValueForTableColumn(TableView& table, std::string_view column, int row) {
+  const Entries* list = entries(table.tag());
+  CellValue value;
+  if (list == nullptr || !isRow(row, list->size())) return value;
+  const Entry& entry = (*list)[static_cast<std::size_t>(row)];
+  if (column == checkColumn) value.checked = entry.check;
+  if (column == nameColumn) value.text = pickerDisplayName(entry.name, texts_);
+  return value;
+}
+
+void TechDicController::setObjectValue(TableView& table, bool value, std::string_view column, int row) {
+  if (table.tag() != 0 || column != checkColumn || !isRow(row, techDicArray_.size())) return;
+  techDicArray_[static_cast<std::size_t>(row)].check = value;
+  table.reloadData();
+  showRoom();
+}
+
+void TechDicController::newUD(int senderTag) {
+  request_.dTypeNum = senderTag - 1;
+  sheet_.begin(request_.dTypeNum == userDictionaryKind ? "NewUDText" : "NewTMAText", with_.outlets.myWindow,
+               [this](int returnCode) {
+                 if (returnCode == 1) with_.notifications.post(newDicNotification, request_.fDictName);
+               });
+}
+
+void TechDicController::setCreatedDictionary(const std::string& name, int kind) {
+  if (kind != userDictionaryKind && kind != memoryKind) return;
+  Entries& list = *entries(kind);
+  const auto found =
+      std::find_if(list.begin(), list.end(), [&](const Entry& entry) { return equalIgnoringCase(entry.name, name); });
+  if (found != list.end()) {
+    *found = {name, true};
+  } else {
+    list.push_back({name, true});
+  }
+  std::stable_sort(list.begin(), list.end(), [](const Entry& a, const Entry& b) { return a.name < b.name; });
+  table(kind).reloadData();
+  if (kind == userDictionaryKind && isStartedApplication(RunningApplicationGuard::userDictionaryTool)) {
+    with_.alerts.beepAndAlert("isLaunchingUDAlertHeader", "isLaunchingUDAlertContents");
+  }
+}
+
+bool TechDicController::isStartedApplication(int tool) { return with_.guard.isStartedApplication(tool); }
+
+}  // namespace tarvo

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "style/pane_alerts.h"
+
+#include <array>
+#include <utility>
+
+#include "platform/panels.h"
+#include "platform/texts.h"
+
+namespace tarvo {
+
+void PaneAlerts::runAlertWithText(const std::string& header, const std::string& message) {
+  panels_.runAlertPanel({.title = header, .message = message, .buttons = {texts_.localized("AlertClose")}});
+}
+
+void PaneAlerts::beepAndAlert(std::string_view headerKey, std::string_view messageKey) {
+  beepAndAlertWithText(texts_.localized(headerKey), texts_.localized(messageKey));
+}
+
+void PaneAlerts::beepAndAlertWithText(const std::string& header, const std::string& message) {
+  panels_.beep();
+  runAlertWithText(header, message);
+}
+
+void PaneAlerts::openMaxOverAlert(int kind) {
+  constexpr std::array<std::pair<std::string_view, std::string_view>, 3> keys{
+      {{"MaxOverTDAlertHeader", "MaxOverTDAlertContents"},
+       {"MaxOverUDAlertHeader", "MaxOverUDAlertContents"},
+       {"MaxOverUTMAAlertHeader", "MaxOverUTMAAlertContents"}}};
+  if (kind < 0 || kind >= static_cast<int>(keys.size())) return;
+  const auto& [header, message] = keys[static_cast<std::size_t>(kind)];
+  beepAndAlert(header, message);
+}
+
+}  // namespace tarvo
