@@ -8,6 +8,7 @@
 #include "app/rooms.h"
 #include "app/style_menu.h"
 #include "platform/file_service.h"
+#include "platform/notification_center.h"
 #include "platform/panels.h"
 #include "platform/product_paths.h"
 #include "platform/system_version.h"
@@ -19,12 +20,21 @@
 namespace tarvo {
 
 AppController::AppController(Interface& interface, Rooms& rooms, const Services& services, UserDefaults& defaults,
-                             std::function<void()> terminate)
+                             NotificationCenter& notifications, std::function<void()> terminate)
     : interface_(interface),
       rooms_(rooms),
       services_(services),
       defaults_(defaults),
+      notifications_(notifications),
       terminate_(std::move(terminate)) {}
+
+AppController::~AppController() { notifications_.removeObserver(this); }
+
+void AppController::init() {
+  notifications_.addObserver(this, newDicNotification, [this](const Notification& notification) {
+    rooms_.newDictionary.newDicWindowOKAction(notification.object);
+  });
+}
 
 bool AppController::awakeFromNib() {
   if (!loadUserInfor()) return false;
@@ -45,7 +55,13 @@ void AppController::createDictControllers() {
   rooms_.lists.jeTDController.initializeDictController(0, paths.tarvoPathTechnicalDicJpnFolderURL(), false);
   interface_.lists.ejTDTable.registerForDraggedTypes({"row"});
   interface_.lists.jeTDTable.registerForDraggedTypes({"row"});
-  if (setsUpUserLists) rooms_.userLists.setUp();
+  if (!setsUpUserLists) return;
+  rooms_.userLists.setUp();
+  UserListOutlets& tables = interface_.userLists;
+  for (TableView* table :
+       {&tables.ejUDTableView, &tables.ejUTMATableView, &tables.jeUDTableView, &tables.jeUTMATableView}) {
+    table->reloadData();
+  }
 }
 
 bool AppController::loadUserInfor() {

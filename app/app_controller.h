@@ -20,7 +20,12 @@ class AppController {
  public:
   // terminate: asks the program to end; the sequence that asked stops at once.
   AppController(Interface& interface, Rooms& rooms, const Services& services, UserDefaults& defaults,
-                std::function<void()> terminate);
+                NotificationCenter& notifications, std::function<void()> terminate);
+  ~AppController();
+  AppController(const AppController&) = delete;
+  AppController& operator=(const AppController&) = delete;
+
+  void init();
 
   // False: start-up failed and the program ends.
   bool awakeFromNib();
@@ -44,6 +49,7 @@ class AppController {
   Rooms& rooms_;
   Services services_;
   UserDefaults& defaults_;
+  NotificationCenter& notifications_;
   std::function<void()> terminate_;
 };
 

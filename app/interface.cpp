@@ -22,8 +22,11 @@ void Interface::connect(Rooms& rooms, const Texts& texts) {
   styleRows(rooms, texts);
   optionRows(rooms, texts);
   listRows(rooms, texts);
+  userListRows(rooms);
   managerRows(rooms, texts);
   menuRows(rooms, texts);
+  pickerRows(rooms, texts);
+  sheetRows(rooms, texts);
   apply(texts);
   for (PopUpButton& popup : options.detailPopups) popup.selectItemAtIndex(-1);  // no style is shown yet
 }
@@ -44,7 +47,8 @@ void Interface::apply(const Texts& texts) {
 
 std::vector<Control*> Interface::controls() const {
   std::vector<Control*> all;
-  const std::initializer_list<const Outlets*> structs{&style, &options, &lists, &naming, &manager, &tools};
+  const std::initializer_list<const Outlets*> structs{&style,  &options, &lists, &userLists, &newDictionary,
+                                                      &naming, &manager, &tools, &picker};
   for (const Outlets* outlets : structs) {
     all.insert(all.end(), outlets->controls().begin(), outlets->controls().end());
   }
@@ -53,13 +57,10 @@ std::vector<Control*> Interface::controls() const {
 
 Control* Interface::find(std::string_view name) const {
   const bool withOwner = name.find('.') != std::string_view::npos;
-  Control* found = nullptr;
   for (Control* control : controls()) {
-    if (withOwner ? control->name() != name : outletOf(*control) != name) continue;
-    if (found != nullptr) return nullptr;
-    found = control;
+    if (withOwner ? control->name() == name : outletOf(*control) == name) return control;
   }
-  return found;
+  return nullptr;
 }
 
 }  // namespace tarvo

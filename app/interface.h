@@ -8,6 +8,9 @@
 
 #include "app/toolbar.h"
 #include "dict/dictionary_list_editing.h"
+#include "dict/new_dictionary.h"
+#include "dict/tech_dic_controller.h"
+#include "dict/user_list_rows.h"
 #include "install/tool_list_file.h"
 #include "platform/controls.h"
 #include "platform/windows.h"
@@ -65,9 +68,12 @@ class Interface {
   StyleOutlets style;
   OptionOutlets options;
   ListOutlets lists;
+  UserListOutlets userLists;
+  NewDictionaryOutlets newDictionary;
   NamingOutlets naming;
   ManagerOutlets manager;
   ToolListOutlets tools;
+  PickerOutlets picker;
 
   Interface() = default;
   Interface(const Interface&) = delete;
@@ -77,13 +83,17 @@ class Interface {
   void connect(Rooms& rooms, const Texts& texts);
   const std::vector<Row>& rows() const { return rows_; }
   std::vector<Control*> controls() const;  // of every outlet struct
-  // "style.stylePopup", or "stylePopup" where only one owner has it; case-sensitive. Null when there is none.
+  // "style.stylePopup", or "stylePopup" without the owner; case-sensitive. Null when there is none. Names that the
+  // picker shares with the main window mean the main window's, so that scripts from before the picker run unchanged.
   Control* find(std::string_view name) const;
 
  private:
   void styleRows(Rooms& rooms, const Texts& texts);
   void optionRows(Rooms& rooms, const Texts& texts);
   void listRows(Rooms& rooms, const Texts& texts);
+  void userListRows(Rooms& rooms);
+  void pickerRows(Rooms& rooms, const Texts& texts);
+  void sheetRows(Rooms& rooms, const Texts& texts);
   void managerRows(Rooms& rooms, const Texts& texts);
   void menuRows(Rooms& rooms, const Texts& texts);
   void row(Row row) { rows_.push_back(std::move(row)); }

@@ -30,7 +30,7 @@ void Interface::listRows(Rooms& rooms, const Texts& texts) {
                                 lists.ejRaiseDicButton, lists.ejDownDicButton, lists.ejRemoveDicButton},
                            Half{options.jeEditTab, lists.jeListTab, lists.jeTDTable, lists.jeLoadDicButton,
                                 lists.jeRaiseDicButton, lists.jeDownDicButton, lists.jeRemoveDicButton}}) {
-    half.list.setPages(pages(texts, {"TDTab"}));
+    half.list.setPages(pages(texts, {"TDTab", "UDTab", "UTMATab"}));
     row({.control = half.list, .tab = &half.edit});
     half.table.setColumns({{.identifier = "name", .icon = true}});
     half.table.setAllowsMultipleSelection(true);
@@ -40,7 +40,7 @@ void Interface::listRows(Rooms& rooms, const Texts& texts) {
     const auto button = [&](Button& control, Control::Action action) {
       row({.control = control, .tag = direction, .tab = &half.list, .action = std::move(action)});
     };
-    button(half.load, {});
+    button(half.load, to(rooms.loading, &DictionaryLoading::loadTD));
     button(half.raise, to(rooms.lists, &DictionaryListEditing::raiseUpTD));
     button(half.down, to(rooms.lists, &DictionaryListEditing::raiseDownTD));
     button(half.remove, to(rooms.lists, &DictionaryListEditing::removeTD));
@@ -50,6 +50,48 @@ void Interface::listRows(Rooms& rooms, const Texts& texts) {
     tab->didSelect = [&rooms, tab](int page) {
       rooms.lists.didSelectTabViewItem(tab->pages()[static_cast<std::size_t>(page)].label);
     };
+  }
+}
+
+void Interface::userListRows(Rooms& rooms) {
+  struct Page {
+    TabView& tab;
+    int page;
+    TableView &shown, &twin;
+    Button &folder, &create;
+    int newTag;
+  };
+  NewDictionaryOutlets& buttons = newDictionary;
+  const Page userPages[] = {
+      {lists.ejListTab, 1, userLists.ejUDTableView, userLists.ejUDTable, buttons.ejUDFolderButton,
+       buttons.ejUDNewButton, 10},
+      {lists.ejListTab, 2, userLists.ejUTMATableView, userLists.ejTMATable, buttons.ejTMAFolderButton,
+       buttons.ejTMANewButton, 12},
+      {lists.jeListTab, 1, userLists.jeUDTableView, userLists.jeUDTable, buttons.jeUDFolderButton,
+       buttons.jeUDNewButton, 11},
+      {lists.jeListTab, 2, userLists.jeUTMATableView, userLists.jeTMATable, buttons.jeTMAFolderButton,
+       buttons.jeTMANewButton, 13},
+  };
+  int tag = UserListRows::firstTag;
+  for (const Page& page : userPages) {
+    for (TableView* table : {&page.shown, &page.twin}) {
+      table->setColumns({{.identifier = "name"}});
+      table->setDataSource(&rooms.userListRows);
+    }
+    page.twin.setHidden(true);
+    row({.control = page.shown, .tag = tag, .tab = &page.tab, .page = page.page});
+    row({.control = page.twin, .tag = tag + UserListRows::pairs, .window = &manager.myWindow});
+    row({.control = page.folder,
+         .tag = page.page,
+         .tab = &page.tab,
+         .page = page.page,
+         .action = to(rooms.picker, &TechDicController::OpenFolder)});
+    row({.control = page.create,
+         .tag = page.newTag,
+         .tab = &page.tab,
+         .page = page.page,
+         .action = to(rooms.newDictionary, &NewDictionary::newUD)});
+    ++tag;
   }
 }
 

@@ -71,6 +71,11 @@ void Interface::menuRows(Rooms& rooms, const Texts&) {
     row({.control = menu, .tag = tag, .action = std::move(action)});
   };
   item(style.quitMenu, 0, to(*rooms.styles, &AppController::quitAction));
+  const auto newUD = to(rooms.newDictionary, &NewDictionary::newUD);
+  item(newDictionary.newEJUDMenu, 10, newUD);
+  item(newDictionary.newJEUDMenu, 11, newUD);
+  item(newDictionary.newEJTMAMenu, 12, newUD);
+  item(newDictionary.newJETMAMenu, 13, newUD);
   item(manager.styleManagerMenu, 0, to(controller, &TManagerController::selectToolbarActionforMenu));
   item(manager.officeAddinMenu, 1, to(controller, &TManagerController::selectToolbarActionforMenu));
   item(manager.mailMenu, 2, to(controller, &TManagerController::selectToolbarActionforMenu));

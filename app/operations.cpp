@@ -26,6 +26,20 @@ Operation withNumber(std::string_view name, Call call) {
           }};
 }
 
+// One that takes one integer and answers.
+template <class Call>
+Operation answering(std::string_view name, Call call) {
+  return {name, 1, [call](Program& program, Arguments arguments) -> Result {
+            return PropertyList(call(program.rooms(), number(arguments)));
+          }};
+}
+
+Result setNotSelectedArray(Program& program, Arguments arguments) {
+  const Arguments names = arguments.first(arguments.size() - 1);
+  program.rooms().picker.setNotSelectedArray(Names(names.begin(), names.end()), leadingInteger(arguments.back()));
+  return std::nullopt;
+}
+
 std::vector<Operation> makeOperations() {
   return {
       withNumber("style.setupStyleData2", [](Rooms& rooms, int index) { rooms.display.setupStyleData2(index); }),
@@ -35,6 +49,32 @@ std::vector<Operation> makeOperations() {
       withNumber("style.writeUpdateDicTarvoPlist",
                  [](Rooms& rooms, int direction) { rooms.lists.writeUpdateDicTarvoPlist(direction); }),
       withNumber("style.updateButton", [](Rooms& rooms, int code) { rooms.lists.updateButton(code); }),
+      withNumber("style.setSelectedDic", [](Rooms& rooms, int isEJ) { rooms.loading.setSelectedDic(isEJ != 0); }),
+      withNumber("style.setNonSelectionDic",
+                 [](Rooms& rooms, int isEJ) { rooms.loading.setNonSelectionDic(isEJ != 0); }),
+      {"style.dicWindowOK2", 0,
+       [](Program& program, Arguments) -> Result {
+         program.rooms().loading.dicWindowOK2();
+         return std::nullopt;
+       }},
+      withNumber("style.openMaxOverAlert", [](Rooms& rooms, int kind) { rooms.alerts.openMaxOverAlert(kind); }),
+      answering("style.isStartedApplication",
+                [](Rooms& rooms, int tool) { return rooms.guard.isStartedApplication(tool); }),
+      withNumber("style.alertStartedApplication",
+                 [](Rooms& rooms, int kind) { rooms.guard.alertStartedApplication(kind); }),
+      {"picker.setNotSelectedArray", 1, setNotSelectedArray, true},
+      answering("picker.getCheckedArray",
+                [](Rooms& rooms, int tag) {
+                  const Names names = rooms.picker.getCheckedArray(tag);
+                  return Array(names.begin(), names.end());
+                }),
+      {"picker.setCreatedDictionary", 2,
+       [](Program& program, Arguments arguments) -> Result {
+         program.rooms().picker.setCreatedDictionary(arguments[0], leadingInteger(arguments[1]));
+         return std::nullopt;
+       }},
+      answering("picker.isStartedApplication",
+                [](Rooms& rooms, int tool) { return rooms.picker.isStartedApplication(tool); }),
       {"style.getOSVersion", 0, [](Program& program, Arguments) -> Result { return program.styles().getOSVersion(); }},
       {"manager.createMailScriptFolder", 0,
        [](Program& program, Arguments) -> Result { return program.rooms().mailScripts.createMailScriptFolder(); }},

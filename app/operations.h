@@ -22,6 +22,7 @@ struct Operation {
   // The result, or nothing for an operation that answers nothing. Arguments are texts; integers are read by
   // leadingInteger.
   std::function<std::optional<PropertyList>(Program&, std::span<const std::string> arguments)> run;
+  bool takesMore = false;  // any number of further texts stands before these arguments: a list
 };
 
 std::span<const Operation> operations();

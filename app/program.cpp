@@ -20,6 +20,10 @@ DictController::Services dictionaryServices(const Services& services) {
   return {services.files, services.texts, services.bundle, services.paths};
 }
 
+DictionaryNameChecks::Services nameServices(const Services& services) {
+  return {services.files, services.texts, services.paths, services.panels};
+}
+
 // The window of the interface: just large enough for the style pane, in the middle of the screen and a little above it.
 Rect firstFrame(WindowHost& host, const Window& window) {
   const WindowHeights heights = host.heights(window);
@@ -51,20 +55,46 @@ Program::Program(const Services& services)
       store_(services.files, services.engine, defaults_, services.locations.inHome(std::string(gStylePath)),
              std::string(gAppSupportStylePlist)),
       options_(store_, interface_.options, services.texts),
-      lists_(store_, interface_.style.stylePopup, interface_.lists, services.texts, dictionaryServices(services)),
+      alerts_(services.panels, services.texts),
+      guard_(services.workspace, services.paths),
+      lists_(store_, interface_.style.stylePopup, interface_.lists, services.texts, dictionaryServices(services),
+             guard_),
       dictionaryTable_(lists_, services.texts),
       medical_(services.files, services.texts, defaults_, store_),
       userLists_(dictionaryServices(services)),
+      userListRows_(interface_.userLists, userLists_, dictionaryServices(services)),
+      picker_({interface_.picker, windows_, services.workspace, alerts_, guard_, notifications_},
+              nameServices(services)),
+      loading_(lists_, picker_, request_, alerts_, guard_, services.texts),
+      newDictionary_({interface_.newDictionary, interface_.userLists, interface_.manager.myWindow, request_, lists_,
+                      userLists_, flags_, alerts_, guard_, notifications_, windows_},
+                     nameServices(services)),
       naming_(interface_.style.stylePopup, interface_.naming, services.texts.localized(nomalStyle)),
       display_(store_, options_, lists_, services.texts),
       chooser_(interface_.style, interface_.options, flags_, [this](int tool) { styles_.selectTableViewAction(tool); }),
       toolList_(services.files, defaults_, services.gTarvoCommonModule, interface_.tools,
                 toolListPath(services.locations)),
       mailScripts_(services.files, services.locations.home()),
-      rooms_{store_,  options_, lists_,   dictionaryTable_, medical_,     userLists_,
-             naming_, display_, chooser_, toolList_,        mailScripts_, flags_},
+      rooms_{.store = store_,
+             .options = options_,
+             .lists = lists_,
+             .dictionaryTable = dictionaryTable_,
+             .medical = medical_,
+             .userLists = userLists_,
+             .userListRows = userListRows_,
+             .picker = picker_,
+             .loading = loading_,
+             .newDictionary = newDictionary_,
+             .guard = guard_,
+             .alerts = alerts_,
+             .naming = naming_,
+             .display = display_,
+             .chooser = chooser_,
+             .toolList = toolList_,
+             .mailScripts = mailScripts_,
+             .flags = flags_},
       manager_(interface_, rooms_, services_, defaults_, notifications_, windows_, [this] { quit(); }),
-      styles_(interface_, rooms_, services_, defaults_, [this] { quit(); }) {
+      styles_(interface_, rooms_, services_, defaults_, notifications_, [this] { quit(); }) {
   rooms_.manager = &manager_;
   rooms_.styles = &styles_;
 }
@@ -75,7 +105,9 @@ bool Program::construct() {
   interface_.connect(rooms_, services_.texts);
   Window& window = interface_.manager.myWindow;
   window.setFrameInPlace(firstFrame(windows_.host(), window));
-  return manager_.init();
+  if (!manager_.init()) return false;
+  styles_.init();
+  return true;
 }
 
 bool Program::load() {

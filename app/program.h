@@ -54,10 +54,17 @@ class Program {
   ProcessFlags flags_;
   StyleStore store_;
   OptionEditing options_;
+  PaneAlerts alerts_;
+  RunningApplicationGuard guard_;
   DictionaryListEditing lists_;
   DictionaryTable dictionaryTable_;
   MedicalDictionaries medical_;
   UserLists userLists_;
+  UserListRows userListRows_;
+  NewDictionaryRequest request_;
+  TechDicController picker_;
+  DictionaryLoading loading_;
+  NewDictionary newDictionary_;
   StyleNaming naming_;
   StyleDisplay display_;
   ToolChooser chooser_;

@@ -5,12 +5,18 @@
 #include "app/style_display.h"
 #include "app/tool_chooser.h"
 #include "dict/dictionary_list_editing.h"
+#include "dict/dictionary_loading.h"
 #include "dict/dictionary_table.h"
 #include "dict/medical_dictionaries.h"
+#include "dict/new_dictionary.h"
+#include "dict/running_application_guard.h"
+#include "dict/tech_dic_controller.h"
+#include "dict/user_list_rows.h"
 #include "dict/user_lists.h"
 #include "install/mail_script_installer.h"
 #include "install/tool_list_file.h"
 #include "style/option_editing.h"
+#include "style/pane_alerts.h"
 #include "style/process_flags.h"
 #include "style/style_naming.h"
 #include "style/style_store.h"
@@ -30,6 +36,12 @@ struct Rooms {
   DictionaryTable& dictionaryTable;
   MedicalDictionaries& medical;
   UserLists& userLists;
+  UserListRows& userListRows;
+  TechDicController& picker;
+  DictionaryLoading& loading;
+  NewDictionary& newDictionary;
+  RunningApplicationGuard& guard;
+  PaneAlerts& alerts;
   StyleNaming& naming;
   StyleDisplay& display;
   ToolChooser& chooser;

@@ -107,8 +107,10 @@ void call(Interpreter& interpreter, ScriptLine& line) {
   const Operation* operation = findOperation(name);
   if (operation == nullptr) throw ScriptError("there is no operation " + name);
   const std::vector<std::string> arguments = line.words();
-  if (static_cast<int>(arguments.size()) != operation->argumentCount) {
-    throw ScriptError(name + " takes " + std::to_string(operation->argumentCount) + " arguments");
+  const int count = static_cast<int>(arguments.size());
+  if (operation->takesMore ? count < operation->argumentCount : count != operation->argumentCount) {
+    throw ScriptError(name + " takes " + std::to_string(operation->argumentCount) +
+                      (operation->takesMore ? " or more" : "") + " arguments");
   }
   const std::optional<PropertyList> result = operation->run(interpreter.session().program(), arguments);
   interpreter.beginPrinting();

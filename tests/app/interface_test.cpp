@@ -38,8 +38,8 @@ TEST_F(InterfaceTest, placesEachControlInAWindowUnlessItIsAMenuItem) {
 }
 
 TEST_F(InterfaceTest, connectsEveryControlThatAUserOperates) {
-  const std::set<std::string> silent{"style.StyleNameEditButton", "style.ejLoadDicButton", "style.jeLoadDicButton",
-                                     "manager.noDisplayDialogCheckBox"};
+  const std::set<std::string> silent{"style.StyleNameEditButton", "manager.noDisplayDialogCheckBox",
+                                     "picker.ejEditTDButton", "picker.jeEditTDButton"};
   for (const Row& row : test_.interface().rows()) {
     const Control::Kind kind = row.control.kind();
     const bool operated = kind == Control::Kind::popup || kind == Control::Kind::segments ||
@@ -54,6 +54,10 @@ TEST_F(InterfaceTest, findsControlsByFullAndByUniqueName) {
   EXPECT_EQ(interface.find("style.stylePopup"), &interface.style.stylePopup);
   EXPECT_EQ(interface.find("stylePopup"), &interface.style.stylePopup);
   EXPECT_EQ(interface.find("officeToolPopup"), &interface.tools.officeToolPopup);
+  EXPECT_EQ(interface.find("myWindow"), &interface.manager.myWindow);
+  EXPECT_EQ(interface.find("picker.myWindow"), &interface.picker.myWindow);
+  EXPECT_EQ(interface.find("NewDicWindow"), &interface.newDictionary.NewDicWindow);
+  EXPECT_EQ(interface.find("newDicWindow"), &interface.picker.newDicWindow);
   EXPECT_EQ(interface.find("StylePopup"), nullptr);
   EXPECT_EQ(interface.find("manager.stylePopup"), nullptr);
   EXPECT_EQ(interface.find(""), nullptr);
