@@ -28,7 +28,8 @@ struct NotReachable : ScriptError {
 
 // The user's hand. MemoryHand works the controls themselves; the hand over the window works the real widgets.
 // Duty: make one gesture, throw NotReachable where nothing is there to be worked (a divider, a disabled segment, a row
-// beyond the table). Not: asking whether a control may be reached, which the caller has done (Windows::isReachable).
+// beyond the table or hidden by a filter). Not: asking whether a control may be reached, which the caller has done
+// (Windows::isReachable).
 class Hand {
  public:
   virtual ~Hand() = default;

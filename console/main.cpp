@@ -7,8 +7,10 @@
 #include <iterator>
 
 #include "app/product.h"
+#include "console/dictionary_commands.h"
 #include "console/doctor.h"
 #include "console/manual_run_loop.h"
+#include "console/new_dictionary_command.h"
 #include "console/run_script.h"
 #include "console/style_commands.h"
 #include "platform/posix/instance_lock.h"
@@ -39,7 +41,9 @@ struct Arguments {
   ProductOptions product;
   std::string clock, script = "-";
   std::vector<std::string> pairs;
-  int index = 0;
+  std::vector<std::string> names;
+  std::string direction, kind, name;
+  int index = 0, position = 0;
   bool json = false;
 };
 
@@ -99,45 +103,73 @@ ExitStatus runScriptFile(const Arguments& arguments) {
 
 void addListing(CLI::App& verb, Arguments& arguments) { verb.add_flag("--json", arguments.json, "one line of JSON"); }
 
+// make answers the verb's command when it runs.
+template <class Make>
+void addCommand(CLI::App& verb, Arguments& arguments, Run& run, Make make) {
+  verb.fallthrough()->callback([&arguments, &run, make] {
+    run = [&arguments, make] {
+      auto command = make();
+      return runVerb(arguments, command);
+    };
+  });
+}
+
 void addStyleVerbs(CLI::App& app, Arguments& arguments, Run& run) {
   CLI::App* styles = app.add_subcommand("styles", "list the styles");
   addListing(*styles, arguments);
-  styles->callback([&] {
-    run = [&] {
-      StylesCommand command(arguments.json);
-      return runVerb(arguments, command);
-    };
-  });
+  addCommand(*styles, arguments, run, [&] { return StylesCommand(arguments.json); });
   CLI::App* style = app.add_subcommand("style", "one style")->require_subcommand(1)->fallthrough();
-  CLI::App* show = style->add_subcommand("show", "print it")->fallthrough();
+  CLI::App* show = style->add_subcommand("show", "print it");
   show->add_option("N", arguments.index)->required();
   addListing(*show, arguments);
-  show->callback([&] {
-    run = [&] {
-      StyleShowCommand command(arguments.index, arguments.json);
-      return runVerb(arguments, command);
-    };
-  });
-  CLI::App* set = style->add_subcommand("set", "set options")->fallthrough();
+  addCommand(*show, arguments, run, [&] { return StyleShowCommand(arguments.index, arguments.json); });
+  CLI::App* set = style->add_subcommand("set", "set options");
   set->add_option("N", arguments.index)->required();
   set->add_option("KEY=VALUE", arguments.pairs)->required();
-  set->callback([&] {
-    run = [&] {
-      StyleSetCommand command(arguments.index, arguments.pairs);
-      return runVerb(arguments, command);
-    };
+  addCommand(*set, arguments, run, [&] { return StyleSetCommand(arguments.index, arguments.pairs); });
+}
+
+ListPlace placeIn(const Arguments& arguments) { return {arguments.index, arguments.direction == "ej" ? 0 : 1}; }
+
+void addPlace(CLI::App& verb, Arguments& arguments) {
+  verb.add_option("N", arguments.index)->required();
+  verb.add_option("DIRECTION", arguments.direction)->required()->check(CLI::IsMember({"ej", "je"}));
+}
+
+void addListVerbs(CLI::App& app, Arguments& arguments, Run& run) {
+  CLI::App* list = app.add_subcommand("dictionaries", "list the technical dictionaries of a style");
+  addPlace(*list, arguments);
+  addListing(*list, arguments);
+  addCommand(*list, arguments, run, [&] { return DictionariesCommand(placeIn(arguments), arguments.json); });
+  CLI::App* dictionary = app.add_subcommand("dictionary", "edit that list")->require_subcommand(1)->fallthrough();
+  addPlace(*dictionary, arguments);
+  CLI::App* add = dictionary->add_subcommand("add", "load dictionaries behind those that are loaded");
+  add->add_option("NAME", arguments.names)->required();
+  addCommand(*add, arguments, run, [&] { return AddDictionariesCommand(placeIn(arguments), arguments.names); });
+  CLI::App* remove = dictionary->add_subcommand("remove", "take one out of the list");
+  remove->add_option("NAME", arguments.name)->required();
+  addCommand(*remove, arguments, run, [&] { return RemoveDictionaryCommand(placeIn(arguments), arguments.name); });
+  CLI::App* move = dictionary->add_subcommand("move", "put one in another place, counted from 1");
+  move->add_option("NAME", arguments.name)->required();
+  move->add_option("POSITION", arguments.position)->required();
+  addCommand(*move, arguments, run,
+             [&] { return MoveDictionaryCommand(placeIn(arguments), arguments.name, arguments.position); });
+}
+
+void addNewVerb(CLI::App& app, Arguments& arguments, Run& run) {
+  CLI::App* verb = app.add_subcommand("new", "make an empty user dictionary or translation memory");
+  verb->add_option("DIRECTION", arguments.direction)->required()->check(CLI::IsMember({"ej", "je"}));
+  verb->add_option("KIND", arguments.kind)->required()->check(CLI::IsMember({"user", "memory"}));
+  verb->add_option("NAME", arguments.name, "without extension")->required();
+  addCommand(*verb, arguments, run, [&] {
+    return NewDictionaryCommand(placeIn(arguments).direction, arguments.kind == "memory", arguments.name);
   });
 }
 
 void addOtherVerbs(CLI::App& app, Arguments& arguments, Run& run) {
   CLI::App* doctor = app.add_subcommand("doctor", "every path looked at, and what is there");
   addListing(*doctor, arguments);
-  doctor->callback([&] {
-    run = [&] {
-      DoctorCommand command(arguments.json);
-      return runVerb(arguments, command);
-    };
-  });
+  addCommand(*doctor, arguments, run, [&] { return DoctorCommand(arguments.json); });
   CLI::App* script = app.add_subcommand("run", "run a script of the scenario language");
   script->add_option("FILE", arguments.script, "the script; - reads it from the input");
   script->callback([&] { run = [&] { return runScriptFile(arguments); }; });
@@ -150,6 +182,8 @@ ExitStatus main(int count, char** words) {
   Run run;
   addCommonOptions(app, arguments);
   addStyleVerbs(app, arguments, run);
+  addListVerbs(app, arguments, run);
+  addNewVerb(app, arguments, run);
   addOtherVerbs(app, arguments, run);
   try {
     app.parse(count, words);

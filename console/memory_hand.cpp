@@ -15,6 +15,7 @@ void requireRow(const TableView& table, int row) {
   if (row < 0 || row >= table.numberOfRows()) {
     throw NotReachable(table.name() + " has no row " + std::to_string(row));
   }
+  if (!table.isRowShown(row)) throw NotReachable(table.name() + " does not show row " + std::to_string(row));
 }
 
 }  // namespace

@@ -38,6 +38,10 @@ void addTabs(Json::Object& state, const TabView& tab) {
 Json cells(const TableView& table) {
   Json::List rows;
   for (int row = 0; row < table.numberOfRows(); ++row) {
+    if (!table.isRowShown(row)) {
+      rows.emplace_back();
+      continue;
+    }
     Json::Object values;
     for (const TableView::Column& column : table.columns()) {
       const CellValue value = table.cell(column.identifier, row);

@@ -56,16 +56,11 @@ void addRows(Rows& rows, const Dictionary& dictionary, const std::string& before
   }
 }
 
-ExitStatus unreadable(Console& console) {
-  console.err << "there is no style file that can be read\n";
-  return ExitStatus::refused;
-}
-
 }  // namespace
 
 ExitStatus StylesCommand::run(Console& console) {
-  const std::optional<Dictionary> root = readStyles(console.product);
-  if (!root) return unreadable(console);
+  const std::optional<Dictionary> root = readStyles(console);
+  if (!root) return ExitStatus::refused;
   const std::string divider = console.product.texts().localized(keyNameSeparator);
   const std::vector<std::string> ids = toolIds(console.product.texts());
   const Array none;
@@ -91,15 +86,10 @@ ExitStatus StylesCommand::run(Console& console) {
 }
 
 ExitStatus StyleShowCommand::run(Console& console) {
-  const std::optional<Dictionary> root = readStyles(console.product);
-  if (!root) return unreadable(console);
-  const Array* styles = root->array(keyNameStyle);
-  const bool exists = styles != nullptr && index_ >= 0 && index_ < static_cast<int>(styles->size());
-  const Dictionary* record = exists ? (*styles)[static_cast<std::size_t>(index_)].dictionary() : nullptr;
-  if (record == nullptr) {
-    console.err << "there is no style " << index_ << '\n';
-    return ExitStatus::usage;
-  }
+  const std::optional<Dictionary> root = readStyles(console);
+  if (!root) return ExitStatus::refused;
+  const Dictionary* record = findStyle(console, *root, index_);
+  if (record == nullptr) return ExitStatus::usage;
   if (json_) {
     console.out << writeJson(jsonFromPropertyList(*record)) << '\n';
     return ExitStatus::done;

@@ -14,4 +14,18 @@ std::optional<Dictionary> readStyles(Product& product) {
   return styles ? styles : PlistFile(product.files(), std::string(gAppSupportStylePlist)).read();
 }
 
+std::optional<Dictionary> readStyles(Console& console) {
+  std::optional<Dictionary> styles = readStyles(console.product);
+  if (!styles) console.err << "there is no style file that can be read\n";
+  return styles;
+}
+
+const Dictionary* findStyle(Console& console, const Dictionary& styles, int index) {
+  const Array* records = styles.array(keyNameStyle);
+  const bool exists = records != nullptr && index >= 0 && index < static_cast<int>(records->size());
+  const Dictionary* record = exists ? (*records)[static_cast<std::size_t>(index)].dictionary() : nullptr;
+  if (record == nullptr) console.err << "there is no style " << index << '\n';
+  return record;
+}
+
 }  // namespace tarvo

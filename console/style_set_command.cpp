@@ -6,10 +6,11 @@
 
 #include "app/product.h"
 #include "app/program.h"
+#include "console/hand.h"
+#include "console/style_choice.h"
 #include "console/style_commands.h"
 #include "console/style_reading.h"
 #include "console/verb_program.h"
-#include "style/divider.h"
 #include "style/option_table.h"
 #include "style/style_keys.h"
 
@@ -63,24 +64,13 @@ std::optional<std::vector<Edit>> readPairs(const std::vector<std::string>& pairs
   return edits;
 }
 
-// Whether the style menu lets one choose that style, and option edits then reach it.
+// Whether option edits reach the style once it is chosen.
 ExitStatus checkStyle(Console& console, int index) {
+  if (const ExitStatus status = checkStyleCanBeChosen(console, index); status != ExitStatus::done) return status;
   const std::optional<Dictionary> root = readStyles(console.product);
-  const Array* styles = root ? root->array(keyNameStyle) : nullptr;
-  if (styles == nullptr || index < 0 || index >= static_cast<int>(styles->size())) {
-    console.err << "there is no style " << index << '\n';
-    return ExitStatus::usage;
-  }
-  const Dictionary* record = (*styles)[static_cast<std::size_t>(index)].dictionary();
-  if (record != nullptr && isDivider(*record, console.product.texts())) {
-    console.err << "style " << index << " is the divider\n";
-    return ExitStatus::usage;
-  }
-  if (index != 0 && root->dictionary(keyNameSelection) == nullptr) {
-    console.err << "the style file remembers no choice of a style: options can be set for style 0 only\n";
-    return ExitStatus::refused;
-  }
-  return ExitStatus::done;
+  if (index == 0 || (root && root->dictionary(keyNameSelection) != nullptr)) return ExitStatus::done;
+  console.err << "the style file remembers no choice of a style: options can be set for style 0 only\n";
+  return ExitStatus::refused;
 }
 
 // Whether the record holds every half that is to be changed: a missing one is not made, and nobody would notice.
@@ -100,16 +90,11 @@ ExitStatus StyleSetCommand::run(Console& console) {
   const ExitStatus status = VerbProgram(console).run([&](Program& program, Hand& hand) {
     taken = canTake(program.rooms().store.getStyleAtIndex(index_), *edits);
     if (!taken) return;
-    PopUpButton& menu = program.interface().style.stylePopup;
     OptionOutlets& options = program.interface().options;
-    const int former = menu.indexOfSelectedItem();
-    hand.choose(menu, index_);
+    const StyleChoice choice(program, hand, index_);
     for (const Edit& edit : *edits) {
       hand.choose(edit.detailed ? options.detailPopups[edit.popup] : options.indexPopups[edit.popup], edit.item);
     }
-    // As a tool brings its style back: the former one may be the divider, which nobody can click.
-    menu.selectItemAtIndex(former);
-    program.styles().changeStyle();
   });
   if (taken) return status;
   console.err << "style " << index_ << " is damaged: it lacks the direction of these options\n";

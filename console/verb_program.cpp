@@ -11,10 +11,13 @@ class VerbProgram::ToldPanels : public Panels {
  public:
   explicit ToldPanels(std::ostream& err) : err_(err) {}
   bool refused() const { return refused_; }
+  void refuse(const std::string& reason) {
+    err_ << reason << '\n';
+    refused_ = true;
+  }
   void beep() override {}
   int runAlertPanel(const Alert& alert) override {
-    err_ << (alert.title.empty() ? "" : alert.title + ": ") << alert.message << '\n';
-    refused_ = true;
+    refuse((alert.title.empty() ? "" : alert.title + ": ") + alert.message);
     return 0;
   }
   void beginAlertSheet(Window&, const Alert& alert, std::function<void(int)> handler) override {
@@ -82,6 +85,15 @@ ExitStatus VerbProgram::run(const std::function<void(Program& program, Hand& han
     return ExitStatus::locked;
   }
   return runProgram(act);
+}
+
+void VerbProgram::refuse(const std::string& reason) { panels_->refuse(reason); }
+
+void VerbProgram::duringModalRun(std::function<void()> act) {
+  shell_.windowHost().step = [act = std::move(act)] {
+    act();
+    return true;
+  };
 }
 
 ExitStatus VerbProgram::runProgram(const std::function<void(Program& program, Hand& hand)>& act) {

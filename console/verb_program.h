@@ -28,6 +28,11 @@ class VerbProgram {
   // Takes the lock, starts, lets the verb act, and ends as the quit command does.
   ExitStatus run(const std::function<void(Program& program, Hand& hand)>& act);
 
+  // For the verb while it acts. Tells why something is not done.
+  void refuse(const std::string& reason);
+  // What is done inside each modal run; it has to end it.
+  void duringModalRun(std::function<void()> act);
+
  private:
   class ToldPanels;
   class ToldEngine;
