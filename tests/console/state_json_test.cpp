@@ -54,6 +54,16 @@ TEST(StateJson, everyControlHasNameKindAndReach) {
   EXPECT_EQ(writeJson(stateOf(outlets.view)), R"({"enabled":true,"kind":"view","name":"owner.view","visible":false})");
 }
 
+TEST(StateJson, rowsThatAFilterHidesAreNullAndKeepTheirNumbers) {
+  SomeOutlets outlets;
+  TwoRows source;
+  outlets.table.setColumns({{.identifier = "name"}});
+  outlets.table.setDataSource(&source);
+  outlets.table.reloadData();
+  outlets.table.setRowFilter([](int row) { return row == 1; });
+  EXPECT_EQ(own(outlets.table), R"({"cells":[null,{"name":"row 1"}],"icon":"","rows":2,"selectedRows":[]})");
+}
+
 TEST(StateJson, popupsShowDividersAsNull) {
   SomeOutlets outlets;
   EXPECT_EQ(own(outlets.popup), R"({"items":[],"selected":-1,"tags":[]})");

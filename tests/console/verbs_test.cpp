@@ -7,8 +7,7 @@
 
 #include "console/json.h"
 #include "platform/posix/instance_lock.h"
-#include "tests/console/run_tool.h"
-#include "tests/support/scenario_files.h"
+#include "tests/console/verb_test.h"
 
 // The verbs as an administrator meets them: output, messages and status.
 namespace tarvo::test {
@@ -16,33 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* styleFile = "Library/Preferences/Wordhaven/TarvoStyle2009.plist";
-
-class Verbs : public testing::Test {
- protected:
-  void putStyles(const std::string& fixture) const {
-    const fs::path target = fs::path(root_.home()) / styleFile;
-    fs::create_directories(target.parent_path());
-    fs::copy_file(scenarioFolder() + "/fixtures/" + fixture, target, fs::copy_options::overwrite_existing);
-  }
-  ToolResult run(const std::vector<std::string>& words) const {
-    std::vector<std::string> arguments{"--root",     root_.root(), "--home",    root_.home(),
-                                       "--language", "en",         "--strings", "none"};
-    arguments.insert(arguments.end(), words.begin(), words.end());
-    return runTool(arguments, scenarioFolder());
-  }
-  std::string style(int index) const { return run({"style", "show", std::to_string(index), "--json"}).out; }
-  // Every path below the root, with the bytes of the files.
-  std::map<std::string, std::string> tree() const {
-    std::map<std::string, std::string> all;
-    for (const auto& entry : fs::recursive_directory_iterator(root_.root())) {
-      const std::string rest = fs::relative(entry.path(), root_.folder().path()).string();
-      all[rest] = entry.is_regular_file() ? root_.folder().read(rest) : "";
-    }
-    return all;
-  }
-  const ScenarioRoot root_{"plain"};
-};
+using Verbs = VerbTest;
 
 TEST_F(Verbs, stylesListsIndexNameAndTools) {
   putStyles("root4.plist");

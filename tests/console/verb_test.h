@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "tests/console/run_tool.h"
+#include "tests/support/scenario_files.h"
+
+namespace tarvo::test {
+
+// A product with a few dictionaries, on which tarvoctl is run as an administrator would.
+class VerbTest : public testing::Test {
+ protected:
+  static constexpr const char* styleFile = "Library/Preferences/Wordhaven/TarvoStyle2009.plist";
+  static constexpr const char* technical = "root/Library/Application Support/Wordhaven/TarvoEiwa/TechDic/";
+  static constexpr const char* userDic = "root/Users/taro/Library/Application Support/Wordhaven/UserDic/";
+  static constexpr const char* userTMA = "root/Users/taro/Library/Application Support/Wordhaven/UserTMA/";
+
+  // A fixture as the user's styles.
+  void putStyles(const std::string& fixture) const {
+    const std::filesystem::path target = std::filesystem::path(root_.home()) / styleFile;
+    std::filesystem::create_directories(target.parent_path());
+    std::filesystem::copy_file(scenarioFolder() + "/fixtures/" + fixture, target,
+                               std::filesystem::copy_options::overwrite_existing);
+  }
+  ToolResult run(const std::vector<std::string>& words,
+                 const std::vector<std::string>& strings = {"--strings", "none"}) const {
+    std::vector<std::string> arguments{"--root", root_.root(), "--home", root_.home(), "--language", "en"};
+    arguments.insert(arguments.end(), strings.begin(), strings.end());
+    arguments.insert(arguments.end(), words.begin(), words.end());
+    return runTool(arguments, scenarioFolder());
+  }
+  // The same with the texts that people read.
+  ToolResult runInEnglish(const std::vector<std::string>& words) const { return run(words, {}); }
+  std::string style(int index) const { return run({"style", "show", std::to_string(index), "--json"}).out; }
+  // Every path below the root, with the bytes of the files.
+  std::map<std::string, std::string> tree() const {
+    std::map<std::string, std::string> all;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(root_.root())) {
+      const std::string rest = std::filesystem::relative(entry.path(), root_.folder().path()).string();
+      all[rest] = entry.is_regular_file() ? root_.folder().read(rest) : "";
+    }
+    return all;
+  }
+  const ScenarioRoot root_{"plain"};
+};
+
+}  // namespace tarvo::test
