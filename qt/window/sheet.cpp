@@ -2,16 +2,58 @@
 // SPDX-License-Identifier: MIT
 #include "qt/window/sheet.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QDialog>
-#include <QEvent>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QTimer>
+#include <QWindow>
 
 namespace tarvo {
 namespace {
+
+bool isOnMenuBar(const QWidget& host, QPoint place) {
+  const auto* bar = host.findChild<QMenuBar*>(QString(), Qt::FindDirectChildrenOnly);
+  return bar != nullptr && bar->isVisible() && bar->geometry().contains(place);
+}
+
+bool isKey(const QEvent& event) { return event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease; }
+
+// Whether an event of the host's window is a gesture that a sheet keeps from it.
+bool isShutOut(const QEvent& event, const QWidget& host) {
+  switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove: return !isOnMenuBar(host, static_cast<const QMouseEvent&>(event).position().toPoint());
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease:
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+    case QEvent::Close: return true;
+    default: return false;
+  }
+}
 
 class Hanger : public QObject {
  public:
   Hanger(QDialog& sheet, QWidget& host, int top) : QObject(&sheet), sheet_(sheet), host_(host), top_(top) {
     host.installEventFilter(this);
+    sheet.installEventFilter(this);
+    host.window()->windowHandle()->installEventFilter(this);
+    sheet.addActions(host.actions());
+  }
+
+  ~Hanger() override {
+    for (QAction* action : host_.actions()) sheet_.removeAction(action);
   }
 
   void hang() {
@@ -19,12 +61,37 @@ class Hanger : public QObject {
     sheet_.move(host_.mapToGlobal(QPoint(x, top_)));
   }
 
-  bool eventFilter(QObject*, QEvent* event) override {
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == &sheet_) {
+      if (event->type() == QEvent::Hide && !event->spontaneous()) delete this;
+      return false;
+    }
+    if (watched != &host_) return isKept(*event);
     if (event->type() == QEvent::Move || event->type() == QEvent::Resize) hang();
+    // A click on the host, or on its menu bar, brings it to the front.
+    if (event->type() == QEvent::WindowActivate) QTimer::singleShot(0, this, [this] { takeKeyboard(); });
     return false;
   }
 
  private:
+  // An open menu takes its events through the host's window.
+  bool isKept(QEvent& event) {
+    if (QApplication::activePopupWidget() != nullptr) return false;
+    if (isKey(event)) {
+      takeKeyboard();
+      if (QWindow* window = sheet_.windowHandle()) QCoreApplication::sendEvent(window, &event);
+      return true;
+    }
+    if (!isShutOut(event, host_)) return false;
+    if (event.type() == QEvent::MouseButtonPress) takeKeyboard();
+    event.setAccepted(event.type() != QEvent::Close);
+    return true;
+  }
+
+  void takeKeyboard() {
+    if (QApplication::activePopupWidget() == nullptr && sheet_.isVisible()) sheet_.activateWindow();
+  }
+
   QDialog& sheet_;
   QWidget& host_;
   int top_;
@@ -34,12 +101,19 @@ class Hanger : public QObject {
 
 void openSheet(QDialog& dialog, QWidget& host, int top) {
   dialog.setParent(&host, Qt::Dialog | Qt::FramelessWindowHint);
-  dialog.setWindowModality(Qt::WindowModal);
+  dialog.setWindowModality(Qt::NonModal);
   dialog.adjustSize();
   auto* hanger = new Hanger(dialog, host, top);
-  QObject::connect(&dialog, &QDialog::finished, hanger, &QObject::deleteLater);
   hanger->hang();  // before it opens: a place that is set later is not told to assistive tools
-  dialog.open();
+  dialog.show();
+}
+
+QDialog* sheetOver(const QWidget& host) {
+  for (QDialog* dialog : host.findChildren<QDialog*>(QString(), Qt::FindDirectChildrenOnly)) {
+    const bool isHung = dialog->isVisible() && dialog->windowFlags().testFlag(Qt::FramelessWindowHint);
+    if (isHung) return dialog;
+  }
+  return nullptr;
 }
 
 }  // namespace tarvo

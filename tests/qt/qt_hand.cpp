@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -22,6 +23,7 @@
 #include "qt/bind/binder.h"
 #include "qt/bind/in_step.h"
 #include "qt/bind/segments_widget.h"
+#include "qt/window/sheet.h"
 
 namespace tarvo::test {
 
@@ -63,6 +65,8 @@ void requireInReach(QWidget& widget, QPoint place) {
   const QWindow* modal = QGuiApplication::modalWindow();
   if (modal != nullptr && modal != window.windowHandle())
     throw NotReachable(named(widget) + " is shut out by a dialog");
+  if (sheetOver(window) != nullptr && qobject_cast<QMenuBar*>(&widget) == nullptr)
+    throw NotReachable(named(widget) + " stands under a sheet");
   QWidget* found = window.childAt(widget.mapTo(&window, place));
   while (found != nullptr && found != &widget) found = found->parentWidget();
   if (found == nullptr && &widget != &window) throw NotReachable(named(widget) + " is covered or out of sight");

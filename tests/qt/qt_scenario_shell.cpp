@@ -15,12 +15,25 @@ namespace tarvo::test {
 
 namespace {
 
+// The alert that is up: a dialog of its own, else a sheet.
+QDialog* shownAlert() {
+  const auto alertOf = [](QWidget* widget) {
+    const bool isAlert = widget != nullptr && widget->isVisible() && widget->objectName() == QLatin1String("alert");
+    return isAlert ? qobject_cast<QDialog*>(widget) : nullptr;
+  };
+  if (QDialog* alert = alertOf(QApplication::activeModalWidget())) return alert;
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (QDialog* alert = alertOf(widget)) return alert;
+  }
+  return nullptr;
+}
+
 // Once the alert is up: a click on its button. An alert without that button is closed.
 void pressLater(int button) {
   QMetaObject::invokeMethod(
       qApp,
       [button] {
-        auto* alert = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        QDialog* alert = shownAlert();
         if (alert == nullptr) return;
         auto* wanted = alert->findChild<QPushButton*>(QStringLiteral("alert.%1").arg(button));
         if (wanted == nullptr) return alert->done(-1);
