@@ -40,7 +40,8 @@ class TableControlView : public ControlView {
       table_.rows().columnsChanged();
       table_.adoptColumns();
     }
-    table_.rows().reload();
+    if (change != Control::Change::filter) table_.rows().reload();
+    table_.showRows([this](int row) { return control_.isRowShown(row); });
     table_.setSelectionMode(control_.allowsMultipleSelection() ? QAbstractItemView::ExtendedSelection
                                                                : QAbstractItemView::SingleSelection);
     syncing_ = outer;

@@ -85,6 +85,9 @@ std::string difference(const TableView& control, const QTableView& table) {
   if (const auto found = cells(control, table); !found.empty()) return found;
   std::string held, shown;
   for (int row = 0; row < control.numberOfRows(); ++row) {
+    if (const auto found = differs("row shown", control.isRowShown(row), !table.isRowHidden(row)); !found.empty()) {
+      return found;
+    }
     if (table.selectionModel()->isRowSelected(row, {})) shown += std::to_string(row) + " ";
   }
   for (const int row : control.selectedRows()) held += std::to_string(row) + " ";

@@ -62,6 +62,8 @@ int TableModel::checkColumn() const {
   return -1;
 }
 
+bool TableModel::hasIcons(int column) const { return control_.columns()[static_cast<std::size_t>(column)].icon; }
+
 void TableModel::tick(int row) {
   const QModelIndex box = index(row, checkColumn());
   const bool isOn = data(box, Qt::CheckStateRole).toInt() == Qt::Checked;

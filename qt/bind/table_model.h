@@ -33,7 +33,8 @@ class TableModel : public QAbstractTableModel {
   void reload();
   void columnsChanged();
   int checkColumn() const;  // -1: none
-  void tick(int row);       // turns the row's check box over
+  bool hasIcons(int column) const;
+  void tick(int row);  // turns the row's check box over
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;

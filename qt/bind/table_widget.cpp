@@ -6,7 +6,10 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOption>
 
+#include "qt/bind/iconed_delegate.h"
 #include "qt/bind/table_model.h"
 #include "qt/look/metrics.h"
 
@@ -28,7 +31,8 @@ class TitleRow : public QHeaderView {
 
 }  // namespace
 
-TableWidget::TableWidget(TableModel& model, QWidget* parent) : QTableView(parent), model_(model) {
+TableWidget::TableWidget(TableModel& model, QWidget* parent)
+    : QTableView(parent), model_(model), iconed_(new IconedDelegate(this)) {
   setHorizontalHeader(new TitleRow(this));
   setModel(&model);
   setShowGrid(false);
@@ -44,6 +48,7 @@ TableWidget::TableWidget(TableModel& model, QWidget* parent) : QTableView(parent
   verticalHeader()->setDefaultSectionSize(metrics::rowHeight(fontMetrics()));
   verticalHeader()->setMinimumSectionSize(1);
   horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setResizeContentsPrecision(0);  // check boxes are all alike
   horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   setDragDropMode(DragDrop);
   setDefaultDropAction(Qt::MoveAction);
@@ -58,7 +63,17 @@ void TableWidget::adoptColumns() {
     horizontalHeader()->setSectionResizeMode(i, isLast       ? QHeaderView::Stretch
                                                 : i == boxes ? QHeaderView::ResizeToContents
                                                              : QHeaderView::Interactive);
+    setItemDelegateForColumn(i, model_.hasIcons(i) ? iconed_ : nullptr);
   }
+}
+
+void TableWidget::showRows(const std::function<bool(int row)>& isShown) {
+  // A header that repaints works out the places of all rows anew for each row that comes or goes.
+  verticalHeader()->setUpdatesEnabled(false);
+  for (int row = 0; row < model_.rowCount(); ++row) {
+    if (isRowHidden(row) == isShown(row)) setRowHidden(row, !isShown(row));
+  }
+  verticalHeader()->setUpdatesEnabled(true);
 }
 
 QItemSelectionModel::SelectionFlags TableWidget::selectionCommand(const QModelIndex& index, const QEvent* event) const {
@@ -69,13 +84,43 @@ QItemSelectionModel::SelectionFlags TableWidget::selectionCommand(const QModelIn
 
 void TableWidget::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Space && model_.checkColumn() >= 0 && currentIndex().isValid()) {
-    model_.tick(currentIndex().row());
+    if (!isRowHidden(currentIndex().row())) model_.tick(currentIndex().row());
     return;
   }
   QTableView::keyPressEvent(event);
 }
 
+void TableWidget::dragMoveEvent(QDragMoveEvent* event) {
+  QTableView::dragMoveEvent(event);
+  markEnd(event->isAccepted() && dropIndicatorPosition() == OnViewport);
+}
+
+void TableWidget::dragLeaveEvent(QDragLeaveEvent* event) {
+  markEnd(false);
+  QTableView::dragLeaveEvent(event);
+}
+
 // The table's own handling would move the rows of the model itself.
-void TableWidget::dropEvent(QDropEvent* event) { QAbstractItemView::dropEvent(event); }
+void TableWidget::dropEvent(QDropEvent* event) {
+  markEnd(false);
+  QAbstractItemView::dropEvent(event);
+}
+
+void TableWidget::markEnd(bool marked) {
+  if (isEndMarked_ == marked) return;
+  isEndMarked_ = marked;
+  viewport()->update();
+}
+
+// The base marks gaps beside rows only.
+void TableWidget::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (!isEndMarked_) return;
+  QStyleOption mark;
+  mark.initFrom(this);
+  mark.rect = QRect(0, verticalHeader()->length() - verticalOffset(), viewport()->width() - 1, 0);
+  QPainter painter(viewport());
+  style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemDrop, &mark, &painter, this);
+}
 
 }  // namespace tarvo

@@ -3,27 +3,37 @@
 #pragma once
 
 #include <QTableView>
+#include <functional>
 
 namespace tarvo {
 
+class IconedDelegate;
 class TableModel;
 
-// The list of the window: whole rows, no grid, dragged rows with a line where they would go.
+// The list of the window: whole rows, no grid, dragged rows with a line where they would go, also behind the last row.
 // A tick is one gesture of its own: a mouse press on a check cell selects nothing, the control does that after the
 // edit.
 class TableWidget : public QTableView {
  public:
   TableWidget(TableModel& model, QWidget* parent);
   TableModel& rows() const { return model_; }
-  void adoptColumns();  // widths for the model's columns
+  void adoptColumns();  // widths and drawing for the model's columns
+  // Shows the rows that the call names and hides the others, 10,000 of them within a few milliseconds.
+  void showRows(const std::function<bool(int row)>& isShown);
 
  protected:
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
   void keyPressEvent(QKeyEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
+  void dragLeaveEvent(QDragLeaveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
+  void markEnd(bool marked);
   TableModel& model_;
+  IconedDelegate* iconed_;
+  bool isEndMarked_ = false;  // a drag would go behind the last row
 };
 
 }  // namespace tarvo

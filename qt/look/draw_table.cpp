@@ -65,7 +65,7 @@ bool drawDropMark(QPainter& painter, const QStyleOption& option, const QWidget*)
     drawPlate(painter, mark.adjusted(1, 1, -1, -1), metrics::controlRadius - 1, Qt::transparent, accent);
     return true;
   }
-  const double y = mark.top();
+  const double y = qMax(mark.top(), 3.0);  // the knob stays whole above the first row
   painter.fillRect(snapped(painter, QRectF(mark.left() + 6, y - 1, mark.width() - 6, 2)), accent);
   drawPlate(painter, QRectF(mark.left(), y - 3, 6, 6), 3, option.palette.color(QPalette::Base), accent);
   return true;

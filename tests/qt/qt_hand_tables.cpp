@@ -26,6 +26,7 @@ TableWidget& listOf(const Registry& registry, const TableView& table) {
 QPoint placeOf(TableWidget& list, int row, int column = 0) {
   const QModelIndex index = list.model()->index(row, column);
   if (!index.isValid()) throw NotReachable(list.objectName().toStdString() + " has no row " + std::to_string(row));
+  if (list.isRowHidden(row)) throw NotReachable("the filter hides row " + std::to_string(row));
   list.scrollTo(index);
   return list.visualRect(index).center();
 }

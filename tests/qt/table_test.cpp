@@ -219,6 +219,78 @@ TEST_F(TableBinding, scrollsToTheRowThatTheProgramNames) {
   EXPECT_TRUE(view.viewport()->rect().intersects(view.visualRect(view.model()->index(80, 0))));
 }
 
+struct FilteredTable : TableBinding {
+  // Shows the rows with an even number.
+  FilteredTable() {
+    outlets.table.setRowFilter([this](int row) { return row % 2 == 0; });
+  }
+};
+
+TEST_F(FilteredTable, rowsThatTheFilterRefusesAreHiddenAndCount) {
+  auto& view = build();
+  EXPECT_EQ(view.model()->rowCount(), 4);
+  EXPECT_FALSE(view.isRowHidden(2));
+  EXPECT_TRUE(view.isRowHidden(3));
+  rows.names = {"a", "b", "c", "d", "e", "f"};
+  outlets.table.reloadData();
+  EXPECT_FALSE(view.isRowHidden(4));
+  EXPECT_TRUE(view.isRowHidden(5));
+  outlets.table.setRowFilter({});
+  EXPECT_FALSE(view.isRowHidden(5));
+  EXPECT_EQ(inStep(), "");
+}
+
+TEST_F(FilteredTable, theKeyboardAndSelectingAllPassOverHiddenRows) {
+  auto& view = build();
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, middle(view, 0));
+  QTest::keyClick(&view, Qt::Key_Down);
+  EXPECT_EQ(outlets.table.selectedRows(), std::vector{2});
+  view.selectAll();
+  EXPECT_EQ(outlets.table.selectedRows(), (std::vector{0, 2}));
+  EXPECT_EQ(inStep(), "");
+}
+
+TEST_F(FilteredTable, aRowThatWasHiddenUnderTheKeyboardIsNotTicked) {
+  outlets.table.setRowFilter({});
+  withBoxes();
+  auto& view = build();
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, middle(view, 1, 1));
+  QTest::keyClick(&view, Qt::Key_Space);
+  EXPECT_TRUE(rows.on[1]);
+  outlets.table.setRowFilter([](int row) { return row % 2 == 0; });
+  QTest::keyClick(&view, Qt::Key_Space);
+  EXPECT_TRUE(rows.on[1]);
+  EXPECT_EQ(inStep(), "");
+}
+
+TEST_F(FilteredTable, aShownRowThatShouldBeHiddenIsOutOfStep) {
+  auto& view = build();
+  view.setRowHidden(1, false);
+  EXPECT_EQ(inStep(), "test.table: row shown no, shown yes");
+}
+
+// The drop goes behind the last row; a line there says so.
+TEST_F(TableBinding, aDragBelowTheLastRowIsMarkedThere) {
+  auto& view = build(300);
+  const std::unique_ptr<QMimeData> data(view.model()->mimeData({view.model()->index(0, 0)}));
+  const QPoint below(60, view.viewport()->height() - 5);
+  const QImage before = view.viewport()->grab().toImage();
+  QDragEnterEvent enter(below, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(view.viewport(), &enter);
+  QDragMoveEvent move(below, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(view.viewport(), &move);
+  const QImage during = view.viewport()->grab().toImage();
+  EXPECT_NE(during, before);
+  const int end = view.visualRect(view.model()->index(3, 0)).bottom() + 1;
+  const QRect line(0, end - 4, before.width(), 8);
+  for (QImage copy : {before, during})
+    EXPECT_EQ(copy.copy(0, 0, copy.width(), line.top()), before.copy(0, 0, copy.width(), line.top()));
+  EXPECT_NE(during.copy(line), before.copy(line));
+  QDragLeaveEvent leave;
+  QApplication::sendEvent(view.viewport(), &leave);
+  EXPECT_EQ(view.viewport()->grab().toImage(), before);
+}
+
 TEST_F(TableBinding, aWrongSelectionIsOutOfStep) {
   auto& view = build();
   const QSignalBlocker quiet(view.selectionModel());
