@@ -41,7 +41,11 @@ class TextView : public ControlView {
   void show(Control::Change) override {
     showCommonState();
     label_.setText(toQString(control_.stringValue()));
-    if (control_.label().empty()) label_.setAccessibleName(label_.text());
+    if (control_.label().empty()) {
+      label_.setAccessibleName(label_.text());
+    } else {
+      label_.setAccessibleDescription(label_.text());  // the name alone says nothing of what is shown
+    }
   }
 
  private:

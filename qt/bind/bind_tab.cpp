@@ -78,6 +78,7 @@ QStackedWidget* Binder::pages(TabView& control, std::vector<PageBuilder> builder
 
 QTabWidget* Binder::tabs(TabView& control, std::vector<PageBuilder> builders, QWidget* parent) {
   auto* tabs = new QTabWidget(parent);
+  tabs->setUsesScrollButtons(false);  // all are in sight; larger texts make the window wider
   new TabViewView<QTabWidget>(control, *tabs, std::move(builders), registry_);
   tabs->tabBar()->setAccessibleName(toQString(control.label()));
   return tabs;

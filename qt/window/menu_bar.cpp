@@ -35,6 +35,11 @@ QMenu* lazyMenu(QMenuBar& bar, Binder& binder, const char* titleKey, QList<QActi
 
 MenuActions::MenuActions(Interface& interface, Binder& binder, QWidget& window) {
   ManagerOutlets& manager = interface.manager;
+  NewDictionaryOutlets& makers = interface.newDictionary;
+  newEJDictionary = boundAction(makers.newEJUDMenu, binder, window, Qt::CTRL | Qt::Key_N);
+  newJEDictionary = boundAction(makers.newJEUDMenu, binder, window);
+  newEJMemory = boundAction(makers.newEJTMAMenu, binder, window);
+  newJEMemory = boundAction(makers.newJETMAMenu, binder, window);
   quit = boundAction(interface.style.quitMenu, binder, window, Qt::CTRL | Qt::Key_Q);
   styles = boundAction(manager.styleManagerMenu, binder, window, Qt::CTRL | Qt::Key_1);
   office = boundAction(manager.officeAddinMenu, binder, window, Qt::CTRL | Qt::Key_2);
@@ -47,7 +52,9 @@ MenuActions::MenuActions(Interface& interface, Binder& binder, QWidget& window) 
 
 QMenuBar* buildMenuBar(const MenuActions& actions, Interface& interface, Binder& binder, QWidget* parent) {
   auto* bar = new QMenuBar(parent);
-  lazyMenu(*bar, binder, "Menu.File", {actions.quit});
+  lazyMenu(*bar, binder, "Menu.File",
+           {actions.newEJDictionary, actions.newJEDictionary, nullptr, actions.newEJMemory, actions.newJEMemory,
+            nullptr, actions.quit});
   QMenu* view =
       lazyMenu(*bar, binder, "Menu.View",
                {actions.styles, actions.office, actions.mail, nullptr, actions.showToolbar, actions.customizeToolbar});

@@ -15,7 +15,8 @@ class Interface;
 // The menu commands of the main window. Owned by the window, which knows their shortcuts without any menu being open.
 struct MenuActions {
   MenuActions(Interface& interface, Binder& binder, QWidget& window);
-  QAction *quit, *styles, *office, *mail, *showToolbar, *customizeToolbar, *about;
+  QAction *newEJDictionary, *newJEDictionary, *newEJMemory, *newJEMemory, *quit;
+  QAction *styles, *office, *mail, *showToolbar, *customizeToolbar, *about;
 };
 
 // File, View and Help. The menus get their entries when they are opened for the first time.

@@ -11,7 +11,7 @@
 #include "app/interface.h"
 #include "app/window_geometry.h"
 #include "qt/bind/window_frame.h"
-#include "qt/window/caution_window.h"
+#include "qt/window/dialogs.h"
 #include "qt/window/frame_animation.h"
 #include "qt/window/main_window.h"
 #include "qt/window/sheet.h"
@@ -22,6 +22,14 @@ namespace {
 constexpr int fixedTitle = 22;
 constexpr float fixedToolbar = 56;
 constexpr Rect fixedScreen{0, 0, 1440, 900};
+
+// The one that its builder chose, else the first that Tab reaches.
+QWidget* firstWithKeyboard(QDialog& dialog) {
+  if (dialog.focusWidget() != nullptr) return dialog.focusWidget();
+  QWidget* first = dialog.nextInFocusChain();
+  while (first != &dialog && (first->focusPolicy() & Qt::TabFocus) == 0) first = first->nextInFocusChain();
+  return first == &dialog ? nullptr : first;
+}
 
 }  // namespace
 
@@ -36,8 +44,7 @@ void QtWindows::open(Interface& interface, Windows& windows, Binder& binder, std
   frame_ = new WindowFrame(interface.manager.myWindow, *main_, figures_ == Figures::fixed ? fixedTitle : -1);
   main_->toolbarChangedHeight = [this] { fitToToolbar(); };
   makeRoomForBars();
-  addDialog(interface.manager.displayAlertWindow,
-            [&interface, &binder](QWidget* parent) { return buildScreenCaution(interface, binder, parent); });
+  addDialogs(*this, interface, binder);
 }
 
 void QtWindows::close() {
@@ -56,7 +63,7 @@ bool QtWindows::isMain(const Window& window) const {
 QWidget* QtWindows::widgetOf(const Window& window) const {
   if (isMain(window)) return main_.get();
   const auto built = dialogs_.find(&window);
-  return built == dialogs_.end() ? nullptr : built->second;
+  return built == dialogs_.end() ? nullptr : built->second.widget;
 }
 
 int QtWindows::sheetTop() const {
@@ -64,12 +71,17 @@ int QtWindows::sheetTop() const {
   return main_->menuHeight() + (interface_->manager.toolbar.isShown() ? main_->toolbarHeight() : 0);
 }
 
-QDialog* QtWindows::dialog(Window& window) {
-  const auto built = dialogs_.find(&window);
-  if (built != dialogs_.end()) return built->second;
-  const auto builder = builders_.find(&window);
-  if (builder == builders_.end()) return nullptr;
-  return dialogs_[&window] = builder->second(main_.get());
+// Built when it opens for the first time. Each time the keyboard begins at the same place.
+QDialog* QtWindows::opening(Window& window) {
+  if (widgetOf(window) == nullptr) {
+    const auto builder = builders_.find(&window);
+    if (builder == builders_.end()) return nullptr;
+    QDialog* built = builder->second(main_.get());
+    dialogs_[&window] = {built, firstWithKeyboard(*built)};
+  }
+  const Dialog& dialog = dialogs_[&window];
+  if (dialog.first != nullptr) dialog.first->setFocus();
+  return dialog.widget;
 }
 
 void QtWindows::show(Window& window) {
@@ -79,7 +91,7 @@ void QtWindows::show(Window& window) {
     main_->show();
     return;
   }
-  QDialog* shown = dialog(window);
+  QDialog* shown = opening(window);
   if (shown == nullptr) return;
   const Window* host = windows_->hostOf(window);
   QWidget* below = host != nullptr ? widgetOf(*host) : nullptr;
@@ -97,14 +109,15 @@ void QtWindows::applyFrame(Window& window, bool animate) {
 }
 
 void QtWindows::runModal(Window& window) {
-  QDialog* run = dialog(window);
+  QDialog* run = opening(window);
   if (run == nullptr) return;
   run->setWindowModality(Qt::ApplicationModal);
   run->exec();
 }
 
 void QtWindows::stopModal(Window& window) {
-  if (QDialog* run = dialog(window)) run->done(0);
+  const auto run = dialogs_.find(&window);
+  if (run != dialogs_.end()) run->second.widget->done(0);
 }
 
 WindowHeights QtWindows::heights(const Window& window) {

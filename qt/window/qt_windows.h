@@ -51,7 +51,7 @@ class QtWindows : public WindowHost {
 
  private:
   bool isMain(const Window& window) const;
-  QDialog* dialog(Window& window);
+  QDialog* opening(Window& window);
   void makeRoomForBars();
   void fitToToolbar();
   Figures figures_;
@@ -60,7 +60,11 @@ class QtWindows : public WindowHost {
   std::unique_ptr<MainWindow> main_;
   WindowFrame* frame_ = nullptr;
   std::map<const Window*, DialogBuilder> builders_;
-  std::map<const Window*, QDialog*> dialogs_;  // owned by the main window
+  struct Dialog {
+    QDialog* widget;
+    QWidget* first;  // has the keyboard when it opens
+  };
+  std::map<const Window*, Dialog> dialogs_;  // owned by the main window
 };
 
 }  // namespace tarvo

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "qt/window/dialogs.h"
+
+#include "app/interface.h"
+#include "qt/sheets/new_dictionary_dialog.h"
+#include "qt/sheets/picker_window.h"
+#include "qt/window/caution_window.h"
+#include "qt/window/qt_windows.h"
+
+namespace tarvo {
+namespace {
+
+NewDictionaryControls controlsOf(NewDictionaryOutlets& pane) {
+  return {pane.NewDicWindow,          pane.NewDicText,     pane.NewDicNameField,   pane.NewDicFolderTitleField,
+          pane.NewDicFolderNameField, pane.NewDicOKButton, pane.NewDicCancelButton};
+}
+
+NewDictionaryControls controlsOf(PickerOutlets& picker) {
+  return {picker.newDicWindow,           picker.newDicTitleField,      picker.newDicNameField,
+          picker.newDicFolderTitleField, picker.newDicFolderNameField, picker.newDicOKButton,
+          picker.newDicCancelButton};
+}
+
+}  // namespace
+
+void addDialogs(QtWindows& windows, Interface& interface, Binder& binder) {
+  windows.addDialog(interface.manager.displayAlertWindow,
+                    [&interface, &binder](QWidget* parent) { return buildScreenCaution(interface, binder, parent); });
+  windows.addDialog(interface.picker.myWindow,
+                    [&interface, &binder](QWidget* parent) { return buildPicker(interface.picker, binder, parent); });
+  for (const NewDictionaryControls& controls : {controlsOf(interface.newDictionary), controlsOf(interface.picker)}) {
+    windows.addDialog(controls.window, [controls, &binder](QWidget* parent) {
+      return buildNewDictionaryDialog(controls, binder, parent);
+    });
+  }
+}
+
+}  // namespace tarvo
