@@ -46,11 +46,17 @@ void Interface::listRows(Rooms& rooms, const Texts& texts) {
     button(half.remove, to(rooms.lists, &DictionaryListEditing::removeTD));
     ++direction;
   }
-  for (TabView* tab : {&lists.directionTab, &lists.ejListTab, &lists.jeListTab}) {
-    tab->didSelect = [&rooms, tab](int page) {
-      rooms.lists.didSelectTabViewItem(tab->pages()[static_cast<std::size_t>(page)].label);
+  // A page of the user's own dictionaries shows what lies in the folder at the moment when it comes up.
+  const auto tell = [&rooms](TabView& tab, std::initializer_list<TableView*> readAnew) {
+    tab.didSelect = [&rooms, &tab, tables = std::vector(readAnew)](int page) {
+      const auto index = static_cast<std::size_t>(page);
+      rooms.lists.didSelectTabViewItem(tab.pages()[index].label);
+      if (tables[index] != nullptr) tables[index]->reloadData();
     };
-  }
+  };
+  tell(lists.directionTab, {nullptr, nullptr});
+  tell(lists.ejListTab, {nullptr, &userLists.ejUDTableView, &userLists.ejUTMATableView});
+  tell(lists.jeListTab, {nullptr, &userLists.jeUDTableView, &userLists.jeUTMATableView});
 }
 
 void Interface::userListRows(Rooms& rooms) {

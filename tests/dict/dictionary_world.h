@@ -66,6 +66,7 @@ struct DictionaryWorld {
  private:
   Dictionary configuration() const {
     Dictionary values;
+    values.set("tarvoPathGetAppleyPath.4", "/Applications/Dictionary Tool.app");
     values.set("tarvoPathMemoryEtoJTitle", "Main");
     values.set("tarvoPathMemoryJtoETitle", "Mainj");
     values.set("tarvoPathMemoryEtoJURL", "/x/e");

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <random>
 
-#include "tests/dict/style_pane_world.h"
+#include "tests/dict/picker_world.h"
 
 namespace tarvo::test {
 namespace {
@@ -36,7 +36,7 @@ struct PlainList {
 
 TEST(RandomListEdits, keepListTableAndFileAlike) {
   const Names all{"a.TRet", "b.TRet", "c.TRet", "d.TRet", "e.TRet", "f.TRet", "g.TRet", "h.TRet", "i.TRet"};
-  StylePaneWorld world;
+  PickerWorld world;
   world.openWithLists(all, {});
   TableView& table = world.outlets.ejTDTable;
   PlainList plain{all, -1};
@@ -71,13 +71,22 @@ TEST(RandomListEdits, keepListTableAndFileAlike) {
         plain.remove();
         world.editing.removeTD(0);
         break;
-      default:  // what the picker's OK does to the list
-        if (world.editing.ejTDController.notSelectedDictionary().empty()) break;
-        plain.names.push_back(world.editing.ejTDController.notSelectedDictionary().front());
-        world.editing.ejTDController.loadDictionary({plain.names.back()});
-        table.reloadData();
-        world.editing.writeUpdateDicTarvoPlist(0);
-        world.editing.updateButton(0);
+      default: {  // adds a few through the picker, which refuses what would be too many
+        const unsigned ticks = static_cast<unsigned>(random());
+        world.host.whileModal = [&](Window&) {
+          Names ticked;
+          for (int row = 0; row < world.picker.techDicTable.numberOfRows(); ++row) {
+            if ((ticks >> row & 1U) == 0) continue;
+            world.tick({row});
+            ticked.push_back(world.picker.techDicTable.cell("dicName", row).text);
+          }
+          const bool fits = static_cast<int>(plain.names.size() + ticked.size()) <= TDMax;
+          world.loading.dicWindowOK();
+          ASSERT_EQ(world.picker.myWindow.isShown(), !ticked.empty() && !fits) << edit;
+          if (fits) plain.names.insert(plain.names.end(), ticked.begin(), ticked.end());
+        };
+        world.loading.loadTD(0);
+      }
     }
     const int count = static_cast<int>(plain.names.size());
     ASSERT_EQ(loadedOf(world.editing.ejTDController), plain.names) << edit;

@@ -126,5 +126,14 @@ TEST_F(ControlsTest, areShownOnlyWithEveryPageAboveThem) {
   EXPECT_FALSE(some_.button.isOnShownPage());
 }
 
+TEST_F(ControlsTest, aFieldTellsOfEveryChangeAndSendsNothing) {
+  std::vector<std::string> texts;
+  some_.field.didChange = [&] { texts.push_back(some_.field.stringValue()); };
+  some_.field.userType("typed");
+  some_.field.setStringValue("set");
+  EXPECT_EQ(texts, (std::vector<std::string>{"typed", "set"}));
+  EXPECT_EQ(sent_, 0);
+}
+
 }  // namespace
 }  // namespace tarvo

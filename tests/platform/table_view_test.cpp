@@ -127,5 +127,32 @@ TEST_F(TableViewTest, showsNothingForARowBeyondTheLastReload) {
   EXPECT_EQ(table_.cell("name", -1), CellValue());
 }
 
+TEST_F(TableViewTest, aFilteredRowStaysARowOutOfTheUsersReach) {
+  table_.selectRows({1});
+  std::vector<Control::Change> changes;
+  table_.view = [&](Control::Change change) { changes.push_back(change); };
+  table_.setRowFilter([](int row) { return row > 1; });
+  EXPECT_EQ(changes, std::vector{Control::Change::filter});
+  EXPECT_EQ(table_.numberOfRows(), 4);
+  EXPECT_FALSE(table_.isRowShown(1));
+  EXPECT_TRUE(table_.isRowShown(2));
+  EXPECT_EQ(table_.selectedRows(), Rows{1}) << "what was selected stays so";
+  EXPECT_EQ(table_.cell("name", 0).text, "name0");
+
+  source_.log.clear();
+  table_.userTick(0, true);
+  table_.userSelect({0});
+  EXPECT_EQ(table_.selectedRows(), Rows{});
+  table_.userSelect({0, 3});
+  EXPECT_EQ(table_.selectedRows(), Rows{3});
+  EXPECT_EQ(source_.log, (std::vector<std::string>{"changed", "should 3", "changed"}));
+  table_.selectRows({0, 3});
+  table_.userSelect({0, 2});
+  EXPECT_EQ(table_.selectedRows(), (Rows{0, 2})) << "a hidden row that is selected may stay";
+
+  table_.setRowFilter({});
+  EXPECT_TRUE(table_.isRowShown(0));
+}
+
 }  // namespace
 }  // namespace tarvo

@@ -1,0 +1,258 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "dict/new_dictionary.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/text_rules.h"
+#include "tests/dict/picker_world.h"
+#include "tests/support/memory_files.h"
+
+namespace tarvo::test {
+namespace {
+
+struct Chosen {
+  int tag, base, kind;
+  bool isEJ;
+  std::string prompt;
+};
+
+class NewDictionaryTest : public testing::Test {
+ protected:
+  NewDictionaryTest() {
+    world_.openWithLists({"t.TRet"}, {"u.TRet"});
+    world_.userLists.setUp();
+    world_.takeLog();
+  }
+  void create(int tag, const std::string& name) {
+    world_.newDictionary.newUD(tag);
+    world_.sheet.NewDicNameField.userType(name);
+    world_.takeLog();
+    world_.newDictionary.newDicOKButtonAction();
+  }
+  bool isThere(const std::string& path) const { return world_.files.exists(path); }
+  PickerWorld world_;
+};
+
+TEST_F(NewDictionaryTest, theTagChoosesKindAndDirectionWhateverTheTab) {
+  const Chosen cases[] = {
+      {10, 0, 1, true, "NewEJUDText"},   {11, 0, 1, false, "NewJEUDText"},  {12, 0, 2, true, "NewEJTMAText"},
+      {13, 0, 2, false, "NewJETMAText"}, {10, 100, 1, true, "NewEJUDText"}, {12, 100, 2, true, "NewEJTMAText"},
+      {1, 0, 1, true, "NewEJUDText"},    {1, 100, 1, false, "NewJEUDText"}, {2, 100, 2, false, "NewJETMAText"}};
+  for (const Chosen& chosen : cases) {
+    world_.editing.didSelectTabViewItem(world_.texts.localized(chosen.base == 0 ? "EJTab" : "JETab"));
+    world_.newDictionary.newUD(chosen.tag);
+    EXPECT_EQ(world_.request.dTypeNum, chosen.kind);
+    EXPECT_EQ(world_.request.isEJ, chosen.isEJ) << chosen.tag << " on " << chosen.base;
+    EXPECT_EQ(world_.sheet.NewDicText.stringValue(), chosen.prompt);
+    world_.newDictionary.newDicCancelButtonAction();
+  }
+}
+
+TEST_F(NewDictionaryTest, theSheetStandsOverTheMainWindowAndRestrictsTheMenus) {
+  world_.sheet.NewDicNameField.setStringValue("old");
+  world_.newDictionary.newUD(10);
+  EXPECT_EQ(world_.windows.sheetOver(world_.manager.myWindow), &world_.sheet.NewDicWindow);
+  EXPECT_TRUE(world_.flags.gMenuControllFlag);
+  EXPECT_EQ(world_.sheet.NewDicNameField.stringValue(), "");
+  EXPECT_EQ(world_.sheet.NewDicFolderNameField.stringValue(), "UDFolderName");
+  EXPECT_EQ(world_.sheet.NewDicFolderTitleField.stringValue(), "UDFolderNameTitle");
+  world_.newDictionary.newDicCancelButtonAction();
+  EXPECT_FALSE(world_.flags.gMenuControllFlag);
+  world_.newDictionary.newUD(13);
+  EXPECT_EQ(world_.sheet.NewDicFolderNameField.stringValue(), "UserTMAFolderName");
+  EXPECT_EQ(world_.sheet.NewDicFolderTitleField.stringValue(), "UserTMAFolderNameTitle");
+}
+
+TEST_F(NewDictionaryTest, anotherTagIsTheKindItselfAndMakesNothing) {
+  world_.newDictionary.newUD(10);
+  world_.newDictionary.newDicCancelButtonAction();
+  create(7, "N");
+  EXPECT_EQ(world_.request.dTypeNum, 7);
+  EXPECT_EQ(world_.sheet.NewDicText.stringValue(), "NewEJUDText") << "the texts of the last kind stay";
+  EXPECT_EQ(world_.takeLog(), (Log{"sheet ended 1", "posted "}));
+  EXPECT_FALSE(world_.flags.gMenuControllFlag);
+}
+
+TEST_F(NewDictionaryTest, cancellingMakesAndPostsNothing) {
+  world_.newDictionary.newUD(10);
+  world_.sheet.NewDicNameField.userType(" a/b");
+  world_.takeLog();
+  world_.newDictionary.newDicCancelButtonAction();
+  EXPECT_EQ(world_.takeLog(), Log{"sheet ended 0"});
+  EXPECT_EQ(world_.sheet.NewDicNameField.stringValue(), " a/b");
+}
+
+TEST_F(NewDictionaryTest, theEndOfAnotherSheetOnlyFreesTheMenus) {
+  world_.flags.gMenuControllFlag = true;
+  world_.newDictionary.sheetDidEnd(world_.picker.newDicWindow, 1);
+  EXPECT_FALSE(world_.flags.gMenuControllFlag);
+  EXPECT_EQ(world_.takeLog(), Log{});
+}
+
+TEST_F(NewDictionaryTest, aRefusedNameLeavesTheSheetUp) {
+  create(10, " A/B ");
+  EXPECT_TRUE(world_.sheet.NewDicWindow.isShown());
+  EXPECT_TRUE(world_.flags.gMenuControllFlag);
+  EXPECT_EQ(world_.sheet.NewDicNameField.stringValue(), "A/B");
+}
+
+TEST_F(NewDictionaryTest, eachKindAndDirectionLandsInItsFolderAndSavesTheList) {
+  struct Made {
+    int tag;
+    std::string path, table, content;
+    int kind;
+  };
+  const Made cases[] = {{10, world_.userFolder() + "/N.eud2", "ejUDTable", DictionaryWorld::englishTemplate, 1},
+                        {11, world_.userFolder() + "/N.jud", "jeUDTable", DictionaryWorld::japaneseTemplate, 1},
+                        {12, world_.memoryFolder() + "/N.etm", "ejTMATable", DictionaryWorld::englishTemplate, 2},
+                        {13, world_.memoryFolder() + "/N.jtm", "jeTMATable", DictionaryWorld::japaneseTemplate, 2}};
+  for (const Made& made : cases) {
+    create(made.tag, "N");
+    EXPECT_EQ(world_.files.read(made.path), made.content);
+    Log log = world_.takeLog();
+    ASSERT_EQ(log.size(), 5U);
+    EXPECT_EQ(log[1], "posted " + lastPathComponent(made.path));
+    EXPECT_EQ(log[3], "reload style." + made.table);
+    EXPECT_EQ(log[4], "wrote");
+    EXPECT_EQ(std::exchange(world_.guard.changedKinds, {}), std::vector<int>{made.kind});
+  }
+  EXPECT_EQ(world_.listOnDisk(keyNameEJ), Array{"t.TRet"});
+  EXPECT_EQ(world_.halfOnDisk(keyNameEJ).find("UD"), nullptr) << "a style never names the user's dictionaries";
+}
+
+TEST_F(NewDictionaryTest, theSixthOfAListIsMadeAndToldToBeTooMany) {
+  for (const auto& [tag, extension, alert] :
+       {std::tuple{10, ".eud2", "alert MaxOverUDAlertHeader / MaxOverUDAlertContents"},
+        std::tuple{13, ".jtm", "alert MaxOverUTMAAlertHeader / MaxOverUTMAAlertContents"}}) {
+    for (const char* name : {"1", "2", "3", "4", "5"}) {
+      create(tag, name);
+      EXPECT_EQ(world_.takeLog().back(), "wrote");
+    }
+    create(tag, "6");
+    const Log log = world_.takeLog();
+    ASSERT_GE(log.size(), 3U);
+    EXPECT_EQ(Log(log.end() - 3, log.end()), (Log{"wrote", "beep", alert}));
+    EXPECT_TRUE(isThere((tag == 10 ? world_.userFolder() : world_.memoryFolder()) + "/6" + extension));
+  }
+}
+
+TEST_F(NewDictionaryTest, inTheToolsWithListsOfTheirOwnTheStyleIsNotTouched) {
+  struct Tool {
+    int saveHit, tag;
+    std::string table;
+  };
+  for (const Tool& tool : {Tool{5, 10, "ejUDTableView"}, Tool{5, 12, "ejTMATable"}, Tool{6, 10, "ejUDTable"},
+                           Tool{6, 12, "ejUTMATableView"}, Tool{5, 11, "jeUDTableView"}, Tool{5, 13, "jeTMATable"},
+                           Tool{6, 11, "jeUDTable"}, Tool{6, 13, "jeUTMATableView"}}) {
+    world_.flags.saveHit = tool.saveHit;
+    world_.guard.changedKinds.clear();
+    create(tool.tag, "T" + std::to_string(tool.saveHit));
+    const Log log = world_.takeLog();
+    EXPECT_EQ(log.back(), "reload style." + tool.table);
+    EXPECT_EQ(std::count(log.begin(), log.end(), "wrote"), 0);
+    EXPECT_EQ(world_.guard.changedKinds.size(), 1U);
+  }
+}
+
+TEST_F(NewDictionaryTest, inThoseToolsAFullListIsNotTold) {
+  world_.flags.saveHit = 5;
+  for (const char* name : {"1", "2", "3", "4", "5", "6"}) create(10, name);
+  EXPECT_TRUE(isThere(world_.userFolder() + "/6.eud2"));
+  EXPECT_TRUE(world_.panels.alerts.empty());
+}
+
+TEST_F(NewDictionaryTest, aFileThatCameBeforeIsLeftAloneInSilence) {
+  world_.folder.write("Library/Application Support/Wordhaven/UserDic/N.eud2", "theirs");
+  world_.request = {1, true, ""};
+  world_.notifications.post(newDicNotification, "N.eud2");
+  EXPECT_EQ(world_.takeLog(), (Log{"posted N.eud2", "reload style.ejUDTableView", "reload style.ejUDTable"}));
+  EXPECT_EQ(world_.folder.read("Library/Application Support/Wordhaven/UserDic/N.eud2"), "theirs");
+  EXPECT_TRUE(world_.guard.changedKinds.empty());
+}
+
+TEST_F(NewDictionaryTest, aMissingFolderMakesNothingInSilence) {
+  std::filesystem::remove_all(world_.userFolder());
+  create(10, "N");
+  EXPECT_EQ(world_.takeLog(),
+            (Log{"sheet ended 1", "posted N.eud2", "reload style.ejUDTableView", "reload style.ejUDTable"}));
+  EXPECT_FALSE(isThere(world_.userFolder()));
+}
+
+TEST_F(NewDictionaryTest, aNotificationForAnotherKindIsIgnored) {
+  world_.request.dTypeNum = 3;
+  world_.notifications.post(newDicNotification, "Q.eud2");
+  EXPECT_EQ(world_.takeLog(), Log{"posted Q.eud2"});
+}
+
+TEST_F(NewDictionaryTest, anEmptyNameIsNoDictionary) {
+  world_.notifications.post(newDicNotification);
+  EXPECT_EQ(world_.takeLog(), (Log{"posted ", "reload style.ejUDTableView", "reload style.ejUDTable"}));
+}
+
+TEST_F(NewDictionaryTest, thePickersNameIsMadeInThePanesKindAndDirection) {
+  world_.newDictionary.newUD(12);
+  world_.newDictionary.newDicCancelButtonAction();
+  world_.controller.openJEList();
+  world_.controller.newUD(2);
+  world_.picker.newDicNameField.userType("P");
+  world_.controller.newDicOKButtonAction();
+  EXPECT_TRUE(isThere(world_.memoryFolder() + "/P.jud"));
+  EXPECT_FALSE(isThere(world_.userFolder() + "/P.jud"));
+}
+
+TEST(NewDictionaryWithoutSetUp, postsReloadsAndMakesNothing) {
+  PickerWorld world;
+  world.openWithLists({"t.TRet"}, {});
+  world.newDictionary.newUD(10);
+  world.sheet.NewDicNameField.userType("N");
+  world.takeLog();
+  world.newDictionary.newDicOKButtonAction();
+  EXPECT_EQ(world.takeLog(),
+            (Log{"sheet ended 1", "posted N.eud2", "reload style.ejUDTableView", "reload style.ejUDTable"}));
+  EXPECT_FALSE(world.folder.exists("Library"));
+}
+
+// A disk that refuses one operation.
+class RefusingDisk : public testing::Test {
+ protected:
+  RefusingDisk() : world_(&disk_) {
+    world_.openWithLists({"t.TRet"}, {});
+    disk_.put(world_.folder / "resources/EJStationery.eud2", "empty");
+    world_.userLists.setUp();
+  }
+  void create() {
+    world_.newDictionary.newUD(10);
+    world_.sheet.NewDicNameField.userType("N");
+    world_.takeLog();
+    world_.newDictionary.newDicOKButtonAction();
+  }
+  MemoryFiles disk_;
+  PickerWorld world_;
+};
+
+TEST_F(RefusingDisk, aCopyThatFailsLeavesNoPartOfADictionaryAndSavesNothing) {
+  disk_.refuse(MemoryFiles::Operation::copy);
+  const std::vector<std::string> before = disk_.paths();
+  create();
+  EXPECT_EQ(disk_.paths(), before);
+  const Log log = world_.takeLog();
+  EXPECT_EQ(std::count(log.begin(), log.end(), "wrote"), 0);
+  EXPECT_TRUE(world_.panels.alerts.empty());
+  EXPECT_TRUE(world_.guard.changedKinds.empty());
+
+  disk_.allowAll();
+  create();
+  EXPECT_EQ(disk_.bytes(world_.userFolder() + "/N.eud2"), "empty") << "the name is free for another try";
+  EXPECT_EQ(world_.takeLog().back(), "wrote");
+}
+
+TEST_F(RefusingDisk, aDiskWithoutCodesKeepsTheDictionary) {
+  disk_.refuse(MemoryFiles::Operation::setCodes);
+  create();
+  EXPECT_EQ(disk_.bytes(world_.userFolder() + "/N.eud2"), "empty");
+  EXPECT_EQ(world_.takeLog().back(), "wrote");
+}
+
+}  // namespace
+}  // namespace tarvo::test
