@@ -34,6 +34,7 @@ class TestProgram {
   FakePanels panels{log};
   FakeHost host;
   FakeEngine engine{log};
+  FakeWorkspace workspace;
   std::optional<Product> product;
 
   static constexpr const char* stylePath = "Library/Preferences/Wordhaven/TarvoStyle2009.plist";
@@ -41,7 +42,6 @@ class TestProgram {
 
  private:
   FakeRunLoop runLoop_;
-  FakeWorkspace workspace_;
   std::unique_ptr<Program> program_;
 };
 
