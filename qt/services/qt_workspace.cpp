@@ -18,8 +18,12 @@ void QtWorkspace::openFile(const std::string& path) {
   QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(locations_.resolve(path))));
 }
 
-void QtWorkspace::openAddress(const std::string& address) { QDesktopServices::openUrl(QUrl(QString::fromStdString(address))); }
+void QtWorkspace::openAddress(const std::string& address) {
+  QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
+}
 
-void QtWorkspace::launchApplication(const std::string& name) { QProcess::startDetached(QString::fromStdString(name), {}); }
+void QtWorkspace::launchApplication(const std::string& name) {
+  QProcess::startDetached(QString::fromStdString(name), {});
+}
 
 }  // namespace tarvo
