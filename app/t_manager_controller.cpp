@@ -183,6 +183,7 @@ void TManagerController::showPane(int tag, const std::string& identifier) {
   window.setTitle(services_.texts.localized(panes[static_cast<std::size_t>(tag)].titleKey));
   const WindowHeights heights = windows_.host().heights(window);
   const Size pane = windows_.host().paneSize(tag);
+  if (View* view = interface_.manager.toolbar.viewOf(identifier)) view->setFrame({0, 0, pane.width, pane.height});
   windows_.setFrame(window, paneFrame(window.frame(), pane, titlebarHeight(heights), toolbarHeight(heights)));
   defaults_.set(toolbarTag, identifier);
   defaults_.synchronize();

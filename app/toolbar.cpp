@@ -26,6 +26,13 @@ Button* Toolbar::item(std::string_view identifier) const {
   return nullptr;
 }
 
+View* Toolbar::viewOf(std::string_view identifier) const {
+  for (const Item& candidate : allowed_) {
+    if (candidate.identifier == identifier) return candidate.view;
+  }
+  return nullptr;
+}
+
 void Toolbar::setOrder(std::vector<std::string> identifiers) {
   order_.clear();
   for (std::string& identifier : identifiers) {

@@ -23,10 +23,12 @@ class Toolbar : public Control {
   struct Item {
     std::string identifier;
     Button* button;
+    View* view = nullptr;  // a view of the item's own; it gets the size of the pane that the item shows
   };
   void setAllowedItems(std::vector<Item> items);
   const std::vector<Item>& allowedItems() const { return allowed_; }
   Button* item(std::string_view identifier) const;  // null for an unknown one
+  View* viewOf(std::string_view identifier) const;  // null for an item without one
 
   const std::vector<std::string>& order() const { return order_; }  // identifiers of the shown items
   bool isShown() const { return shown_; }

@@ -3,8 +3,10 @@
 #include <CLI/CLI.hpp>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iostream>
 #include <iterator>
+#include <optional>
 
 #include "app/product.h"
 #include "console/dictionary_commands.h"
@@ -64,6 +66,18 @@ void addCommonOptions(CLI::App& app, Arguments& arguments) {
 
 using Run = std::function<ExitStatus()>;
 
+// Takes a lock and keeps it as long as it lives itself.
+class HeldLock {
+ public:
+  bool operator()(const std::string& path) {
+    lock_.emplace(path);
+    return lock_->state() != InstanceLock::State::heldByAnother;
+  }
+
+ private:
+  std::optional<InstanceLock> lock_;
+};
+
 ExitStatus runVerb(const Arguments& arguments, Command& command) {
   Product product(arguments.product);
   if (!product.problem().empty()) {
@@ -71,11 +85,8 @@ ExitStatus runVerb(const Arguments& arguments, Command& command) {
     return ExitStatus::usage;
   }
   PosixRunLoop loop;
-  std::optional<InstanceLock> lock;
-  Console console{product, loop, std::cout, std::cerr, [&lock](const std::string& path) {
-                    lock.emplace(path);
-                    return lock->state() != InstanceLock::State::heldByAnother;
-                  }};
+  HeldLock lock;
+  Console console{product, loop, std::cout, std::cerr, std::ref(lock)};
   console.engineIsWanted = arguments.product.engine != "none";
   return command.run(console);
 }
@@ -97,8 +108,9 @@ ExitStatus runScriptFile(const Arguments& arguments) {
   const std::unique_ptr<ScenarioClock> clock = arguments.clock == "real"
                                                    ? std::unique_ptr<ScenarioClock>(std::make_unique<RealClock>())
                                                    : std::make_unique<ManualRunLoop>();
-  return runScript({arguments.product, folder.lexically_normal().string()}, *clock, arguments.script, std::move(text),
-                   std::cout, std::cerr);
+  HeldLock lock;
+  return runScript({arguments.product, folder.lexically_normal().string(), std::ref(lock)}, *clock, arguments.script,
+                   std::move(text), std::cout, std::cerr);
 }
 
 void addListing(CLI::App& verb, Arguments& arguments) { verb.add_flag("--json", arguments.json, "one line of JSON"); }

@@ -21,7 +21,7 @@ ExitStatus runScript(const ScenarioOptions& options, ScenarioClock& clock, const
   }
   if (interpreter.failure().empty()) return ExitStatus::done;
   err << interpreter.failure() << '\n';
-  return ExitStatus::scriptFailed;
+  return session.isLockedOut() ? ExitStatus::locked : ExitStatus::scriptFailed;
 }
 
 }  // namespace tarvo

@@ -14,6 +14,7 @@ ScenarioSession::ScenarioSession(const ScenarioOptions& options, ScenarioShell& 
       shell_(shell),
       clock_(clock),
       folder_(options.folder),
+      takeLock_(options.takeLock),
       recorder_(product_.locations()),
       files_(product_.files(), recorder_),
       configured_(options.product.engine ? product_.makeEngine(files_) : nullptr),
@@ -40,8 +41,16 @@ Program& ScenarioSession::program() {
   return *program_;
 }
 
+void ScenarioSession::takeLock() {
+  const Locations& locations = product_.locations();
+  lockedOut_ = takeLock_ && !takeLock_(locations.resolve(lockPath(locations)));
+  if (lockedOut_) throw ScriptError("another manager works on these files");
+  takeLock_ = {};
+}
+
 void ScenarioSession::start() {
   drop();
+  takeLock();
   program_ =
       std::make_unique<Program>(product_.services(files_, engine_, clock_, panels_, shell_.windowHost(), workspace_));
   phase_ = Phase::running;

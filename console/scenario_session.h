@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -19,6 +20,9 @@ class Program;
 struct ScenarioOptions {
   ProductOptions product;  // without an engine: the scripted one
   std::string folder;      // relative paths of the script start here; absolute
+  // Takes the lock of a user's files at this real path for the rest of the script. False: another process holds it.
+  // Empty: the script has the files to itself anyway.
+  std::function<bool(const std::string& path)> takeLock = {};
 };
 
 // The program under a script and everything around it: the product, the recorded services, the shell.
@@ -34,10 +38,13 @@ class ScenarioSession {
   // Why no program can be started with these options; "" when one can.
   const std::string& problem() const { return product_.problem(); }
 
+  bool isLockedOut() const { return lockedOut_; }  // another process works on these files
+
   enum class Phase { none, running, terminated };  // none: before a start and after a kill
   Phase phase() const { return phase_; }
-  void start();  // construction, interface loading, launch
-  void kill();   // drops the program without quitting
+  // Construction, interface loading, launch. Throws ScriptError when another process works on these files.
+  void start();
+  void kill();  // drops the program without quitting
   // The running or terminated one. Throws ScriptError when there is none.
   Program& program();
   bool hasProgram() const { return program_ != nullptr; }
@@ -58,10 +65,12 @@ class ScenarioSession {
 
  private:
   void drop();
+  void takeLock();
   Product product_;
   ScenarioShell& shell_;
   ScenarioClock& clock_;
   std::string folder_;
+  std::function<bool(const std::string&)> takeLock_;
   Recorder recorder_;
   RecordedFiles files_;
   ScriptedEngine scripted_;
@@ -71,7 +80,7 @@ class ScenarioSession {
   RecordedWorkspace workspace_;
   std::unique_ptr<Program> program_;
   Phase phase_ = Phase::none;
-  bool usesConfigured_, constructed_ = false;
+  bool usesConfigured_, constructed_ = false, lockedOut_ = false;
 };
 
 }  // namespace tarvo

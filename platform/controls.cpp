@@ -83,6 +83,11 @@ void ImageView::setImage(std::string image) {
   changed(Change::value);
 }
 
+void View::setFrame(const Rect& frame) {
+  frame_ = frame;
+  changed(Change::look);
+}
+
 void PopUpButton::setItems(std::vector<Item> items) {
   items_ = std::move(items);
   selected_ = items_.empty() ? -1 : 0;

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/geometry.h"
 #include "platform/outlets.h"
 
 // Controls are state, not widgets. A control holds what it shows; a shell attaches a view when it has built one.
@@ -116,6 +117,11 @@ class View : public Control {
  public:
   View(Outlets& owner, std::string_view outlet) : Control(owner, outlet, Kind::view) {}
   void scrollToTop() { changed(Change::scroll); }
+  const Rect& frame() const { return frame_; }  // in its surroundings; only where somebody sets it
+  void setFrame(const Rect& frame);
+
+ private:
+  Rect frame_;
 };
 
 class PopUpButton : public Control {

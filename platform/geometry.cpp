@@ -43,7 +43,7 @@ std::optional<Rect> frameFromSavedString(std::string_view text) {
     if (!taken) return std::nullopt;
     *number = *taken;
   }
-  return frame.width > 0 && frame.height > 0 ? std::optional(frame) : std::nullopt;
+  return frame;
 }
 
 }  // namespace tarvo

@@ -24,8 +24,7 @@ struct Rect {
 // The saved form of a window's frame: "x y w h sx sy sw sh ", the screen last, each number in the shortest decimal form
 // that reads back to the same float, one blank after each.
 std::string savedFrameString(const Rect& frame, const Rect& screen);
-// The frame of such a string: its first four numbers. Nothing when they are missing, not finite, or the size is not
-// positive.
+// The frame of such a string: its first four numbers. Nothing when one of them is missing or not finite.
 std::optional<Rect> frameFromSavedString(std::string_view text);
 
 }  // namespace tarvo

@@ -78,11 +78,11 @@ void EngineLocal::sendRegistStyle(const StyleSet& styles, std::string& updateStr
   if (!counter_) readSet();
   const bool isLast = *counter_ == std::numeric_limits<std::uint64_t>::max();
   const std::uint64_t next = isLast ? 1 : *counter_ + 1;
-  const std::string stamp = makeStamp(next);
+  updateString = makeStamp(next);
   files_.makeFolder(deletingLastPathComponent(file_.path()));
-  if (!file_.write(encode(styles, stamp))) return;
-  counter_ = next;
-  updateString = stamp;
+  // After a failed write the caller's set is newer than what the file holds, and its stamp says so: the old set must
+  // not come back over it.
+  if (file_.write(encode(styles, updateString))) counter_ = next;
 }
 
 bool EngineLocal::checkStyle() {

@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "platform/locations.h"
-#include "qt/bind/binder.h"
 
 namespace tarvo {
 
@@ -16,11 +15,15 @@ QtWorkspace::QtWorkspace(const Locations& locations, std::function<std::vector<s
     : locations_(locations), running_(std::move(running)) {}
 
 void QtWorkspace::openFile(const std::string& path) {
-  QDesktopServices::openUrl(QUrl::fromLocalFile(toQString(locations_.resolve(path))));
+  QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(locations_.resolve(path))));
 }
 
-void QtWorkspace::openAddress(const std::string& address) { QDesktopServices::openUrl(QUrl(toQString(address))); }
+void QtWorkspace::openAddress(const std::string& address) {
+  QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
+}
 
-void QtWorkspace::launchApplication(const std::string& name) { QProcess::startDetached(toQString(name), {}); }
+void QtWorkspace::launchApplication(const std::string& name) {
+  QProcess::startDetached(QString::fromStdString(name), {});
+}
 
 }  // namespace tarvo

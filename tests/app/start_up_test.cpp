@@ -149,6 +149,22 @@ TEST(Quitting, endsTheProgramWhenTheWindowCloses) {
   EXPECT_TRUE(test.program().isTerminated());
 }
 
+TEST(Toolbar, givesAnItemsOwnViewTheSizeOfItsPane) {
+  struct Extra : Outlets {
+    Extra() : Outlets("extra") {}
+    View view{*this, "view"};
+  } extra;
+  TestProgram test;
+  test.writeStyles(sampleRoot());
+  ASSERT_TRUE(test.program().start());
+  ManagerOutlets& manager = test.interface().manager;
+  manager.toolbar.setAllowedItems({{"StyleManager", &manager.StyleManager}, {"OA", &manager.OA, &extra.view}});
+  manager.StyleManager.userPress();
+  EXPECT_EQ(extra.view.frame(), Rect());
+  manager.OA.userPress();
+  EXPECT_EQ(extra.view.frame(), (Rect{0, 0, paneSizes[1].width, paneSizes[1].height}));
+}
+
 TEST(Toolbar, isNoMoveWhenItIsHiddenAndKeepsTheTopEdge) {
   TestProgram test;
   test.writeStyles(sampleRoot());

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 
 #include "console/json.h"
 #include "platform/posix/instance_lock.h"
@@ -163,6 +164,16 @@ TEST_F(Verbs, styleSetWaitsForNobody) {
   auto after = tree();
   after.erase("root/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.lock");
   EXPECT_EQ(after, before);
+}
+
+TEST_F(Verbs, aScriptStartsNoProgramOnFilesThatAnotherOneHolds) {
+  putStyles("root4.plist");
+  const InstanceLock lock(root_.home() + "/Library/Preferences/com.wordhaven.TarvoManager.lock");
+  const std::string script = root_.root() + "/start.scenario";
+  std::ofstream(script) << "default ToolbarTag\nstart\n";
+  const ToolResult result = run({"run", script});
+  EXPECT_EQ(result.err, script + ":2: another manager works on these files\n");
+  EXPECT_EQ(result.status, 3);
 }
 
 TEST_F(Verbs, styleSetTellsAFailedWrite) {

@@ -37,8 +37,8 @@ TEST(SavedFrame, theFirstFourNumbersDecide) {
   for (const char* good : {"1 -2.5 30 40 0 0 1440 900 ", "1 -2.5 30 40", "  1  -2.5 30 40 x y", "1 -25e-1 3e1 40 "}) {
     EXPECT_EQ(frameFromSavedString(good), frame) << good;
   }
-  for (const char* bad : {"", " ", "1 2 3", "1 2 3 ", "1 2 3 x", "x 1 2 3 4", "1,2,3,4", "1 2 30 40x", "1 2 0 40",
-                          "1 2 30 -40", "1 2 nan 40", "inf 2 30 40", "1 2 1e99 40", "1 2 30 +40"}) {
+  for (const char* bad : {"", " ", "1 2 3", "1 2 3 ", "1 2 3 x", "x 1 2 3 4", "1,2,3,4", "1 2 30 40x", "1 2 nan 40",
+                          "inf 2 30 40", "1 2 1e99 40", "1 2 30 +40"}) {
     EXPECT_EQ(frameFromSavedString(bad), std::nullopt) << bad;
   }
 }

@@ -20,7 +20,7 @@ namespace tarvo::test {
 // The whole program in its window, on a copy of the sample product.
 class TestWindow {
  public:
-  TestWindow() { outputOf(TARVO_SOURCE_DIR "/sample/install " + test::quoted(root())); }
+  TestWindow() { outputOf(test::quoted(TARVO_SOURCE_DIR "/sample/install") + " " + test::quoted(root())); }
   ~TestWindow() { end(); }
 
   std::string root() const { return folder / "root"; }
