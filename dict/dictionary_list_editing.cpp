@@ -6,6 +6,7 @@
 
 #include "dict/running_application_guard.h"
 #include "platform/texts.h"
+#include "style/divider.h"
 #include "style/style_keys.h"
 #include "style/style_store.h"
 
@@ -65,8 +66,9 @@ void DictionaryListEditing::writeUpdateDicTarvoPlist(int direction) {
   std::optional<Dictionary> record = store_.getStyleAtIndex(index);
   if (!record) return;
   const std::optional<Names> loaded = getActiveDictController(direction).selectedDictionary();
-  // A record without the direction's dictionary, such as the divider, gets none; it is written back as it is.
-  if (Dictionary* half = record->dictionary(direction != 0 ? keyNameJE : keyNameEJ)) {
+  // The divider, and a record without the direction's dictionary, get none; they are written back as they are.
+  Dictionary* half = record->dictionary(direction != 0 ? keyNameJE : keyNameEJ);
+  if (half != nullptr && !isDivider(*record, texts_)) {
     if (loaded) {
       half->set(keyNameTD, Array(loaded->begin(), loaded->end()));
     } else {

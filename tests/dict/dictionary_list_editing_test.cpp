@@ -98,6 +98,20 @@ TEST(SavingAList, intoARecordWithoutTheDirectionWritesItBackAsItIs) {
   EXPECT_EQ(world.styleOnDisk(), divider);
 }
 
+TEST(SavingAList, intoTheDividerWritesItBackAsItIsEvenWhereItHasHalves) {
+  StylePaneWorld world;
+  Dictionary divider, half;
+  half.set(keyNameTD, Array{});
+  divider.set(keyNameName, world.texts.localized(keyNameSeparator));
+  divider.set(keyNameEJ, half);
+  world.open({divider});
+  world.put({"a.TRet"});
+  world.showLists({"a.TRet"}, {});
+  world.editing.writeUpdateDicTarvoPlist(0);
+  EXPECT_EQ(world.writes, 1);
+  EXPECT_EQ(world.styleOnDisk(), divider);
+}
+
 TEST(SavingAList, withoutAShownStyleChangesAndWritesNothing) {
   StylePaneWorld world;
   world.openWithLists(abc, {});
