@@ -90,6 +90,18 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"unknownRefusal", "file refuse burn root:/x", "3: the disk cannot refuse to burn"},
         Case{"noStylesToHold", "engine holds fixtures/no-styles.plist U0",
              "3: there are no styles in " TARVO_SOURCE_DIR "/tests/scenarios/fixtures/no-styles.plist"},
+        Case{"mainWindowBehindThePicker", "press ejLoadDicButton\npress OA", "4: OA is not reachable"},
+        Case{"rowThatAFilterHides", "press ejLoadDicButton\ntype filterField none\ntick techDicTable 0 on",
+             "5: picker.techDicTable does not show row 0"},
+        Case{"selectedRowThatAFilterHides", "press ejLoadDicButton\ntype filterField none\nselect techDicTable 0",
+             "5: picker.techDicTable does not show row 0"},
+        Case{"endInsideThePicker", "press ejLoadDicButton",
+             "3: the script ends inside the modal run of picker.myWindow"},
+        Case{"controlBehindASheet", "menu newEJUDMenu\nselect ejTDTable 0", "4: ejTDTable is not reachable"},
+        Case{"commandBehindASheet", "menu newEJUDMenu\nmenu newJEUDMenu", "4: newJEUDMenu is not reachable"},
+        Case{"endWithASheet", "menu newEJUDMenu", "3: the script ends with the sheet style.NewDicWindow up"},
+        Case{"buttonOfAnotherListPage", "tab ejListTab UDTab\npress ejLoadDicButton",
+             "4: ejLoadDicButton is not reachable"},
         Case{"unknownEngineCommand", "engine broken", "3: the engine cannot be broken"}),
     [](const testing::TestParamInfo<Case>& failing) { return failing.param.name; });
 
