@@ -22,11 +22,14 @@ WORK = BUILD / "work"
 MANAGER = BUILD / "qt/tarvo-manager"
 FLOOR_WINDOW = BUILD / "tests/bench/floor_window"
 EDIT_BENCH = BUILD / "tests/bench/edit_bench"
+SCAN_BENCH = BUILD / "tests/bench/scan_bench"
 SEED = "Library/Application Support/Wordhaven/TarvoEiwa/TarvoStyle2009.plist"
 USER_STYLES = "Library/Preferences/Wordhaven/TarvoStyle2009.plist"
 
 STARTS = 15
 EDITS = 41
+SCANS = 31
+DICTIONARIES = 10_000
 SETTLE_SECONDS = 0.5  # from the first paint until memory is read
 LONGEST_START = 30.0
 
@@ -146,15 +149,52 @@ def edit_rows():
                   float(here) <= 2 * float(bare))
 
 
+# Scan: a folder with very many dictionaries, known by their extension or, all of them, by their type code.
+
+def fill_folder(folder, name):
+    """Answers whether the disk took what makes the files dictionaries."""
+    information = b"TRjt    " + bytes(24)
+    for number in range(DICTIONARIES):
+        path = folder / name.format(number)
+        path.touch()
+        if path.suffix:
+            continue
+        try:
+            os.setxattr(path, "user.com.apple.FinderInfo", information)
+        except OSError:
+            return False
+    return True
+
+
+def scan_rows():
+    for label, name in (("extension", "{:05} 専門辞書 Dictionary.TRet"), ("type code", "{:05} 専門辞書 Dictionary")):
+        root, folder = WORK / "scan", "/Dictionaries"
+        shutil.rmtree(root, ignore_errors=True)
+        (root / folder[1:]).mkdir(parents=True)
+        if not fill_folder(root / folder[1:], name):
+            print(f"scan by {label}: left out, the disk keeps no attributes")
+            continue
+        done = subprocess.run([str(SCAN_BENCH), str(root), folder, str(SCANS)], check=True, stdout=subprocess.PIPE, text=True)
+        here, bare, entries, size = done.stdout.split()
+        print_row(f"scan of {entries} by {label}", float(here), float(bare), "ms", "at most 1.5x",
+                  float(here) <= 1.5 * float(bare))
+        print_row("  memory of each", float(size), 1024, " B", "less than the floor", float(size) < 1024)
+
+
+ROWS = ("start", "memory", "edit", "scan")
+
+
 def main(arguments):
-    wanted = set(arguments) or {"start", "memory", "edit"}
-    if wanted - {"start", "memory", "edit"}:
-        raise SystemExit("usage: script/bench [start] [memory] [edit]")
+    wanted = set(arguments) or set(ROWS)
+    if wanted - set(ROWS):
+        raise SystemExit("usage: script/bench " + " ".join(f"[{row}]" for row in ROWS))
     WORK.mkdir(parents=True, exist_ok=True)
     if wanted & {"start", "memory"}:
         start_rows(wanted)
     if "edit" in wanted:
         edit_rows()
+    if "scan" in wanted:
+        scan_rows()
 
 
 if __name__ == "__main__":
