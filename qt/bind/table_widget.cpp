@@ -47,6 +47,7 @@ TableWidget::TableWidget(TableModel& model, QWidget* parent)
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setDefaultSectionSize(metrics::rowHeight(fontMetrics()));
   verticalHeader()->setMinimumSectionSize(1);
+  horizontalHeader()->setMinimumSectionSize(1);
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setResizeContentsPrecision(0);  // check boxes are all alike
   horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);

@@ -103,6 +103,7 @@ QDialog* buildPicker(PickerOutlets& outlets, Binder& binder, QWidget* parent) {
   const PageBuilder page = [&outlets, &binder](QWidget* place) { return buildPage(outlets, binder, place); };
   columns->addWidget(binder.pages(outlets.myTabView, {page}, dialog), 1);
   auto* folders = new QVBoxLayout;
+  folders->setSpacing(metrics::rowGap);
   addFolder(*folders, binder, dialog, outlets.UDTitleField, outlets.newUDButton, outlets.openUDFolderButton);
   addFolder(*folders, binder, dialog, outlets.uTMATitleField, outlets.newTMAButton, outlets.openTMAFolderButton);
   folders->addStretch(1);

@@ -7,8 +7,11 @@
 #include <QDialog>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QTimer>
 #include <QWindow>
+
+#include "qt/look/plate.h"
 
 namespace tarvo {
 namespace {
@@ -63,6 +66,7 @@ class Hanger : public QObject {
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (watched == &sheet_) {
+      if (event->type() == QEvent::Paint) drawPaper();
       if (event->type() == QEvent::Hide && !event->spontaneous()) delete this;
       return false;
     }
@@ -74,6 +78,13 @@ class Hanger : public QObject {
   }
 
  private:
+  // No window manager gives it an edge.
+  void drawPaper() {
+    QPainter painter(&sheet_);
+    const QPalette& palette = sheet_.palette();
+    drawPlate(painter, sheet_.rect(), 0, palette.color(QPalette::Base), palette.color(QPalette::Dark));
+  }
+
   // An open menu takes its events through the host's window.
   bool isKept(QEvent& event) {
     if (QApplication::activePopupWidget() != nullptr) return false;

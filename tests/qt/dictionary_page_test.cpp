@@ -74,8 +74,9 @@ TEST_F(DictionaryPage, keysMoveAndRemoveWhatTheButtonsDo) {
   QTest::keyClick(&list(), Qt::Key_Down, Qt::AltModifier);
   EXPECT_EQ(loaded(), before);
   QTest::keyClick(&list(), Qt::Key_Delete);
-  EXPECT_EQ(loaded().size(), before.size() - 1);
-  EXPECT_EQ(std::count(loaded().begin(), loaded().end(), before[1]), 0);
+  moved = before;
+  moved.erase(moved.begin() + 1);
+  EXPECT_EQ(loaded(), moved);
   EXPECT_EQ(inStep(), "");
 }
 

@@ -63,8 +63,9 @@ void requireInReach(QWidget& widget, QPoint place) {
   if (!widget.isVisible()) throw NotReachable(named(widget) + " cannot be seen");
   if (!widget.isEnabled()) throw NotReachable(named(widget) + " is disabled in the window");
   const QWindow* modal = QGuiApplication::modalWindow();
-  if (modal != nullptr && modal != window.windowHandle())
-    throw NotReachable(named(widget) + " is shut out by a dialog");
+  const QWindow* handle = window.windowHandle();
+  const bool isOfModal = modal == handle || (modal != nullptr && modal->isAncestorOf(handle));
+  if (modal != nullptr && !isOfModal) throw NotReachable(named(widget) + " is shut out by a dialog");
   if (sheetOver(window) != nullptr && qobject_cast<QMenuBar*>(&widget) == nullptr)
     throw NotReachable(named(widget) + " stands under a sheet");
   QWidget* found = window.childAt(widget.mapTo(&window, place));
