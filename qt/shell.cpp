@@ -10,6 +10,7 @@
 
 #include "app/t_manager_controller.h"
 #include "platform/engine.h"
+#include "qt/dialogs.h"
 #include "qt/panes/mail_pane.h"
 #include "qt/panes/office_pane.h"
 #include "qt/panes/style_pane.h"
@@ -48,6 +49,7 @@ Shell::~Shell() {
 bool Shell::start() {
   if (!program_.construct()) return false;
   windows_.open(program_.interface(), program_.windows(), binder_, paneBuilders(program_.interface(), binder_));
+  addDialogs(windows_, program_.interface(), binder_);
   tellUnsavedStyles();
   program_.manager().customizeToolbar = [this] {
     buildToolbarCustomise(program_.interface().manager.toolbar, binder_, windows_.mainWindow())->open();

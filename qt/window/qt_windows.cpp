@@ -11,7 +11,6 @@
 #include "app/interface.h"
 #include "app/window_geometry.h"
 #include "qt/bind/window_frame.h"
-#include "qt/window/dialogs.h"
 #include "qt/window/frame_animation.h"
 #include "qt/window/main_window.h"
 #include "qt/window/sheet.h"
@@ -44,7 +43,6 @@ void QtWindows::open(Interface& interface, Windows& windows, Binder& binder, std
   frame_ = new WindowFrame(interface.manager.myWindow, *main_, figures_ == Figures::fixed ? fixedTitle : -1);
   main_->toolbarChangedHeight = [this] { fitToToolbar(); };
   makeRoomForBars();
-  addDialogs(*this, interface, binder);
 }
 
 void QtWindows::close() {

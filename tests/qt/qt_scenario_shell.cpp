@@ -9,6 +9,7 @@
 
 #include "app/program.h"
 #include "platform/texts.h"
+#include "qt/dialogs.h"
 #include "qt/shell.h"
 
 namespace tarvo::test {
@@ -53,6 +54,7 @@ void QtScenarioShell::programConstructed(Program& program) {
   binder_.emplace(services.texts, services.bundle, services.locations, Scheme::light);
   hand_.emplace(binder_->registry());
   windows_.open(program.interface(), program.windows(), *binder_, paneBuilders(program.interface(), *binder_));
+  addDialogs(windows_, program.interface(), *binder_);
 }
 
 void QtScenarioShell::programEnds(Program&) {

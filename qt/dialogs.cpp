@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "qt/window/dialogs.h"
+#include "qt/dialogs.h"
 
 #include "app/interface.h"
 #include "qt/sheets/new_dictionary_dialog.h"
