@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QDialog>
-#include <QEventLoop>
 #include <fstream>
 #include <sstream>
 
@@ -12,51 +9,12 @@
 #include "console/manual_run_loop.h"
 #include "console/scenario_session.h"
 #include "tests/qt/qt_scenario_shell.h"
+#include "tests/qt/script_run.h"
 #include "tests/support/scenario_files.h"
 
 // Every scenario file over the real window.
 namespace tarvo::test {
 namespace {
-
-// Runs a script from the event loop. The call for the next line is posted before the present one runs, so that the loop
-// of a dialog which that line opens delivers it.
-class ScriptRun {
- public:
-  explicit ScriptRun(Interpreter& interpreter) : interpreter_(interpreter) {}
-  void run() {
-    post(settlingTurns);
-    loop_.exec();
-  }
-
- private:
-  // New pages are shown and laid out in the turns of the loop that follow.
-  static constexpr int settlingTurns = 3;
-
-  void post(int turns) {
-    QMetaObject::invokeMethod(
-        &loop_, [this, turns] { turn(turns); }, Qt::QueuedConnection);
-  }
-
-  void turn(int turns) {
-    if (over_) return endDialogs();
-    if (turns > 0 || interpreter_.isHeld()) return post(turns > 0 ? turns - 1 : 0);
-    post(settlingTurns);
-    if (interpreter_.step()) return;
-    over_ = true;
-  }
-
-  // A script that ends or fails inside a dialog leaves its modal run up.
-  void endDialogs() {
-    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr) return loop_.quit();
-    dialog->done(0);
-    post(0);
-  }
-
-  Interpreter& interpreter_;
-  QEventLoop loop_;
-  bool over_ = false;
-};
 
 std::string textOf(const std::string& path) {
   std::ostringstream text;

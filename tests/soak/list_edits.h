@@ -5,6 +5,7 @@
 #include <string>
 
 #include "console/hand.h"
+#include "console/scenario_session.h"
 #include "platform/property_list.h"
 #include "tests/soak/plain_lists.h"
 #include "tests/support/temporary_folder.h"
@@ -22,6 +23,10 @@ namespace tarvo::test {
 int editCount();
 inline int shellEditCount() { return editCount() / 20; }
 
+// Two runs that are the same everywhere, and one that nobody has seen.
+const std::vector<unsigned>& seeds();
+std::string seedName(std::size_t index);  // "fixed0", "fixed1", "fresh"
+
 // A product of its own with dictionaries of both directions and styles without any. A home lies at Users/taro.
 class SoakRoot {
  public:
@@ -31,6 +36,7 @@ class SoakRoot {
   std::string home() const { return folder_ / "Users/taro"; }
   std::string styleFile() const { return folder_ / styleFileBelow; }
   PlainLists plainLists() const;
+  ScenarioOptions options() const;
 
  private:
   static constexpr const char* styleFileBelow = "Users/taro/Library/Preferences/Wordhaven/TarvoStyle2009.plist";

@@ -20,22 +20,6 @@ namespace {
 
 constexpr int editsBetweenLooksOfPlistlib = 1000;
 
-// Two runs that are the same everywhere, and one that nobody has seen.
-const std::vector<unsigned>& seeds() {
-  static const std::vector<unsigned> all{2009, 131, std::random_device{}()};
-  return all;
-}
-
-ScenarioOptions optionsFor(const SoakRoot& root) {
-  ScenarioOptions options;
-  options.product.root = root.path();
-  options.product.home = root.home();
-  options.product.language = "en";
-  options.product.strings = {"none"};
-  options.folder = root.path();
-  return options;
-}
-
 class RandomListEdits : public testing::TestWithParam<std::size_t> {
  protected:
   unsigned seed() const { return seeds()[GetParam()]; }
@@ -51,7 +35,7 @@ TEST_P(RandomListEdits, keepControlsStoreAndFileAlike) {
   std::cout << "seed " << seed() << std::endl;
   MemoryShell shell;
   ManualRunLoop clock;
-  ScenarioSession session(optionsFor(root_), shell, clock);
+  ScenarioSession session(root_.options(), shell, clock);
   session.start();
   MemoryWindows& windows = static_cast<MemoryWindows&>(shell.windowHost());
   PlainLists lists = root_.plainLists();
@@ -76,14 +60,13 @@ TEST_P(RandomListEdits, asAScriptShowTheSameInTheConsole) {
   std::ostringstream out, err;
   const int count = shellEditCount() / static_cast<int>(seeds().size());
   const ExitStatus status =
-      runScript(optionsFor(root_), clock, "random", randomScript(seed(), count, root_.plainLists()), out, err);
+      runScript(root_.options(), clock, "random", randomScript(seed(), count, root_.plainLists()), out, err);
   EXPECT_EQ(err.str(), "") << "seed " << seed();
   EXPECT_EQ(status, ExitStatus::done) << "seed " << seed();
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, RandomListEdits, testing::Range<std::size_t>(0, seeds().size()), [](const auto& test) {
-  return test.param < 2 ? "fixed" + std::to_string(test.param) : "fresh";
-});
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomListEdits, testing::Range<std::size_t>(0, seeds().size()),
+                         [](const auto& test) { return seedName(test.param); });
 
 }  // namespace
 }  // namespace tarvo::test

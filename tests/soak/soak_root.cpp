@@ -41,6 +41,13 @@ int editCount() {
   return count != nullptr ? std::atoi(count) : 10'000;
 }
 
+const std::vector<unsigned>& seeds() {
+  static const std::vector<unsigned> all{2009, 131, std::random_device{}()};
+  return all;
+}
+
+std::string seedName(std::size_t index) { return index < 2 ? "fixed" + std::to_string(index) : "fresh"; }
+
 SoakRoot::SoakRoot() : folder_(placeOfSoaks()) {
   const char* folders[] = {"EJ/", "JE/"};
   for (std::size_t direction = 0; direction < 2; ++direction) {
@@ -59,5 +66,15 @@ SoakRoot::SoakRoot() : folder_(placeOfSoaks()) {
 }
 
 PlainLists SoakRoot::plainLists() const { return PlainLists(dictionaries, styles); }
+
+ScenarioOptions SoakRoot::options() const {
+  ScenarioOptions options;
+  options.product.root = path();
+  options.product.home = home();
+  options.product.language = "en";
+  options.product.strings = {"none"};
+  options.folder = path();
+  return options;
+}
 
 }  // namespace tarvo::test
