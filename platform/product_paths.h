@@ -19,6 +19,9 @@ class ProductPaths {
  public:
   // configuration: nothing when the list could not be read.
   ProductPaths(const Locations& locations, std::optional<Dictionary> configuration);
+  virtual ~ProductPaths() = default;
+  ProductPaths(const ProductPaths&) = delete;
+  ProductPaths& operator=(const ProductPaths&) = delete;
 
   void tarvoPathInitialize();
   // 0 when the configuration could be read, else 1; or the number configured under the function's own name.
@@ -39,7 +42,8 @@ class ProductPaths {
   std::string tarvoPathSupportURL() const;  // an address, "" when none is configured
   std::string tarvoPathHomepageURL() const;
   // Application path of one of the product's tools, keys "tarvoPathGetAppleyPath.<number>"; "" for an unknown tool.
-  std::string tarvoPathGetAppleyPath(int tool) const;
+  // Who has to know when a tool is asked for derives.
+  virtual std::string tarvoPathGetAppleyPath(int tool) const;
 
   std::string preferencesWordhavenCache() const;  // the product's cache folder
   std::string volumeName() const;                 // of the boot volume, for classic paths
