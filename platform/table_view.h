@@ -72,7 +72,8 @@ class TableView : public Control {
   CellValue cell(std::string_view column, int row) const;  // asked at every look
 
   const std::vector<int>& selectedRows() const { return selected_; }  // ascending
-  int selectedRow() const { return selected_.empty() ? -1 : selected_.front(); }
+  // The last of them, as tables of the platform answer where several are selected; -1 for none.
+  int selectedRow() const { return selected_.empty() ? -1 : selected_.back(); }
   // Rows that do not exist are left out. extend: added to the selection where several may be selected.
   void selectRows(std::vector<int> rows, bool extend = false);
   void deselectAll() { selectRows({}); }

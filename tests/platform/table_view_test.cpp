@@ -58,6 +58,17 @@ class TableViewTest : public testing::Test {
   TableView& table_ = outlets_.table;
 };
 
+TEST_F(TableViewTest, ofSeveralSelectedRowsTheLastIsTheSelectedRow) {
+  EXPECT_EQ(table_.selectedRow(), -1);
+  table_.selectRows({3, 1});
+  EXPECT_EQ(table_.selectedRow(), 3);
+  table_.selectRows({0}, true);
+  EXPECT_EQ(table_.selectedRow(), 3);
+  source_.rows = 2;
+  table_.reloadData();
+  EXPECT_EQ(table_.selectedRow(), 1);
+}
+
 TEST_F(TableViewTest, asksTheCountOncePerReloadAndReportsMinusOneAsNoRows) {
   EXPECT_EQ(source_.counts, 1);
   EXPECT_EQ(table_.numberOfRows(), 4);

@@ -120,7 +120,7 @@ TEST_F(TableBinding, aReloadKeepsSelectionKeyboardPlaceAndScrolling) {
 TEST_F(TableBinding, theProgramsSelectionIsShownAndToldOnce) {
   auto& view = build();
   outlets.table.selectRows({1, 3});
-  EXPECT_EQ(rows.calls, std::vector<std::string>{"selected 1"});
+  EXPECT_EQ(rows.calls, std::vector<std::string>{"selected 3"});
   EXPECT_TRUE(view.selectionModel()->isRowSelected(1, {}));
   EXPECT_TRUE(view.selectionModel()->isRowSelected(3, {}));
   EXPECT_EQ(inStep(), "");

@@ -37,7 +37,7 @@ void workPicker(const ListEdit& edit, PickerOutlets& picker, Program& program, H
 std::string differenceIn(const PlainLists& lists, int direction, const Half& half) {
   const Words& names = lists.list(lists.style(), direction);
   const std::vector<int>& selected = lists.selected(direction);
-  const int count = static_cast<int>(names.size()), row = selected.empty() ? -1 : selected.front();
+  const int count = static_cast<int>(names.size()), row = selected.empty() ? -1 : selected.back();
   if (half.table.numberOfRows() != count) return "rows of " + half.table.name();
   for (int i = 0; i < count; ++i) {
     const std::string& name = names[static_cast<std::size_t>(i)];

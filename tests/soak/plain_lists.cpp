@@ -65,8 +65,8 @@ bool PlainLists::takes(const ListEdit& edit) const { return shown().size() + edi
 bool PlainLists::isPossible(Kind kind) const {
   const std::vector<int>& selected = selected_[at(direction_)];
   switch (kind) {
-    case Kind::raise: return !selected.empty() && selected.front() > 0;
-    case Kind::lower: return !selected.empty() && selected.front() < static_cast<int>(shown().size()) - 1;
+    case Kind::raise: return !selected.empty() && selected.back() > 0;
+    case Kind::lower: return !selected.empty() && selected.back() < static_cast<int>(shown().size()) - 1;
     case Kind::remove: return !selected.empty();
     case Kind::select:
     case Kind::drag: return !shown().empty();
@@ -111,12 +111,12 @@ ListEdit PlainLists::randomEdit(std::mt19937& random) const {
 }
 
 void PlainLists::move(int step) {
-  const int row = selection().front();
+  const int row = selection().back();
   std::swap(current()[at(row)], current()[at(row + step)]);
   selection() = {row + step};
 }
 
-void PlainLists::remove() { current().erase(current().begin() + selection().front()); }
+void PlainLists::remove() { current().erase(current().begin() + selection().back()); }
 
 void PlainLists::drag(const std::vector<int>& rows, int place) {
   Words before, moved, behind;
