@@ -57,6 +57,7 @@ QLayout* buildListActions(PickerOutlets& outlets, Binder& binder, QWidget* page)
   row->addWidget(binder.button(outlets.selectNoneButton, page));
   row->addWidget(binder.button(outlets.openTDFolderButton, page));
   QLabel* room = binder.text(outlets.roomText, page);
+  room->setWordWrap(false);
   room->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   row->addWidget(room, 1);
   return row;

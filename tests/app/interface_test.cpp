@@ -4,9 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <set>
 #include <sstream>
 
@@ -119,6 +121,46 @@ TEST_P(EachLanguage, hasATextForEveryLabelItemAndPage) {
     for (const PopUpButton::Item& item : row.items()) {
       EXPECT_FALSE(item.title.empty());
       EXPECT_TRUE(texts.find(item.title) == nullptr) << "shown as its key: " << item.title;
+    }
+  }
+}
+
+// The pages on which a row stands, from its own outwards: tab view and page.
+std::map<const TabView*, int> pagesOf(const Interface& interface, const Row& row) {
+  std::map<const TabView*, int> pages;
+  for (const Row* place = &row; place != nullptr && place->tab != nullptr;) {
+    pages[place->tab] = place->page;
+    const auto isTab = [place](const Row& other) { return &other.control == place->tab; };
+    const auto next = std::find_if(interface.rows().begin(), interface.rows().end(), isTab);
+    place = next != interface.rows().end() ? &*next : nullptr;
+  }
+  return pages;
+}
+
+// A pane may bear the name of the toolbar item that shows it.
+bool isPane(const Row& row) { return row.control.kind() == Control::Kind::view; }
+
+bool canBeSeenTogether(const Interface& interface, const Row& one, const Row& other) {
+  if (one.control.isHidden() || other.control.isHidden() || isPane(one) || isPane(other)) return false;
+  if (one.control.window() != other.control.window()) return false;
+  const auto pages = pagesOf(interface, other);
+  for (const auto& [tab, page] : pagesOf(interface, one)) {
+    const auto found = pages.find(tab);
+    if (found != pages.end() && found->second != page) return false;
+  }
+  return true;
+}
+
+TEST_P(EachLanguage, callsNoTwoControlsAlikeThatStandSideBySide) {
+  TestProgram test({.language = GetParam(), .strings = {"/dev/null"}});
+  ASSERT_TRUE(test.program().construct());
+  const Interface& interface = test.interface();
+  const std::vector<Row>& rows = interface.rows();
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) {
+      if (rows[i].control.label() != rows[j].control.label()) continue;
+      EXPECT_FALSE(canBeSeenTogether(interface, rows[i], rows[j]))
+          << rows[i].control.name() << " and " << rows[j].control.name() << ": " << rows[i].control.label();
     }
   }
 }
