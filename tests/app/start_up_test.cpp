@@ -190,35 +190,6 @@ TEST(StyleMenu, keepsItsItemsWhereTheFileHasNoStyles) {
   EXPECT_EQ(test.interface().style.stylePopup.items().size(), 2U);
 }
 
-TEST(ToolChooser, leavesNoSegmentSelectedBeyondTheToolsAndKeepsTheTool) {
-  TestProgram test;
-  test.writeStyles(sampleRoot());
-  ASSERT_TRUE(test.program().start());
-  const StyleOutlets& style = test.interface().style;
-  const std::string before = test.root.read(test.inHome(TestProgram::stylePath));
-  for (const int tool : {9, -1, 100}) {
-    test.program().rooms().chooser.setSelectSeg(tool);
-    EXPECT_EQ(style.TEAppSeg1.selectedSegment(), -1);
-    EXPECT_EQ(style.TEAppSeg3.selectedSegment(), -1);
-    EXPECT_EQ(test.program().rooms().flags.saveHit, tool);
-  }
-  test.program().rooms().chooser.setSelectSeg(8);
-  EXPECT_EQ(style.TEAppSeg3.selectedSegment(), 2);
-  EXPECT_EQ(test.program().rooms().store.currentID, "MG");
-  EXPECT_EQ(test.root.read(test.inHome(TestProgram::stylePath)), before);
-}
-
-TEST(ToolChooser, disablesTheOptionPopUpsOfTheToolsWithoutOptions) {
-  TestProgram test;
-  ASSERT_TRUE(test.program().construct());
-  for (int tool = 0; tool < 8; ++tool) {
-    test.program().rooms().chooser.doEnabledButtons(tool);
-    for (const PopUpButton& popup : test.interface().options.indexPopups) {
-      EXPECT_EQ(popup.isEnabled(), tool != 5 && tool != 6) << tool;
-    }
-  }
-}
-
 TEST(Operations, areFoundByOwnerAndNameAndAnswerWhatTheyKnow) {
   TestProgram test;
   test.root.write("System/Library/CoreServices/SystemVersion.plist", writePropertyList([] {
