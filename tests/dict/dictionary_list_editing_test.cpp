@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/dict/list_buttons.h"
 #include "tests/dict/style_pane_world.h"
 
 namespace tarvo::test {
@@ -16,33 +17,6 @@ Names numbered(int count) {
   for (int i = 0; i < count; ++i) names.push_back("n" + std::to_string(10 + i) + ".TRet");
   return names;
 }
-
-struct Buttons {
-  bool load, up, down, remove;
-  friend bool operator==(const Buttons&, const Buttons&) = default;
-};
-std::ostream& operator<<(std::ostream& out, const Buttons& buttons) {
-  return out << "load " << buttons.load << ", up " << buttons.up << ", down " << buttons.down << ", remove "
-             << buttons.remove;
-}
-
-Buttons ejButtons(const ListOutlets& outlets) {
-  return {outlets.ejLoadDicButton.isEnabled(), outlets.ejRaiseDicButton.isEnabled(),
-          outlets.ejDownDicButton.isEnabled(), outlets.ejRemoveDicButton.isEnabled()};
-}
-Buttons jeButtons(const ListOutlets& outlets) {
-  return {outlets.jeLoadDicButton.isEnabled(), outlets.jeRaiseDicButton.isEnabled(),
-          outlets.jeDownDicButton.isEnabled(), outlets.jeRemoveDicButton.isEnabled()};
-}
-// A state that no update gives, so that an update is seen.
-void muddle(ListOutlets& outlets) {
-  for (Button* button : {&outlets.ejRaiseDicButton, &outlets.jeRaiseDicButton}) button->setEnabled(true);
-  for (Button* button : {&outlets.ejLoadDicButton, &outlets.ejDownDicButton, &outlets.ejRemoveDicButton,
-                         &outlets.jeLoadDicButton, &outlets.jeDownDicButton, &outlets.jeRemoveDicButton}) {
-    button->setEnabled(false);
-  }
-}
-constexpr Buttons muddled{false, true, false, false};
 
 TEST(DictionaryListEditing, everyDirectionButZeroIsJapaneseToEnglish) {
   StylePaneWorld world;

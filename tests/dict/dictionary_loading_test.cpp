@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/dict/list_buttons.h"
 #include "tests/dict/picker_world.h"
 
 namespace tarvo::test {
@@ -79,13 +80,20 @@ TEST(DictionaryLoading, addsWhatIsTickedAtTheEndAndSavesBeforeItCloses) {
 }
 
 TEST(DictionaryLoading, withNothingTickedThePickerOnlyCloses) {
-  LoadingWorld world({"a.TRet"}, {"b.TRet"});
-  world.withPicker([&] {
-    world.takeLog();
-    world.loading.dicWindowOK();
-    EXPECT_EQ(world.takeLog(), Log{"hidden picker.myWindow"});
-  });
-  EXPECT_EQ(world.guard.changedKinds, std::vector<int>{});
+  for (const int direction : {0, 1}) {
+    LoadingWorld world({"a.TRet"}, {"b.TRet"});
+    world.withPicker(
+        [&] {
+          world.takeLog();
+          muddle(world.outlets);
+          world.loading.dicWindowOK();
+          EXPECT_EQ(world.takeLog(), Log{"hidden picker.myWindow"});
+        },
+        direction);
+    EXPECT_EQ(world.guard.changedKinds, std::vector<int>{});
+    EXPECT_EQ(ejButtons(world.outlets), muddled) << "no button is looked at";
+    EXPECT_EQ(jeButtons(world.outlets), muddled);
+  }
 }
 
 TEST(DictionaryLoading, cancellingOnlyCloses) {
@@ -93,8 +101,12 @@ TEST(DictionaryLoading, cancellingOnlyCloses) {
   world.withPicker([&] {
     world.tick({0});
     world.takeLog();
+    muddle(world.outlets);
     world.loading.dicWindowCancel();
     EXPECT_EQ(world.takeLog(), Log{"hidden picker.myWindow"});
+    EXPECT_EQ(world.host.stops, 1);
+    EXPECT_EQ(ejButtons(world.outlets), muddled) << "no button is looked at";
+    EXPECT_EQ(jeButtons(world.outlets), muddled);
   });
   EXPECT_EQ(world.listOnDisk(keyNameEJ), Array{"a.TRet"});
 }

@@ -128,6 +128,20 @@ TEST(DictionaryNameChecks, thePickerAllowsABackslashAndKeepsSilentAboutLongNames
   EXPECT_EQ(world.log, Log{});
 }
 
+TEST(DictionaryNameChecks, oddKindsAreRefusedInSilenceBySheetsOfBothOwners) {
+  for (const DictionaryNameChecks::Rules& rules : {paneRules, pickerRules}) {
+    Checks world(rules);
+    for (const int kind : {-1, 0, 3, 4, 7}) {
+      for (const char* name : {"", " \u3000\n", "A.B", "A/B"}) {
+        EXPECT_FALSE(world.passes(kind, true, name)) << kind << " " << name;
+        EXPECT_EQ(world.log, Log{});
+      }
+    }
+    world.passes(4, true, "  A.B ");
+    EXPECT_EQ(world.outlets.name.stringValue(), "A.B");
+  }
+}
+
 struct Length {
   std::string name;
   bool passes;

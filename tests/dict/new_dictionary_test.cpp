@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/text_rules.h"
+#include "tests/dict/list_buttons.h"
 #include "tests/dict/picker_world.h"
 #include "tests/support/memory_files.h"
 
@@ -74,6 +75,17 @@ TEST_F(NewDictionaryTest, anotherTagIsTheKindItselfAndMakesNothing) {
   EXPECT_FALSE(world_.flags.gMenuControllFlag);
 }
 
+TEST_F(NewDictionaryTest, anEmptyNameOfAnotherKindIsRefusedInSilence) {
+  for (const int kind : {0, 7}) {
+    create(kind, " \t");
+    EXPECT_EQ(world_.takeLog(), Log{}) << "neither a beep nor an alert nor the end of the sheet";
+    EXPECT_TRUE(world_.sheet.NewDicWindow.isShown());
+    EXPECT_EQ(world_.sheet.NewDicNameField.stringValue(), "");
+    world_.newDictionary.newDicCancelButtonAction();
+    EXPECT_EQ(world_.takeLog(), Log{"sheet ended 0"});
+  }
+}
+
 TEST_F(NewDictionaryTest, cancellingMakesAndPostsNothing) {
   world_.newDictionary.newUD(10);
   world_.sheet.NewDicNameField.userType(" a/b");
@@ -121,6 +133,21 @@ TEST_F(NewDictionaryTest, eachKindAndDirectionLandsInItsFolderAndSavesTheList) {
   EXPECT_EQ(world_.halfOnDisk(keyNameEJ).find("UD"), nullptr) << "a style never names the user's dictionaries";
 }
 
+TEST_F(NewDictionaryTest, updatesTheButtonsOfItsDirectionAfterTheSave) {
+  for (const auto& [tag, isEJ] :
+       {std::pair{10, true}, std::pair{11, false}, std::pair{12, true}, std::pair{13, false}}) {
+    muddle(world_.outlets);
+    world_.store.didWrite = [this] {
+      EXPECT_EQ(ejButtons(world_.outlets), muddled);
+      EXPECT_EQ(jeButtons(world_.outlets), muddled);
+    };
+    create(tag, "N");
+    const Buttons updated{true, false, false, false};
+    EXPECT_EQ(ejButtons(world_.outlets), isEJ ? updated : muddled) << tag;
+    EXPECT_EQ(jeButtons(world_.outlets), isEJ ? muddled : updated) << tag;
+  }
+}
+
 TEST_F(NewDictionaryTest, theSixthOfAListIsMadeAndToldToBeTooMany) {
   for (const auto& [tag, extension, alert] :
        {std::tuple{10, ".eud2", "alert MaxOverUDAlertHeader / MaxOverUDAlertContents"},
@@ -147,19 +174,29 @@ TEST_F(NewDictionaryTest, inTheToolsWithListsOfTheirOwnTheStyleIsNotTouched) {
                            Tool{6, 11, "jeUDTable"}, Tool{6, 13, "jeUTMATableView"}}) {
     world_.flags.saveHit = tool.saveHit;
     world_.guard.changedKinds.clear();
+    muddle(world_.outlets);
     create(tool.tag, "T" + std::to_string(tool.saveHit));
     const Log log = world_.takeLog();
     EXPECT_EQ(log.back(), "reload style." + tool.table);
     EXPECT_EQ(std::count(log.begin(), log.end(), "wrote"), 0);
-    EXPECT_EQ(world_.guard.changedKinds.size(), 1U);
+    EXPECT_EQ(world_.guard.changedKinds, std::vector<int>{tool.tag < 12 ? 1 : 2});
+    EXPECT_EQ(ejButtons(world_.outlets), muddled) << "no button is looked at";
+    EXPECT_EQ(jeButtons(world_.outlets), muddled);
   }
 }
 
 TEST_F(NewDictionaryTest, inThoseToolsAFullListIsNotTold) {
-  world_.flags.saveHit = 5;
-  for (const char* name : {"1", "2", "3", "4", "5", "6"}) create(10, name);
-  EXPECT_TRUE(isThere(world_.userFolder() + "/6.eud2"));
-  EXPECT_TRUE(world_.panels.alerts.empty());
+  for (const int saveHit : {5, 6}) {
+    world_.flags.saveHit = saveHit;
+    const std::string prefix = std::to_string(saveHit) + "-";
+    for (const char* name : {"1", "2", "3", "4", "5", "6"}) {
+      create(10, prefix + name);
+      create(13, prefix + name);
+    }
+    EXPECT_TRUE(isThere(world_.userFolder() + "/" + prefix + "6.eud2"));
+    EXPECT_TRUE(isThere(world_.memoryFolder() + "/" + prefix + "6.jtm"));
+    EXPECT_TRUE(world_.panels.alerts.empty()) << saveHit;
+  }
 }
 
 TEST_F(NewDictionaryTest, aFileThatCameBeforeIsLeftAloneInSilence) {
