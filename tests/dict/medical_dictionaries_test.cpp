@@ -238,5 +238,30 @@ TEST(InstalledMedicalDictionaries, aPathThatIsNotAbsoluteMeansNotInstalled) {
   EXPECT_FALSE(world.medical.insertInstalled());
 }
 
+// The program was started in some folder; where that is must not matter.
+class WorkingFolder {
+ public:
+  explicit WorkingFolder(const std::string& folder) { std::filesystem::current_path(folder); }
+  ~WorkingFolder() { std::filesystem::current_path(before_); }
+
+ private:
+  std::filesystem::path before_ = std::filesystem::current_path();
+};
+
+TEST(InstalledMedicalDictionaries, aPathWithoutATextIsNotLookedForInTheWorkingFolder) {
+  MedicalWorld world;
+  const WorkingFolder there(world.folder.path());
+  world.texts.clear();
+  for (const char* key : {"TechECorwell6", "TechJCorwell6", "TechETekado", "TechJTekado"}) {
+    world.folder.write(key, "");
+    ASSERT_TRUE(std::filesystem::exists(key));
+  }
+  world.setText("IgakuSougou", "General");
+  world.openLists({G}, {G});
+  EXPECT_FALSE(world.medical.insertInstalled());
+  EXPECT_EQ(world.log, "flush ");
+  EXPECT_EQ(world.list("EJ"), Array{G});
+}
+
 }  // namespace
 }  // namespace tarvo::test

@@ -51,6 +51,35 @@ TEST(TechDicController, eachKindHasItsOwnListAndTable) {
   EXPECT_EQ(nameIn(world.picker.techDicTable), CellValue{});
 }
 
+TEST(TechDicController, answersTheCellsOfEachListByItsTableAndNothingElsewhere) {
+  PickerWorld world;
+  for (const auto& [tag, name] : {std::pair{0, "t.TRet"}, std::pair{1, "u.eud2"}, std::pair{2, "m.etm"}}) {
+    world.controller.setNotSelectedArray(Names{name}, tag);
+  }
+  world.tick({0});
+  world.controller.setCreatedDictionary("v.eud2", 1);
+  struct Cell {
+    TableView& table;
+    int row;
+    const char* name;
+    bool checked;
+  };
+  for (const Cell& cell :
+       {Cell{world.picker.techDicTable, 0, "t.TRet", true}, Cell{world.picker.UserDicTable, 0, "u.eud2", false},
+        Cell{world.picker.UserDicTable, 1, "v.eud2", true}, Cell{world.picker.UserTMATable, 0, "m.etm", false}}) {
+    const auto value = [&](const char* column) {
+      return world.controller.objectValueForTableColumn(cell.table, column, cell.row);
+    };
+    EXPECT_EQ(value("Value"), (CellValue{"", "", cell.checked})) << cell.name;
+    EXPECT_EQ(value("dicName"), (CellValue{cell.name, "", std::nullopt}));
+    EXPECT_EQ(value("other"), CellValue{}) << cell.name;
+  }
+  world.picker.UserDicTable.setTag(7);
+  for (const char* column : {"Value", "dicName"}) {
+    EXPECT_EQ(world.controller.objectValueForTableColumn(world.picker.UserDicTable, column, 0), CellValue{});
+  }
+}
+
 TEST(TechDicController, onlyTheTechnicalTableCountsRows) {
   PickerWorld world;
   for (const int tag : {0, 1, 2}) world.controller.setNotSelectedArray(Names{"a", "b"}, tag);

@@ -26,21 +26,23 @@ TEST(IconedDelegate, aHigherRowHasItsIconInTheMiddleAndItsTextOverTheWholeHeight
   EXPECT_EQ(places.text, QRect(22, 100, 178, 28));
 }
 
-TEST(IconedDelegate, paintsTheIconInItsPlaceOnly) {
-  QPixmap red(16, 16);
-  red.fill(Qt::red);
-  QStandardItemModel model(1, 1);
-  model.setItem(0, 0, new QStandardItem(QIcon(red), QString()));
-  QImage image(200, 28, QImage::Format_ARGB32_Premultiplied);
-  image.fill(Qt::white);
-  QPainter painter(&image);
-  QStyleOptionViewItem option;
-  option.rect = image.rect();
-  option.state = QStyle::State_Enabled;
-  IconedDelegate().paint(&painter, option, model.index(0, 0));
-  painter.end();
-  EXPECT_EQ(test::pixels(image, test::isRed), 16 * 16);
-  EXPECT_EQ(test::pixels(image.copy(3, 6, 16, 16), test::isRed), 16 * 16);
+TEST(IconedDelegate, paintsAnIconOfAnySizeInItsPlaceOnly) {
+  for (const int size : {16, 32}) {
+    QPixmap red(size, size);
+    red.fill(Qt::red);
+    QStandardItemModel model(1, 1);
+    model.setItem(0, 0, new QStandardItem(QIcon(red), QString()));
+    QImage image(200, 28, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QStyleOptionViewItem option;
+    option.rect = image.rect();
+    option.state = QStyle::State_Enabled;
+    IconedDelegate().paint(&painter, option, model.index(0, 0));
+    painter.end();
+    EXPECT_EQ(test::pixels(image, test::isRed), 16 * 16) << size;
+    EXPECT_EQ(test::pixels(image.copy(3, 6, 16, 16), test::isRed), 16 * 16) << size;
+  }
 }
 
 }  // namespace
