@@ -71,10 +71,31 @@ std::string ProductPaths::localEnginePath() const {
   return path("LocalEnginePath", "~/Library/Application Support/Wordhaven/TarvoEngine.plist");
 }
 
+std::vector<std::string> ProductPaths::applicationFolders() const {
+  return pathList("ApplicationFolders", {"/Applications", "/Applications/Utilities", "~/Applications"});
+}
+
+std::vector<std::string> ProductPaths::runningApplications() const { return pathList("RunningApplications", {}); }
+
 std::string ProductPaths::path(std::string_view key, std::string_view otherwise) const {
-  const std::string value = text(key, otherwise);
-  if (value == "~" || value.starts_with("~/")) return locations_.inHome(value.substr(1));
-  return locations_.coreSpelling(value);
+  return spelled(text(key, otherwise));
+}
+
+std::string ProductPaths::spelled(const std::string& configured) const {
+  if (configured == "~" || configured.starts_with("~/")) return locations_.inHome(configured.substr(1));
+  return locations_.coreSpelling(configured);
+}
+
+std::vector<std::string> ProductPaths::pathList(std::string_view key, std::vector<std::string> otherwise) const {
+  std::vector<std::string> paths = std::move(otherwise);
+  if (const Array* configured = configuration_.array(key)) {
+    paths.clear();
+    for (const PropertyList& path : *configured) {
+      if (path.string() != nullptr) paths.push_back(*path.string());
+    }
+  }
+  for (std::string& path : paths) path = spelled(path);
+  return paths;
 }
 
 std::string ProductPaths::text(std::string_view key, std::string_view otherwise) const {

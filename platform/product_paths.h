@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/property_list.h"
 
@@ -45,13 +46,17 @@ class ProductPaths {
   // Who has to know when a tool is asked for derives.
   virtual std::string tarvoPathGetAppleyPath(int tool) const;
 
-  std::string preferencesWordhavenCache() const;  // the product's cache folder
-  std::string volumeName() const;                 // of the boot volume, for classic paths
-  std::string engineURL() const;                  // style service; "" for the local engine
-  std::string localEnginePath() const;            // the local engine's file
+  std::string preferencesWordhavenCache() const;         // the product's cache folder
+  std::string volumeName() const;                        // of the boot volume, for classic paths
+  std::string engineURL() const;                         // style service; "" for the local engine
+  std::string localEnginePath() const;                   // the local engine's file
+  std::vector<std::string> applicationFolders() const;   // where an application is looked for by its name, in order
+  std::vector<std::string> runningApplications() const;  // that count as running, whatever the system says
 
  private:
   std::string path(std::string_view key, std::string_view otherwise) const;
+  std::string spelled(const std::string& configured) const;
+  std::vector<std::string> pathList(std::string_view key, std::vector<std::string> otherwise) const;
   std::string text(std::string_view key, std::string_view otherwise) const;
   const Locations& locations_;
   Dictionary configuration_;

@@ -34,7 +34,7 @@ Shell::Shell(Product& product, QApplication& application, std::function<std::vec
       application_(application),
       engine_(product.makeEngine(product.files())),
       panels_([this](Window* window) { return windows_.widgetOf(*window); }, [this] { return windows_.sheetTop(); }),
-      workspace_(product.locations(), std::move(running)),
+      workspace_({product.locations(), product.files(), product.paths()}, std::move(running)),
       program_(product.services(product.files(), *engine_, runLoop_, panels_, windows_, workspace_)),
       binder_(product.texts(), product.bundle(), product.locations(), schemeFromEnvironment()) {
   QApplication::setQuitOnLastWindowClosed(false);  // closing the window asks the program, which alone ends the loop

@@ -7,15 +7,17 @@
 #include <QUrl>
 #include <utility>
 
+#include "platform/application_program.h"
 #include "platform/locations.h"
+#include "platform/product_paths.h"
 
 namespace tarvo {
 
-QtWorkspace::QtWorkspace(const Locations& locations, std::function<std::vector<std::string>()> running)
-    : locations_(locations), running_(std::move(running)) {}
+QtWorkspace::QtWorkspace(Services services, std::function<std::vector<std::string>()> running)
+    : services_(services), running_(std::move(running)) {}
 
 void QtWorkspace::openFile(const std::string& path) {
-  QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(locations_.resolve(path))));
+  QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(services_.locations.resolve(path))));
 }
 
 void QtWorkspace::openAddress(const std::string& address) {
@@ -23,7 +25,14 @@ void QtWorkspace::openAddress(const std::string& address) {
 }
 
 void QtWorkspace::launchApplication(const std::string& name) {
-  QProcess::startDetached(QString::fromStdString(name), {});
+  const auto program = applicationProgram(services_.files, services_.paths.applicationFolders(), name);
+  if (program) QProcess::startDetached(QString::fromStdString(services_.locations.resolve(*program)), {});
+}
+
+std::vector<std::string> QtWorkspace::launchedApplications() {
+  std::vector<std::string> all = running_();
+  for (std::string& counted : services_.paths.runningApplications()) all.push_back(std::move(counted));
+  return all;
 }
 
 }  // namespace tarvo

@@ -8,20 +8,28 @@
 
 namespace tarvo {
 
+class FileService;
 class Locations;
+class ProductPaths;
 
-// The desktop's own ways to open files, addresses and programs.
+// The desktop's own ways to open files and addresses. Applications are looked for by name in the product's application
+// folders; those that the product counts as running stand behind those that run.
 class QtWorkspace : public Workspace {
  public:
-  // running: what launchedApplications answers.
-  QtWorkspace(const Locations& locations, std::function<std::vector<std::string>()> running);
+  struct Services {
+    const Locations& locations;
+    FileService& files;
+    const ProductPaths& paths;
+  };
+  // running: the applications that run now.
+  QtWorkspace(Services services, std::function<std::vector<std::string>()> running);
   void openFile(const std::string& path) override;
   void openAddress(const std::string& address) override;
   void launchApplication(const std::string& name) override;
-  std::vector<std::string> launchedApplications() override { return running_(); }
+  std::vector<std::string> launchedApplications() override;
 
  private:
-  const Locations& locations_;
+  Services services_;
   std::function<std::vector<std::string>()> running_;
 };
 

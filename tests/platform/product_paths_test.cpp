@@ -67,6 +67,22 @@ TEST(ProductPaths, everyPlaceCanBeConfigured) {
   }
 }
 
+TEST(ProductPaths, listsOfPathsAreSpelledAsPathsAre) {
+  const Locations locations("/srv/root", "/home/taro");
+  const ProductPaths none(locations, Dictionary{});
+  EXPECT_EQ(none.applicationFolders(),
+            (std::vector<std::string>{"/Applications", "/Applications/Utilities", "/home/taro/Applications"}));
+  EXPECT_EQ(none.runningApplications(), std::vector<std::string>{});
+  Dictionary list;
+  list.set("ApplicationFolders", Array{"/srv/root/opt", 7, "~/辞書"});
+  list.set("RunningApplications", Array{"/A/T.app"});
+  const ProductPaths configured(locations, list);
+  EXPECT_EQ(configured.applicationFolders(), (std::vector<std::string>{"/opt", "/home/taro/辞書"}));
+  EXPECT_EQ(configured.runningApplications(), std::vector<std::string>{"/A/T.app"});
+  list.set("ApplicationFolders", "/opt");
+  EXPECT_EQ(ProductPaths(locations, list).applicationFolders(), none.applicationFolders()) << "no list";
+}
+
 TEST(ProductPaths, textsAndNumbersAreTakenAsTheyStand) {
   const Locations locations("/", "/home/taro");
   Dictionary list;

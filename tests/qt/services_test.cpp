@@ -4,10 +4,16 @@
 
 #include <QEventLoop>
 #include <QTimer>
+#include <filesystem>
 #include <memory>
 
+#include "platform/locations.h"
+#include "platform/posix/posix_files.h"
+#include "platform/product_paths.h"
 #include "qt/command_line.h"
 #include "qt/services/qt_run_loop.h"
+#include "qt/services/qt_workspace.h"
+#include "tests/support/temporary_folder.h"
 
 namespace tarvo {
 namespace {
@@ -54,6 +60,26 @@ TEST(QtRunLoop, nothingRunsAfterItsEnd) {
   loop.reset();
   runFor(20);
   EXPECT_EQ(ran, 0);
+}
+
+TEST(QtWorkspace, startsAnApplicationByItsNameAndListsWhatRuns) {
+  const test::TemporaryFolder folder;
+  const Locations locations(folder.path(), folder / "Users/taro");
+  PosixFiles files(locations);
+  Dictionary list;
+  list.set("RunningApplications", Array{"/Counted.app"});
+  const ProductPaths paths(locations, list);
+  QtWorkspace workspace({locations, files, paths}, [] { return std::vector<std::string>{"/Runs.app"}; });
+  EXPECT_EQ(workspace.launchedApplications(), (std::vector<std::string>{"/Runs.app", "/Counted.app"}));
+
+  const std::string program = "Applications/Utilities/Some Editor.app/Contents/MacOS/Some Editor";
+  const std::string trace = folder / "started";
+  folder.write(program, "#!/bin/sh\n: > '" + trace + "'\n");
+  std::filesystem::permissions(folder / program, std::filesystem::perms::owner_all);
+  for (const char* name : {"Other.app", "sh", "", "/bin/sh"}) workspace.launchApplication(name);
+  workspace.launchApplication("Some Editor.app");
+  for (int i = 0; i < 500 && !folder.exists("started"); ++i) runFor(10);
+  EXPECT_TRUE(folder.exists("started"));
 }
 
 TEST(CommandLine, takesValuesInBothForms) {

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarvo {
+
+class FileService;
+
+// The program file that starts the application of a name ("Some Editor.app"), looked for in the folders in their
+// order. An application is a program file itself, or a bundle: a folder whose program lies in Contents/MacOS under the
+// text of "CFBundleExecutable" in its Contents/Info.plist, else under the bundle's name without extension. Nothing
+// where no folder holds one, and for a name that is a path.
+std::optional<std::string> applicationProgram(FileService& files, const std::vector<std::string>& folders,
+                                              const std::string& name);
+
+}  // namespace tarvo
