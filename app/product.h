@@ -17,6 +17,7 @@
 namespace tarvo {
 
 class LocalStyleModule;
+struct EnginePlaces;
 
 // Texts that belong to one machine: where dictionaries of other makers were installed.
 inline constexpr const char* machineTexts = "/Library/Application Support/Wordhaven/TarvoEiwa/Local.strings";
@@ -53,6 +54,7 @@ class Product {
 
  private:
   std::string engineURL() const;
+  EnginePlaces enginePlaces() const;
   void layTexts(const std::vector<std::string>& strings);
   std::optional<Dictionary> readPaths(const std::optional<std::string>& overlay);
   std::string language_, problem_;
