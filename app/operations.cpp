@@ -79,7 +79,8 @@ std::vector<Operation> makeOperations() {
       {"style.readImportStyle", 1,
        [](Program& program, Arguments arguments) -> Result {
          return program.styles().readImportStyle(program.services().locations.picked(arguments.front()));
-       }},
+       },
+       false, true},
       {"style.getOSVersion", 0, [](Program& program, Arguments) -> Result { return program.styles().getOSVersion(); }},
       {"manager.createMailScriptFolder", 0,
        [](Program& program, Arguments) -> Result { return program.rooms().mailScripts.createMailScriptFolder(); }},

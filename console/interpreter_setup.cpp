@@ -35,6 +35,37 @@ void post(Interpreter& interpreter, ScriptLine& line) {
   interpreter.session().program().notifications().post(name);
 }
 
+std::string bytesOf(const std::string& hexadecimal) {
+  if (hexadecimal.size() % 2 != 0) throw ScriptError(hexadecimal + " is no whole number of bytes");
+  std::string bytes;
+  for (std::size_t at = 0; at < hexadecimal.size(); at += 2) {
+    unsigned char value = 0;
+    const char* digits = hexadecimal.data() + at;
+    if (std::from_chars(digits, digits + 2, value, 16).ptr != digits + 2) {
+      throw ScriptError(hexadecimal + " is not hexadecimal");
+    }
+    bytes += static_cast<char>(value);
+  }
+  return bytes;
+}
+
+void event(Interpreter& interpreter, ScriptLine& line) {
+  const std::string bytes = bytesOf(takeWord(line, "bytes"));
+  takeEnd(line);
+  interpreter.session().program().requests().event(bytes);
+}
+
+void eventNone(Interpreter& interpreter, ScriptLine& line) {
+  takeEnd(line);
+  interpreter.session().program().requests().event(std::nullopt);
+}
+
+void eventText(Interpreter& interpreter, ScriptLine& line) {
+  const std::string code = takeWord(line, "a code");
+  takeEnd(line);
+  interpreter.session().program().requests().eventText(code);
+}
+
 void answer(Interpreter& interpreter, ScriptLine& line) {
   ScriptedPanels& panels = interpreter.session().panels();
   const std::string kind = takeWord(line, "open, save, cancel or alert");
@@ -46,7 +77,7 @@ void answer(Interpreter& interpreter, ScriptLine& line) {
     takeEnd(line);
     panels.answerCancel();
   } else if (kind == "open" || kind == "save") {
-    const std::string path = interpreter.session().path(takeWord(line, "a path"));
+    const std::string path = interpreter.session().realPath(takeWord(line, "a path"));
     takeEnd(line);
     kind == "open" ? panels.answerOpen(path) : panels.answerSave(path);
   } else {
@@ -214,6 +245,9 @@ constexpr unsigned beforeAndRunning = ScriptCommand::before | ScriptCommand::run
 constexpr std::array commands{ScriptCommand{"start", ScriptCommand::before | ScriptCommand::terminated, start},
                               ScriptCommand{"kill", ScriptCommand::running, kill},
                               ScriptCommand{"post", ScriptCommand::running, post},
+                              ScriptCommand{"event", ScriptCommand::running, event},
+                              ScriptCommand{"event-none", ScriptCommand::running, eventNone},
+                              ScriptCommand{"event-text", ScriptCommand::running, eventText},
                               ScriptCommand{"answer", beforeAndRunning, answer},
                               ScriptCommand{"advance", ScriptCommand::running, advance},
                               ScriptCommand{"engine", beforeAndRunning, engine},

@@ -102,7 +102,7 @@ std::optional<std::string> ScriptedPanels::runOpenPanel(const OpenPanel& panel) 
 
 void ScriptedPanels::beginSavePanel(Window& host, const SavePanel& panel,
                                     std::function<void(int code, const std::string& path)> handler) {
-  if (up_ && up_->host == &host) return;  // a window has one sheet
+  if (up_ && up_->host == &host) return handler(0, "");  // a window has one sheet
   std::optional<FileAnswer> answer = takeAnswer(Kind::save);
   if (answer && answer->path) answer->path = withRequiredType(std::move(*answer->path), panel.requiredType);
   Json::Object event{{"kind", "save"}, {"over", host.name()}};

@@ -216,8 +216,9 @@ TEST_F(SavePanels, aWindowHasOneAtATime) {
   log();
   begin(outlets_.window);
   EXPECT_EQ(log(), "");
-  panels_.answerCancel();
   EXPECT_EQ(ended_, "0;");
+  panels_.answerSave("/x.whstyle");
+  EXPECT_EQ(ended_, "0;1/x.whstyle;");
 }
 
 TEST_F(SavePanels, goWithTheirProgram) {
