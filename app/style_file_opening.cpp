@@ -36,7 +36,8 @@ bool StyleFileOpening::mayReplace(const std::string& path) {
   const int button = with_.panels.runAlertPanel(
       {.title = filledIn(with_.texts.localized("OpenImportHeader"), stylePopup.titleOfSelectedItem()),
        .message = filledIn(with_.texts.localized("OpenImportMessage"), lastPathComponent(path)),
-       .buttons = {with_.texts.localized("OpenImport.Cancel"), with_.texts.localized("OpenImport.Replace")}});
+       .buttons = {with_.texts.localized("OpenImport.Cancel"), with_.texts.localized("OpenImport.Replace")},
+       .cancelButton = 0});
   return button == 1;
 }
 
