@@ -6,6 +6,7 @@
 #include <signal.h>
 
 #include <algorithm>
+#include <fstream>
 #include <utility>
 
 namespace tarvo {
@@ -92,8 +93,10 @@ struct HttpClient::Handle {
     set(CURLOPT_PROTOCOLS_STR, "http,https");
     set(CURLOPT_NOSIGNAL, 1L);
     set(CURLOPT_QUICK_EXIT, 1L);  // a name service that hangs is not waited for either
-    set(CURLOPT_NETRC, static_cast<long>(CURL_NETRC_REQUIRED));
-    set(CURLOPT_NETRC_FILE, place.netrc.c_str());
+    if (std::ifstream(place.netrc)) {  // else there are no credentials
+      set(CURLOPT_NETRC, static_cast<long>(CURL_NETRC_REQUIRED));
+      set(CURLOPT_NETRC_FILE, place.netrc.c_str());
+    }
     set(CURLOPT_SSL_VERIFYPEER, 1L);
     set(CURLOPT_SSL_VERIFYHOST, 2L);
     if (!place.authorities.empty()) set(CURLOPT_CAINFO, place.authorities.c_str());
