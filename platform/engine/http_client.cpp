@@ -92,7 +92,7 @@ struct HttpClient::Handle {
     set(CURLOPT_URL, place.address.c_str());
     set(CURLOPT_PROTOCOLS_STR, "http,https");
     set(CURLOPT_NOSIGNAL, 1L);
-    set(CURLOPT_QUICK_EXIT, 1L);  // a name service that hangs is not waited for either
+    set(CURLOPT_QUICK_EXIT, 1L);       // a name service that hangs is not waited for either
     if (std::ifstream(place.netrc)) {  // else there are no credentials
       set(CURLOPT_NETRC, static_cast<long>(CURL_NETRC_REQUIRED));
       set(CURLOPT_NETRC_FILE, place.netrc.c_str());
