@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QTimer>
+#include <functional>
 #include <optional>
 
 #include "app/app_controller.h"
@@ -37,6 +38,7 @@ class TestWindow {
       folder.write(settings, writePropertyList(answered));
     }
     shell.emplace(*product, *qApp, [] { return std::vector<std::string>(); });
+    if (prepare) prepare();
     started = shell->start();
     settle();
   }
@@ -68,6 +70,7 @@ class TestWindow {
   TemporaryFolder folder;
   std::optional<Product> product;
   std::optional<Shell> shell;
+  std::function<void()> prepare;  // called before the start, when the shell is there
   bool started = false, asksAboutTheService = false;
 };
 
