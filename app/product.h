@@ -45,6 +45,8 @@ class Product {
   ProductPaths& paths() { return *paths_; }
   LocalStyleModule& styleModule() { return *styleModule_; }
 
+  // As the options or the configuration say it; "" for the local engine.
+  std::string engineURL() const;
   // The engine that the options or the configuration name, working on these files; one that is never reachable when
   // there is none of that kind (see problem()).
   std::unique_ptr<Engine> makeEngine(FileService& files);
@@ -53,7 +55,6 @@ class Product {
                     Workspace& workspace);
 
  private:
-  std::string engineURL() const;
   EnginePlaces enginePlaces() const;
   void layTexts(const std::vector<std::string>& strings);
   std::optional<Dictionary> readPaths(const std::optional<std::string>& overlay);

@@ -29,62 +29,6 @@ void kill(Interpreter& interpreter, ScriptLine& line) {
   interpreter.session().kill();
 }
 
-void post(Interpreter& interpreter, ScriptLine& line) {
-  const std::string name = takeWord(line, "a name");
-  takeEnd(line);
-  interpreter.session().program().notifications().post(name);
-}
-
-std::string bytesOf(const std::string& hexadecimal) {
-  if (hexadecimal.size() % 2 != 0) throw ScriptError(hexadecimal + " is no whole number of bytes");
-  std::string bytes;
-  for (std::size_t at = 0; at < hexadecimal.size(); at += 2) {
-    unsigned char value = 0;
-    const char* digits = hexadecimal.data() + at;
-    if (std::from_chars(digits, digits + 2, value, 16).ptr != digits + 2) {
-      throw ScriptError(hexadecimal + " is not hexadecimal");
-    }
-    bytes += static_cast<char>(value);
-  }
-  return bytes;
-}
-
-void event(Interpreter& interpreter, ScriptLine& line) {
-  const std::string bytes = bytesOf(takeWord(line, "bytes"));
-  takeEnd(line);
-  interpreter.session().program().requests().event(bytes);
-}
-
-void eventNone(Interpreter& interpreter, ScriptLine& line) {
-  takeEnd(line);
-  interpreter.session().program().requests().event(std::nullopt);
-}
-
-void eventText(Interpreter& interpreter, ScriptLine& line) {
-  const std::string code = takeWord(line, "a code");
-  takeEnd(line);
-  interpreter.session().program().requests().eventText(code);
-}
-
-void answer(Interpreter& interpreter, ScriptLine& line) {
-  ScriptedPanels& panels = interpreter.session().panels();
-  const std::string kind = takeWord(line, "open, save, cancel or alert");
-  if (kind == "alert") {
-    const int button = takeInteger(line, "a button");
-    takeEnd(line);
-    panels.answerAlert(button - 1);
-  } else if (kind == "cancel") {
-    takeEnd(line);
-    panels.answerCancel();
-  } else if (kind == "open" || kind == "save") {
-    const std::string path = interpreter.session().realPath(takeWord(line, "a path"));
-    takeEnd(line);
-    kind == "open" ? panels.answerOpen(path) : panels.answerSave(path);
-  } else {
-    throw ScriptError("there is no answer to " + kind);
-  }
-}
-
 void advance(Interpreter& interpreter, ScriptLine& line) {
   const double seconds = takeNumber(line, "a number of seconds");
   takeEnd(line);
@@ -244,11 +188,6 @@ void file(Interpreter& interpreter, ScriptLine& line) {
 constexpr unsigned beforeAndRunning = ScriptCommand::before | ScriptCommand::running;
 constexpr std::array commands{ScriptCommand{"start", ScriptCommand::before | ScriptCommand::terminated, start},
                               ScriptCommand{"kill", ScriptCommand::running, kill},
-                              ScriptCommand{"post", ScriptCommand::running, post},
-                              ScriptCommand{"event", ScriptCommand::running, event},
-                              ScriptCommand{"event-none", ScriptCommand::running, eventNone},
-                              ScriptCommand{"event-text", ScriptCommand::running, eventText},
-                              ScriptCommand{"answer", beforeAndRunning, answer},
                               ScriptCommand{"advance", ScriptCommand::running, advance},
                               ScriptCommand{"engine", beforeAndRunning, engine},
                               ScriptCommand{"screen", beforeAndRunning, screen},

@@ -58,6 +58,13 @@ TEST_F(EngineVerbs, statusOfAServiceThatIsNotThereIsNoFailure) {
              "form          none\nreachable     no\nholds styles  no\nlast update   never\n", "", 0);
 }
 
+TEST_F(EngineVerbs, statusOfAServerThatDoesNotListen) {
+  expectSaid({"--engine", "http://127.0.0.1:1/styles", "engine", "status", "--json"},
+             R"({"form":"http","holds":false,"lastUpdate":null,"reachable":false})"
+             "\n",
+             "the style service cannot be reached\n", 0);
+}
+
 TEST_F(EngineVerbs, pushHandsTheStylesOver) {
   expectSaid({"engine", "push"}, "handed over 4 styles\n", "", 0);
   EXPECT_NE(root_.folder().read(std::string("root/Users/taro/") + engineFile).find("Beta"), std::string::npos);
