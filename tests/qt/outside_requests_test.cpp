@@ -112,7 +112,7 @@ TEST_F(OutsideRequests, aThousandAreCarriedOutInTheirOrder) {
     request(codes[which]);
     expected += std::string(siblingTools[which].key) + " ";
   }
-  for (int rounds = 0; rounds < 500 && shown.size() < expected.size(); ++rounds) settle();
+  for (int rounds = 0; rounds < 5000 && shown.size() < expected.size(); ++rounds) settle();
   shell->program().notifications().removeObserver(&expected);
   EXPECT_EQ(shown, expected);
 }
