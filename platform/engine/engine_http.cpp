@@ -10,7 +10,7 @@ namespace tarvo {
 namespace {
 
 using State = StyleResource::State;
-constexpr std::chrono::milliseconds firstPause{20};
+constexpr std::chrono::milliseconds firstPause{20}, longestPause{100};
 
 std::chrono::steady_clock::duration steadyNow() { return std::chrono::steady_clock::now().time_since_epoch(); }
 
@@ -50,7 +50,7 @@ void EngineHttp::sendRegistStyle(const StyleSet& styles, std::string& updateStri
 }
 
 bool EngineHttp::keepTrying(const StylePayload& payload, SetStamp& stamp, const Deadline& deadline) {
-  for (auto pause = firstPause;; pause *= 2) {
+  for (auto pause = firstPause;; pause = std::min(2 * pause, longestPause)) {
     const StyleResource::Locking locking = resource_.lock(deadline);
     const bool isBusy = locking == StyleResource::Locking::busy;
     const Try result = isBusy ? Try::raced : tryToStore(payload, stamp, deadline);

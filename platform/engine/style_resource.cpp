@@ -9,7 +9,7 @@ namespace tarvo {
 namespace {
 
 // A lock outlives every operation, but not much: its owner may be gone.
-constexpr const char* lockTime = "Timeout: Second-4";
+constexpr const char* lockTime = "Timeout: Second-2";
 constexpr std::string_view lockBody =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
     "<lockinfo xmlns=\"DAV:\"><lockscope><exclusive/></lockscope><locktype><write/></locktype></lockinfo>\n";
