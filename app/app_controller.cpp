@@ -34,6 +34,7 @@ void AppController::init() {
   notifications_.addObserver(this, newDicNotification, [this](const Notification& notification) {
     rooms_.newDictionary.newDicWindowOKAction(notification.object);
   });
+  notifications_.addObserver(this, sendPlistNoti, [this](const Notification&) { sendPlist(); });
 }
 
 bool AppController::awakeFromNib() {
@@ -45,6 +46,8 @@ bool AppController::awakeFromNib() {
   rooms_.lists.updateButton(1);
   rooms_.naming.updateStyleNameButton();
   showFirstPages();
+  interface_.options.ejOptionView.scrollToTop();
+  interface_.options.jeOptionView.scrollToTop();
   rooms_.store.awakeFlag = false;
   return true;
 }
@@ -113,8 +116,6 @@ void AppController::showFirstPages() {
   options.jeEditPopup.selectItemAtIndex(0);
   rooms_.options.selectEjEditPopup();
   rooms_.options.selectJeEditPopup();
-  options.ejOptionView.scrollToTop();
-  options.jeOptionView.scrollToTop();
 }
 
 void AppController::changeStyle() {

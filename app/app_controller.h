@@ -3,17 +3,22 @@
 #pragma once
 
 #include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
 
 #include "app/services.h"
 
 // The controller of the style pane.
-// Duty: start the pane, and run the sequences that cross rooms: loading, choosing a style, choosing a tool.
+// Duty: start the pane, and run the sequences that cross rooms: loading, choosing a style, choosing a tool, taking
+// styles from a file or the engine, answering other tools.
 // Not: anything that one room can do alone.
 namespace tarvo {
 
 class Interface;
 class NotificationCenter;
 class UserDefaults;
+struct CallerRequest;
 struct Rooms;
 
 class AppController {
@@ -32,6 +37,16 @@ class AppController {
   // Action of the style menu; also run by the choice of a tool.
   void changeStyle();
   void selectTableViewAction(int toolIndex);
+  // Lets the user choose a style file and puts it in the place of the chosen style.
+  void importStyle();
+  // The same for a file that is known. False after an alert; nothing has changed.
+  bool readImportStyle(const std::string& path);
+  // Makes the styles here and those of the engine one, and shows them when they came from there.
+  void sendPlist();
+  // A request of another tool: the bytes of its first item, nothing for a request without one; or its code as text. The
+  // tool is chosen first, then the pane comes forward.
+  void handleAppleEvent(const std::optional<std::string>& bytes);
+  void handleCallerCode(std::string_view code);
   int getOSVersion() const;
   void quitAction() { terminate_(); }
   // Makes the lists of user dictionaries and memories; a caller may leave it out before awakeFromNib.
@@ -44,6 +59,7 @@ class AppController {
   void createDictControllers();
   void restoreTool();
   void showFirstPages();
+  void answerCaller(const CallerRequest& request);
 
   Interface& interface_;
   Rooms& rooms_;

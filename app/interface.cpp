@@ -27,6 +27,8 @@ void Interface::connect(Rooms& rooms, const Texts& texts) {
   menuRows(rooms, texts);
   pickerRows(rooms, texts);
   sheetRows(rooms, texts);
+  travelRows(rooms, texts);
+  connectionRows(rooms, texts);
   apply(texts);
   for (PopUpButton& popup : options.detailPopups) popup.selectItemAtIndex(-1);  // no style is shown yet
 }
@@ -47,8 +49,9 @@ void Interface::apply(const Texts& texts) {
 
 std::vector<Control*> Interface::controls() const {
   std::vector<Control*> all;
-  const std::initializer_list<const Outlets*> structs{&style,  &options, &lists, &userLists, &newDictionary,
-                                                      &naming, &manager, &tools, &picker};
+  const std::initializer_list<const Outlets*> structs{&style,         &options,    &lists,    &userLists,
+                                                      &newDictionary, &naming,     &exchange, &manager,
+                                                      &tools,         &connection, &help,     &picker};
   for (const Outlets* outlets : structs) {
     all.insert(all.end(), outlets->controls().begin(), outlets->controls().end());
   }

@@ -11,10 +11,13 @@
 #include "dict/new_dictionary.h"
 #include "dict/tech_dic_controller.h"
 #include "dict/user_list_rows.h"
+#include "install/connection_check.h"
+#include "install/help_pages.h"
 #include "install/tool_list_file.h"
 #include "platform/controls.h"
 #include "platform/windows.h"
 #include "style/option_editing.h"
+#include "style/style_exchange.h"
 #include "style/style_naming.h"
 
 // The interface file: every control of the program, where it stands, what it is called, what it does. One row per
@@ -71,8 +74,11 @@ class Interface {
   UserListOutlets userLists;
   NewDictionaryOutlets newDictionary;
   NamingOutlets naming;
+  ExportOutlets exchange;
   ManagerOutlets manager;
   ToolListOutlets tools;
+  ConnectionOutlets connection;
+  HelpOutlets help;
   PickerOutlets picker;
 
   Interface() = default;
@@ -93,9 +99,13 @@ class Interface {
   void listRows(Rooms& rooms, const Texts& texts);
   void userListRows(Rooms& rooms);
   void pickerRows(Rooms& rooms, const Texts& texts);
+  void travelRows(Rooms& rooms, const Texts& texts);
+  void connectionRows(Rooms& rooms, const Texts& texts);
   void sheetRows(Rooms& rooms, const Texts& texts);
   void managerRows(Rooms& rooms, const Texts& texts);
   void menuRows(Rooms& rooms, const Texts& texts);
+  // A menu command, which both controllers must allow.
+  void menuItem(Rooms& rooms, MenuItem& menu, int tag, std::string label, Control::Action action);
   void row(Row row) { rows_.push_back(std::move(row)); }
   void apply(const Texts& texts);
   std::vector<Row> rows_;

@@ -64,11 +64,16 @@ void Interface::managerRows(Rooms& rooms, const Texts& texts) {
        .action = to(controller.screenCaution(), &ScreenCaution::closeCautionDisplayWindow)});
 }
 
+void Interface::menuItem(Rooms& rooms, MenuItem& menu, int tag, std::string label, Control::Action action) {
+  TManagerController& controller = *rooms.manager;
+  menu.validate = [&controller](const MenuItem& asked) { return controller.allowsMenuItem(asked.title()); };
+  row({.control = menu, .tag = tag, .label = std::move(label), .action = std::move(action)});
+}
+
 void Interface::menuRows(Rooms& rooms, const Texts&) {
   TManagerController& controller = *rooms.manager;
   const auto item = [&](MenuItem& menu, int tag, Control::Action action) {
-    menu.validate = [&controller](const MenuItem& asked) { return controller.allowsMenuItem(asked.title()); };
-    row({.control = menu, .tag = tag, .action = std::move(action)});
+    menuItem(rooms, menu, tag, "", std::move(action));
   };
   item(style.quitMenu, 0, to(*rooms.styles, &AppController::quitAction));
   const auto newUD = to(rooms.newDictionary, &NewDictionary::newUD);

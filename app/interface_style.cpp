@@ -13,7 +13,7 @@ namespace tarvo {
 void Interface::styleRows(Rooms& rooms, const Texts& texts) {
   TabView* pane = &manager.myTabView;
   row({.control = style.stylePopup, .tab = pane, .action = to(*rooms.styles, &AppController::changeStyle)});
-  row({.control = naming.StyleNameEditButton, .tab = pane});
+  row({.control = naming.StyleNameEditButton, .tab = pane, .action = to(rooms.naming, &StyleNaming::editStyleName)});
   rooms.chooser.setUpSegments(texts);
   int tag = 0;
   for (SegmentedControl* control : {&style.TEAppSeg1, &style.TEAppSeg2, &style.TEAppSeg3}) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/program.h"
+#include "platform/locations.h"
 #include "platform/text_rules.h"
 
 namespace tarvo {
@@ -75,6 +76,11 @@ std::vector<Operation> makeOperations() {
        }},
       answering("picker.isStartedApplication",
                 [](Rooms& rooms, int tool) { return rooms.picker.isStartedApplication(tool); }),
+      {"style.readImportStyle", 1,
+       [](Program& program, Arguments arguments) -> Result {
+         return program.styles().readImportStyle(program.services().locations.picked(arguments.front()));
+       },
+       false, true},
       {"style.getOSVersion", 0, [](Program& program, Arguments) -> Result { return program.styles().getOSVersion(); }},
       {"manager.createMailScriptFolder", 0,
        [](Program& program, Arguments) -> Result { return program.rooms().mailScripts.createMailScriptFolder(); }},

@@ -22,7 +22,8 @@ struct Operation {
   // The result, or nothing for an operation that answers nothing. Arguments are texts; integers are read by
   // leadingInteger.
   std::function<std::optional<PropertyList>(Program&, std::span<const std::string> arguments)> run;
-  bool takesMore = false;  // any number of further texts stands before these arguments: a list
+  bool takesMore = false;   // any number of further texts stands before these arguments: a list
+  bool takesPaths = false;  // the arguments are real paths
 };
 
 std::span<const Operation> operations();

@@ -39,7 +39,7 @@ Product::Product(const ProductOptions& options)
   bundle_ = std::make_unique<Bundle>(*files_, resources, languagesFor(language_));
   layTexts(options.strings);
   paths_ = std::make_unique<ProductPaths>(locations_, readPaths(options.paths));
-  if (engine_ && tarvo::makeEngine(*engine_, *files_, paths_->localEnginePath()) == nullptr) {
+  if (engine_ && tarvo::makeEngine(*engine_, *files_, enginePlaces()) == nullptr) {
     problem_ = "there is no style service of this kind: " + *engine_;
   }
 }
@@ -74,9 +74,13 @@ std::optional<Dictionary> Product::readPaths(const std::optional<std::string>& o
 
 std::string Product::engineURL() const { return engine_.value_or(paths_->engineURL()); }
 
+EnginePlaces Product::enginePlaces() const {
+  return {paths_->localEnginePath(), locations_.resolve(locations_.inHome(".netrc"))};
+}
+
 std::unique_ptr<Engine> Product::makeEngine(FileService& files) {
-  std::unique_ptr<Engine> engine = tarvo::makeEngine(engineURL(), files, paths_->localEnginePath());
-  return engine != nullptr ? std::move(engine) : tarvo::makeEngine("none", files, "");
+  std::unique_ptr<Engine> engine = tarvo::makeEngine(engineURL(), files, enginePlaces());
+  return engine != nullptr ? std::move(engine) : tarvo::makeEngine("none", files, {});
 }
 
 Services Product::services(FileService& files, Engine& engine, RunLoop& runLoop, Panels& panels, WindowHost& windowHost,

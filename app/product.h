@@ -17,6 +17,7 @@
 namespace tarvo {
 
 class LocalStyleModule;
+struct EnginePlaces;
 
 // Texts that belong to one machine: where dictionaries of other makers were installed.
 inline constexpr const char* machineTexts = "/Library/Application Support/Wordhaven/TarvoEiwa/Local.strings";
@@ -44,6 +45,8 @@ class Product {
   ProductPaths& paths() { return *paths_; }
   LocalStyleModule& styleModule() { return *styleModule_; }
 
+  // As the options or the configuration say it; "" for the local engine.
+  std::string engineURL() const;
   // The engine that the options or the configuration name, working on these files; one that is never reachable when
   // there is none of that kind (see problem()).
   std::unique_ptr<Engine> makeEngine(FileService& files);
@@ -52,7 +55,7 @@ class Product {
                     Workspace& workspace);
 
  private:
-  std::string engineURL() const;
+  EnginePlaces enginePlaces() const;
   void layTexts(const std::vector<std::string>& strings);
   std::optional<Dictionary> readPaths(const std::optional<std::string>& overlay);
   std::string language_, problem_;

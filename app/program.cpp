@@ -24,6 +24,21 @@ DictionaryNameChecks::Services nameServices(const Services& services) {
   return {services.files, services.texts, services.paths, services.panels};
 }
 
+Services withPanels(const Services& services, Panels& panels) {
+  return {.locations = services.locations,
+          .files = services.files,
+          .bundle = services.bundle,
+          .texts = services.texts,
+          .paths = services.paths,
+          .engine = services.engine,
+          .styleModule = services.styleModule,
+          .gTarvoCommonModule = services.gTarvoCommonModule,
+          .runLoop = services.runLoop,
+          .panels = panels,
+          .windowHost = services.windowHost,
+          .workspace = services.workspace};
+}
+
 // The window of the interface: just large enough for the style pane, in the middle of the screen and a little above it.
 Rect firstFrame(WindowHost& host, const Window& window) {
   const WindowHeights heights = host.heights(window);
@@ -49,13 +64,14 @@ std::string toolListPath(const Locations& locations) {
 }
 
 Program::Program(const Services& services)
-    : services_(services),
+    : panels_(services.panels),
+      services_(withPanels(services, panels_)),
       defaults_(services.files, userDefaultsPath(services.locations)),
       windows_(services.windowHost),
       store_(services.files, services.engine, defaults_, services.locations.inHome(std::string(gStylePath)),
              std::string(gAppSupportStylePlist)),
       options_(store_, interface_.options, services.texts),
-      alerts_(services.panels, services.texts),
+      alerts_(panels_, services.texts),
       guard_(services.workspace, services.paths),
       lists_(store_, interface_.style.stylePopup, interface_.lists, services.texts, dictionaryServices(services),
              guard_),
@@ -64,17 +80,24 @@ Program::Program(const Services& services)
       userLists_(dictionaryServices(services)),
       userListRows_(interface_.userLists, userLists_, dictionaryServices(services)),
       picker_({interface_.picker, windows_, services.workspace, alerts_, guard_, notifications_},
-              nameServices(services)),
+              nameServices(services_)),
       loading_(lists_, picker_, request_, alerts_, guard_, services.texts),
       newDictionary_({interface_.newDictionary, interface_.userLists, interface_.manager.myWindow, request_, lists_,
                       userLists_, flags_, alerts_, guard_, notifications_, windows_},
-                     nameServices(services)),
-      naming_(interface_.style.stylePopup, interface_.naming, services.texts.localized(nomalStyle)),
+                     nameServices(services_)),
+      naming_({interface_.naming, interface_.style.stylePopup, interface_.manager.myWindow, store_, flags_, alerts_,
+               windows_},
+              services.texts.localized(nomalStyle)),
+      exchange_({interface_.exchange, interface_.style.stylePopup, interface_.manager.myWindow, store_, services.files,
+                 services.locations, panels_, alerts_, windows_, services.texts}),
       display_(store_, options_, lists_, services.texts),
       chooser_(interface_.style, interface_.options, flags_, [this](int tool) { styles_.selectTableViewAction(tool); }),
       toolList_(services.files, defaults_, services.gTarvoCommonModule, interface_.tools,
                 toolListPath(services.locations)),
       mailScripts_(services.files, services.locations.home()),
+      connection_({interface_.connection, interface_.manager.myWindow, services.engine, defaults_, notifications_,
+                   panels_, services.runLoop, windows_, services.texts}),
+      help_(services.bundle, services.paths, services.texts, services.workspace),
       rooms_{.store = store_,
              .options = options_,
              .lists = lists_,
@@ -88,13 +111,18 @@ Program::Program(const Services& services)
              .guard = guard_,
              .alerts = alerts_,
              .naming = naming_,
+             .exchange = exchange_,
              .display = display_,
              .chooser = chooser_,
              .toolList = toolList_,
              .mailScripts = mailScripts_,
+             .connection = connection_,
+             .help = help_,
              .flags = flags_},
       manager_(interface_, rooms_, services_, defaults_, notifications_, windows_, [this] { quit(); }),
-      styles_(interface_, rooms_, services_, defaults_, notifications_, [this] { quit(); }) {
+      styles_(interface_, rooms_, services_, defaults_, notifications_, [this] { quit(); }),
+      opening_({interface_, styles_, manager_, panels_, windows_, services.texts}),
+      requests_(services.runLoop, services.locations, styles_, opening_) {
   rooms_.manager = &manager_;
   rooms_.styles = &styles_;
 }
@@ -120,6 +148,7 @@ bool Program::load() {
 void Program::launch() {
   windows_.orderFront(interface_.manager.myWindow);
   manager_.applicationDidFinishLaunching();
+  requests_.launchDidEnd();
 }
 
 bool Program::start() {
@@ -130,6 +159,7 @@ bool Program::start() {
 
 void Program::quit() {
   if (std::exchange(terminated_, true)) return;
+  requests_.close();
   if (managerAwake_) manager_.applicationWillTerminate();
   if (didTerminate) didTerminate();
 }

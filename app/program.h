@@ -7,9 +7,12 @@
 #include <string>
 
 #include "app/app_controller.h"
+#include "app/counted_panels.h"
 #include "app/interface.h"
+#include "app/request_queue.h"
 #include "app/rooms.h"
 #include "app/services.h"
+#include "app/style_file_opening.h"
 #include "app/t_manager_controller.h"
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
@@ -43,9 +46,11 @@ class Program {
   UserDefaults& defaults() { return defaults_; }
   NotificationCenter& notifications() { return notifications_; }
   Windows& windows() { return windows_; }
+  RequestQueue& requests() { return requests_; }
   const Services& services() const { return services_; }
 
  private:
+  CountedPanels panels_;
   Services services_;
   UserDefaults defaults_;
   NotificationCenter notifications_;
@@ -66,13 +71,18 @@ class Program {
   DictionaryLoading loading_;
   NewDictionary newDictionary_;
   StyleNaming naming_;
+  StyleExchange exchange_;
   StyleDisplay display_;
   ToolChooser chooser_;
   ToolListFile toolList_;
   MailScriptInstaller mailScripts_;
+  ConnectionCheck connection_;
+  HelpPages help_;
   Rooms rooms_;
   TManagerController manager_;
   AppController styles_;
+  StyleFileOpening opening_;
+  RequestQueue requests_;
   bool managerAwake_ = false, terminated_ = false;
 };
 

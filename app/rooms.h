@@ -13,11 +13,14 @@
 #include "dict/tech_dic_controller.h"
 #include "dict/user_list_rows.h"
 #include "dict/user_lists.h"
+#include "install/connection_check.h"
+#include "install/help_pages.h"
 #include "install/mail_script_installer.h"
 #include "install/tool_list_file.h"
 #include "style/option_editing.h"
 #include "style/pane_alerts.h"
 #include "style/process_flags.h"
+#include "style/style_exchange.h"
 #include "style/style_naming.h"
 #include "style/style_store.h"
 
@@ -43,10 +46,13 @@ struct Rooms {
   RunningApplicationGuard& guard;
   PaneAlerts& alerts;
   StyleNaming& naming;
+  StyleExchange& exchange;
   StyleDisplay& display;
   ToolChooser& chooser;
   ToolListFile& toolList;
   MailScriptInstaller& mailScripts;
+  ConnectionCheck& connection;
+  HelpPages& help;
   ProcessFlags& flags;
   AppController* styles = nullptr;  // set before the table is connected
   TManagerController* manager = nullptr;

@@ -197,6 +197,7 @@ void TManagerController::windowDidMove() {
 
 void TManagerController::applicationDidFinishLaunching() {
   if (getOSVersion() >= oldestVersionWithScreenCheck) caution_.checkScreenSize();
+  rooms_.connection.checkConnection();
 }
 
 void TManagerController::applicationWillTerminate() { rooms_.toolList.writeOffieTool(); }

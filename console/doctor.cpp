@@ -10,6 +10,7 @@
 #include "console/json.h"
 #include "console/text_table.h"
 #include "dict/dict_controller.h"
+#include "platform/engine.h"
 #include "platform/file_service.h"
 #include "platform/plist_reader.h"
 #include "platform/system_version.h"
@@ -155,7 +156,22 @@ class Examination {
       add(version, "system version", number != 0 ? "ok" : "problem", std::to_string(number));
     }
     plain(toolListPath(product_.locations()), "tool list", "written at every start");
-    keys(product_.paths().localEnginePath(), "styles of the local engine", "made by the first registration");
+    engine();
+    plain(joinPath(product_.bundle().folder(), "Help/index.htm"), "help", "the help command does nothing");
+  }
+
+  // It is not asked anything.
+  void engine() {
+    const std::string url = product_.engineURL();
+    const std::string form = product_.makeEngine(product_.files())->form();
+    const bool isKnown = form != "none" || url == "none";
+    findings_.push_back({url.empty() ? form : url, "style service", isKnown ? "ok" : "problem",
+                         isKnown ? form : "there is no style service of this kind"});
+    if (form == "local") {
+      keys(product_.paths().localEnginePath(), "styles of the local engine", "made by the first registration");
+    } else if (form == "http") {
+      plain(product_.locations().inHome(".netrc"), "credentials of the style service", "none are sent");
+    }
   }
 
   Product& product_;

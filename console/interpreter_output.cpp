@@ -106,11 +106,14 @@ void call(Interpreter& interpreter, ScriptLine& line) {
   const std::string name = takeWord(line, "an operation");
   const Operation* operation = findOperation(name);
   if (operation == nullptr) throw ScriptError("there is no operation " + name);
-  const std::vector<std::string> arguments = line.words();
+  std::vector<std::string> arguments = line.words();
   const int count = static_cast<int>(arguments.size());
   if (operation->takesMore ? count < operation->argumentCount : count != operation->argumentCount) {
     throw ScriptError(name + " takes " + std::to_string(operation->argumentCount) +
                       (operation->takesMore ? " or more" : "") + " arguments");
+  }
+  if (operation->takesPaths) {
+    for (std::string& argument : arguments) argument = interpreter.session().realPath(argument);
   }
   const std::optional<PropertyList> result = operation->run(interpreter.session().program(), arguments);
   interpreter.beginPrinting();

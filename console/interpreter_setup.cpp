@@ -29,20 +29,6 @@ void kill(Interpreter& interpreter, ScriptLine& line) {
   interpreter.session().kill();
 }
 
-void post(Interpreter& interpreter, ScriptLine& line) {
-  const std::string name = takeWord(line, "a name");
-  takeEnd(line);
-  interpreter.session().program().notifications().post(name);
-}
-
-void answer(Interpreter& interpreter, ScriptLine& line) {
-  const std::string kind = takeWord(line, "alert");
-  if (kind != "alert") throw ScriptError("there is no answer to " + kind);
-  const int button = takeInteger(line, "a button");
-  takeEnd(line);
-  interpreter.session().panels().answerAlert(button - 1);
-}
-
 void advance(Interpreter& interpreter, ScriptLine& line) {
   const double seconds = takeNumber(line, "a number of seconds");
   takeEnd(line);
@@ -202,8 +188,6 @@ void file(Interpreter& interpreter, ScriptLine& line) {
 constexpr unsigned beforeAndRunning = ScriptCommand::before | ScriptCommand::running;
 constexpr std::array commands{ScriptCommand{"start", ScriptCommand::before | ScriptCommand::terminated, start},
                               ScriptCommand{"kill", ScriptCommand::running, kill},
-                              ScriptCommand{"post", ScriptCommand::running, post},
-                              ScriptCommand{"answer", beforeAndRunning, answer},
                               ScriptCommand{"advance", ScriptCommand::running, advance},
                               ScriptCommand{"engine", beforeAndRunning, engine},
                               ScriptCommand{"screen", beforeAndRunning, screen},

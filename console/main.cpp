@@ -9,12 +9,9 @@
 #include <optional>
 
 #include "app/product.h"
-#include "console/dictionary_commands.h"
-#include "console/doctor.h"
 #include "console/manual_run_loop.h"
-#include "console/new_dictionary_command.h"
 #include "console/run_script.h"
-#include "console/style_commands.h"
+#include "console/verb_table.h"
 #include "platform/posix/instance_lock.h"
 #include "platform/posix/posix_run_loop.h"
 
@@ -41,13 +38,28 @@ class RealClock : public ScenarioClock {
 
 struct Arguments {
   ProductOptions product;
+  VerbWords words;
   std::string clock, script = "-";
-  std::vector<std::string> pairs;
-  std::vector<std::string> names;
-  std::string direction, kind, name;
-  int index = 0, position = 0;
-  bool json = false;
+  std::optional<std::string> busName;
 };
+
+// The options that the window program takes as well.
+std::vector<std::string> passedOn(const Arguments& arguments) {
+  const ProductOptions& product = arguments.product;
+  std::vector<std::string> options;
+  const auto add = [&options](const char* name, const std::optional<std::string>& value) {
+    if (value) options.push_back(std::string(name) + '=' + *value);
+  };
+  add("--root", product.root);
+  add("--home", product.home);
+  add("--language", product.language);
+  for (const std::string& file : product.strings) add("--strings", file);
+  add("--paths", product.paths);
+  add("--resources", product.resources);
+  add("--engine", product.engine);
+  add("--bus-name", arguments.busName);
+  return options;
+}
 
 void addCommonOptions(CLI::App& app, Arguments& arguments) {
   ProductOptions& product = arguments.product;
@@ -59,12 +71,11 @@ void addCommonOptions(CLI::App& app, Arguments& arguments) {
   app.add_option("--paths", product.paths, "a property list laid over the product's paths");
   app.add_option("--resources", product.resources, "the resource folder");
   app.add_option("--engine", product.engine, "style service; none is never reachable");
+  app.add_option("--bus-name", arguments.busName, "name of the manager on the session bus (under open)");
   app.add_option("--clock", arguments.clock, "manual: timers fire only through advance (under run)")
       ->check(CLI::IsMember({"manual", "real"}));
   app.set_version_flag("--version", "tarvoctl " TARVO_VERSION);
 }
-
-using Run = std::function<ExitStatus()>;
 
 // Takes a lock and keeps it as long as it lives itself.
 class HeldLock {
@@ -113,75 +124,7 @@ ExitStatus runScriptFile(const Arguments& arguments) {
                    std::move(text), std::cout, std::cerr);
 }
 
-void addListing(CLI::App& verb, Arguments& arguments) { verb.add_flag("--json", arguments.json, "one line of JSON"); }
-
-// make answers the verb's command when it runs.
-template <class Make>
-void addCommand(CLI::App& verb, Arguments& arguments, Run& run, Make make) {
-  verb.fallthrough()->callback([&arguments, &run, make] {
-    run = [&arguments, make] {
-      auto command = make();
-      return runVerb(arguments, command);
-    };
-  });
-}
-
-void addStyleVerbs(CLI::App& app, Arguments& arguments, Run& run) {
-  CLI::App* styles = app.add_subcommand("styles", "list the styles");
-  addListing(*styles, arguments);
-  addCommand(*styles, arguments, run, [&] { return StylesCommand(arguments.json); });
-  CLI::App* style = app.add_subcommand("style", "one style")->require_subcommand(1)->fallthrough();
-  CLI::App* show = style->add_subcommand("show", "print it");
-  show->add_option("N", arguments.index)->required();
-  addListing(*show, arguments);
-  addCommand(*show, arguments, run, [&] { return StyleShowCommand(arguments.index, arguments.json); });
-  CLI::App* set = style->add_subcommand("set", "set options");
-  set->add_option("N", arguments.index)->required();
-  set->add_option("KEY=VALUE", arguments.pairs)->required();
-  addCommand(*set, arguments, run, [&] { return StyleSetCommand(arguments.index, arguments.pairs); });
-}
-
-ListPlace placeIn(const Arguments& arguments) { return {arguments.index, arguments.direction == "ej" ? 0 : 1}; }
-
-void addPlace(CLI::App& verb, Arguments& arguments) {
-  verb.add_option("N", arguments.index)->required();
-  verb.add_option("DIRECTION", arguments.direction)->required()->check(CLI::IsMember({"ej", "je"}));
-}
-
-void addListVerbs(CLI::App& app, Arguments& arguments, Run& run) {
-  CLI::App* list = app.add_subcommand("dictionaries", "list the technical dictionaries of a style");
-  addPlace(*list, arguments);
-  addListing(*list, arguments);
-  addCommand(*list, arguments, run, [&] { return DictionariesCommand(placeIn(arguments), arguments.json); });
-  CLI::App* dictionary = app.add_subcommand("dictionary", "edit that list")->require_subcommand(1)->fallthrough();
-  addPlace(*dictionary, arguments);
-  CLI::App* add = dictionary->add_subcommand("add", "load dictionaries behind those that are loaded");
-  add->add_option("NAME", arguments.names)->required();
-  addCommand(*add, arguments, run, [&] { return AddDictionariesCommand(placeIn(arguments), arguments.names); });
-  CLI::App* remove = dictionary->add_subcommand("remove", "take one out of the list");
-  remove->add_option("NAME", arguments.name)->required();
-  addCommand(*remove, arguments, run, [&] { return RemoveDictionaryCommand(placeIn(arguments), arguments.name); });
-  CLI::App* move = dictionary->add_subcommand("move", "put one in another place, counted from 1");
-  move->add_option("NAME", arguments.name)->required();
-  move->add_option("POSITION", arguments.position)->required();
-  addCommand(*move, arguments, run,
-             [&] { return MoveDictionaryCommand(placeIn(arguments), arguments.name, arguments.position); });
-}
-
-void addNewVerb(CLI::App& app, Arguments& arguments, Run& run) {
-  CLI::App* verb = app.add_subcommand("new", "make an empty user dictionary or translation memory");
-  verb->add_option("DIRECTION", arguments.direction)->required()->check(CLI::IsMember({"ej", "je"}));
-  verb->add_option("KIND", arguments.kind)->required()->check(CLI::IsMember({"user", "memory"}));
-  verb->add_option("NAME", arguments.name, "without extension")->required();
-  addCommand(*verb, arguments, run, [&] {
-    return NewDictionaryCommand(placeIn(arguments).direction, arguments.kind == "memory", arguments.name);
-  });
-}
-
-void addOtherVerbs(CLI::App& app, Arguments& arguments, Run& run) {
-  CLI::App* doctor = app.add_subcommand("doctor", "every path looked at, and what is there");
-  addListing(*doctor, arguments);
-  addCommand(*doctor, arguments, run, [&] { return DoctorCommand(arguments.json); });
+void addRunVerb(CLI::App& app, Arguments& arguments, std::function<ExitStatus()>& run) {
   CLI::App* script = app.add_subcommand("run", "run a script of the scenario language");
   script->add_option("FILE", arguments.script, "the script; - reads it from the input");
   script->callback([&] { run = [&] { return runScriptFile(arguments); }; });
@@ -191,12 +134,13 @@ ExitStatus main(int count, char** words) {
   CLI::App app("Manages the translation styles of TarvoEiwa.", "tarvoctl");
   app.require_subcommand(1)->fallthrough();
   Arguments arguments;
-  Run run;
+  std::function<ExitStatus()> run;
   addCommonOptions(app, arguments);
-  addStyleVerbs(app, arguments, run);
-  addListVerbs(app, arguments, run);
-  addNewVerb(app, arguments, run);
-  addOtherVerbs(app, arguments, run);
+  const auto chosen = [&](MakeCommand make) {
+    run = [&arguments, make = std::move(make)] { return runVerb(arguments, *make()); };
+  };
+  addVerbs(app, arguments.words, chosen, [&arguments] { return passedOn(arguments); });
+  addRunVerb(app, arguments, run);
   try {
     app.parse(count, words);
   } catch (const CLI::ParseError& error) {

@@ -62,6 +62,8 @@ class ScenarioSession {
 
   // A path of a script in the core's spelling: "root:/…", "home:/…", absolute, or relative to the script's folder.
   std::string path(const std::string& text);
+  // The same as the user sees it: what a file panel answers.
+  std::string realPath(const std::string& text) { return product_.locations().resolve(path(text)); }
 
  private:
   void drop();

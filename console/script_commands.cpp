@@ -22,7 +22,7 @@ Number parse(const std::string& word, const char* what) {
 }  // namespace
 
 const ScriptCommand* findCommand(std::string_view word) {
-  for (const auto commands : {gestureCommands(), setupCommands(), outputCommands()}) {
+  for (const auto commands : {gestureCommands(), requestCommands(), setupCommands(), outputCommands()}) {
     for (const ScriptCommand& command : commands) {
       if (command.word == word) return &command;
     }

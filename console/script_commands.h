@@ -10,7 +10,7 @@
 #include "console/script_reader.h"
 
 // The commands of the scenario language: one table, a word to a handler. The handlers stand by theme in
-// interpreter_gestures, interpreter_setup and interpreter_output.
+// interpreter_gestures, _requests, _setup and _output.
 namespace tarvo {
 
 class Interpreter;
@@ -25,6 +25,7 @@ struct ScriptCommand {
 };
 
 std::span<const ScriptCommand> gestureCommands();
+std::span<const ScriptCommand> requestCommands();
 std::span<const ScriptCommand> setupCommands();
 std::span<const ScriptCommand> outputCommands();
 const ScriptCommand* findCommand(std::string_view word);  // null for an unknown word

@@ -15,6 +15,7 @@ class VerbProgram::ToldPanels : public Panels {
     err_ << reason << '\n';
     refused_ = true;
   }
+  void answer(const std::string& path) { path_ = path; }
   void beep() override {}
   int runAlertPanel(const Alert& alert) override {
     refuse((alert.title.empty() ? "" : alert.title + ": ") + alert.message);
@@ -23,37 +24,51 @@ class VerbProgram::ToldPanels : public Panels {
   void beginAlertSheet(Window&, const Alert& alert, std::function<void(int)> handler) override {
     handler(runAlertPanel(alert));
   }
-  std::optional<std::string> runOpenPanel(const OpenPanel&) override { return std::nullopt; }
+  std::optional<std::string> runOpenPanel(const OpenPanel&) override { return path_; }
   void beginSavePanel(Window&, const SavePanel&, std::function<void(int, const std::string&)> handler) override {
-    handler(0, "");
+    handler(path_ ? 1 : 0, path_.value_or(""));
   }
 
  private:
   std::ostream& err_;
+  std::optional<std::string> path_;
   bool refused_ = false;
 };
 
-// Says once that the service cannot be reached.
+// Says once that the service cannot be reached, or that it did not store the styles.
 class VerbProgram::ToldEngine : public Engine {
  public:
   ToldEngine(Engine& engine, Console& console) : engine_(engine), console_(console), told_(!console.engineIsWanted) {}
+  const EngineCalls& calls() const { return calls_; }
   bool checkConnectionWithCurl() override {
     const bool reachable = engine_.checkConnectionWithCurl();
-    if (!reachable && !told_) console_.err << "the style service cannot be reached; it keeps its former styles\n";
-    told_ = told_ || !reachable;
+    if (!reachable) tell("the style service cannot be reached; it keeps its former styles");
+    calls_.reached = calls_.reached && reachable;
     return reachable;
   }
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override {
     engine_.sendRegistStyle(styles, updateString);
+    if (!engine_.didRegister()) tell("the style service did not store the styles");
+    calls_.stored = engine_.didRegister();
+    calls_.handedOver = static_cast<int>(styles.records.size());
   }
   bool checkStyle() override { return engine_.checkStyle(); }
   bool requestStyle(Array& styles, std::string& localUpdate) override {
-    return engine_.requestStyle(styles, localUpdate);
+    const bool newer = engine_.requestStyle(styles, localUpdate);
+    if (newer) calls_.taken = static_cast<int>(styles.size());
+    return newer;
   }
+  std::string form() const override { return engine_.form(); }
+  bool didRegister() const override { return engine_.didRegister(); }
 
  private:
+  void tell(const char* what) {
+    if (!told_) console_.err << what << '\n';
+    told_ = true;
+  }
   Engine& engine_;
   Console& console_;
+  EngineCalls calls_;
   bool told_;
 };
 
@@ -88,6 +103,10 @@ ExitStatus VerbProgram::run(const std::function<void(Program& program, Hand& han
 }
 
 void VerbProgram::refuse(const std::string& reason) { panels_->refuse(reason); }
+
+void VerbProgram::answerFilePanels(const std::string& path) { panels_->answer(path); }
+
+const VerbProgram::EngineCalls& VerbProgram::engineCalls() const { return engine_->calls(); }
 
 void VerbProgram::duringModalRun(std::function<void()> act) {
   shell_.windowHost().step = [act = std::move(act)] {

@@ -4,7 +4,9 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <ostream>
+#include <string>
 
 #include "console/command.h"
 #include "console/memory_shell.h"
@@ -32,6 +34,16 @@ class VerbProgram {
   void refuse(const std::string& reason);
   // What is done inside each modal run; it has to end it.
   void duringModalRun(std::function<void()> act);
+  // Every file panel from now on is answered by this path; else it is cancelled.
+  void answerFilePanels(const std::string& path);
+
+  // What became of the exchanges with the style service.
+  struct EngineCalls {
+    bool reached = true;                   // whenever it was asked for
+    bool stored = true;                    // whatever was handed over
+    std::optional<int> handedOver, taken;  // the number of styles, where it happened
+  };
+  const EngineCalls& engineCalls() const;
 
  private:
   class ToldPanels;

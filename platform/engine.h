@@ -29,6 +29,11 @@ class Engine {
   // localUpdate: the stamp of the local set, "" for none. True: the engine's set is newer, styles and stamp are filled
   // in.
   virtual bool requestStyle(Array& styles, std::string& localUpdate) = 0;
+
+  // For people: "none", "local", "http"; other kinds name themselves.
+  virtual std::string form() const { return "other"; }
+  // Whether the last registration is known to have been stored; true before the first.
+  virtual bool didRegister() const { return true; }
 };
 
 }  // namespace tarvo

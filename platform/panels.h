@@ -15,6 +15,7 @@ struct Alert {
   std::string title, message;
   std::vector<std::string> buttons;  // the first is the default
   std::string details;               // more than the message says, for who asks; may be empty
+  int cancelButton = -1;             // the one that Escape presses; -1: the last
 };
 struct OpenPanel {
   std::string title;

@@ -148,4 +148,14 @@ bool PropertyList::booleanValue() const {
   return integerValue() != 0;
 }
 
+int depthOf(const PropertyList& value) {
+  int below = 0;
+  if (const Array* array = value.array()) {
+    for (const PropertyList& element : *array) below = std::max(below, depthOf(element));
+  } else if (const Dictionary* dictionary = value.dictionary()) {
+    for (const auto& [key, element] : dictionary->entries()) below = std::max(below, depthOf(element));
+  }
+  return below + 1;
+}
+
 }  // namespace tarvo

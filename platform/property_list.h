@@ -108,6 +108,9 @@ class PropertyList {
   Value value_;
 };
 
+// How deep a value goes: 1 for one that holds no others, else one more than the deepest of those.
+int depthOf(const PropertyList& value);
+
 // Down here because an entry is a complete type only now.
 inline std::size_t Dictionary::size() const { return entries_.size(); }
 inline bool Dictionary::empty() const { return entries_.empty(); }

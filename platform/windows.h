@@ -86,6 +86,7 @@ class Windows {
   bool isReachable(const Control& control) const;
   Window* hostOf(const Window& sheet) const;
   Window* sheetOver(const Window& host) const;
+  bool hasSheet() const { return !sheets_.empty(); }
 
   // Told after it happened; code: the sheet's or the modal run's return code.
   std::function<void(Event, Window&, int code)> observer;

@@ -3,6 +3,9 @@
 #include "qt/dialogs.h"
 
 #include "app/interface.h"
+#include "qt/sheets/connection_sheet.h"
+#include "qt/sheets/export_window.h"
+#include "qt/sheets/naming_dialog.h"
 #include "qt/sheets/new_dictionary_dialog.h"
 #include "qt/sheets/picker_window.h"
 #include "qt/window/caution_window.h"
@@ -29,6 +32,15 @@ void addDialogs(QtWindows& windows, Interface& interface, Binder& binder) {
                     [&interface, &binder](QWidget* parent) { return buildScreenCaution(interface, binder, parent); });
   windows.addDialog(interface.picker.myWindow,
                     [&interface, &binder](QWidget* parent) { return buildPicker(interface.picker, binder, parent); });
+  windows.addDialog(interface.naming.styleNameWindow, [&interface, &binder](QWidget* parent) {
+    return buildNamingDialog(interface.naming, binder, parent);
+  });
+  windows.addDialog(interface.exchange.exportWindow, [&interface, &binder](QWidget* parent) {
+    return buildExportWindow(interface.exchange, binder, parent);
+  });
+  windows.addDialog(interface.connection.sslPanel, [&interface, &binder](QWidget* parent) {
+    return buildConnectionSheet(interface.connection, binder, parent);
+  });
   for (const NewDictionaryControls& controls : {controlsOf(interface.newDictionary), controlsOf(interface.picker)}) {
     windows.addDialog(controls.window, [controls, &binder](QWidget* parent) {
       return buildNewDictionaryDialog(controls, binder, parent);

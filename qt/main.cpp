@@ -1,13 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
 #include <QApplication>
+#include <chrono>
+#include <filesystem>
 #include <iostream>
+#include <thread>
 
 #include "platform/posix/instance_lock.h"
 #include "platform/posix/running_applications.h"
 #include "qt/command_line.h"
 #include "qt/guided_tour.h"
 #include "qt/look/tarvo_style.h"
+#include "qt/services/single_instance.h"
 #include "qt/shell.h"
 
 namespace tarvo {
@@ -20,14 +24,37 @@ int tell(Status status, const std::string& message) {
   return status;
 }
 
+constexpr int tries = 50;  // to enter, while another start is coming up
+constexpr std::chrono::milliseconds betweenTries(20);
+
+BusIdentity identityOf(const CommandLine& line, const Locations& locations) {
+  const auto real = [](const std::string& path) { return std::filesystem::weakly_canonical(path).string(); };
+  return {line.busName, real(locations.resolve(locations.home())), real(locations.root())};
+}
+
+// Takes the lock, or hands what this start is to do to the manager that has it: then the answer is the status to end
+// with. A manager that is coming up has the lock before its name on the bus; a lock of the console tool is soon free.
+std::optional<int> enter(std::optional<InstanceLock>& lock, const CommandLine& line, const std::string& lockFile,
+                         const BusIdentity& identity) {
+  for (int i = 0; i < tries; ++i) {
+    lock.emplace(lockFile);
+    if (lock->state() == InstanceLock::State::held) return std::nullopt;
+    const Handover handover = line.tour ? Handover::noBus : handOver(identity, {line.open, line.files});
+    if (handover == Handover::done) return done;
+    if (lock->state() == InstanceLock::State::unavailable) return std::nullopt;
+    if (handover != Handover::nobody) break;
+    std::this_thread::sleep_for(betweenTries);
+  }
+  return tell(locked, "the styles of this user are open in another program (it holds " + lockFile + ")");
+}
+
 int runManager(const CommandLine& line, int& argc, char** argv) {
   Product product(line.product);
   if (!product.problem().empty()) return tell(misused, product.problem());
-  const std::string lockFile = product.locations().resolve(lockPath(product.locations()));
-  const InstanceLock lock(lockFile);
-  if (lock.state() == InstanceLock::State::heldByAnother) {
-    return tell(locked, "the styles of this user are open in another program (it holds " + lockFile + ")");
-  }
+  const BusIdentity identity = identityOf(line, product.locations());
+  std::optional<InstanceLock> lock;
+  const auto status = enter(lock, line, product.locations().resolve(lockPath(product.locations())), identity);
+  if (status) return *status;
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("tarvo-manager"));
   QApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
@@ -35,6 +62,9 @@ int runManager(const CommandLine& line, int& argc, char** argv) {
   QGuiApplication::setApplicationDisplayName(toQString(product.texts().localized("ApplicationName")));
   applyLook(application, schemeFromEnvironment(), product.language());
   Shell shell(product, application, [&product] { return runningApplications(product.locations()); });
+  if (line.open) shell.program().requests().eventText(*line.open);
+  shell.openFiles(line.files);
+  if (!line.tour) shell.listen(identity);
   if (!shell.start()) return failed;
   if (line.tour) return takeGuidedTour(shell, product, *line.tour) ? done : failed;
   shell.run();

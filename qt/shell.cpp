@@ -33,7 +33,9 @@ Shell::Shell(Product& product, QApplication& application, std::function<std::vec
     : product_(product),
       application_(application),
       engine_(product.makeEngine(product.files())),
-      panels_([this](Window* window) { return windows_.widgetOf(*window); }, [this] { return windows_.sheetTop(); }),
+      panels_({[this](Window* window) { return windows_.widgetOf(*window); },
+               [this](Window* window) { return windows_.sheetTop(*window); },
+               [&product](const std::string& path) { return product.locations().resolve(path); }}),
       workspace_({product.locations(), product.files(), product.paths()}, std::move(running)),
       program_(product.services(product.files(), *engine_, runLoop_, panels_, windows_, workspace_)),
       binder_(product.texts(), product.bundle(), product.locations(), schemeFromEnvironment()) {
@@ -41,6 +43,8 @@ Shell::Shell(Product& product, QApplication& application, std::function<std::vec
 }
 
 Shell::~Shell() {
+  bus_.reset();
+  program_.requests().bringForward = nullptr;
   program_.manager().customizeToolbar = nullptr;
   program_.rooms().store.didWrite = nullptr;
   windows_.close();
@@ -50,6 +54,8 @@ bool Shell::start() {
   if (!program_.construct()) return false;
   windows_.open(program_.interface(), program_.windows(), binder_, paneBuilders(program_.interface(), binder_));
   addDialogs(windows_, program_.interface(), binder_);
+  windows_.mainWindow()->styleFilesDropped = [this](const std::vector<std::string>& paths) { openFiles(paths); };
+  program_.requests().bringForward = [this] { windows_.bringForward(); };
   tellUnsavedStyles();
   program_.manager().customizeToolbar = [this] {
     buildToolbarCustomise(program_.interface().manager.toolbar, binder_, windows_.mainWindow())->open();
@@ -59,6 +65,23 @@ bool Shell::start() {
   afterFirstPaint(*windows_.mainWindow(), [this] { finishLater(); });
   program_.launch();
   return true;
+}
+
+void Shell::listen(const BusIdentity& identity) {
+  RequestQueue& requests = program_.requests();
+  bus_.emplace(identity, BusRequests{[&requests](const std::string& token) {
+                                       if (!token.empty()) qputenv("XDG_ACTIVATION_TOKEN", token.c_str());
+                                       requests.activate();
+                                     },
+                                     [this](const std::vector<std::string>& paths) { openFiles(paths); },
+                                     [&requests](const std::string& code) { requests.eventText(code); },
+                                     [&requests](const auto& bytes) { requests.event(bytes); }});
+}
+
+void Shell::openFiles(const std::vector<std::string>& paths) {
+  if (paths.empty()) return;
+  program_.requests().openStyleFile(paths.front());
+  if (paths.size() > 1) panels_.beep();
 }
 
 void Shell::run() {

@@ -4,12 +4,14 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "app/product.h"
 #include "app/program.h"
 #include "qt/bind/binder.h"
+#include "qt/services/bus_service.h"
 #include "qt/services/qt_run_loop.h"
 #include "qt/services/qt_workspace.h"
 #include "qt/window/qt_panels.h"
@@ -33,6 +35,10 @@ class Shell {
   Shell(const Shell&) = delete;
   Shell& operator=(const Shell&) = delete;
 
+  // Takes requests from the session bus and, with openFiles, from this start; they wait for the end of the launch.
+  void listen(const BusIdentity& identity);
+  // One style file is opened at a time: further ones are refused with a beep.
+  void openFiles(const std::vector<std::string>& paths);
   // False: the program has ended instead.
   bool start();
   // Runs until the program ends.
@@ -54,6 +60,7 @@ class Shell {
   QtWorkspace workspace_;
   Program program_;
   Binder binder_;
+  std::optional<BusService> bus_;
 };
 
 }  // namespace tarvo

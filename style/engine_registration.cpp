@@ -2,15 +2,48 @@
 // SPDX-License-Identifier: MIT
 #include "style/engine_registration.h"
 
+#include <algorithm>
+
 #include "platform/user_defaults.h"
+#include "style/style_file.h"
 #include "style/style_keys.h"
 
 namespace tarvo {
 
+namespace {
+
+bool areStyles(const Array& styles) {
+  return std::all_of(styles.begin(), styles.end(),
+                     [](const PropertyList& style) { return style.dictionary() != nullptr && fitsStyleFile(style); });
+}
+
+}  // namespace
+
 void EngineRegistration::registerStyles(const StyleSet* styles) {
-  if (!engine_.checkConnectionWithCurl() || styles == nullptr) return;
+  if (engine_.checkConnectionWithCurl()) send(styles);
+}
+
+std::optional<Array> EngineRegistration::reconcile(const StyleSet* styles) {
+  if (!engine_.checkStyle()) {
+    send(styles);
+    return std::nullopt;
+  }
+  const std::string* stored = defaults_.string(lastUpdate);
+  std::string stamp = stored != nullptr ? *stored : std::string();
+  Array newer;
+  if (!engine_.requestStyle(newer, stamp) || !areStyles(newer)) return std::nullopt;
+  keep(stamp);
+  return newer;
+}
+
+void EngineRegistration::send(const StyleSet* styles) {
+  if (styles == nullptr) return;
   std::string stamp;
   engine_.sendRegistStyle(*styles, stamp);
+  keep(stamp);
+}
+
+void EngineRegistration::keep(const std::string& stamp) {
   defaults_.set(lastUpdate, stamp);
   defaults_.synchronize();
 }

@@ -2,22 +2,31 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+
 #include "platform/engine.h"
 
 namespace tarvo {
 
 class UserDefaults;
 
-// Hands the styles to the translation engine and remembers the stamp it gives back.
-// Duty: registration after a write of the style file. Not: deciding when; holding styles.
+// Hands the styles to the translation engine, takes newer ones from it, and remembers the stamp that it gives back.
+// Duty: the exchange after a write of the style file and at launch. Not: deciding when; holding styles.
+// styles: null when the style file holds none; a damaged file must not wipe the engine's set.
 class EngineRegistration {
  public:
   EngineRegistration(Engine& engine, UserDefaults& defaults) : engine_(engine), defaults_(defaults) {}
   // Asks whether the engine can be reached; then registers the set and stores the stamp, even an empty one, as
-  // "LastUpdate". styles: null when the style file holds none; a damaged file must not wipe the engine's set.
+  // "LastUpdate".
   void registerStyles(const StyleSet* styles);
+  // Registers the set with an engine that holds none; else asks for a set that is newer than "LastUpdate", and answers
+  // it after its stamp was stored. Nothing when there is none, or when what came is no set of styles that a style file
+  // could hold. The caller has made sure that the engine can be reached.
+  std::optional<Array> reconcile(const StyleSet* styles);
 
  private:
+  void send(const StyleSet* styles);
+  void keep(const std::string& stamp);
   Engine& engine_;
   UserDefaults& defaults_;
 };

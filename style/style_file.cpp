@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "style/style_file.h"
 
+#include "platform/plist_reader.h"
 #include "platform/plist_writer.h"
 #include "style/style_keys.h"
 
@@ -16,14 +17,19 @@ void StyleFile::recordChanged(std::size_t index) {
   if (index < encoded_.size()) encoded_[index].clear();
 }
 
-bool StyleFile::write(const Dictionary& root) {
+std::span<const std::string> StyleFile::encode(const Dictionary& root) {
   const Array* styles = root.array(keyNameStyle);
   encoded_.resize(styles != nullptr ? styles->size() : 0);
-  std::size_t size = 4096;
   for (std::size_t i = 0; i < encoded_.size(); ++i) {
     if (encoded_[i].empty()) appendValue(encoded_[i], (*styles)[i], valueDepth + 1);
-    size += encoded_[i].size();
   }
+  return encoded_;
+}
+
+bool StyleFile::write(const Dictionary& root) {
+  const Array* styles = root.array(keyNameStyle);
+  std::size_t size = 4096;
+  for (const std::string& record : encode(root)) size += record.size();
   std::string bytes;
   bytes.reserve(size);
   bytes += plistHead;
@@ -39,6 +45,11 @@ bool StyleFile::write(const Dictionary& root) {
   bytes += "</dict>\n";
   bytes += plistFoot;
   return file_.write(bytes);
+}
+
+bool fitsStyleFile(const PropertyList& record) {
+  constexpr int levelsAbove = 2;  // the root and "Style"
+  return depthOf(record) + levelsAbove <= plistMaximumDepth;
 }
 
 }  // namespace tarvo

@@ -21,15 +21,18 @@ class StyleFile {
   std::optional<Dictionary> read() { return file_.read(); }
   // False: the file is as it was.
   bool write(const Dictionary& root);
+  // Every record of the root's "Style" as it stands, or would stand, in the file; empty when that is no array.
+  std::span<const std::string> encode(const Dictionary& root);
   // The record at the index, or every record, is no longer what was written last.
   void recordChanged(std::size_t index);
   void allChanged() { encoded_.clear(); }
-  // The records of the last write, each as it stands in the file; empty when "Style" was no array.
-  std::span<const std::string> encoded() const { return encoded_; }
 
  private:
   PlistFile file_;
   std::vector<std::string> encoded_;  // by index in "Style"; an empty one has to be made anew
 };
+
+// Whether a style file that holds the record can be read back: lists within lists go only so deep.
+bool fitsStyleFile(const PropertyList& record);
 
 }  // namespace tarvo

@@ -84,12 +84,22 @@ void StyleStore::writeTarvoStylePlist() {
   saved_ = file_.write(tarvoStyle_);
   if (didWrite) didWrite();
   if (awakeFlag) return;
-  if (const Array* styles = tarvoStyle_.array(keyNameStyle)) {
-    const StyleSet set{*styles, file_.encoded()};
-    registration_.registerStyles(&set);
-  } else {
-    registration_.registerStyles(nullptr);
-  }
+  const std::optional<StyleSet> styles = styleSet();
+  registration_.registerStyles(styles ? &*styles : nullptr);
+}
+
+bool StyleStore::reconcile() {
+  const std::optional<StyleSet> styles = styleSet();
+  std::optional<Array> newer = registration_.reconcile(styles ? &*styles : nullptr);
+  if (!newer) return false;
+  replaceStyles(std::move(*newer));
+  return true;
+}
+
+std::optional<StyleSet> StyleStore::styleSet() {
+  const Array* styles = tarvoStyle_.array(keyNameStyle);
+  if (styles == nullptr) return std::nullopt;
+  return StyleSet{*styles, file_.encode(tarvoStyle_)};
 }
 
 }  // namespace tarvo

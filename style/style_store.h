@@ -45,6 +45,9 @@ class StyleStore {
   // Writes the file; then, once awake, registers all styles. A failed write registers all the same: memory is the
   // truth.
   void writeTarvoStylePlist();
+  // Lets the engine and the store agree: an engine without styles gets these, else newer ones of the engine replace
+  // them whole, unwritten. True: they were replaced, and have to be shown.
+  bool reconcile();
   bool isSaved() const { return saved_; }  // whether the last write reached the disk
   std::function<void()> didWrite;          // told after each write, before the engine is
   const std::string& path() const { return file_.path(); }
@@ -53,6 +56,7 @@ class StyleStore {
   std::string currentID;  // id of the chosen sibling tool, the key into "Selection"
 
  private:
+  std::optional<StyleSet> styleSet();
   StyleFile file_, seed_;
   EngineRegistration registration_;
   Dictionary tarvoStyle_;

@@ -79,9 +79,9 @@ def skip_reason(text):
 
 
 def environment():
-    """Nothing of the caller's product, display or clock zone reaches a test."""
+    """Nothing of the caller's product, display, proxies or clock zone reaches a test."""
     kept = {name: value for name, value in os.environ.items() if not name.startswith(("TARVO_", "GTEST_", "XDG_"))}
-    return kept | {"QT_QPA_PLATFORM": "offscreen", "UBSAN_OPTIONS": "print_stacktrace=1"}
+    return kept | {"QT_QPA_PLATFORM": "offscreen", "UBSAN_OPTIONS": "print_stacktrace=1", "no_proxy": "*"}
 
 
 def run(command, seconds=None, env=None):

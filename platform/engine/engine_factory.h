@@ -11,8 +11,13 @@ namespace tarvo {
 
 class FileService;
 
-// The engine that a configured address stands for: "none" is none, "" the local one, whose file lies at localPath.
-// Null for an address that nothing here serves.
-std::unique_ptr<Engine> makeEngine(const std::string& engineURL, FileService& files, const std::string& localPath);
+struct EnginePlaces {
+  std::string localPath;  // of the local engine's file
+  std::string netrc;      // real path of the user's credentials for style services
+};
+
+// The engine that a configured address stands for: "none" is none, "" the local one, http://… and https://… the
+// resource of this user on a style service (isHttpAddress). Null for an address that nothing here serves.
+std::unique_ptr<Engine> makeEngine(const std::string& engineURL, FileService& files, const EnginePlaces& places);
 
 }  // namespace tarvo

@@ -82,7 +82,8 @@ void EngineLocal::sendRegistStyle(const StyleSet& styles, std::string& updateStr
   files_.makeFolder(deletingLastPathComponent(file_.path()));
   // After a failed write the caller's set is newer than what the file holds, and its stamp says so: the old set must
   // not come back over it.
-  if (file_.write(encode(styles, updateString))) counter_ = next;
+  didRegister_ = file_.write(encode(styles, updateString));
+  if (didRegister_) counter_ = next;
 }
 
 bool EngineLocal::checkStyle() {

@@ -27,12 +27,15 @@ class EngineLocal : public Engine {
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override;
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
+  std::string form() const override { return "local"; }
+  bool didRegister() const override { return didRegister_; }
 
  private:
   std::optional<Dictionary> readSet();
   FileService& files_;
   PlistFile file_;
   std::optional<std::uint64_t> counter_;  // of the file, once it was read: a registration need not read it again
+  bool didRegister_ = true;
 };
 
 }  // namespace tarvo

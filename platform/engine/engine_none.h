@@ -13,6 +13,8 @@ class EngineNone : public Engine {
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override;
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
+  std::string form() const override { return "none"; }
+  bool didRegister() const override { return false; }
 };
 
 }  // namespace tarvo

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -31,15 +32,22 @@ QLayout* buildHead(Interface& interface, Binder& binder, QWidget* pane) {
     auto* shown = new QLabel(text, pane);
     shown->setBuddy(field);
     head->addWidget(shown, row, 1, Qt::AlignRight | Qt::AlignVCenter);
-    head->addWidget(field, row, 2, Qt::AlignLeft | Qt::AlignVCenter);
   };
   QWidget* icon = binder.image(interface.style.toolIcon, toolIconSide, pane);
   head->addWidget(icon, 0, 0, 2, 1, Qt::AlignCenter);
   head->setColumnMinimumWidth(0, toolIconSide + metrics::rowGap);
   QComboBox* styles = binder.popup(interface.style.stylePopup, pane);
   styles->setMinimumWidth(stylePopupWidth);
+  auto* chosen = new QHBoxLayout;
+  chosen->setSpacing(metrics::labelGap);
+  chosen->addWidget(styles);
+  chosen->addWidget(binder.button(interface.naming.StyleNameEditButton, pane));
+  chosen->addStretch();
   label(toQString(interface.style.stylePopup.label()), 0, styles);
-  label(binder.localized("Label.toolChooser"), 1, buildToolChooser(interface, binder, pane));
+  head->addLayout(chosen, 0, 2);
+  QWidget* tools = buildToolChooser(interface, binder, pane);
+  label(binder.localized("Label.toolChooser"), 1, tools);
+  head->addWidget(tools, 1, 2, Qt::AlignLeft | Qt::AlignVCenter);
   return head;
 }
 

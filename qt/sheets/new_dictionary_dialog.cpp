@@ -7,12 +7,12 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 
 #include "platform/windows.h"
 #include "qt/bind/binder.h"
 #include "qt/look/fonts.h"
 #include "qt/look/metrics.h"
+#include "qt/sheets/dialog_foot.h"
 
 namespace tarvo {
 namespace {
@@ -51,13 +51,7 @@ QDialog* buildNewDictionaryDialog(const NewDictionaryControls& controls, Binder&
   rows->addSpacing(metrics::rowGap);
   rows->addLayout(fields(controls, binder, dialog));
   rows->addSpacing(metrics::sectionGap - metrics::rowGap);
-  auto* foot = new QHBoxLayout;
-  foot->addStretch();
-  foot->addWidget(binder.button(controls.cancel, dialog));
-  QPushButton* ok = binder.button(controls.ok, dialog);
-  ok->setDefault(true);
-  foot->addWidget(ok);
-  rows->addLayout(foot);
+  rows->addLayout(buildFoot(&controls.cancel, controls.ok, binder, dialog));
   return dialog;
 }
 

@@ -15,6 +15,7 @@
 #include "qt/bind/binder.h"
 #include "qt/look/fonts.h"
 #include "qt/look/metrics.h"
+#include "qt/sheets/dialog_foot.h"
 
 namespace tarvo {
 namespace {
@@ -63,16 +64,6 @@ QLayout* buildListActions(PickerOutlets& outlets, Binder& binder, QWidget* page)
   return row;
 }
 
-QLayout* buildFoot(PickerOutlets& outlets, Binder& binder, QDialog* dialog) {
-  auto* foot = new QHBoxLayout;
-  foot->addStretch();
-  foot->addWidget(binder.button(outlets.cancelButton, dialog));
-  QPushButton* ok = binder.button(outlets.okButton, dialog);
-  ok->setDefault(true);
-  foot->addWidget(ok);
-  return foot;
-}
-
 // The keyboard goes from the filter into the list.
 void leadDown(QLineEdit& filter, QTableView& list) {
   auto* down = new QShortcut(Qt::Key_Down, &filter, nullptr, nullptr, Qt::WidgetShortcut);
@@ -112,7 +103,7 @@ QDialog* buildPicker(PickerOutlets& outlets, Binder& binder, QWidget* parent) {
   auto* rows = new QVBoxLayout(dialog);
   rows->addLayout(columns, 1);
   rows->addSpacing(metrics::sectionGap - metrics::rowGap);
-  rows->addLayout(buildFoot(outlets, binder, dialog));
+  rows->addLayout(buildFoot(&outlets.cancelButton, outlets.okButton, binder, dialog));
   return dialog;
 }
 

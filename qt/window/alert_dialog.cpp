@@ -27,8 +27,9 @@ QLabel* paragraph(const std::string& text, QWidget& dialog) {
 
 }  // namespace
 
-AlertDialog::AlertDialog(const Alert& alert, QWidget* parent)
-    : QDialog(parent), last_(static_cast<int>(alert.buttons.size()) - 1) {
+AlertDialog::AlertDialog(const Alert& alert, QWidget* parent) : QDialog(parent) {
+  const int last = static_cast<int>(alert.buttons.size()) - 1;
+  cancel_ = alert.cancelButton < 0 ? last : alert.cancelButton;
   setObjectName(QStringLiteral("alert"));
   setWindowTitle(toQString(alert.title.empty() ? alert.message : alert.title));
   auto* rows = new QVBoxLayout(this);
@@ -48,7 +49,7 @@ AlertDialog::AlertDialog(const Alert& alert, QWidget* parent)
   rows->addSpacing(metrics::rowGap);
   auto* buttons = new QHBoxLayout;
   rows->addLayout(buttons);
-  for (int i = last_; i >= 0; --i) {
+  for (int i = last; i >= 0; --i) {
     auto* button = new QPushButton(toQString(alert.buttons[static_cast<std::size_t>(i)]), this);
     button->setObjectName(QStringLiteral("alert.%1").arg(i));
     button->setAutoDefault(false);
@@ -60,6 +61,6 @@ AlertDialog::AlertDialog(const Alert& alert, QWidget* parent)
   buttons->insertStretch(0);
 }
 
-void AlertDialog::reject() { done(last_); }
+void AlertDialog::reject() { done(cancel_); }
 
 }  // namespace tarvo

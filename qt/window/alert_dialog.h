@@ -9,7 +9,8 @@
 namespace tarvo {
 
 // An alert: bold title, message, further details for who wants them, buttons.
-// The first button is the default and stands rightmost; Escape and the close box stand for the last one. The dialog's
+// The first button is the default and stands rightmost; Escape and the close box stand for the last one,
+// unless the alert names another. The dialog's
 // result is the number of the button.
 class AlertDialog : public QDialog {
  public:
@@ -17,7 +18,7 @@ class AlertDialog : public QDialog {
   void reject() override;
 
  private:
-  int last_;
+  int cancel_;  // the button that Escape presses
 };
 
 }  // namespace tarvo

@@ -3,11 +3,14 @@
 #include "qt/window/main_window.h"
 
 #include <QBoxLayout>
+#include <QDropEvent>
 #include <QEvent>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QStackedWidget>
 #include <QTimer>
+#include <QUrl>
 #include <utility>
 
 #include "app/interface.h"
@@ -17,6 +20,19 @@
 #include "qt/window/toolbar_view.h"
 
 namespace tarvo {
+
+namespace {
+
+std::vector<std::string> styleFilesIn(const QMimeData& data) {
+  std::vector<std::string> paths;
+  for (const QUrl& address : data.urls()) {
+    const QString path = address.toLocalFile();
+    if (path.endsWith(QLatin1String(".whstyle"), Qt::CaseInsensitive)) paths.push_back(path.toStdString());
+  }
+  return paths;
+}
+
+}  // namespace
 
 MainWindow::MainWindow(Interface& interface, Binder& binder, std::vector<PageBuilder> panes)
     : interface_(interface),
@@ -33,6 +49,7 @@ MainWindow::MainWindow(Interface& interface, Binder& binder, std::vector<PageBui
         panes_->setVisible(!moving);
       })) {
   binder.window(interface.manager.myWindow, *this);
+  setAcceptDrops(true);
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(0);
@@ -70,6 +87,20 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == paneArea_ && event->type() == QEvent::Resize && panes_ != nullptr && !isHiddenItself(*panes_))
     fitPane();
   return QWidget::eventFilter(watched, event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (styleFilesIn(*event->mimeData()).empty()) return;
+  event->setDropAction(Qt::CopyAction);  // the file stays where it is
+  event->accept();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  std::vector<std::string> paths = styleFilesIn(*event->mimeData());
+  if (paths.empty()) return;
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+  if (styleFilesDropped) styleFilesDropped(std::move(paths));
 }
 
 void MainWindow::fitPane() { panes_->setGeometry(paneArea_->rect()); }

@@ -35,6 +35,7 @@ class MainWindow : public QWidget {
   void setNotice(const QString& text);
 
   std::function<void()> toolbarChangedHeight;
+  std::function<void(std::vector<std::string> paths)> styleFilesDropped;  // real paths, at least one
 
  private:
   void fitPane();
@@ -51,6 +52,8 @@ class MainWindow : public QWidget {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 };
 
 }  // namespace tarvo

@@ -40,6 +40,9 @@ MenuActions::MenuActions(Interface& interface, Binder& binder, QWidget& window) 
   newJEDictionary = boundAction(makers.newJEUDMenu, binder, window);
   newEJMemory = boundAction(makers.newEJTMAMenu, binder, window);
   newJEMemory = boundAction(makers.newJETMAMenu, binder, window);
+  importStyle = boundAction(interface.exchange.importMenu, binder, window, Qt::CTRL | Qt::Key_O);
+  exportStyle = boundAction(interface.exchange.exportMenu, binder, window, Qt::CTRL | Qt::Key_E);
+  exportWindow = boundAction(interface.exchange.exportWindowMenu, binder, window, Qt::CTRL | Qt::SHIFT | Qt::Key_E);
   quit = boundAction(interface.style.quitMenu, binder, window, Qt::CTRL | Qt::Key_Q);
   styles = boundAction(manager.styleManagerMenu, binder, window, Qt::CTRL | Qt::Key_1);
   office = boundAction(manager.officeAddinMenu, binder, window, Qt::CTRL | Qt::Key_2);
@@ -47,6 +50,10 @@ MenuActions::MenuActions(Interface& interface, Binder& binder, QWidget& window) 
   showToolbar = boundAction(manager.toolbarMenu, binder, window);
   showToolbar->setCheckable(true);
   customizeToolbar = boundAction(manager.customizeToolbarMenu, binder, window);
+  help = boundAction(interface.help.helpMenu, binder, window, Qt::Key_F1);
+  homePage = boundAction(interface.help.homepageMenu, binder, window);
+  supportPage = boundAction(interface.help.supportMenu, binder, window);
+  oldDictionaryPage = boundAction(interface.help.oldTechMenu, binder, window);
   about = boundAction(manager.aboutMenu, binder, window);
 }
 
@@ -54,12 +61,14 @@ QMenuBar* buildMenuBar(const MenuActions& actions, Interface& interface, Binder&
   auto* bar = new QMenuBar(parent);
   lazyMenu(*bar, binder, "Menu.File",
            {actions.newEJDictionary, actions.newJEDictionary, nullptr, actions.newEJMemory, actions.newJEMemory,
-            nullptr, actions.quit});
+            nullptr, actions.importStyle, actions.exportStyle, actions.exportWindow, nullptr, actions.quit});
   QMenu* view =
       lazyMenu(*bar, binder, "Menu.View",
                {actions.styles, actions.office, actions.mail, nullptr, actions.showToolbar, actions.customizeToolbar});
   tickShownToolbar(*view, actions, interface);
-  lazyMenu(*bar, binder, "Menu.Help", {actions.about});
+  lazyMenu(*bar, binder, "Menu.Help",
+           {actions.help, nullptr, actions.homePage, actions.supportPage, actions.oldDictionaryPage, nullptr,
+            actions.about});
   return bar;
 }
 

@@ -15,8 +15,10 @@ class Interface;
 // The menu commands of the main window. Owned by the window, which knows their shortcuts without any menu being open.
 struct MenuActions {
   MenuActions(Interface& interface, Binder& binder, QWidget& window);
-  QAction *newEJDictionary, *newJEDictionary, *newEJMemory, *newJEMemory, *quit;
-  QAction *styles, *office, *mail, *showToolbar, *customizeToolbar, *about;
+  QAction *newEJDictionary, *newJEDictionary, *newEJMemory, *newJEMemory;
+  QAction *importStyle, *exportStyle, *exportWindow, *quit;
+  QAction *styles, *office, *mail, *showToolbar, *customizeToolbar;
+  QAction *help, *homePage, *supportPage, *oldDictionaryPage, *about;
 };
 
 // File, View and Help. The menus get their entries when they are opened for the first time.

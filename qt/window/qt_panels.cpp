@@ -8,24 +8,11 @@
 
 #include "qt/bind/binder.h"
 #include "qt/window/alert_dialog.h"
+#include "qt/window/save_sheet.h"
 #include "qt/window/sheet.h"
 
 namespace tarvo {
 namespace {
-
-// "*.whstyle" in any case of letters; all files for an empty list.
-QString nameFilter(const std::vector<std::string>& types) {
-  QStringList patterns;
-  for (const std::string& type : types) {
-    QString pattern = QStringLiteral("*.");
-    for (const QChar letter : toQString(type)) {
-      pattern +=
-          letter.isLetter() ? QStringLiteral("[%1%2]").arg(letter.toLower()).arg(letter.toUpper()) : QString(letter);
-    }
-    patterns << pattern;
-  }
-  return patterns.isEmpty() ? QString() : QStringLiteral("(%1)").arg(patterns.join(QLatin1Char(' ')));
-}
 
 std::string chosenPath(const QFileDialog& dialog) {
   const QStringList files = dialog.selectedFiles();
@@ -34,8 +21,7 @@ std::string chosenPath(const QFileDialog& dialog) {
 
 }  // namespace
 
-QtPanels::QtPanels(std::function<QWidget*(Window*)> host, std::function<int()> sheetTop)
-    : host_(std::move(host)), sheetTop_(std::move(sheetTop)) {}
+QtPanels::QtPanels(Surroundings surroundings) : surroundings_(std::move(surroundings)) {}
 
 void QtPanels::beep() { QApplication::beep(); }
 
@@ -45,17 +31,18 @@ int QtPanels::runAlertPanel(const Alert& alert) {
 }
 
 void QtPanels::beginAlertSheet(Window& host, const Alert& alert, std::function<void(int button)> ended) {
-  QWidget* below = host_(&host);
+  QWidget* below = surroundings_.host(&host);
   auto* dialog = new AlertDialog(alert, below);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   QObject::connect(dialog, &QDialog::finished, dialog, [ended = std::move(ended)](int button) { ended(button); });
-  below != nullptr ? openSheet(*dialog, *below, sheetTop_()) : dialog->open();
+  below != nullptr ? openSheet(*dialog, *below, surroundings_.sheetTop(&host)) : dialog->open();
 }
 
 std::optional<std::string> QtPanels::runOpenPanel(const OpenPanel& panel) {
   QFileDialog dialog(QApplication::activeWindow(), toQString(panel.title));
   dialog.setFileMode(panel.foldersOnly ? QFileDialog::Directory : QFileDialog::ExistingFile);
   if (panel.foldersOnly) dialog.setOption(QFileDialog::ShowDirsOnly);
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
   if (const QString filter = nameFilter(panel.types); !filter.isEmpty()) dialog.setNameFilter(filter);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return chosenPath(dialog);
@@ -63,15 +50,15 @@ std::optional<std::string> QtPanels::runOpenPanel(const OpenPanel& panel) {
 
 void QtPanels::beginSavePanel(Window& host, const SavePanel& panel,
                               std::function<void(int code, const std::string& path)> ended) {
-  auto* dialog = new QFileDialog(host_(&host), toQString(panel.title), toQString(panel.folder));
+  QWidget* below = surroundings_.host(&host);
+  SavePanel real = panel;
+  real.folder = surroundings_.realPath(panel.folder);
+  auto* dialog = new SaveSheet(real, below);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setAcceptMode(QFileDialog::AcceptSave);
-  dialog->setDefaultSuffix(toQString(panel.requiredType));
-  dialog->selectFile(toQString(panel.name));
   QObject::connect(dialog, &QDialog::finished, dialog, [dialog, ended = std::move(ended)](int code) {
-    ended(code == QDialog::Accepted ? 1 : 0, code == QDialog::Accepted ? chosenPath(*dialog) : std::string());
+    ended(code == QDialog::Accepted ? 1 : 0, code == QDialog::Accepted ? dialog->path() : std::string());
   });
-  dialog->open();
+  below != nullptr ? openSheet(*dialog, *below, surroundings_.sheetTop(&host)) : dialog->open();
 }
 
 }  // namespace tarvo

@@ -10,11 +10,16 @@ class QWidget;
 
 namespace tarvo {
 
-// Alerts and file panels as dialogs of the desktop.
+// Alerts and file panels as dialogs of the desktop; the save panel hangs in its window as sheets do.
 class QtPanels : public Panels {
  public:
-  // host: the widget of a window, null when it has none (yet). sheetTop: where sheets hang in it.
-  explicit QtPanels(std::function<QWidget*(Window*)> host, std::function<int()> sheetTop);
+  // How panels find their surroundings.
+  struct Surroundings {
+    std::function<QWidget*(Window*)> host;                    // the widget of a window, null when it has none (yet)
+    std::function<int(Window*)> sheetTop;                     // where sheets hang in it
+    std::function<std::string(const std::string&)> realPath;  // of a path in the core's spelling
+  };
+  explicit QtPanels(Surroundings surroundings);
   void beep() override;
   int runAlertPanel(const Alert& alert) override;
   void beginAlertSheet(Window& host, const Alert& alert, std::function<void(int button)> ended) override;
@@ -23,8 +28,7 @@ class QtPanels : public Panels {
                       std::function<void(int code, const std::string& path)> ended) override;
 
  private:
-  std::function<QWidget*(Window*)> host_;
-  std::function<int()> sheetTop_;
+  Surroundings surroundings_;
 };
 
 }  // namespace tarvo

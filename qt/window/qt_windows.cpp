@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "qt/window/qt_windows.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QEventLoop>
 #include <algorithm>
@@ -52,6 +53,16 @@ void QtWindows::close() {
   main_.reset();
 }
 
+void QtWindows::bringForward() {
+  if (main_ == nullptr) return;
+  main_->setWindowState(main_->windowState() & ~Qt::WindowMinimized);
+  for (QWidget* window : {static_cast<QWidget*>(main_.get()), QApplication::activeModalWidget()}) {
+    if (window == nullptr) continue;
+    window->raise();
+    window->activateWindow();
+  }
+}
+
 void QtWindows::addDialog(Window& window, DialogBuilder builder) { builders_[&window] = std::move(builder); }
 
 bool QtWindows::isMain(const Window& window) const {
@@ -64,8 +75,8 @@ QWidget* QtWindows::widgetOf(const Window& window) const {
   return built == dialogs_.end() ? nullptr : built->second.widget;
 }
 
-int QtWindows::sheetTop() const {
-  if (main_ == nullptr) return 0;
+int QtWindows::sheetTop(const Window& host) const {
+  if (!isMain(host)) return 0;
   return main_->menuHeight() + (interface_->manager.toolbar.isShown() ? main_->toolbarHeight() : 0);
 }
 
@@ -93,7 +104,7 @@ void QtWindows::show(Window& window) {
   if (shown == nullptr) return;
   const Window* host = windows_->hostOf(window);
   QWidget* below = host != nullptr ? widgetOf(*host) : nullptr;
-  below != nullptr ? openSheet(*shown, *below, below == main_.get() ? sheetTop() : 0) : shown->show();
+  below != nullptr ? openSheet(*shown, *below, sheetTop(*host)) : shown->show();
 }
 
 void QtWindows::hide(Window& window) {

@@ -35,10 +35,11 @@ class QtWindows : public WindowHost {
   // Makes the main window, not shown yet. Interface, windows and binder outlive close(), which drops every widget.
   void open(Interface& interface, Windows& windows, Binder& binder, std::vector<PageBuilder> panes);
   void close();
+  void bringForward();  // the main window, and a dialog that waits for the user above it
   void addDialog(Window& window, DialogBuilder builder);
   MainWindow* mainWindow() const { return main_.get(); }  // null unless open
   QWidget* widgetOf(const Window& window) const;          // null when it is not built
-  int sheetTop() const;                                   // where sheets hang in the main window
+  int sheetTop(const Window& host) const;                 // where sheets hang in it
 
   void show(Window& window) override;
   void hide(Window& window) override;

@@ -46,6 +46,11 @@ bool isShutOut(const QEvent& event, const QWidget& host) {
   }
 }
 
+// Events whose acceptance is an answer: yes, the window closes; yes, this can be dropped here.
+bool isAsking(QEvent::Type type) {
+  return type == QEvent::Close || type == QEvent::DragEnter || type == QEvent::DragMove || type == QEvent::Drop;
+}
+
 class Hanger : public QObject {
  public:
   Hanger(QDialog& sheet, QWidget& host, int top) : QObject(&sheet), sheet_(sheet), host_(host), top_(top) {
@@ -95,7 +100,7 @@ class Hanger : public QObject {
     }
     if (!isShutOut(event, host_)) return false;
     if (event.type() == QEvent::MouseButtonPress) takeKeyboard();
-    event.setAccepted(event.type() != QEvent::Close);
+    event.setAccepted(!isAsking(event.type()));
     return true;
   }
 

@@ -132,7 +132,7 @@ bool isStandard(std::string_view name) {
 // The library that a header in <...> belongs to; "" for those of the system, which platform/posix may use anywhere.
 std::string libraryOf(std::string_view name) {
   if (name == "expat.h" || name == "iconv.h") return std::string(name);
-  for (const std::string_view prefix : {"unicode/", "CLI/", "curl/", "nlohmann/"}) {
+  for (const std::string_view prefix : {"unicode/", "CLI/", "curl/", "openssl/", "nlohmann/"}) {
     if (name.starts_with(prefix)) return std::string(prefix);
   }
   const bool toolkit = name.size() > 1 && name[0] == 'Q' && (name[1] == 't' || (name[1] >= 'A' && name[1] <= 'Z'));

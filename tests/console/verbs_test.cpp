@@ -234,6 +234,30 @@ TEST_F(Verbs, doctorTellsWhatLiesWhere) {
   EXPECT_EQ(states.at("root:/System/Library/CoreServices/SystemVersion.plist"), Json("ok"));
 }
 
+TEST_F(Verbs, doctorNamesTheStyleServiceAndDoesNotAskIt) {
+  const auto row = [this](const std::vector<std::string>& options) {
+    const std::string out = runInEnglish([&] {
+                              std::vector<std::string> words = options;
+                              words.emplace_back("doctor");
+                              return words;
+                            }())
+                                .out;
+    const std::size_t at = out.rfind('\n', out.find("  style service "));
+    return out.substr(at + 1, out.find('\n', at + 1) - at - 1);
+  };
+  EXPECT_TRUE(row({}).starts_with("ok "));
+  EXPECT_TRUE(row({}).ends_with(" local")) << row({});
+  EXPECT_TRUE(row({"--engine", "none"}).ends_with(" none"));
+  EXPECT_TRUE(row({"--engine", "http://service.example/x"}).ends_with(" http"));
+  root_.folder().write("root/odd.plist", "<plist><dict><key>EngineURL</key><string>ftp://x</string></dict></plist>");
+  const std::string odd = row({"--paths", root_.root() + "/odd.plist"});
+  EXPECT_TRUE(odd.starts_with("problem ")) << odd;
+  EXPECT_TRUE(odd.ends_with("there is no style service of this kind")) << odd;
+  const auto states = byPath(run({"--engine", "http://service.example/x", "doctor", "--json"}).out);
+  EXPECT_EQ(states.at("home:/.netrc"), Json("missing"));
+  EXPECT_EQ(states.at("http://service.example/x"), Json("ok"));
+}
+
 TEST_F(Verbs, doctorFindsNothingMissingThatAStartMakes) {
   putStyles("root4.plist");
   run({"style", "set", "0", "Opt1=1"});

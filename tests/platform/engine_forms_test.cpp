@@ -17,12 +17,12 @@ TEST(EngineForms, theConfiguredAddressChoosesTheForm) {
   const test::TemporaryFolder folder;
   const Locations locations("/", folder.path());
   PosixFiles files(locations);
-  const auto none = makeEngine("none", files, folder / "engine.plist");
-  const auto local = makeEngine("", files, folder / "engine.plist");
+  const auto none = makeEngine("none", files, {folder / "engine.plist", folder / ".netrc"});
+  const auto local = makeEngine("", files, {folder / "engine.plist", folder / ".netrc"});
   EXPECT_NE(dynamic_cast<EngineNone*>(none.get()), nullptr);
   EXPECT_NE(dynamic_cast<EngineLocal*>(local.get()), nullptr);
   for (const char* other : {"None", " ", "file:///x", "gopher://example"}) {
-    EXPECT_EQ(makeEngine(other, files, folder / "engine.plist"), nullptr) << other;
+    EXPECT_EQ(makeEngine(other, files, {folder / "engine.plist", folder / ".netrc"}), nullptr) << other;
   }
   std::string stamp;
   local->sendRegistStyle({{}, {}}, stamp);

@@ -11,6 +11,7 @@
 #include "platform/windows.h"
 #include "qt/window/alert_dialog.h"
 #include "qt/window/qt_panels.h"
+#include "tests/support/temporary_folder.h"
 
 namespace tarvo {
 namespace {
@@ -24,7 +25,9 @@ struct PanelsTest : testing::Test {
   AlertDialog& alert() { return *dynamic_cast<AlertDialog*>(QApplication::activeModalWidget()); }
   SomeOutlets outlets;
   QWidget host;
-  QtPanels panels{[this](Window*) { return &host; }, [] { return 30; }};
+  QtPanels panels{{[this](Window*) { return &host; }, [](Window*) { return 30; },
+                   [this](const std::string& path) { return folder / path; }}};
+  test::TemporaryFolder folder;
   const Alert question{"Replace?", "The style is replaced.", {"Cancel", "Replace"}, ""};
 };
 

@@ -23,9 +23,8 @@
 namespace tarvo {
 namespace {
 
-// What the user cannot work: a button whose sheet is not there yet, and the twins of the user's lists.
-const std::set<std::string> notLaidOut{"style.StyleNameEditButton", "style.ejUDTable", "style.ejTMATable",
-                                       "style.jeUDTable", "style.jeTMATable"};
+// What the user cannot work: the twins of the user's lists.
+const std::set<std::string> notLaidOut{"style.ejUDTable", "style.ejTMATable", "style.jeUDTable", "style.jeTMATable"};
 
 // One page of the window, by the pages of the tab views on the way to it.
 struct Page {

@@ -47,7 +47,9 @@ void pressLater(int button) {
 
 QtScenarioShell::QtScenarioShell()
     : windows_(screen),
-      panels_([this](Window* window) { return windows_.widgetOf(*window); }, [this] { return windows_.sheetTop(); }) {}
+      panels_({[this](Window* window) { return windows_.widgetOf(*window); },
+               [this](Window* window) { return windows_.sheetTop(*window); },
+               [](const std::string& path) { return path; }}) {}
 
 void QtScenarioShell::programConstructed(Program& program) {
   const Services& services = program.services();

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "app/product_defaults.h"
 #include "platform/locations.h"
 #include "platform/posix/posix_files.h"
 #include "platform/product_paths.h"
@@ -83,8 +84,9 @@ TEST(QtWorkspace, startsAnApplicationByItsNameAndListsWhatRuns) {
 }
 
 TEST(CommandLine, takesValuesInBothForms) {
-  const CommandLine line = readCommandLine({"--root", "/a b", "--home=/日本", "--strings", "x", "--strings=none",
-                                            "--engine", "none", "--tour", "p", "--language=ja"});
+  const CommandLine line =
+      readCommandLine({"--root", "/a b", "--home=/日本", "--strings", "x", "--strings=none", "--engine", "none",
+                       "--tour", "p", "--language=ja", "--open", "tQB8", "--bus-name=com.example.Other"});
   EXPECT_EQ(line.problem, "");
   EXPECT_EQ(line.product.root, "/a b");
   EXPECT_EQ(line.product.home, "/日本");
@@ -92,12 +94,35 @@ TEST(CommandLine, takesValuesInBothForms) {
   EXPECT_EQ(line.product.engine, "none");
   EXPECT_EQ(line.product.language, "ja");
   EXPECT_EQ(line.tour, "p");
+  EXPECT_EQ(line.open, "tQB8");
+  EXPECT_EQ(line.busName, "com.example.Other");
   EXPECT_FALSE(line.product.paths);
+}
+
+TEST(CommandLine, takesOtherWordsAsFiles) {
+  const CommandLine line = readCommandLine({"/a/x.whstyle", "--home", "/h", "日本 1.whstyle", "--", "--odd"});
+  EXPECT_EQ(line.problem, "");
+  ASSERT_EQ(line.files.size(), 3U);
+  EXPECT_EQ(line.files[0], "/a/x.whstyle");
+  EXPECT_EQ(line.files[1], absolutePath("日本 1.whstyle"));
+  EXPECT_EQ(line.files[2], absolutePath("--odd"));
+  EXPECT_EQ(line.product.home, "/h");
+  EXPECT_EQ(line.busName, "com.wordhaven.TarvoManager");
+}
+
+TEST(CommandLine, knowsNamesOfTheBus) {
+  for (const char* name : {"none", "a.b", "com.wordhaven.TarvoManager", "_x.y-1.Z_"}) {
+    EXPECT_EQ(readCommandLine({"--bus-name", name}).problem, "") << name;
+  }
+  for (const char* name : {"", "a", ".a", "a.", "a..b", "1a.b", "a.1b", "a b.c", "日.本", ":1.5"}) {
+    EXPECT_NE(readCommandLine({"--bus-name", name}).problem, "") << name;
+  }
 }
 
 TEST(CommandLine, saysWhatItDoesNotUnderstand) {
   EXPECT_EQ(readCommandLine({"--wrong"}).problem, "unknown option --wrong");
-  EXPECT_EQ(readCommandLine({"file"}).problem, "unknown option file");
+  EXPECT_EQ(readCommandLine({"--bus-name", "a"}).problem,
+            "--bus-name is none or a name with dots, such as com.wordhaven.TarvoManager");
   EXPECT_EQ(readCommandLine({"--root"}).problem, "--root needs a value");
   EXPECT_EQ(readCommandLine({"--language", "fr"}).problem, "--language is en or ja");
   EXPECT_TRUE(readCommandLine({"--version"}).version);

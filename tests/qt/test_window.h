@@ -5,10 +5,12 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QTimer>
+#include <functional>
 #include <optional>
 
 #include "app/app_controller.h"
 #include "platform/plist_file.h"
+#include "platform/plist_writer.h"
 #include "qt/bind/in_step.h"
 #include "qt/shell.h"
 #include "qt/window/main_window.h"
@@ -24,12 +26,19 @@ class TestWindow {
   ~TestWindow() { end(); }
 
   std::string root() const { return folder / "root"; }
+  // Without the question about the style service, unless settings are on the disk or asksAboutTheService is set.
   void start(const std::string& language = "en") {
     product.emplace(ProductOptions{.root = root(),
                                    .home = root() + "/Users/taro",
                                    .language = language,
                                    .resources = TARVO_SOURCE_DIR "/resources"});
+    if (!asksAboutTheService && !folder.exists(settings)) {
+      Dictionary answered;
+      answered.set("ConnectServer", true);
+      folder.write(settings, writePropertyList(answered));
+    }
     shell.emplace(*product, *qApp, [] { return std::vector<std::string>(); });
+    if (prepare) prepare();
     started = shell->start();
     settle();
   }
@@ -56,10 +65,13 @@ class TestWindow {
     return PlistFile(product->files(), userDefaultsPath(product->locations())).read().value_or(Dictionary());
   }
 
+  static constexpr const char* settings =
+      "root/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.plist";  // in the folder
   TemporaryFolder folder;
   std::optional<Product> product;
   std::optional<Shell> shell;
-  bool started = false;
+  std::function<void()> prepare;  // called before the start, when the shell is there
+  bool started = false, asksAboutTheService = false;
 };
 
 }  // namespace tarvo::test

@@ -2,7 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <deque>
+#include <functional>
+#include <map>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/window_geometry.h"
@@ -18,6 +23,8 @@ namespace tarvo::test {
 
 using Log = std::vector<std::string>;
 
+// Alerts take the answers queued for them, else the default button; an open panel without one is cancelled. Alert
+// sheets and save panels stay up until the test ends them.
 class FakePanels : public Panels {
  public:
   explicit FakePanels(Log& log) : log_(log) {}
@@ -25,14 +32,46 @@ class FakePanels : public Panels {
   int runAlertPanel(const Alert& alert) override {
     alerts.push_back(alert);
     log_.push_back("alert " + alert.title + " / " + alert.message);
-    return 0;
+    if (whileUp) whileUp();
+    return next(buttons).value_or(0);
   }
-  void beginAlertSheet(Window&, const Alert& alert, std::function<void(int)>) override { runAlertPanel(alert); }
-  std::optional<std::string> runOpenPanel(const OpenPanel&) override { return std::nullopt; }
-  void beginSavePanel(Window&, const SavePanel&, std::function<void(int, const std::string&)>) override {}
+  void beginAlertSheet(Window& host, const Alert& alert, std::function<void(int)> ended) override {
+    alerts.push_back(alert);
+    log_.push_back("alert " + alert.title + " / " + alert.message);
+    sheetHost = &host;
+    endAlertSheet = std::move(ended);
+  }
+  std::optional<std::string> runOpenPanel(const OpenPanel& panel) override {
+    opens.push_back(panel);
+    log_.push_back("open panel");
+    if (whileUp) whileUp();
+    return next(paths);
+  }
+  void beginSavePanel(Window& host, const SavePanel& panel,
+                      std::function<void(int, const std::string&)> ended) override {
+    saves.push_back(panel);
+    log_.push_back("save panel");
+    sheetHost = &host;
+    endSavePanel = std::move(ended);
+  }
   std::vector<Alert> alerts;
+  std::vector<OpenPanel> opens;
+  std::vector<SavePanel> saves;
+  std::deque<int> buttons;
+  std::deque<std::string> paths;
+  std::function<void()> whileUp;  // runs while an alert or an open panel blocks
+  const Window* sheetHost = nullptr;
+  std::function<void(int)> endAlertSheet;
+  std::function<void(int, const std::string&)> endSavePanel;
 
  private:
+  template <class T>
+  static std::optional<T> next(std::deque<T>& queue) {
+    if (queue.empty()) return std::nullopt;
+    T first = std::move(queue.front());
+    queue.pop_front();
+    return first;
+  }
   Log& log_;
 };
 
@@ -62,38 +101,85 @@ class FakeHost : public WindowHost {
 class FakeWorkspace : public Workspace {
  public:
   void openFile(const std::string& path) override { opened.push_back(path); }
-  void openAddress(const std::string&) override {}
+  void openAddress(const std::string& address) override { addresses.push_back(address); }
   void launchApplication(const std::string&) override {}
   std::vector<std::string> launchedApplications() override { return running; }
-  std::vector<std::string> opened, running;
+  std::vector<std::string> opened, addresses, running;
 };
 
+// Posted calls run at once unless they are held until run(). Timers fire by hand, in the order of their times.
 class FakeRunLoop : public RunLoop {
  public:
-  void post(std::function<void()> call) override { call(); }
-  Timer after(double, std::function<void()>) override { return 0; }
-  void cancel(Timer) override {}
+  void post(std::function<void()> call) override { holds ? posted_.push_back(std::move(call)) : call(); }
+  Timer after(double seconds, std::function<void()> call) override {
+    timers_.emplace(now_ + seconds, std::pair(++lastTimer_, std::move(call)));
+    return lastTimer_;
+  }
+  void cancel(Timer timer) override {
+    std::erase_if(timers_, [timer](const auto& entry) { return entry.second.first == timer; });
+  }
+  // Runs what was posted, and what that posts.
+  void run() {
+    while (!posted_.empty()) {
+      const auto call = std::move(posted_.front());
+      posted_.pop_front();
+      call();
+    }
+  }
+  void advance(double seconds) {
+    now_ += seconds;
+    while (!timers_.empty() && timers_.begin()->first <= now_) {
+      const auto call = std::move(timers_.begin()->second.second);
+      timers_.erase(timers_.begin());
+      call();
+    }
+  }
+  std::size_t timers() const { return timers_.size(); }
+  std::size_t posted() const { return posted_.size(); }
+  bool holds = false;
+
+ private:
+  std::deque<std::function<void()>> posted_;
+  std::multimap<double, std::pair<Timer, std::function<void()>>> timers_;
+  double now_ = 0;
+  Timer lastTimer_ = 0;
 };
 
-// Registrations get the stamps U1, U2, … as long as it is online.
+// Registrations get the stamps U1, U2, …, reachable or not; what it holds is newer than any stamp while isNewer is set.
 class FakeEngine : public Engine {
  public:
   explicit FakeEngine(Log& log) : log_(log) {}
   bool checkConnectionWithCurl() override {
-    log_.push_back(online ? "reachable" : "unreachable");
-    return online;
+    bool answer = online;
+    if (!probes.empty()) {
+      answer = probes.front();
+      probes.pop_front();
+    }
+    log_.push_back(answer ? "reachable" : "unreachable");
+    return answer;
   }
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override {
     log_.push_back("register " + std::to_string(styles.records.size()));
+    stampsHandedIn.push_back(updateString);
     registered = styles.records;
     encoded.assign(styles.encoded.begin(), styles.encoded.end());
-    updateString = "U" + std::to_string(++count_);
+    updateString = answersStamp ? "U" + std::to_string(++count_) : "";
   }
-  bool checkStyle() override { return false; }
-  bool requestStyle(Array&, std::string&) override { return false; }
-  bool online = false;
-  Array registered;
-  std::vector<std::string> encoded;
+  bool checkStyle() override {
+    log_.push_back(holds ? "holds" : "holds none");
+    return holds;
+  }
+  bool requestStyle(Array& styles, std::string& localUpdate) override {
+    log_.push_back("request \"" + localUpdate + '"');
+    styles = held;
+    localUpdate = heldStamp;
+    return isNewer;
+  }
+  bool online = false, holds = false, isNewer = false, answersStamp = true;
+  std::deque<bool> probes;  // answered before online counts
+  Array held, registered;
+  std::string heldStamp;
+  std::vector<std::string> encoded, stampsHandedIn;
 
  private:
   Log& log_;

@@ -35,13 +35,13 @@ class TestProgram {
   FakeHost host;
   FakeEngine engine{log};
   FakeWorkspace workspace;
+  FakeRunLoop runLoop;
   std::optional<Product> product;
 
   static constexpr const char* stylePath = "Library/Preferences/Wordhaven/TarvoStyle2009.plist";
   static constexpr const char* technical = "Library/Application Support/Wordhaven/TarvoEiwa/TechDic/";
 
  private:
-  FakeRunLoop runLoop_;
   std::unique_ptr<Program> program_;
 };
 

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/app_controller.h"
+#include "app/interface.h"
+#include "app/rooms.h"
+#include "app/style_menu.h"
+#include "platform/notification_center.h"
+#include "style/caller_requests.h"
+
+// What reaches the style pane from outside: style files, the engine's styles, requests of other tools.
+namespace tarvo {
+
+namespace {
+
+// The engine is not told of writes while its own styles are shown.
+class Awakening {
+ public:
+  explicit Awakening(StyleStore& store) : store_(store) { store_.awakeFlag = true; }
+  ~Awakening() { store_.awakeFlag = false; }
+  Awakening(const Awakening&) = delete;
+  Awakening& operator=(const Awakening&) = delete;
+
+ private:
+  StyleStore& store_;
+};
+
+}  // namespace
+
+void AppController::importStyle() {
+  if (const std::optional<std::string> path = rooms_.exchange.chooseImportFile()) readImportStyle(*path);
+}
+
+bool AppController::readImportStyle(const std::string& path) {
+  const PopUpButton& stylePopup = interface_.style.stylePopup;
+  const int index = stylePopup.indexOfSelectedItem();
+  if (!rooms_.exchange.install(path, index, stylePopup.titleOfSelectedItem())) return false;
+  rooms_.display.setupStyleData2(index);
+  rooms_.lists.updateButton(0);
+  rooms_.lists.updateButton(1);
+  return true;
+}
+
+void AppController::sendPlist() {
+  if (!rooms_.store.reconcile()) return;
+  const Awakening awakening(rooms_.store);
+  fillStyleMenu(interface_.style.stylePopup, rooms_.store, services_.texts);
+  restoreTool();
+  rooms_.lists.updateButton(0);
+  rooms_.lists.updateButton(1);
+  rooms_.naming.updateStyleNameButton();
+  showFirstPages();
+}
+
+void AppController::handleAppleEvent(const std::optional<std::string>& bytes) {
+  if (const std::optional<CallerRequest> request = decodeCallerRequest(bytes, getOSVersion())) answerCaller(*request);
+}
+
+void AppController::handleCallerCode(std::string_view code) { answerCaller(callerRequestForCode(code)); }
+
+void AppController::answerCaller(const CallerRequest& request) {
+  if (!request.tool) return notifications_.post("ChangeOfficeToolbar", "style");
+  rooms_.chooser.setSelectSeg(*request.tool);
+  notifications_.post("ChangeToolbar", "style");
+}
+
+}  // namespace tarvo

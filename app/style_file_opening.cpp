@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/style_file_opening.h"
+
+#include <string_view>
+
+#include "app/app_controller.h"
+#include "app/counted_panels.h"
+#include "app/interface.h"
+#include "app/t_manager_controller.h"
+#include "platform/text_rules.h"
+#include "platform/texts.h"
+
+namespace tarvo {
+
+namespace {
+
+std::string filledIn(std::string text, const std::string& name) {
+  constexpr std::string_view place = "%@";
+  const std::size_t at = text.find(place);
+  return at == std::string::npos ? text : text.replace(at, place.size(), name);
+}
+
+}  // namespace
+
+void StyleFileOpening::openStyleFile(const std::string& path) {
+  const bool isBusy = with_.windows.modalWindow() != nullptr || with_.windows.hasSheet() || with_.panels.isAnyUp();
+  if (isBusy) return with_.panels.beep();
+  if (with_.interface.manager.myTabView.selectedPage() != 0) with_.manager.changeToolbar();
+  if (mayReplace(path)) with_.styles.readImportStyle(path);
+}
+
+bool StyleFileOpening::mayReplace(const std::string& path) {
+  const PopUpButton& stylePopup = with_.interface.style.stylePopup;
+  if (stylePopup.indexOfSelectedItem() < 0) return true;  // nothing to replace: the import tells so
+  const int button = with_.panels.runAlertPanel(
+      {.title = filledIn(with_.texts.localized("OpenImportHeader"), stylePopup.titleOfSelectedItem()),
+       .message = filledIn(with_.texts.localized("OpenImportMessage"), lastPathComponent(path)),
+       .buttons = {with_.texts.localized("OpenImport.Cancel"), with_.texts.localized("OpenImport.Replace")},
+       .cancelButton = 0});
+  return button == 1;
+}
+
+}  // namespace tarvo

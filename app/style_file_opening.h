@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace tarvo {
+
+class AppController;
+class CountedPanels;
+class Interface;
+class TManagerController;
+class Texts;
+class Windows;
+
+// A style file that came from outside: opened in the file manager, dropped on the window, named on the command line.
+// Duty: ask before a style is replaced. Not: reading the file.
+class StyleFileOpening {
+ public:
+  // Who works together here. Not owned.
+  struct Collaborators {
+    Interface& interface;
+    AppController& styles;
+    TManagerController& manager;
+    CountedPanels& panels;
+    Windows& windows;
+    const Texts& texts;
+  };
+  explicit StyleFileOpening(const Collaborators& with) : with_(with) {}
+  // Brings the style pane forward and asks whether the chosen style is to be replaced; then as from the import command.
+  // While another question or window waits for the user there is only a beep. path: in the core's spelling.
+  void openStyleFile(const std::string& path);
+
+ private:
+  bool mayReplace(const std::string& path);
+  Collaborators with_;
+};
+
+}  // namespace tarvo

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "install/help_pages.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "platform/bundle.h"
+#include "platform/product_paths.h"
+#include "platform/texts.h"
+#include "platform/workspace.h"
+
+namespace tarvo {
+
+namespace {
+
+bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
+// RFC 3986: a scheme begins with a letter; letters, digits, "+", "-" and "." follow; then comes a colon.
+bool hasScheme(const std::string& address) {
+  const std::size_t colon = address.find(':');
+  if (colon == std::string::npos || colon == 0 || !isLetter(address[0])) return false;
+  return std::all_of(address.begin(), address.begin() + static_cast<std::ptrdiff_t>(colon),
+                     [](char c) { return isLetter(c) || (c >= '0' && c <= '9') || c == '+' || c == '-' || c == '.'; });
+}
+
+}  // namespace
+
+void HelpPages::showHelp() {
+  if (const std::optional<std::string> page = bundle_.resource("index", "htm", "Help")) workspace_.openFile(*page);
+}
+
+void HelpPages::GotoRegiandSupportPage() { showIndicatePage(paths_.tarvoPathSupportURL()); }
+
+void HelpPages::GotoWordhavenPage() { showIndicatePage(paths_.tarvoPathHomepageURL()); }
+
+void HelpPages::aboutOldEtoJTech() {
+  const std::string* address = texts_.find("oldEJTech");
+  if (address != nullptr) showIndicatePage(*address);
+}
+
+void HelpPages::showIndicatePage(const std::string& address) {
+  if (hasScheme(address)) workspace_.openAddress(address);
+}
+
+}  // namespace tarvo

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "platform/engine/engine_http.h"
+
+#include <algorithm>
+#include <thread>
+#include <utility>
+
+namespace tarvo {
+namespace {
+
+using State = StyleResource::State;
+constexpr std::chrono::milliseconds firstPause{20}, longestPause{100};
+
+std::chrono::steady_clock::duration steadyNow() { return std::chrono::steady_clock::now().time_since_epoch(); }
+
+}  // namespace
+
+EngineHttp::EngineHttp(HttpPlace place, HttpTimes times, Now now)
+    : resource_(std::move(place)), times_(times), now_(now ? std::move(now) : steadyNow) {}
+
+bool EngineHttp::isSilent() const { return now_() < silentUntil_; }
+
+void EngineHttp::finish() {
+  if (resource_.takeLateness()) silentUntil_ = now_() + times_.silence;
+}
+
+// At the end of counting all sets have one revision, and another hash is newer.
+std::uint64_t EngineHttp::nextRevision() const { return std::min(known_ + 1, lastRevision); }
+
+StyleResource::Front EngineHttp::readFront(const Deadline& deadline) {
+  StyleResource::Front front = resource_.front(deadline);
+  known_ = std::max(known_, front.stamp.revision);
+  return front;
+}
+
+bool EngineHttp::checkConnectionWithCurl() {
+  if (isSilent()) return false;
+  const StyleResource::Front front = readFront(Deadline(times_.probe));
+  finish();
+  return front.state != State::unknown;
+}
+
+void EngineHttp::sendRegistStyle(const StyleSet& styles, std::string& updateString) {
+  const StylePayload payload(styles);
+  SetStamp stamp = payload.stamp(nextRevision());
+  didRegister_ = !isSilent() && keepTrying(payload, stamp, Deadline(times_.operation));
+  finish();
+  updateString = stamp.text();
+}
+
+bool EngineHttp::keepTrying(const StylePayload& payload, SetStamp& stamp, const Deadline& deadline) {
+  for (auto pause = firstPause;; pause = std::min(2 * pause, longestPause)) {
+    const StyleResource::Locking locking = resource_.lock(deadline);
+    const bool isBusy = locking == StyleResource::Locking::busy;
+    const Try result = isBusy ? Try::raced : tryToStore(payload, stamp, deadline);
+    resource_.unlock(deadline);
+    if (result != Try::raced) return result == Try::stored;
+    std::this_thread::sleep_for(std::min(pause, deadline.left()));
+  }
+}
+
+// stamp: that of the set as it is stored, or would be.
+EngineHttp::Try EngineHttp::tryToStore(const StylePayload& payload, SetStamp& stamp, const Deadline& deadline) {
+  const StyleResource::Front before = readFront(deadline);
+  stamp = payload.stamp(nextRevision());
+  if (before.state == State::unknown) return Try::failed;
+  const std::string bytes = payload.bytes(stamp.revision);
+  const StyleResource::Storing storing = resource_.store(bytes, before, deadline);
+  if (storing == StyleResource::Storing::failed) return Try::failed;
+  if (storing == StyleResource::Storing::raced) return Try::raced;
+  const StyleResource::Front after = readFront(deadline);
+  if (after.state == State::unknown) return Try::failed;
+  const bool isWhole = after.size == bytes.size() || after.size == 0;
+  return after.stamp == stamp && isWhole ? Try::stored : Try::raced;
+}
+
+bool EngineHttp::checkStyle() {
+  if (isSilent()) return true;
+  const StyleResource::Front front = readFront(Deadline(times_.operation));
+  finish();
+  return front.state != State::nothing;
+}
+
+bool EngineHttp::requestStyle(Array& styles, std::string& localUpdate) {
+  const SetStamp local = SetStamp::parse(localUpdate);
+  known_ = std::max(known_, local.revision);
+  if (isSilent()) return false;
+  const Deadline deadline(times_.operation);
+  const StyleResource::Front front = readFront(deadline);
+  std::optional<ReadPayload> set;
+  if (front.stamp.isNewerThan(local)) set = resource_.whole(deadline);
+  finish();
+  if (!set || !set->stamp.isNewerThan(local)) return false;
+  known_ = std::max(known_, set->stamp.revision);
+  styles = std::move(set->styles);
+  localUpdate = set->stamp.text();
+  return true;
+}
+
+}  // namespace tarvo

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <functional>
+
+#include "platform/engine.h"
+#include "platform/engine/style_resource.h"
+
+// The engine's style set on a server, one resource for each user (docs/engine.md).
+// Duty: the four operations within their time. Not: transport (http_client.h), the bytes (style_payload.h).
+// Every operation has a limit that its requests share. When one runs out, the service counts as unreachable and is not
+// asked for a while, so that a server that hangs stops the user once and not at each edit.
+// The stamp is that of the payload (SetStamp). What is not known is answered so that nothing is lost: a service that
+// cannot say whether it holds a set is taken to hold one, since the answer to "no" is to send ours over it; and after
+// a registration that failed or whose end is not known, the stamp handed back is that of the set as it would have been
+// stored, so that the older set of the service does not count as newer.
+namespace tarvo {
+
+struct HttpTimes {
+  using Milliseconds = std::chrono::milliseconds;
+  // A little below 1 s and 2 s: both together, with the file written before them, stop the user for at most 3 s.
+  Milliseconds probe{975}, operation{1950}, silence{30'000};
+};
+
+class EngineHttp : public Engine {
+ public:
+  // Monotonic time since whenever.
+  using Now = std::function<std::chrono::steady_clock::duration()>;
+
+  explicit EngineHttp(HttpPlace place, HttpTimes times = {}, Now now = {});
+  // Whether the service says what it holds, damaged or not.
+  bool checkConnectionWithCurl() override;
+  // Stores the set with the next revision, whatever is there; when another machine stores at the same time, again.
+  void sendRegistStyle(const StyleSet& styles, std::string& updateString) override;
+  bool checkStyle() override;
+  bool requestStyle(Array& styles, std::string& localUpdate) override;
+  std::string form() const override { return "http"; }
+  bool didRegister() const override { return didRegister_; }
+
+ private:
+  enum class Try { stored, raced, failed };
+  bool isSilent() const;
+  void finish();  // an operation: silence follows when its time ran out
+  std::uint64_t nextRevision() const;
+  StyleResource::Front readFront(const Deadline& deadline);
+  bool keepTrying(const StylePayload& payload, SetStamp& stamp, const Deadline& deadline);
+  Try tryToStore(const StylePayload& payload, SetStamp& stamp, const Deadline& deadline);
+  StyleResource resource_;
+  HttpTimes times_;
+  Now now_;
+  std::chrono::steady_clock::duration silentUntil_{};
+  std::uint64_t known_ = 0;  // the greatest revision that was seen anywhere
+  bool didRegister_ = true;
+};
+
+}  // namespace tarvo

@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "platform/engine/http_client.h"
+
+#include <curl/curl.h>
+#include <signal.h>
+
+#include <algorithm>
+#include <fstream>
+#include <utility>
+
+namespace tarvo {
+namespace {
+
+// The TLS library writes to connections that the other side has closed.
+class BrokenPipesIgnored {
+ public:
+  BrokenPipesIgnored() {
+    struct sigaction ignore {};
+    ignore.sa_handler = SIG_IGN;
+    sigaction(SIGPIPE, &ignore, &former_);
+  }
+  ~BrokenPipesIgnored() { sigaction(SIGPIPE, &former_, nullptr); }
+  BrokenPipesIgnored(const BrokenPipesIgnored&) = delete;
+  BrokenPipesIgnored& operator=(const BrokenPipesIgnored&) = delete;
+
+ private:
+  struct sigaction former_ {};
+};
+
+class HeaderList {
+ public:
+  explicit HeaderList(const std::vector<std::string>& lines) {
+    for (const std::string& line : lines) add(line);
+    add("Expect:");  // waiting for leave to send would use up the time
+  }
+  ~HeaderList() { curl_slist_free_all(list_); }
+  HeaderList(const HeaderList&) = delete;
+  HeaderList& operator=(const HeaderList&) = delete;
+  curl_slist* get() const { return list_; }
+
+ private:
+  void add(const std::string& line) {
+    if (curl_slist* longer = curl_slist_append(list_, line.c_str())) list_ = longer;
+  }
+  curl_slist* list_ = nullptr;
+};
+
+std::size_t takeBody(char* bytes, std::size_t, std::size_t size, void* answer) {
+  std::string& body = static_cast<HttpAnswer*>(answer)->body;
+  if (size > largestHttpBody - body.size()) return 0;
+  body.append(bytes, size);
+  return size;
+}
+
+std::string lowered(std::string_view text) {
+  std::string low(text);
+  for (char& c : low) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  return low;
+}
+
+std::string_view withoutBlanks(std::string_view text) {
+  constexpr std::string_view blanks = " \t\r\n";
+  const std::size_t first = text.find_first_not_of(blanks);
+  return first == std::string_view::npos ? "" : text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+std::size_t takeHeader(char* bytes, std::size_t, std::size_t size, void* answer) {
+  auto& headers = static_cast<HttpAnswer*>(answer)->headers;
+  const std::string_view line(bytes, size);
+  if (line.starts_with("HTTP/")) headers.clear();  // what came before was an interim answer or a proxy's
+  const std::size_t colon = line.find(':');
+  if (colon != std::string_view::npos) {
+    headers[lowered(line.substr(0, colon))] = withoutBlanks(line.substr(colon + 1));
+  }
+  return size;
+}
+
+}  // namespace
+
+struct HttpClient::Handle {
+  CURL* curl = curl_easy_init();
+  ~Handle() { curl_easy_cleanup(curl); }
+
+  template <class Value>
+  void set(CURLoption option, Value value) {
+    curl_easy_setopt(curl, option, value);
+  }
+  // A reset keeps the open connections.
+  void prepare(const HttpPlace& place) {
+    curl_easy_reset(curl);
+    set(CURLOPT_URL, place.address.c_str());
+    set(CURLOPT_PROTOCOLS_STR, "http,https");
+    set(CURLOPT_NOSIGNAL, 1L);
+    set(CURLOPT_QUICK_EXIT, 1L);       // a name service that hangs is not waited for either
+    if (std::ifstream(place.netrc)) {  // else there are no credentials
+      set(CURLOPT_NETRC, static_cast<long>(CURL_NETRC_REQUIRED));
+      set(CURLOPT_NETRC_FILE, place.netrc.c_str());
+    }
+    set(CURLOPT_SSL_VERIFYPEER, 1L);
+    set(CURLOPT_SSL_VERIFYHOST, 2L);
+    if (!place.authorities.empty()) set(CURLOPT_CAINFO, place.authorities.c_str());
+  }
+  void ask(const HttpRequest& request, const HeaderList& headers) {
+    set(CURLOPT_CUSTOMREQUEST, request.method.c_str());
+    set(CURLOPT_HTTPHEADER, headers.get());
+    if (request.body.empty()) return;
+    set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request.body.size()));
+    set(CURLOPT_POSTFIELDS, request.body.data());
+  }
+  void takeInto(HttpAnswer& answer) {
+    set(CURLOPT_WRITEFUNCTION, takeBody);
+    set(CURLOPT_WRITEDATA, &answer);
+    set(CURLOPT_HEADERFUNCTION, takeHeader);
+    set(CURLOPT_HEADERDATA, &answer);
+    set(CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(largestHttpBody));
+  }
+};
+
+bool isHttpAddress(std::string_view address) {
+  const std::size_t schemeEnd = address.find("://");
+  if (schemeEnd == std::string_view::npos) return false;
+  const std::string scheme = lowered(address.substr(0, schemeEnd));
+  const std::string_view rest = address.substr(schemeEnd + 3);
+  const std::string_view host = rest.substr(0, rest.find_first_of("/?#"));
+  const bool isPlain = std::none_of(address.begin(), address.end(), [](unsigned char c) { return c <= ' '; });
+  return (scheme == "http" || scheme == "https") && !host.empty() && host.find('@') == std::string_view::npos &&
+         isPlain;
+}
+
+std::string HttpAnswer::header(const std::string& name) const {
+  const auto found = headers.find(name);
+  return found == headers.end() ? "" : found->second;
+}
+
+HttpClient::HttpClient(HttpPlace place) : place_(std::move(place)), handle_(std::make_unique<Handle>()) {}
+
+HttpClient::~HttpClient() = default;
+
+HttpAnswer HttpClient::send(const HttpRequest& request, Milliseconds limit) {
+  HttpAnswer answer;
+  if (limit.count() <= 0) {
+    answer.arrival = HttpAnswer::Arrival::late;
+    return answer;
+  }
+  if (handle_->curl == nullptr || request.body.size() > largestHttpBody) return answer;
+  const BrokenPipesIgnored ignored;
+  const HeaderList headers(request.headers);
+  handle_->prepare(place_);
+  handle_->ask(request, headers);
+  handle_->takeInto(answer);
+  handle_->set(CURLOPT_TIMEOUT_MS, static_cast<long>(limit.count()));
+  const CURLcode code = curl_easy_perform(handle_->curl);
+  if (code == CURLE_OPERATION_TIMEDOUT) answer.arrival = HttpAnswer::Arrival::late;
+  if (code != CURLE_OK) return answer;
+  long status = 0;
+  curl_easy_getinfo(handle_->curl, CURLINFO_RESPONSE_CODE, &status);
+  answer.status = static_cast<int>(status);
+  answer.arrival = HttpAnswer::Arrival::whole;
+  return answer;
+}
+
+}  // namespace tarvo

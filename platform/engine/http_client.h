@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Requests to one address over HTTP/1.1 or HTTP/2 (RFC 9110), with or without TLS.
+// Duty: send one request and wait for its answer, no longer than told; keep the connection for the next one. Not: what
+// an answer means. Certificates and host names are always verified; credentials come from the user's netrc alone, never
+// from the address; no redirect is followed, so neither styles nor credentials go to a place that nobody configured.
+// Proxies as the environment names them. No signal is raised or left handled otherwise.
+namespace tarvo {
+
+struct HttpPlace {
+  std::string address;      // see isHttpAddress()
+  std::string netrc;        // real path; may be missing
+  std::string authorities;  // PEM file of the certificates to trust instead of the system's; "" for the system's
+};
+
+// Whether it begins with http:// or https://, has a host, and names neither a user nor a password.
+bool isHttpAddress(std::string_view address);
+
+struct HttpRequest {
+  std::string method;
+  std::vector<std::string> headers;  // "Name: value"
+  std::string_view body;
+};
+
+struct HttpAnswer {
+  enum class Arrival { whole, none, late };  // none: refused, broken off, not to be trusted, or too large
+  Arrival arrival = Arrival::none;
+  int status = 0;
+  std::map<std::string, std::string> headers;  // names in lower case
+  std::string body;
+
+  bool isWhole() const { return arrival == Arrival::whole; }
+  std::string header(const std::string& name) const;  // "" when there is none
+};
+
+constexpr std::size_t largestHttpBody = std::size_t{64} << 20;  // bytes that are sent or taken
+
+class HttpClient {
+ public:
+  using Milliseconds = std::chrono::milliseconds;
+
+  explicit HttpClient(HttpPlace place);
+  ~HttpClient();
+  HttpClient(const HttpClient&) = delete;
+  HttpClient& operator=(const HttpClient&) = delete;
+
+  // Blocks no longer than the limit; without any time left nothing is sent and the answer is late.
+  HttpAnswer send(const HttpRequest& request, Milliseconds limit);
+
+ private:
+  struct Handle;
+  HttpPlace place_;
+  std::unique_ptr<Handle> handle_;
+};
+
+}  // namespace tarvo

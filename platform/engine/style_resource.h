@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/engine/deadline.h"
+#include "platform/engine/http_client.h"
+#include "platform/engine/style_payload.h"
+
+// The resource in which a server keeps a user's set.
+// Duty: what can be asked of it, one request each, within the deadline given. Not: deciding what to store. Sources:
+// RFC 9110 (ranges, conditions), RFC 4918 (locks). Servers are taken as they are: an entity tag is used only in the
+// condition of a storing request, and only a strong one, since there are servers that give different sets of one
+// second the same tag, give weak tags at first, or name none for what was stored; a condition may be ignored, so a
+// set counts as stored when it was seen there. No time of the server is used.
+namespace tarvo {
+
+class StyleResource {
+ public:
+  enum class State { unknown, nothing, damaged, held };  // unknown: the server gave no answer that says it
+
+  struct Front {
+    State state = State::unknown;
+    SetStamp stamp;        // of what is held
+    std::size_t size = 0;  // of the whole payload; 0 when the server does not say
+    std::string tag;       // strong entity tag, "" for none
+  };
+  enum class Storing { done, raced, failed };  // raced: somebody else stores at the moment, or has just stored
+  enum class Locking { held, busy, notOffered };
+
+  explicit StyleResource(HttpPlace place) : client_(std::move(place)) {}
+
+  // Which set is there; a server that understands ranges sends little more than its stamp.
+  Front front(const Deadline& deadline);
+  // The set itself; nothing when there is none or it is damaged.
+  std::optional<ReadPayload> whole(const Deadline& deadline);
+  // Stores the bytes unless the resource is known to have changed since the front was read.
+  Storing store(std::string_view bytes, const Front& before, const Deadline& deadline);
+  // Keeps others from storing until unlock() or for a few seconds, where the server offers that.
+  Locking lock(const Deadline& deadline);
+  void unlock(const Deadline& deadline);
+
+  // Whether an answer came too late since this was last said.
+  bool takeLateness();
+
+ private:
+  HttpAnswer send(const HttpRequest& request, const Deadline& deadline);
+  HttpClient client_;
+  std::string lockToken_;  // "" when there is no lock
+  bool offersLocks_ = true, isLate_ = false;
+};
+
+}  // namespace tarvo

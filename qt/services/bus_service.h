@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QThread>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "qt/services/bus_names.h"
+
+namespace tarvo {
+
+// What callers can ask for.
+struct BusRequests {
+  // Before every other request too: the window comes to the front. token: the desktop's leave to do so, may be empty.
+  std::function<void(std::string token)> activate;
+  std::function<void(std::vector<std::string> paths)> openFiles;  // absolute real paths, at least one
+  std::function<void(std::string code)> openTool;
+  std::function<void(std::optional<std::string> bytes)> handleEvent;  // nothing: a request without a first item
+};
+
+// The manager on the session bus: "org.freedesktop.Application" and an interface of its own for raw requests.
+// Duty: own the name, answer each call as soon as its request is queued, hand the requests over in the order of the
+// calls. Not: acting on them. It has a thread of its own, so that no caller waits for files or for a style server.
+//
+// The requests arrive from the event loop of the thread that made the service, one at a time, also in nested loops;
+// none after its end. Without a bus, or where another manager has the name, it does nothing.
+class BusService {
+ public:
+  BusService(const BusIdentity& identity, BusRequests requests);
+  ~BusService();
+  BusService(const BusService&) = delete;
+  BusService& operator=(const BusService&) = delete;
+
+ private:
+  QObject receiver_;  // in the thread of the requests
+  QThread thread_;
+};
+
+}  // namespace tarvo

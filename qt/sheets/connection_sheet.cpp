@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "qt/sheets/connection_sheet.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QDialog>
+#include <QLabel>
+
+#include "install/connection_check.h"
+#include "qt/bind/binder.h"
+#include "qt/look/metrics.h"
+#include "qt/sheets/dialog_foot.h"
+
+namespace tarvo {
+
+QDialog* buildConnectionSheet(ConnectionOutlets& outlets, Binder& binder, QWidget* parent) {
+  auto* dialog = new QDialog(parent);
+  binder.window(outlets.sslPanel, *dialog);
+  auto* rows = new QVBoxLayout(dialog);
+  rows->setSizeConstraint(QLayout::SetFixedSize);
+  QLabel* text = binder.text(outlets.sslText, dialog);
+  text->setMinimumWidth(24 * text->fontMetrics().height());
+  rows->addWidget(text);
+  rows->addSpacing(metrics::rowGap);
+  rows->addWidget(binder.check(outlets.sslCheck, dialog));
+  rows->addSpacing(metrics::sectionGap - metrics::rowGap);
+  rows->addLayout(buildFoot(nullptr, outlets.sslOKButton, binder, dialog));
+  return dialog;
+}
+
+}  // namespace tarvo

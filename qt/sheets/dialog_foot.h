@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QDialog;
+class QLayout;
+
+namespace tarvo {
+
+class Binder;
+class Button;
+
+// The row of buttons at the foot of a dialog: the default one, which Return presses, at its right end.
+QLayout* buildFoot(Button* other, Button& first, Binder& binder, QDialog* dialog);
+
+}  // namespace tarvo

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "qt/window/save_sheet.h"
+
+#include <QDir>
+#include <QLineEdit>
+
+#include "qt/bind/binder.h"
+
+namespace tarvo {
+namespace {
+
+QString withType(const QString& name, const QString& type) {
+  const QString ending = QLatin1Char('.') + type;
+  return type.isEmpty() || name.endsWith(ending, Qt::CaseInsensitive) ? name : name + ending;
+}
+
+}  // namespace
+
+QString nameFilter(const std::vector<std::string>& types) {
+  QStringList shown, patterns;
+  for (const std::string& type : types) {
+    QString pattern = QStringLiteral("*.");
+    shown << pattern + toQString(type);
+    for (const QChar letter : toQString(type)) {
+      pattern +=
+          letter.isLetter() ? QStringLiteral("[%1%2]").arg(letter.toLower()).arg(letter.toUpper()) : QString(letter);
+    }
+    patterns << pattern;
+  }
+  if (patterns.isEmpty()) return {};
+  return QStringLiteral("%1 (%2)").arg(shown.join(QLatin1Char(' ')), patterns.join(QLatin1Char(' ')));
+}
+
+SaveSheet::SaveSheet(const SavePanel& panel, QWidget* parent)
+    : QFileDialog(parent, toQString(panel.title), toQString(panel.folder)), type_(toQString(panel.requiredType)) {
+  setObjectName(QStringLiteral("savePanel"));
+  setOption(DontUseNativeDialog);  // which would be a window of its own
+  setOption(HideNameFilterDetails);
+  setAcceptMode(AcceptSave);
+  setFileMode(AnyFile);
+  if (!panel.requiredType.empty()) setNameFilter(nameFilter({panel.requiredType}));
+  selectFile(withType(toQString(panel.name), type_));
+}
+
+std::string SaveSheet::path() const {
+  const QStringList files = selectedFiles();
+  return files.isEmpty() ? std::string() : files.first().toStdString();
+}
+
+// A folder's name leads into the folder.
+void SaveSheet::accept() {
+  auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  if (name != nullptr && !name->text().isEmpty() && !QDir(directory().absoluteFilePath(name->text())).exists()) {
+    name->setText(withType(name->text(), type_));
+  }
+  QFileDialog::accept();
+}
+
+}  // namespace tarvo

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/controls.h"
+#include "platform/windows.h"
+
+// Styles as files of their own ("*.whstyle"): a property list whose root is one record of the style file.
+// Duty: check such a file and put it in a style's place; ask where to export and write. Not: showing what came in.
+// Paths of panels are the user's; every other path is in the core's spelling.
+namespace tarvo {
+
+class FileService;
+class Locations;
+class PaneAlerts;
+class Panels;
+class StyleStore;
+class Texts;
+
+struct ExportOutlets : Outlets {
+  Window exportWindow{*this, "exportWindow"};
+  PopUpButton exportStylePopup{*this, "exportStylePopup"};
+  Button exportButton{*this, "exportButton"}, exportCloseButton{*this, "exportCloseButton"};
+  MenuItem importMenu{*this, "importMenu"}, exportMenu{*this, "exportMenu"},
+      exportWindowMenu{*this, "exportWindowMenu"};
+  ExportOutlets() : Outlets("style") {}
+};
+
+class StyleExchange {
+ public:
+  // Who works together here. Not owned.
+  struct Collaborators {
+    ExportOutlets& outlets;
+    const PopUpButton& stylePopup;
+    Window& myWindow;  // the main window
+    StyleStore& store;
+    FileService& files;
+    Locations& locations;
+    Panels& panels;
+    PaneAlerts& alerts;
+    Windows& windows;
+    const Texts& texts;
+  };
+  explicit StyleExchange(const Collaborators& with) : with_(with) {}
+
+  // Asks for one style file; nothing when the user cancels.
+  std::optional<std::string> chooseImportFile();
+  // Reads the file and puts it in the place of the style at the index, under the title; one write. False after an
+  // alert: the file is no style, or its options are out of range, or no style stands there, and nothing has changed.
+  bool install(const std::string& path, int index, const std::string& title);
+
+  // Asks where to export the chosen style.
+  void exportStyle();
+  // Runs the export window, whose menu lists every record, dividers too, as an ordinary item.
+  void exportStyle2();
+  // Asks where to export. The window's choice only proposes the name of the file; what is written is always the style
+  // chosen in the pane.
+  void exportButtonAction();
+  void closeExportWindow();
+
+ private:
+  void askWhereToExport(int index, Window& host);
+  void didEndSaveSheet(int returnCode, const std::string& path);
+  void tellThatNothingWasExported();
+  Collaborators with_;
+};
+
+}  // namespace tarvo

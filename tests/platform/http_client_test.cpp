@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "platform/engine/http_client.h"
+
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+#include <netdb.h>
+
+#include <csignal>
+#include <thread>
+
+#include "tests/support/scripted_server.h"
+#include "tests/support/temporary_folder.h"
+
+namespace {
+constexpr const char* slowName = "slow.invalid";
+}
+
+// The system's name service, but for one name whose server does not answer for a while.
+extern "C" int getaddrinfo(const char* name, const char* service, const addrinfo* hints, addrinfo** found) {
+  if (name != nullptr && std::string_view(name) == slowName) {
+    std::this_thread::sleep_for(std::chrono::seconds(5));
+    return EAI_AGAIN;
+  }
+  static const auto system = reinterpret_cast<decltype(&getaddrinfo)>(dlsym(RTLD_NEXT, "getaddrinfo"));
+  return system(name, service, hints, found);
+}
+
+namespace tarvo {
+namespace {
+
+using namespace std::chrono_literals;
+using test::Reply;
+using test::ScriptedServer;
+using test::SeenRequest;
+using Arrival = HttpAnswer::Arrival;
+
+TEST(HttpAddress, isHttpWithAHostAndWithoutCredentials) {
+  for (const char* address : {"http://a", "https://a/b.plist", "HTTP://a:80/", "http://[::1]:8080/x", "http://a/b@c"}) {
+    EXPECT_TRUE(isHttpAddress(address)) << address;
+  }
+  for (const char* address : {"", "http", "http://", "https:///b", "ftp://a", "file:///a", "http:/a", "a/b",
+                              " http://a", "http://user:word@a/b", "http://user@a", "http://a b", "http://a\n"}) {
+    EXPECT_FALSE(isHttpAddress(address)) << address;
+  }
+}
+
+TEST(HttpClient, sendsAndReceivesWhatItIsTold) {
+  const ScriptedServer server([](const SeenRequest& request) {
+    return Reply{207, {"X-Name:  a value "}, request.method + request.header("depth") + request.body};
+  });
+  HttpClient client({server.address("/a%20b"), "", ""});
+  const std::string body("\0\xff<&>", 5);
+  const HttpAnswer answer = client.send({"PROPFIND", {"Depth: 0"}, body}, 10s);
+  EXPECT_TRUE(answer.isWhole());
+  EXPECT_EQ(answer.status, 207);
+  EXPECT_EQ(answer.header("x-name"), "a value");
+  EXPECT_EQ(answer.header("x-other"), "");
+  EXPECT_EQ(answer.body, "PROPFIND0" + body);
+  EXPECT_EQ(server.requests()[0].path, "/a%20b");
+  EXPECT_TRUE(client.send({"GET", {}, {}}, 10s).isWhole());
+  EXPECT_EQ(server.requests()[1].method, "GET");
+  EXPECT_EQ(server.requests()[1].body, "");
+  EXPECT_EQ(server.connections(), 1);
+}
+
+TEST(HttpClient, aKeptConnectionThatTheServerEndedIsReplaced) {
+  int count = 0;
+  const ScriptedServer server([&](const SeenRequest&) {
+    return Reply{200, {}, "x", Reply::Way(++count == 2 ? 5 : 0)};
+  });
+  HttpClient client({server.address(), "", ""});
+  EXPECT_TRUE(client.send({"PUT", {}, "one"}, 10s).isWhole());
+  EXPECT_TRUE(client.send({"PUT", {}, "two"}, 10s).isWhole());
+  EXPECT_EQ(server.requests().back().body, "two");
+  EXPECT_EQ(server.connections(), 2);
+}
+
+TEST(HttpClient, credentialsComeFromTheUsersNetrcOnly) {
+  const ScriptedServer server([](const SeenRequest& request) {
+    return Reply{200, {}, request.header("authorization")};
+  });
+  const test::TemporaryFolder home;
+  home.write(".netrc", "machine elsewhere login x password y\nmachine 127.0.0.1 login taro password pass-word\n");
+  EXPECT_EQ(HttpClient({server.address(), home / ".netrc", ""}).send({"GET", {}, {}}, 10s).body,
+            "Basic dGFybzpwYXNzLXdvcmQ=");
+  home.write("other", "machine elsewhere login x password y\n");
+  for (const char* netrc : {"other", "missing"}) {
+    const HttpAnswer answer = HttpClient({server.address(), home / netrc, ""}).send({"GET", {}, {}}, 10s);
+    EXPECT_TRUE(answer.isWhole()) << netrc;
+    EXPECT_EQ(answer.body, "") << netrc;
+  }
+}
+
+TEST(HttpClient, aRedirectionIsAnAnswerLikeAnyOther) {
+  const ScriptedServer other([](const SeenRequest&) { return Reply{}; });
+  const ScriptedServer server([&](const SeenRequest&) { return Reply{302, {"Location: " + other.address()}, ""}; });
+  EXPECT_EQ(HttpClient({server.address(), "", ""}).send({"GET", {}, {}}, 10s).status, 302);
+  EXPECT_TRUE(other.requests().empty());
+}
+
+TEST(HttpClient, bodiesThatAreTooLargeAreNotTaken) {
+  const ScriptedServer server([](const SeenRequest&) { return Reply{200, {}, std::string(largestHttpBody + 1, 'x')}; });
+  HttpClient client({server.address(), "", ""});
+  EXPECT_EQ(client.send({"GET", {}, {}}, 60s).arrival, Arrival::none);
+  EXPECT_EQ(client.send({"PUT", {}, std::string(largestHttpBody + 1, 'x')}, 60s).arrival, Arrival::none);
+  EXPECT_EQ(server.requests().size(), 1U);
+}
+
+TEST(HttpClient, withoutTimeNothingIsSent) {
+  const ScriptedServer server([](const SeenRequest&) { return Reply{}; });
+  EXPECT_EQ(HttpClient({server.address(), "", ""}).send({"GET", {}, {}}, 0ms).arrival, Arrival::late);
+  EXPECT_TRUE(server.requests().empty());
+}
+
+TEST(HttpClient, aNameServiceThatHangsIsNotWaitedFor) {
+  const auto start = std::chrono::steady_clock::now();
+  HttpAnswer answer;
+  {
+    HttpClient client({std::string("http://") + slowName + "/", "", ""});
+    answer = client.send({"GET", {}, {}}, 100ms);
+  }
+  EXPECT_EQ(answer.arrival, Arrival::late);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, 4s) << "the answer would come after 5 s";
+}
+
+TEST(HttpClient, leavesTheHandlingOfSignalsAsItWas) {
+  const ScriptedServer server([](const SeenRequest&) { return Reply{}; });
+  const auto mine = [](int) {};
+  std::signal(SIGPIPE, mine);
+  HttpClient({server.address(), "", ""}).send({"GET", {}, {}}, 10s);
+  EXPECT_EQ(std::signal(SIGPIPE, SIG_DFL), static_cast<void (*)(int)>(mine));
+}
+
+}  // namespace
+}  // namespace tarvo

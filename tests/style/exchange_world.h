@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/locations.h"
+#include "platform/plist_writer.h"
+#include "platform/texts.h"
+#include "platform/user_defaults.h"
+#include "style/pane_alerts.h"
+#include "style/style_exchange.h"
+#include "style/style_store.h"
+#include "tests/support/fake_shell.h"
+#include "tests/support/memory_files.h"
+
+namespace tarvo::test {
+
+struct PaneOutlets : Outlets {
+  PopUpButton stylePopup{*this, "stylePopup"};
+  Window myWindow{*this, "myWindow"};
+  PaneOutlets() : Outlets("style") {}
+};
+
+// A complete style as it comes in a file, with a key that the manager does not know.
+inline Dictionary importedStyle() {
+  Dictionary ej, je, style;
+  for (const char* key : {"Opt1", "Opt2", "Opt3"}) ej.set(key, 1);
+  ej.set("TD", Array{"d.TRet"});
+  for (const char* key : {"TOpt1", "TOpt2", "TOpt3"}) je.set(key, 2);
+  je.set("TOpt4", false);
+  je.set("TOpt5", 1);
+  je.set("TD", Array{"j3.TRet"});
+  je.set("PARS_SAHEN", "past");
+  style.set("Name", "Imported");
+  style.set("ID", 99);
+  style.set("EJ", ej);
+  style.set("JE", je);
+  style.set("K", "v");
+  return style;
+}
+
+// Import and export over a disk in memory, after the start; the product's root is "/product", the home below it.
+struct ExchangeWorld {
+  void open(const Dictionary& root) {
+    files.put("/styles.plist", writePropertyList(root));
+    store.readUserStyles();
+    store.awakeFlag = false;
+    std::vector<PopUpButton::Item> items;
+    if (const Array* styles = root.array("Style")) {
+      for (const PropertyList& style : *styles) items.push_back({*style.dictionary()->string("Name"), 0});
+    }
+    pane.stylePopup.setItems(std::move(items));
+  }
+
+  Log log;
+  MemoryFiles files;
+  FakeEngine engine{log};
+  FakePanels panels{log};
+  FakeHost host;
+  Texts texts;
+  Locations locations{"/product", "/product/Users/taro"};
+  UserDefaults defaults{files, "/defaults.plist"};
+  StyleStore store{files, engine, defaults, "/styles.plist", "/seed.plist"};
+  PaneOutlets pane;
+  ExportOutlets outlets;
+  PaneAlerts alerts{panels, texts};
+  Windows windows{host};
+  StyleExchange exchange{
+      {outlets, pane.stylePopup, pane.myWindow, store, files, locations, panels, alerts, windows, texts}};
+};
+
+}  // namespace tarvo::test
