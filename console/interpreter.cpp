@@ -84,6 +84,9 @@ void Interpreter::finish() {
   const int line = static_cast<int>(lines_.size());
   if (session_.panels().hasAnswers()) fail(line, "an answer is left over");
   if (!session_.hasProgram()) return;
+  if (const Window* host = session_.panels().savePanelHost()) {
+    fail(line, "the script ends with a save panel over " + host->name());
+  }
   Program& program = session_.program();
   if (const Window* modal = program.windows().modalWindow()) {
     fail(line, "the script ends inside the modal run of " + modal->name());
@@ -108,7 +111,9 @@ Control& Interpreter::control(const std::string& name) const {
 
 Control& Interpreter::reachable(const std::string& name) const {
   Control& found = control(name);
-  if (!session_.program().windows().isReachable(found)) throw NotReachable(name + " is not reachable");
+  const Window* covered = session_.panels().savePanelHost();
+  const bool isCovered = covered != nullptr && found.window() == covered;
+  if (isCovered || !session_.program().windows().isReachable(found)) throw NotReachable(name + " is not reachable");
   return found;
 }
 

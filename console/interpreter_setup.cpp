@@ -36,11 +36,22 @@ void post(Interpreter& interpreter, ScriptLine& line) {
 }
 
 void answer(Interpreter& interpreter, ScriptLine& line) {
-  const std::string kind = takeWord(line, "alert");
-  if (kind != "alert") throw ScriptError("there is no answer to " + kind);
-  const int button = takeInteger(line, "a button");
-  takeEnd(line);
-  interpreter.session().panels().answerAlert(button - 1);
+  ScriptedPanels& panels = interpreter.session().panels();
+  const std::string kind = takeWord(line, "open, save, cancel or alert");
+  if (kind == "alert") {
+    const int button = takeInteger(line, "a button");
+    takeEnd(line);
+    panels.answerAlert(button - 1);
+  } else if (kind == "cancel") {
+    takeEnd(line);
+    panels.answerCancel();
+  } else if (kind == "open" || kind == "save") {
+    const std::string path = interpreter.session().path(takeWord(line, "a path"));
+    takeEnd(line);
+    kind == "open" ? panels.answerOpen(path) : panels.answerSave(path);
+  } else {
+    throw ScriptError("there is no answer to " + kind);
+  }
 }
 
 void advance(Interpreter& interpreter, ScriptLine& line) {

@@ -57,6 +57,7 @@ void ScenarioSession::start() {
   recorder_.observe(*program_);
   program_->didTerminate = [this] {
     recorder_.note({{"terminated", true}});
+    panels_.dropSavePanel();
     phase_ = Phase::terminated;
   };
   shell_.programMade(*program_);
@@ -68,6 +69,7 @@ void ScenarioSession::start() {
 
 void ScenarioSession::drop() {
   if (!program_) return;
+  panels_.dropSavePanel();
   shell_.programEnds(*program_);
   constructed_ = false;
   program_.reset();

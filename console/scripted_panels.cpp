@@ -2,10 +2,23 @@
 // SPDX-License-Identifier: MIT
 #include "console/scripted_panels.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "console/recorder.h"
 #include "console/scenario_shell.h"
+#include "platform/text_rules.h"
 
 namespace tarvo {
+
+namespace {
+
+std::string withRequiredType(std::string path, const std::string& type) {
+  if (type.empty() || equalIgnoringCase(pathExtension(lastPathComponent(path)), type)) return path;
+  return path + '.' + type;
+}
+
+}  // namespace
 
 void ScriptedPanels::beep() { recorder_.note({{"beep", true}}); }
 
@@ -49,15 +62,65 @@ void ScriptedPanels::beginAlertSheet(Window& host, const Alert& alert, std::func
   });
 }
 
-std::optional<std::string> ScriptedPanels::runOpenPanel(const OpenPanel& panel) {
-  fail("nothing answers the open panel \"" + panel.title + '"');
-  return std::nullopt;
+void ScriptedPanels::answerOpen(std::string path) { files_.push_back({Kind::open, std::move(path)}); }
+
+void ScriptedPanels::answerSave(std::string path) {
+  if (up_) return endSavePanel(std::move(path));
+  files_.push_back({Kind::save, std::move(path)});
 }
 
-void ScriptedPanels::beginSavePanel(Window&, const SavePanel& panel,
+void ScriptedPanels::answerCancel() {
+  if (up_) return endSavePanel(std::nullopt);
+  files_.push_back({std::nullopt, std::nullopt});
+}
+
+std::optional<ScriptedPanels::FileAnswer> ScriptedPanels::takeAnswer(Kind kind) {
+  const auto found = std::find_if(files_.begin(), files_.end(),
+                                  [kind](const FileAnswer& answer) { return answer.kind.value_or(kind) == kind; });
+  if (found == files_.end()) return std::nullopt;
+  FileAnswer answer = std::move(*found);
+  files_.erase(found);
+  return answer;
+}
+
+Json ScriptedPanels::shown(const std::optional<std::string>& path) const {
+  return path ? Json(recorder_.shown(*path)) : Json();
+}
+
+std::optional<std::string> ScriptedPanels::runOpenPanel(const OpenPanel& panel) {
+  const std::optional<FileAnswer> answer = takeAnswer(Kind::open);
+  if (!answer) {
+    fail("nothing answers the open panel \"" + panel.title + '"');
+    return std::nullopt;
+  }
+  Json::Object event{{"kind", panel.foldersOnly ? "folder" : "open"}, {"answer", shown(answer->path)}};
+  if (!panel.title.empty()) event.emplace("title", panel.title);
+  if (!panel.types.empty()) event.emplace("types", Json::List(panel.types.begin(), panel.types.end()));
+  recorder_.note({{"panel", std::move(event)}});
+  return answer->path;
+}
+
+void ScriptedPanels::beginSavePanel(Window& host, const SavePanel& panel,
                                     std::function<void(int code, const std::string& path)> handler) {
-  fail("nothing answers the save panel \"" + panel.title + '"');
-  handler(0, "");
+  if (up_ && up_->host == &host) return;  // a window has one sheet
+  std::optional<FileAnswer> answer = takeAnswer(Kind::save);
+  if (answer && answer->path) answer->path = withRequiredType(std::move(*answer->path), panel.requiredType);
+  Json::Object event{{"kind", "save"}, {"over", host.name()}};
+  if (answer) event.emplace("answer", shown(answer->path));
+  if (!panel.title.empty()) event.emplace("title", panel.title);
+  if (!panel.requiredType.empty()) event.emplace("types", Json::List{panel.requiredType});
+  if (!panel.folder.empty()) event.emplace("folder", recorder_.shown(panel.folder));
+  if (!panel.name.empty()) event.emplace("name", panel.name);
+  recorder_.note({{"panel", std::move(event)}});
+  if (answer) return handler(answer->path ? 1 : 0, answer->path.value_or(""));
+  up_ = UpPanel{&host, panel.requiredType, std::move(handler)};
+}
+
+void ScriptedPanels::endSavePanel(std::optional<std::string> path) {
+  const UpPanel ended = *std::exchange(up_, std::nullopt);
+  if (path) path = withRequiredType(std::move(*path), ended.requiredType);
+  recorder_.note({{"panelEnded", "save"}, {"answer", shown(path)}});
+  ended.handler(path ? 1 : 0, path.value_or(""));
 }
 
 }  // namespace tarvo

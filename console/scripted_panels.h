@@ -3,8 +3,10 @@
 #pragma once
 
 #include <deque>
+#include <optional>
 #include <string>
 
+#include "console/json.h"
 #include "platform/panels.h"
 
 namespace tarvo {
@@ -13,14 +15,23 @@ class Recorder;
 class ScenarioShell;
 
 // Alerts and panels whose answers the script has queued. An alert without an answer is answered by its default button.
-// A file panel that no line answers, and an answer that names no button, fail the script: see failure().
+// A save panel takes a queued answer at once, else it stays up as a sheet until the script answers it; its window is
+// covered so long. An open panel that no line answers, and an answer that names no button, fail the script: see
+// failure().
 class ScriptedPanels : public Panels {
  public:
   ScriptedPanels(Recorder& recorder, ScenarioShell& shell) : recorder_(recorder), shell_(shell) {}
   void answerAlert(int button) { alerts_.push_back(button); }  // 0 the first
-  bool hasAnswers() const { return !alerts_.empty(); }
+  void answerOpen(std::string path);
+  // For the save panel that is up, else for the next one. The panel adds its type to a path that lacks it.
+  void answerSave(std::string path);
+  // For the save panel that is up, else for the next open or save panel.
+  void answerCancel();
+  bool hasAnswers() const { return !alerts_.empty() || !files_.empty(); }
   bool isAlertUp() const { return alertsUp_ > 0; }
-  const std::string& failure() const { return failure_; }  // the first one, "" without
+  const Window* savePanelHost() const { return up_ ? up_->host : nullptr; }  // null when none stays up
+  void dropSavePanel() { up_.reset(); }                                      // its program is gone
+  const std::string& failure() const { return failure_; }                    // the first one, "" without
 
   void beep() override;
   int runAlertPanel(const Alert& alert) override;
@@ -30,11 +41,26 @@ class ScriptedPanels : public Panels {
                       std::function<void(int code, const std::string& path)> handler) override;
 
  private:
+  enum class Kind { open, save };
+  struct FileAnswer {
+    std::optional<Kind> kind;         // nothing: either
+    std::optional<std::string> path;  // nothing: cancelled
+  };
+  struct UpPanel {
+    const Window* host;
+    std::string requiredType;
+    std::function<void(int code, const std::string& path)> handler;
+  };
   int nextAnswer(const Alert& alert, const Window* host);
+  std::optional<FileAnswer> takeAnswer(Kind kind);
+  void endSavePanel(std::optional<std::string> path);
+  Json shown(const std::optional<std::string>& path) const;
   void fail(std::string reason);
   Recorder& recorder_;
   ScenarioShell& shell_;
   std::deque<int> alerts_;
+  std::deque<FileAnswer> files_;
+  std::optional<UpPanel> up_;
   std::string failure_;
   int alertsUp_ = 0;
 };

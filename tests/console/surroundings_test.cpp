@@ -139,11 +139,92 @@ TEST_F(Surroundings, anAlertSheetNamesItsWindow) {
             "\"title\":\"T\"}}\n");
 }
 
-TEST_F(Surroundings, aFilePanelWithoutAnAnswerFailsTheScript) {
+TEST_F(Surroundings, anOpenPanelWithoutAnAnswerFailsTheScript) {
   MemoryShell shell;
   ScriptedPanels panels(recorder_, shell);
+  panels.answerSave("/other/x");
   EXPECT_FALSE(panels.runOpenPanel({"Import", {}, false}));
   EXPECT_EQ(panels.failure(), "nothing answers the open panel \"Import\"");
+}
+
+TEST_F(Surroundings, openPanelsTakeTheirAnswersInOrder) {
+  MemoryShell shell;
+  ScriptedPanels panels(recorder_, shell);
+  panels.answerSave("/home/for a save panel");
+  panels.answerOpen("/home/a.x");
+  panels.answerCancel();
+  panels.answerOpen("/b");
+  EXPECT_EQ(panels.runOpenPanel({"T", {"x"}, false}), "/home/a.x");
+  EXPECT_EQ(panels.runOpenPanel({"", {}, false}), std::nullopt);
+  EXPECT_EQ(panels.runOpenPanel({"F", {}, true}), "/b");
+  EXPECT_TRUE(panels.hasAnswers());
+  EXPECT_EQ(log(),
+            "{\"panel\":{\"answer\":\"home:/a.x\",\"kind\":\"open\",\"title\":\"T\",\"types\":[\"x\"]}}\n"
+            "{\"panel\":{\"answer\":null,\"kind\":\"open\"}}\n"
+            "{\"panel\":{\"answer\":\"root:/b\",\"kind\":\"folder\",\"title\":\"F\"}}\n");
+}
+
+class SavePanels : public Surroundings {
+ protected:
+  struct Outlet : Outlets {
+    Window window{*this, "myWindow"}, other{*this, "other"};
+    Outlet() : Outlets("manager") {}
+  } outlets_;
+  MemoryShell shell_;
+  ScriptedPanels panels_{recorder_, shell_};
+  std::string ended_;
+  void begin(Window& host) {
+    panels_.beginSavePanel(host, {"", "whstyle", "/home", "Beta"},
+                           [this](int code, const std::string& path) { ended_ += std::to_string(code) + path + ';'; });
+  }
+};
+
+TEST_F(SavePanels, takeAQueuedAnswerAtOnceAndAddTheirType) {
+  panels_.answerOpen("/for an open panel");
+  panels_.answerSave("/home/a.b");
+  panels_.answerCancel();
+  panels_.answerSave("/x.WHStyle");
+  for (int i = 0; i < 3; ++i) begin(outlets_.window);
+  EXPECT_EQ(panels_.savePanelHost(), nullptr);
+  EXPECT_EQ(ended_, "1/home/a.b.whstyle;0;1/x.WHStyle;");
+  const std::string rest =
+      R"("folder":"home:/","kind":"save","name":"Beta","over":"manager.myWindow","types":["whstyle"]}})"
+      "\n";
+  EXPECT_EQ(log(), "{\"panel\":{\"answer\":\"home:/a.b.whstyle\"," + rest + "{\"panel\":{\"answer\":null," + rest +
+                       "{\"panel\":{\"answer\":\"root:/x.WHStyle\"," + rest);
+}
+
+TEST_F(SavePanels, stayUpUntilTheyAreAnswered) {
+  begin(outlets_.window);
+  EXPECT_EQ(panels_.savePanelHost(), &outlets_.window);
+  EXPECT_EQ(log(),
+            R"({"panel":{"folder":"home:/","kind":"save","name":"Beta","over":"manager.myWindow","types":["whstyle"]}})"
+            "\n");
+  panels_.answerSave("/x/Beta");
+  EXPECT_EQ(panels_.savePanelHost(), nullptr);
+  EXPECT_EQ(ended_, "1/x/Beta.whstyle;");
+  EXPECT_EQ(log(), "{\"answer\":\"root:/x/Beta.whstyle\",\"panelEnded\":\"save\"}\n");
+  begin(outlets_.other);
+  panels_.answerCancel();
+  EXPECT_EQ(ended_, "1/x/Beta.whstyle;0;");
+  EXPECT_NE(log().find("{\"answer\":null,\"panelEnded\":\"save\"}"), std::string::npos);
+  EXPECT_FALSE(panels_.hasAnswers());
+}
+
+TEST_F(SavePanels, aWindowHasOneAtATime) {
+  begin(outlets_.window);
+  log();
+  begin(outlets_.window);
+  EXPECT_EQ(log(), "");
+  panels_.answerCancel();
+  EXPECT_EQ(ended_, "0;");
+}
+
+TEST_F(SavePanels, goWithTheirProgram) {
+  begin(outlets_.window);
+  panels_.dropSavePanel();
+  EXPECT_EQ(panels_.savePanelHost(), nullptr);
+  EXPECT_EQ(ended_, "");
 }
 
 TEST_F(Surroundings, theDesktopIsOnlyNoted) {
