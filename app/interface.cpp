@@ -24,6 +24,7 @@ void Interface::connect(Rooms& rooms, const Texts& texts) {
   listRows(rooms, texts);
   userListRows(rooms);
   managerRows(rooms, texts);
+  addinRows(rooms, texts);
   menuRows(rooms, texts);
   pickerRows(rooms, texts);
   sheetRows(rooms, texts);
@@ -48,7 +49,7 @@ void Interface::apply(const Texts& texts) {
 std::vector<Control*> Interface::controls() const {
   std::vector<Control*> all;
   const std::initializer_list<const Outlets*> structs{&style,  &options, &lists, &userLists, &newDictionary,
-                                                      &naming, &manager, &tools, &picker};
+                                                      &naming, &manager, &tools, &addins,    &picker};
   for (const Outlets* outlets : structs) {
     all.insert(all.end(), outlets->controls().begin(), outlets->controls().end());
   }

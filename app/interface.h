@@ -11,6 +11,7 @@
 #include "dict/new_dictionary.h"
 #include "dict/tech_dic_controller.h"
 #include "dict/user_list_rows.h"
+#include "install/addin_outlets.h"
 #include "install/tool_list_file.h"
 #include "platform/controls.h"
 #include "platform/windows.h"
@@ -74,6 +75,7 @@ class Interface {
   ManagerOutlets manager;
   ToolListOutlets tools;
   PickerOutlets picker;
+  AddinOutlets addins;
 
   Interface() = default;
   Interface(const Interface&) = delete;
@@ -95,6 +97,7 @@ class Interface {
   void pickerRows(Rooms& rooms, const Texts& texts);
   void sheetRows(Rooms& rooms, const Texts& texts);
   void managerRows(Rooms& rooms, const Texts& texts);
+  void addinRows(Rooms& rooms, const Texts& texts);
   void menuRows(Rooms& rooms, const Texts& texts);
   void row(Row row) { rows_.push_back(std::move(row)); }
   void apply(const Texts& texts);

@@ -70,6 +70,12 @@ class Program {
   ToolChooser chooser_;
   ToolListFile toolList_;
   MailScriptInstaller mailScripts_;
+  MacroInstaller macros_;
+  AddinLists addins_;
+  AddinTable addinTable_;
+  OfficeFolderSearch officeSearch_;
+  OldScripts oldScripts_;
+  CautionWindows cautions_;
   Rooms rooms_;
   TManagerController manager_;
   AppController styles_;

@@ -50,6 +50,8 @@ class RecordedFiles : public FileService {
   void allow() { refused_.clear(); }
 
   Kind kind(const std::string& path) const override { return disk_.kind(path); }
+  bool isLink(const std::string& path) const override { return disk_.isLink(path); }
+  bool isWritable(const std::string& folder) const override { return disk_.isWritable(folder); }
   std::optional<std::string> read(const std::string& path) const override { return disk_.read(path); }
   bool write(const std::string& path, std::string_view bytes) override;
   bool keepUnreadable(const std::string& path) override;
