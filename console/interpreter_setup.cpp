@@ -46,7 +46,9 @@ void answer(Interpreter& interpreter, ScriptLine& line) {
     takeEnd(line);
     panels.answerCancel();
   } else if (kind == "open" || kind == "save") {
-    const std::string path = interpreter.session().path(takeWord(line, "a path"));
+    ScenarioSession& session = interpreter.session();
+    // As a person would pick it: the real one.
+    const std::string path = session.product().locations().resolve(session.path(takeWord(line, "a path")));
     takeEnd(line);
     kind == "open" ? panels.answerOpen(path) : panels.answerSave(path);
   } else {

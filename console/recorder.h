@@ -10,6 +10,7 @@
 #include "platform/engine.h"
 #include "platform/file_service.h"
 #include "platform/locations.h"
+#include "platform/script_runner.h"
 #include "platform/workspace.h"
 
 // The log of a scenario: what the program did, in the order in which it happened. Everything that the log holds comes
@@ -89,6 +90,20 @@ class RecordedEngine : public Engine {
 
  private:
   Engine& engine_;
+  Recorder& recorder_;
+};
+
+// A script service whose scripts are noted.
+class RecordedScripts : public ScriptRunner {
+ public:
+  RecordedScripts(ScriptRunner& scripts, Recorder& recorder) : scripts_(scripts), recorder_(recorder) {}
+  std::optional<std::string> runScript(const std::string& source) override {
+    recorder_.note({{"script", source}});
+    return scripts_.runScript(source);
+  }
+
+ private:
+  ScriptRunner& scripts_;
   Recorder& recorder_;
 };
 
