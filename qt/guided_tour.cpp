@@ -9,6 +9,7 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPixmap>
+#include <QPushButton>
 #include <QTimer>
 #include <iostream>
 
@@ -98,6 +99,18 @@ class Tour {
 };
 
 }  // namespace
+
+void answerByDefault(QObject& owner) {
+  auto* timer = new QTimer(&owner);
+  QObject::connect(timer, &QTimer::timeout, &owner, [] {
+    const QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr) return;
+    for (QPushButton* button : dialog->findChildren<QPushButton*>()) {
+      if (button->isDefault()) return button->click();
+    }
+  });
+  timer->start(settling);
+}
 
 bool takeGuidedTour(Shell& shell, Product& product, const std::string& folder) {
   const QString place = QDir().absoluteFilePath(toQString(folder));

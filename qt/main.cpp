@@ -35,6 +35,7 @@ int runManager(const CommandLine& line, int& argc, char** argv) {
   QGuiApplication::setApplicationDisplayName(toQString(product.texts().localized("ApplicationName")));
   applyLook(application, schemeFromEnvironment(), product.language());
   Shell shell(product, application, [&product] { return runningApplications(product.locations()); });
+  if (line.tour) answerByDefault(application);
   if (!shell.start()) return failed;
   if (line.tour) return takeGuidedTour(shell, product, *line.tour) ? done : failed;
   shell.run();
