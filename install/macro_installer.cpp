@@ -20,7 +20,7 @@ bool MacroInstaller::installOfficeMacro(const AddinEntry& entry) {
 
 bool MacroInstaller::unInstallOfficeMacro(const AddinEntry& entry) {
   const std::string path = installedItemPath(entry);
-  return !files_.exists(path) || files_.remove(path);
+  return !files_.exists(path) || files_.remove(path) || !files_.exists(path);
 }
 
 }  // namespace tarvo

@@ -30,12 +30,12 @@ bool MailScriptInstaller::installMailScript(const AddinEntry& entry) {
   createDirectoryFromPath(files_, name, addinText(entry, addin_keys::installFolderPath));
   const std::string target = installedItemPath(entry);
   const auto names = source ? files_.list(*source) : std::nullopt;
-  if (!names || files_.isLink(target)) return false;
+  if (!names) return false;
   bool copied = false;
   for (const std::string& item : *names) {
     const std::string from = joinPath(*source, item);
     if (!files_.exists(from)) continue;
-    copied = files_.copy(from, joinPath(target, item));
+    copied = !files_.isLink(target) && files_.copy(from, joinPath(target, item));
     if (!copied) return false;
   }
   return copied;
@@ -46,11 +46,11 @@ bool MailScriptInstaller::unInstallMailScript(const AddinEntry& entry) {
 }
 
 bool MailScriptInstaller::unInstallScript(const std::string& folder) {
-  const auto names = files_.isLink(folder) ? std::nullopt : files_.list(folder);
+  const auto names = files_.list(folder);
   if (!names) return false;
   for (const std::string& item : *names) {
     const std::string path = joinPath(folder, item);
-    if (files_.exists(path) && !files_.remove(path)) break;
+    if (files_.exists(path) && (files_.isLink(folder) || !files_.remove(path))) break;
   }
   return files_.removeEmptyFolder(folder);
 }

@@ -28,9 +28,14 @@ class FakePanels : public Panels {
     return 0;
   }
   void beginAlertSheet(Window&, const Alert& alert, std::function<void(int)>) override { runAlertPanel(alert); }
-  std::optional<std::string> runOpenPanel(const OpenPanel&) override { return std::nullopt; }
+  std::optional<std::string> runOpenPanel(const OpenPanel& panel) override {
+    openPanels.push_back(panel);
+    return openAnswer;
+  }
   void beginSavePanel(Window&, const SavePanel&, std::function<void(int, const std::string&)>) override {}
   std::vector<Alert> alerts;
+  std::vector<OpenPanel> openPanels;
+  std::optional<std::string> openAnswer;  // nothing: cancelled
 
  private:
   Log& log_;
@@ -63,9 +68,9 @@ class FakeWorkspace : public Workspace {
  public:
   void openFile(const std::string& path) override { opened.push_back(path); }
   void openAddress(const std::string&) override {}
-  void launchApplication(const std::string&) override {}
+  void launchApplication(const std::string& name) override { launched.push_back(name); }
   std::vector<std::string> launchedApplications() override { return running; }
-  std::vector<std::string> opened, running;
+  std::vector<std::string> opened, launched, running;
 };
 
 class FakeRunLoop : public RunLoop {
