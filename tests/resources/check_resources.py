@@ -18,7 +18,8 @@ TOOLS = {"MG", "QB", "TX", "GD", "TMA", "NP", "ADD", "MAIL"}
 SAME_IN_ALL_LANGUAGES = TOOLS | {"NomalStyle", "keyNameSeparator", "IgakuSougou", "Shinryouka", "Corwell", "Tekado",
                                  "NameETekado", "NameJTekado"}
 ITEM_COUNTS = {"Opt1": 3, "Opt2": 3, "Opt3": 3, "TOpt1": 5, "TOpt2": 5, "TOpt3": 4, "TOpt5": 2}
-IMAGES = {"SM32", "office32", "mail32", "MG", "QB", "TX", "GD32", "TMA", "NP", "EJTD16", "JETD16", "TarvoManager"}
+IMAGES = {"SM32", "office32", "mail32", "MG", "QB", "TX", "GD32", "TMA", "NP", "UD", "TL", "EJTD16", "JETD16",
+          "TarvoManager"}
 faults = []
 
 
