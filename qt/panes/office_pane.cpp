@@ -44,7 +44,7 @@ QWidget* buildOfficePane(Interface& interface, Binder& binder, QWidget* parent) 
                   "OfficeIntroduction",
                   "NoOfficeApplication"},
                  binder, pane, *column);
-  column->addSpacing(metrics::sectionGap - 2 * metrics::rowGap);
+  column->addSpacing(metrics::sectionGap - metrics::rowGap);
   column->addWidget(buildTool(interface, binder, pane));
   binder.view(interface.manager.officeAddinView, *pane);
   return pane;
