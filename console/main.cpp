@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "app/product.h"
+#include "console/addin_commands.h"
 #include "console/dictionary_commands.h"
 #include "console/doctor.h"
 #include "console/manual_run_loop.h"
@@ -44,7 +45,7 @@ struct Arguments {
   std::string clock, script = "-";
   std::vector<std::string> pairs;
   std::vector<std::string> names;
-  std::string direction, kind, name;
+  std::string direction, kind, name, version, folder, tool;
   int index = 0, position = 0;
   bool json = false;
 };
@@ -178,6 +179,27 @@ void addNewVerb(CLI::App& app, Arguments& arguments, Run& run) {
   });
 }
 
+void addAddinVerbs(CLI::App& app, Arguments& arguments, Run& run) {
+  CLI::App* addins = app.add_subcommand("addins", "list the applications that take an Office macro or mail scripts");
+  addListing(*addins, arguments);
+  addCommand(*addins, arguments, run, [&] { return AddinsCommand(arguments.json); });
+  CLI::App* addin = app.add_subcommand("addin", "one add-in")->require_subcommand(1)->fallthrough();
+  for (const bool install : {true, false}) {
+    CLI::App* verb = addin->add_subcommand(install ? "install" : "remove",
+                                           install ? "put it into its application" : "take it out again");
+    verb->add_option("NAME", arguments.name, "of the application, as listed")->required();
+    verb->add_option("VERSION", arguments.version, "where several have the name");
+    addCommand(*verb, arguments, run,
+               [&arguments, install] { return AddinTickCommand(arguments.name, arguments.version, install); });
+  }
+  CLI::App* search = addin->add_subcommand("search", "look for Office 2011 in a folder");
+  search->add_option("FOLDER", arguments.folder)->required();
+  addCommand(*search, arguments, run, [&] { return AddinSearchCommand(arguments.folder); });
+  CLI::App* list = app.add_subcommand("tool-list", "write the file from which the macros learn their tool");
+  list->add_option("TOOL", arguments.tool, "code of the tool; else the one chosen before");
+  addCommand(*list, arguments, run, [&] { return ToolListCommand(arguments.tool); });
+}
+
 void addOtherVerbs(CLI::App& app, Arguments& arguments, Run& run) {
   CLI::App* doctor = app.add_subcommand("doctor", "every path looked at, and what is there");
   addListing(*doctor, arguments);
@@ -196,6 +218,7 @@ ExitStatus main(int count, char** words) {
   addStyleVerbs(app, arguments, run);
   addListVerbs(app, arguments, run);
   addNewVerb(app, arguments, run);
+  addAddinVerbs(app, arguments, run);
   addOtherVerbs(app, arguments, run);
   try {
     app.parse(count, words);

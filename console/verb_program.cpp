@@ -15,6 +15,7 @@ class VerbProgram::ToldPanels : public Panels {
     err_ << reason << '\n';
     refused_ = true;
   }
+  void answer(const std::string& path) { path_ = path; }
   void beep() override {}
   int runAlertPanel(const Alert& alert) override {
     refuse((alert.title.empty() ? "" : alert.title + ": ") + alert.message);
@@ -23,13 +24,14 @@ class VerbProgram::ToldPanels : public Panels {
   void beginAlertSheet(Window&, const Alert& alert, std::function<void(int)> handler) override {
     handler(runAlertPanel(alert));
   }
-  std::optional<std::string> runOpenPanel(const OpenPanel&) override { return std::nullopt; }
+  std::optional<std::string> runOpenPanel(const OpenPanel&) override { return path_; }
   void beginSavePanel(Window&, const SavePanel&, std::function<void(int, const std::string&)> handler) override {
-    handler(0, "");
+    handler(path_ ? 1 : 0, path_.value_or(""));
   }
 
  private:
   std::ostream& err_;
+  std::optional<std::string> path_;
   bool refused_ = false;
 };
 
@@ -88,6 +90,8 @@ ExitStatus VerbProgram::run(const std::function<void(Program& program, Hand& han
 }
 
 void VerbProgram::refuse(const std::string& reason) { panels_->refuse(reason); }
+
+void VerbProgram::answerFilePanels(const std::string& path) { panels_->answer(path); }
 
 void VerbProgram::duringModalRun(std::function<void()> act) {
   shell_.windowHost().step = [act = std::move(act)] {

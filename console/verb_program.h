@@ -32,6 +32,8 @@ class VerbProgram {
   void refuse(const std::string& reason);
   // What is done inside each modal run; it has to end it.
   void duringModalRun(std::function<void()> act);
+  // Every file panel from now on is answered by this path; else it is cancelled.
+  void answerFilePanels(const std::string& path);
 
  private:
   class ToldPanels;

@@ -13,11 +13,20 @@
 
 namespace tarvo {
 
-bool MailScriptInstaller::createMailScriptFolder() {
-  const bool isOldSystem = systemVersion(files_) < 104;
-  return createDirectoryFromPath(
-      files_, isOldSystem ? "Library/Scripts/Mail Scripts" : "Library/Scripts/Applications/Mail", home_);
+namespace {
+
+// Below the home.
+const char* folderForSystem(const FileService& files) {
+  return systemVersion(files) < 104 ? "Library/Scripts/Mail Scripts" : "Library/Scripts/Applications/Mail";
 }
+
+}  // namespace
+
+bool MailScriptInstaller::createMailScriptFolder() {
+  return createDirectoryFromPath(files_, folderForSystem(files_), home_);
+}
+
+std::string MailScriptInstaller::mailScriptFolder() const { return joinPath(home_, folderForSystem(files_)); }
 
 bool MailScriptInstaller::isMailScriptFolder(const AddinEntry& entry) const {
   return files_.exists(addinText(entry, addin_keys::installFolderPath));

@@ -21,8 +21,9 @@ class MailScriptInstaller {
   MailScriptInstaller(FileService& files, const Bundle& bundle, std::string home)
       : files_(files), bundle_(bundle), home_(std::move(home)) {}
 
-  // Makes the mail program's script folder for the running system version.
+  // Makes Apple Mail's script folder for the running system version.
   bool createMailScriptFolder();
+  std::string mailScriptFolder() const;  // that folder
   // Whether anything, a file too, is where the record's scripts go: programs without it are not listed.
   bool isMailScriptFolder(const AddinEntry& entry) const;
   // Stops at the first item that cannot be copied, also because something of its name is there; what was copied stays.
