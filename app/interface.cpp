@@ -24,6 +24,7 @@ void Interface::connect(Rooms& rooms, const Texts& texts) {
   listRows(rooms, texts);
   userListRows(rooms);
   managerRows(rooms, texts);
+  addinRows(rooms, texts);
   menuRows(rooms, texts);
   pickerRows(rooms, texts);
   sheetRows(rooms, texts);
@@ -49,9 +50,9 @@ void Interface::apply(const Texts& texts) {
 
 std::vector<Control*> Interface::controls() const {
   std::vector<Control*> all;
-  const std::initializer_list<const Outlets*> structs{&style,         &options,    &lists,    &userLists,
-                                                      &newDictionary, &naming,     &exchange, &manager,
-                                                      &tools,         &connection, &help,     &picker};
+  const std::initializer_list<const Outlets*> structs{&style,      &options,  &lists,   &userLists, &newDictionary,
+                                                      &naming,     &exchange, &manager, &tools,     &addins,
+                                                      &connection, &help,     &picker};
   for (const Outlets* outlets : structs) {
     all.insert(all.end(), outlets->controls().begin(), outlets->controls().end());
   }

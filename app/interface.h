@@ -11,6 +11,7 @@
 #include "dict/new_dictionary.h"
 #include "dict/tech_dic_controller.h"
 #include "dict/user_list_rows.h"
+#include "install/addin_outlets.h"
 #include "install/connection_check.h"
 #include "install/help_pages.h"
 #include "install/tool_list_file.h"
@@ -80,6 +81,7 @@ class Interface {
   ConnectionOutlets connection;
   HelpOutlets help;
   PickerOutlets picker;
+  AddinOutlets addins;
 
   Interface() = default;
   Interface(const Interface&) = delete;
@@ -103,6 +105,7 @@ class Interface {
   void connectionRows(Rooms& rooms, const Texts& texts);
   void sheetRows(Rooms& rooms, const Texts& texts);
   void managerRows(Rooms& rooms, const Texts& texts);
+  void addinRows(Rooms& rooms, const Texts& texts);
   void menuRows(Rooms& rooms, const Texts& texts);
   // A menu command, which both controllers must allow.
   void menuItem(Rooms& rooms, MenuItem& menu, int tag, std::string label, Control::Action action);

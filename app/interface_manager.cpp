@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
 
+#include <array>
+
 #include "app/app_controller.h"
 #include "app/interface.h"
 #include "app/rooms.h"
@@ -9,6 +11,11 @@
 
 // The main window, its toolbar and panes, the small-screen caution and the menus.
 namespace tarvo {
+
+namespace {
+// Of the tools that the Office macros can start, in the order of their codes.
+constexpr std::array<const char*, gAppCreatorArray.size()> officeToolImages{"MG", "TX", "UD", "TMA", "TL", "NP", "QB"};
+}  // namespace
 
 void Interface::managerRows(Rooms& rooms, const Texts& texts) {
   TManagerController& controller = *rooms.manager;
@@ -46,7 +53,9 @@ void Interface::managerRows(Rooms& rooms, const Texts& texts) {
            [&texts] {
              std::vector<PopUpButton::Item> items;
              for (int i = 0; i < static_cast<int>(gAppCreatorArray.size()); ++i) {
-               items.push_back({texts.localized("OfficeTool." + std::to_string(i)), i});
+               items.push_back({.title = texts.localized("OfficeTool." + std::to_string(i)),
+                                .tag = i,
+                                .image = officeToolImages[static_cast<std::size_t>(i)]});
              }
              return items;
            },

@@ -41,6 +41,16 @@ Result setNotSelectedArray(Program& program, Arguments arguments) {
   return std::nullopt;
 }
 
+// Rows count as they are remembered: the Office table's, then the mail table's.
+Result getInstallStatus(Program& program, Arguments arguments) {
+  AddinLists& addins = program.rooms().addins;
+  std::vector<AddinEntry> rows = addins.fOfficeAddinArray;
+  rows.insert(rows.end(), addins.fMailAddinArray.begin(), addins.fMailAddinArray.end());
+  const int row = number(arguments);
+  if (row < 0 || static_cast<std::size_t>(row) >= rows.size()) return std::nullopt;
+  return addins.getInstallStatus(rows[static_cast<std::size_t>(row)]);
+}
+
 std::vector<Operation> makeOperations() {
   return {
       withNumber("style.setupStyleData2", [](Rooms& rooms, int index) { rooms.display.setupStyleData2(index); }),
@@ -84,6 +94,7 @@ std::vector<Operation> makeOperations() {
       {"style.getOSVersion", 0, [](Program& program, Arguments) -> Result { return program.styles().getOSVersion(); }},
       {"manager.createMailScriptFolder", 0,
        [](Program& program, Arguments) -> Result { return program.rooms().mailScripts.createMailScriptFolder(); }},
+      {"manager.getInstallStatus", 1, getInstallStatus},
   };
 }
 

@@ -10,6 +10,7 @@
 #include "platform/engine/engine_factory.h"
 #include "platform/engine/local_style_module.h"
 #include "platform/plist_file.h"
+#include "platform/posix/bundle_script_runner.h"
 #include "platform/posix/posix_files.h"
 #include "platform/text_rules.h"
 
@@ -39,6 +40,7 @@ Product::Product(const ProductOptions& options)
   bundle_ = std::make_unique<Bundle>(*files_, resources, languagesFor(language_));
   layTexts(options.strings);
   paths_ = std::make_unique<ProductPaths>(locations_, readPaths(options.paths));
+  scripts_ = std::make_unique<BundleScriptRunner>(*files_, paths_->volumeName());
   if (engine_ && tarvo::makeEngine(*engine_, *files_, enginePlaces()) == nullptr) {
     problem_ = "there is no style service of this kind: " + *engine_;
   }
@@ -84,9 +86,20 @@ std::unique_ptr<Engine> Product::makeEngine(FileService& files) {
 }
 
 Services Product::services(FileService& files, Engine& engine, RunLoop& runLoop, Panels& panels, WindowHost& windowHost,
-                           Workspace& workspace) {
-  return {locations_,          files,   *bundle_, texts_,     *paths_,  engine, *styleModule_,
-          gTarvoCommonModule_, runLoop, panels,   windowHost, workspace};
+                           Workspace& workspace, ScriptRunner* scripts) {
+  return {locations_,
+          files,
+          *bundle_,
+          texts_,
+          *paths_,
+          engine,
+          *styleModule_,
+          gTarvoCommonModule_,
+          runLoop,
+          panels,
+          windowHost,
+          workspace,
+          scripts != nullptr ? *scripts : *scripts_};
 }
 
 }  // namespace tarvo

@@ -18,6 +18,7 @@ namespace tarvo {
 
 class LocalStyleModule;
 struct EnginePlaces;
+class ScriptRunner;
 
 // Texts that belong to one machine: where dictionaries of other makers were installed.
 inline constexpr const char* machineTexts = "/Library/Application Support/Wordhaven/TarvoEiwa/Local.strings";
@@ -50,9 +51,11 @@ class Product {
   // The engine that the options or the configuration name, working on these files; one that is never reachable when
   // there is none of that kind (see problem()).
   std::unique_ptr<Engine> makeEngine(FileService& files);
-  // The services of a program: the product's, with the files and the engine given here, and the shell's.
+  ScriptRunner& scripts() { return *scripts_; }
+  // The services of a program: the product's, with the files and the engine given here, and the shell's. scripts: the
+  // product's own when null.
   Services services(FileService& files, Engine& engine, RunLoop& runLoop, Panels& panels, WindowHost& windowHost,
-                    Workspace& workspace);
+                    Workspace& workspace, ScriptRunner* scripts = nullptr);
 
  private:
   EnginePlaces enginePlaces() const;
@@ -66,6 +69,7 @@ class Product {
   Texts texts_;
   std::unique_ptr<ProductPaths> paths_;
   std::unique_ptr<LocalStyleModule> styleModule_;
+  std::unique_ptr<ScriptRunner> scripts_;
   std::unique_ptr<TarvoCommonModule> gTarvoCommonModule_;
 };
 

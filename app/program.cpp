@@ -36,7 +36,8 @@ Services withPanels(const Services& services, Panels& panels) {
           .runLoop = services.runLoop,
           .panels = panels,
           .windowHost = services.windowHost,
-          .workspace = services.workspace};
+          .workspace = services.workspace,
+          .scripts = services.scripts};
 }
 
 // The window of the interface: just large enough for the style pane, in the middle of the screen and a little above it.
@@ -94,7 +95,16 @@ Program::Program(const Services& services)
       chooser_(interface_.style, interface_.options, flags_, [this](int tool) { styles_.selectTableViewAction(tool); }),
       toolList_(services.files, defaults_, services.gTarvoCommonModule, interface_.tools,
                 toolListPath(services.locations)),
-      mailScripts_(services.files, services.locations.home()),
+      mailScripts_(services.files, services.bundle, services.locations.home()),
+      macros_(services.files, services.bundle),
+      addins_({services.files, services.bundle, defaults_}, services.locations.home(), mailScripts_, interface_.addins),
+      addinTable_({services.panels, services.texts}, addins_, macros_, mailScripts_, interface_.addins,
+                  interface_.manager.myTabView),
+      officeSearch_({services.files, services.locations, services.panels, services.texts, services.scripts,
+                     services.gTarvoCommonModule},
+                    addins_, mailScripts_),
+      oldScripts_({services.files, services.panels, services.texts}, addins_, mailScripts_, services.locations.home()),
+      cautions_(interface_.addins, windows_, services.files, services.workspace),
       connection_({interface_.connection, interface_.manager.myWindow, services.engine, defaults_, notifications_,
                    panels_, services.runLoop, windows_, services.texts}),
       help_(services.bundle, services.paths, services.texts, services.workspace),
@@ -116,6 +126,11 @@ Program::Program(const Services& services)
              .chooser = chooser_,
              .toolList = toolList_,
              .mailScripts = mailScripts_,
+             .addins = addins_,
+             .addinTable = addinTable_,
+             .officeSearch = officeSearch_,
+             .oldScripts = oldScripts_,
+             .cautions = cautions_,
              .connection = connection_,
              .help = help_,
              .flags = flags_},

@@ -76,6 +76,12 @@ class Program {
   ToolChooser chooser_;
   ToolListFile toolList_;
   MailScriptInstaller mailScripts_;
+  MacroInstaller macros_;
+  AddinLists addins_;
+  AddinTable addinTable_;
+  OfficeFolderSearch officeSearch_;
+  OldScripts oldScripts_;
+  CautionWindows cautions_;
   ConnectionCheck connection_;
   HelpPages help_;
   Rooms rooms_;

@@ -13,9 +13,15 @@
 #include "dict/tech_dic_controller.h"
 #include "dict/user_list_rows.h"
 #include "dict/user_lists.h"
+#include "install/addin_lists.h"
+#include "install/addin_table.h"
+#include "install/caution_windows.h"
 #include "install/connection_check.h"
 #include "install/help_pages.h"
+#include "install/macro_installer.h"
 #include "install/mail_script_installer.h"
+#include "install/office_folder_search.h"
+#include "install/old_scripts.h"
 #include "install/tool_list_file.h"
 #include "style/option_editing.h"
 #include "style/pane_alerts.h"
@@ -51,6 +57,11 @@ struct Rooms {
   ToolChooser& chooser;
   ToolListFile& toolList;
   MailScriptInstaller& mailScripts;
+  AddinLists& addins;
+  AddinTable& addinTable;
+  OfficeFolderSearch& officeSearch;
+  OldScripts& oldScripts;
+  CautionWindows& cautions;
   ConnectionCheck& connection;
   HelpPages& help;
   ProcessFlags& flags;

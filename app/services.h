@@ -13,6 +13,7 @@ class Locations;
 class Panels;
 class ProductPaths;
 class RunLoop;
+class ScriptRunner;
 class StyleModule;
 class TarvoCommonModule;
 class Texts;
@@ -34,6 +35,7 @@ struct Services {
   Panels& panels;
   WindowHost& windowHost;
   Workspace& workspace;
+  ScriptRunner& scripts;
 };
 
 }  // namespace tarvo

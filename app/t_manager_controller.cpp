@@ -77,6 +77,11 @@ TManagerController::~TManagerController() {
 bool TManagerController::init() {
   if (!startModules()) return false;
   rooms_.mailScripts.createMailScriptFolder();
+  if (!rooms_.addins.searchOfficeApplication()) {
+    rooms_.alerts.beepAndAlert("ApplicationCautionHeader", "ApplicationCautionMessage");
+    terminate_();
+    return false;
+  }
   notifications_.addObserver(this, "ChangeToolbar", [this](const Notification&) { changeToolbar(); });
   notifications_.addObserver(this, "ChangeOfficeToolbar", [this](const Notification&) { changeOfficeToolbar(); });
   return true;
@@ -197,10 +202,15 @@ void TManagerController::windowDidMove() {
 
 void TManagerController::applicationDidFinishLaunching() {
   if (getOSVersion() >= oldestVersionWithScreenCheck) caution_.checkScreenSize();
+  rooms_.oldScripts.OldscriptUninstall();
+  interface_.addins.mailTableView.reloadData();
   rooms_.connection.checkConnection();
 }
 
-void TManagerController::applicationWillTerminate() { rooms_.toolList.writeOffieTool(); }
+void TManagerController::applicationWillTerminate() {
+  rooms_.toolList.writeOffieTool();
+  rooms_.addins.storeRows();
+}
 
 int TManagerController::getOSVersion() const { return systemVersion(services_.files); }
 

@@ -29,7 +29,8 @@ class TManagerController {
   TManagerController(const TManagerController&) = delete;
   TManagerController& operator=(const TManagerController&) = delete;
 
-  // False: the product's modules could not be started and the program ends; nothing was stored.
+  // False: the product's modules could not be started, or there is no list of applications that take add-ins; the
+  // program ends and nothing was stored.
   bool init();
   void awakeFromNib();
   void applicationDidFinishLaunching();

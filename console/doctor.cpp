@@ -7,6 +7,7 @@
 
 #include "app/product.h"
 #include "app/program.h"
+#include "console/doctor_addins.h"
 #include "console/json.h"
 #include "console/text_table.h"
 #include "dict/dict_controller.h"
@@ -23,12 +24,6 @@ namespace {
 
 using Kind = FileService::Kind;
 
-struct Finding {
-  std::string path, what;
-  const char* state;  // "ok", "missing", "problem"
-  std::string detail;
-};
-
 class Examination {
  public:
   explicit Examination(Product& product) : product_(product) {}
@@ -40,6 +35,7 @@ class Examination {
     dictionaries();
     medical();
     rest();
+    for (Finding& finding : examineAddins(product_)) findings_.push_back(std::move(finding));
     return std::move(findings_);
   }
 

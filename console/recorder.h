@@ -10,6 +10,7 @@
 #include "platform/engine.h"
 #include "platform/file_service.h"
 #include "platform/locations.h"
+#include "platform/script_runner.h"
 #include "platform/workspace.h"
 
 // The log of a scenario: what the program did, in the order in which it happened. Everything that the log holds comes
@@ -50,6 +51,8 @@ class RecordedFiles : public FileService {
   void allow() { refused_.clear(); }
 
   Kind kind(const std::string& path) const override { return disk_.kind(path); }
+  bool isLink(const std::string& path) const override { return disk_.isLink(path); }
+  bool isWritable(const std::string& folder) const override { return disk_.isWritable(folder); }
   std::optional<std::string> read(const std::string& path) const override { return disk_.read(path); }
   bool write(const std::string& path, std::string_view bytes) override;
   bool keepUnreadable(const std::string& path) override;
@@ -87,6 +90,20 @@ class RecordedEngine : public Engine {
 
  private:
   Engine& engine_;
+  Recorder& recorder_;
+};
+
+// A script service whose scripts are noted.
+class RecordedScripts : public ScriptRunner {
+ public:
+  RecordedScripts(ScriptRunner& scripts, Recorder& recorder) : scripts_(scripts), recorder_(recorder) {}
+  std::optional<std::string> runScript(const std::string& source) override {
+    recorder_.note({{"script", source}});
+    return scripts_.runScript(source);
+  }
+
+ private:
+  ScriptRunner& scripts_;
   Recorder& recorder_;
 };
 

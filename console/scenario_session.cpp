@@ -21,6 +21,7 @@ ScenarioSession::ScenarioSession(const ScenarioOptions& options, ScenarioShell& 
       engine_(configured_ ? *configured_ : scripted_, recorder_),
       panels_(recorder_, shell),
       workspace_(recorder_),
+      scripts_(product_.scripts(), recorder_),
       usesConfigured_(options.product.engine.has_value()) {
   product_.locations().leaveAsIs(folder_);
   files_.name(product_.locations().inHome(std::string(gStylePath)), "styles");
@@ -51,8 +52,8 @@ void ScenarioSession::takeLock() {
 void ScenarioSession::start() {
   drop();
   takeLock();
-  program_ =
-      std::make_unique<Program>(product_.services(files_, engine_, clock_, panels_, shell_.windowHost(), workspace_));
+  program_ = std::make_unique<Program>(
+      product_.services(files_, engine_, clock_, panels_, shell_.windowHost(), workspace_, &scripts_));
   phase_ = Phase::running;
   recorder_.observe(*program_);
   program_->didTerminate = [this] {

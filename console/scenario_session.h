@@ -80,6 +80,7 @@ class ScenarioSession {
   RecordedEngine engine_;
   ScriptedPanels panels_;
   RecordedWorkspace workspace_;
+  RecordedScripts scripts_;
   std::unique_ptr<Program> program_;
   Phase phase_ = Phase::none;
   bool usesConfigured_, constructed_ = false, lockedOut_ = false;

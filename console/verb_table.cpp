@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "console/addin_commands.h"
 #include "console/dictionary_commands.h"
 #include "console/doctor.h"
 #include "console/engine_commands.h"
@@ -116,6 +117,27 @@ void addEngineVerbs(CLI::App& app, const Table& table) {
   table.add(*engine.add_subcommand("pull", "take newer styles"), [] { return EnginePullCommand(); });
 }
 
+void addAddinVerbs(CLI::App& app, const Table& table) {
+  VerbWords& words = table.words;
+  CLI::App& addins = *app.add_subcommand("addins", "list the applications that take an Office macro or mail scripts");
+  addListing(addins, words);
+  table.add(addins, [&] { return AddinsCommand(words.json); });
+  CLI::App& addin = table.group(app, "addin", "one add-in");
+  for (const bool install : {true, false}) {
+    CLI::App& verb = *addin.add_subcommand(install ? "install" : "remove",
+                                           install ? "put it into its application" : "take it out again");
+    verb.add_option("NAME", words.name, "of the application, as listed")->required();
+    verb.add_option("VERSION", words.version, "where several have the name");
+    table.add(verb, [&words, install] { return AddinTickCommand(words.name, words.version, install); });
+  }
+  CLI::App& search = *addin.add_subcommand("search", "look for Office 2011 in a folder");
+  search.add_option("FOLDER", words.folder)->required();
+  table.add(search, [&] { return AddinSearchCommand(words.folder); });
+  CLI::App& list = *app.add_subcommand("tool-list", "write the file from which the macros learn their tool");
+  list.add_option("TOOL", words.tool, "code of the tool; else the one chosen before");
+  table.add(list, [&] { return ToolListCommand(words.tool); });
+}
+
 }  // namespace
 
 void addVerbs(CLI::App& app, VerbWords& words, const Chosen& chosen,
@@ -125,6 +147,7 @@ void addVerbs(CLI::App& app, VerbWords& words, const Chosen& chosen,
   addListVerbs(app, table);
   addNewVerb(app, table);
   addEngineVerbs(app, table);
+  addAddinVerbs(app, table);
   CLI::App& open = *app.add_subcommand("open", "bring the window to a tool, by its caller code");
   open.add_option("CODE", words.code)->required();
   table.add(open, [&words, passedOn] { return OpenCommand(passedOn(), words.code); });

@@ -19,7 +19,7 @@ namespace tarvo {
 // What stands behind a verb.
 struct VerbWords {
   std::vector<std::string> pairs, names;
-  std::string direction, kind, name, file, code;
+  std::string direction, kind, name, version, file, folder, tool, code;
   int index = 0, position = 0;
   bool json = false;
 };

@@ -4,20 +4,39 @@
 
 #include <string>
 
+#include "install/addin_entry.h"
+
 namespace tarvo {
 
+class Bundle;
 class FileService;
 
-// The folders that receive the product's mail scripts.
+// The folders of scripts that mail programs offer.
+// Duty: make the mail program's script folder; copy a folder of scripts there, item by item, and remove it again.
+// Not: deciding which programs there are. A link in the place of the script folder is never followed: what it leads to
+// is not the product's.
 class MailScriptInstaller {
  public:
   // home: in the core's spelling.
-  MailScriptInstaller(FileService& files, std::string home) : files_(files), home_(std::move(home)) {}
-  // Makes the mail program's script folder for the running system version.
+  MailScriptInstaller(FileService& files, const Bundle& bundle, std::string home)
+      : files_(files), bundle_(bundle), home_(std::move(home)) {}
+
+  // Makes Apple Mail's script folder for the running system version.
   bool createMailScriptFolder();
+  std::string mailScriptFolder() const;  // that folder
+  // Whether anything, a file too, is where the record's scripts go: programs without it are not listed.
+  bool isMailScriptFolder(const AddinEntry& entry) const;
+  // Stops at the first item that cannot be copied, also because something of its name is there; what was copied stays.
+  // False then, and for scripts that are missing or empty. The folder is made before the scripts are looked at.
+  bool installMailScript(const AddinEntry& entry);
+  bool unInstallMailScript(const AddinEntry& entry);
+  // Removes what lies in the folder, up to the first failure, then the folder itself if that left it empty. The answer
+  // is the folder's own removal.
+  bool unInstallScript(const std::string& folder);
 
  private:
   FileService& files_;
+  const Bundle& bundle_;
   std::string home_;
 };
 

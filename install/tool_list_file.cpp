@@ -69,7 +69,7 @@ void ToolListFile::writeOffieTool() {
   appendLine(text, "Tool_Path", creator);
   appendLine(text, "Tool_Action", std::to_string(action.number));
   appendLine(text, "Tool_Parameter", trimmed(action.parameter));
-  files_.write(path_, shiftJisFromUtf8(text));
+  written_ = files_.write(path_, shiftJisFromUtf8(text));
 }
 
 }  // namespace tarvo

@@ -38,6 +38,7 @@ class ToolListFile {
   // Stores the chosen tool in the settings, then writes the file. Nothing without a chosen tool.
   void writeOffieTool();
   void changeOfficeTool() { writeOffieTool(); }
+  bool isWritten() const { return written_; }  // how the last write ended, for who may tell it
 
  private:
   FileService& files_;
@@ -45,6 +46,7 @@ class ToolListFile {
   const std::unique_ptr<TarvoCommonModule>& module_;
   ToolListOutlets& outlets_;
   std::string path_;
+  bool written_ = false;
 };
 
 }  // namespace tarvo

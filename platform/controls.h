@@ -130,6 +130,7 @@ class PopUpButton : public Control {
     std::string title;
     int tag = 0;
     bool separator = false;  // drawn as a line; the title is kept
+    std::string image = {};  // a name for Bundle::image, drawn before the title; "" for none
     friend bool operator==(const Item&, const Item&) = default;
   };
   PopUpButton(Outlets& owner, std::string_view outlet) : Control(owner, outlet, Kind::popup) {}

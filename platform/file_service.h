@@ -29,6 +29,10 @@ class FileService {
   // What lies at the path after following links. A dangling link is absent.
   virtual Kind kind(const std::string& path) const = 0;
   bool exists(const std::string& path) const { return kind(path) != Kind::absent; }
+  // Whether the path itself is a symbolic link, a dangling one too.
+  virtual bool isLink(const std::string& path) const = 0;
+  // Whether things may be made in a folder, as far as permissions tell.
+  virtual bool isWritable(const std::string& folder) const = 0;
 
   // The whole content of a regular file. Never blocks on a pipe or a device.
   virtual std::optional<std::string> read(const std::string& path) const = 0;

@@ -28,8 +28,17 @@ NewDictionaryControls controlsOf(PickerOutlets& picker) {
 }  // namespace
 
 void addDialogs(QtWindows& windows, Interface& interface, Binder& binder) {
-  windows.addDialog(interface.manager.displayAlertWindow,
-                    [&interface, &binder](QWidget* parent) { return buildScreenCaution(interface, binder, parent); });
+  ManagerOutlets& manager = interface.manager;
+  AddinOutlets& addins = interface.addins;
+  for (const CautionControls& controls :
+       {CautionControls{manager.displayAlertWindow, manager.displayAlertText, manager.displayCloseButton,
+                        &manager.noDisplayDialogCheckBox},
+        CautionControls{addins.alertWindow, addins.alertWindowText, addins.alertCloseButton},
+        CautionControls{addins.alertWindowSL, addins.alertWindowSLText, addins.alertSLCloseButton},
+        CautionControls{addins.alertPowerPoint, addins.alertPowerPointText, addins.powerPointCloseButton}}) {
+    windows.addDialog(controls.window,
+                      [controls, &binder](QWidget* parent) { return buildCaution(controls, binder, parent); });
+  }
   windows.addDialog(interface.picker.myWindow,
                     [&interface, &binder](QWidget* parent) { return buildPicker(interface.picker, binder, parent); });
   windows.addDialog(interface.naming.styleNameWindow, [&interface, &binder](QWidget* parent) {

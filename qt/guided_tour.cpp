@@ -9,6 +9,8 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPixmap>
+#include <QPushButton>
+#include <QTableView>
 #include <QTimer>
 #include <iostream>
 
@@ -27,8 +29,9 @@ class Tour {
 
   bool walk() {
     return picture("styles") && next("style.stylePopup") && picture("another-style") && next("style.ejEditPopup") &&
-           next("style.ejOption1Popup") && picture("option-changed") && press("manager.OA") && picture("office") &&
-           press("manager.MT") && picture("mail") && press("manager.StyleManager") && isSaved();
+           next("style.ejOption1Popup") && picture("option-changed") && press("manager.OA") &&
+           tick("manager.officeTableView") && picture("office") && press("manager.MT") &&
+           tick("manager.mailTableView") && picture("mail") && press("manager.StyleManager") && isSaved();
   }
 
   const std::vector<QString>& pictures() const { return pictures_; }
@@ -61,16 +64,30 @@ class Tour {
     return widget;
   }
 
+  static void strike(QWidget& widget, Qt::Key key) {
+    widget.setFocus(Qt::TabFocusReason);
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent event(type, key, Qt::NoModifier);
+      QApplication::sendEvent(&widget, &event);
+    }
+  }
+
+  // The box of a row; a product of the user's own may have none.
+  bool tick(const char* name) {
+    auto* table = usable<QTableView>(name);
+    if (table == nullptr) return false;
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Space}) {
+      if (table->model()->rowCount() > 0) strike(*table, key);
+    }
+    return settled();
+  }
+
   // One item further by the keyboard.
   bool next(const char* name) {
     auto* combo = usable<QComboBox>(name);
     if (combo == nullptr) return false;
     const int before = combo->currentIndex();
-    combo->setFocus(Qt::TabFocusReason);
-    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-      QKeyEvent key(type, Qt::Key_Down, Qt::NoModifier);
-      QApplication::sendEvent(combo, &key);
-    }
+    strike(*combo, Qt::Key_Down);
     return combo->currentIndex() != before ? settled() : fail(std::string(name) + " did not change");
   }
 
@@ -98,6 +115,18 @@ class Tour {
 };
 
 }  // namespace
+
+void answerByDefault(QObject& owner) {
+  auto* timer = new QTimer(&owner);
+  QObject::connect(timer, &QTimer::timeout, &owner, [] {
+    const QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr) return;
+    for (QPushButton* button : dialog->findChildren<QPushButton*>()) {
+      if (button->isDefault()) return button->click();
+    }
+  });
+  timer->start(settling);
+}
 
 bool takeGuidedTour(Shell& shell, Product& product, const std::string& folder) {
   const QString place = QDir().absoluteFilePath(toQString(folder));

@@ -4,6 +4,8 @@
 
 #include <string>
 
+class QObject;
+
 namespace tarvo {
 
 class Product;
@@ -13,5 +15,8 @@ class Shell;
 // where the pictures and the style file lie. False, with the reason on the error output, when a step does not do what
 // it should.
 bool takeGuidedTour(Shell& shell, Product& product, const std::string& folder);
+
+// Nobody sits before a tour: as long as the owner lives, whatever asks for an answer gets its default button.
+void answerByDefault(QObject& owner);
 
 }  // namespace tarvo

@@ -65,6 +65,7 @@ int runManager(const CommandLine& line, int& argc, char** argv) {
   if (line.open) shell.program().requests().eventText(*line.open);
   shell.openFiles(line.files);
   if (!line.tour) shell.listen(identity);
+  if (line.tour) answerByDefault(application);
   if (!shell.start()) return failed;
   if (line.tour) return takeGuidedTour(shell, product, *line.tour) ? done : failed;
   shell.run();

@@ -43,6 +43,17 @@ FileService::Kind PosixFiles::kind(const std::string& path) const {
   return S_ISDIR(status.st_mode) ? Kind::folder : Kind::other;
 }
 
+bool PosixFiles::isLink(const std::string& path) const {
+  const auto name = real(path);
+  struct stat status {};
+  return name && ::lstat(name->c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
+bool PosixFiles::isWritable(const std::string& folder) const {
+  const auto name = real(folder);
+  return name && ::access(name->c_str(), W_OK | X_OK) == 0;
+}
+
 std::optional<std::string> PosixFiles::read(const std::string& path) const {
   const auto name = real(path);
   if (!name) return std::nullopt;

@@ -13,6 +13,8 @@ class PosixFiles : public FileService {
  public:
   explicit PosixFiles(const Locations& locations);
   Kind kind(const std::string& path) const override;
+  bool isLink(const std::string& path) const override;
+  bool isWritable(const std::string& folder) const override;
   std::optional<std::string> read(const std::string& path) const override;
   bool write(const std::string& path, std::string_view bytes) override;
   bool keepUnreadable(const std::string& path) override;

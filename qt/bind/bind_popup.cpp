@@ -13,11 +13,11 @@ namespace {
 
 class PopUpView : public ControlView {
  public:
-  PopUpView(PopUpButton& control, QComboBox& combo, Registry& registry)
-      : ControlView(control, combo, registry),
+  PopUpView(PopUpButton& control, QComboBox& combo, Binder& binder)
+      : ControlView(control, combo, binder.registry()),
         control_(control),
         combo_(combo),
-        model_(*new PopUpModel(control, &combo)) {
+        model_(*new PopUpModel(control, binder, &combo)) {
     combo.setModel(&model_);
     combo.installEventFilter(this);
     connect(&combo, &QComboBox::activated, this, [this](int index) {
@@ -57,7 +57,8 @@ QComboBox* Binder::popup(PopUpButton& control, QWidget* parent) {
   combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   combo->setMinimumContentsLength(1);
   combo->setMinimumWidth(metrics::popUpWidth);
-  new PopUpView(control, *combo, registry_);
+  combo->setIconSize({metrics::popUpIcon, metrics::popUpIcon});
+  new PopUpView(control, *combo, *this);
   return combo;
 }
 

@@ -20,6 +20,7 @@ QVariant PopUpModel::data(const QModelIndex& index, int role) const {
   if (index.row() < 0 || index.row() >= rowCount()) return {};
   const PopUpButton::Item& item = control_.items()[static_cast<std::size_t>(index.row())];
   if (role == Qt::DisplayRole) return toQString(item.title);
+  if (role == Qt::DecorationRole) return item.image.empty() ? QVariant() : QVariant(binder_.icon(item.image));
   // The word by which the toolkit's pop-ups and their drawings know a divider.
   if (role == Qt::AccessibleDescriptionRole && item.separator) return QStringLiteral("separator");
   return {};

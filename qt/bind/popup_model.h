@@ -6,12 +6,14 @@
 
 namespace tarvo {
 
+class Binder;
 class PopUpButton;
 
 // A pop-up's items as a model, without a copy of them. Dividers are lines that neither mouse nor keyboard can choose.
 class PopUpModel : public QAbstractListModel {
  public:
-  PopUpModel(const PopUpButton& control, QObject* parent) : QAbstractListModel(parent), control_(control) {}
+  PopUpModel(const PopUpButton& control, Binder& binder, QObject* parent)
+      : QAbstractListModel(parent), control_(control), binder_(binder) {}
   void itemsChanged();
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
@@ -19,6 +21,7 @@ class PopUpModel : public QAbstractListModel {
 
  private:
   const PopUpButton& control_;
+  Binder& binder_;
 };
 
 }  // namespace tarvo

@@ -77,6 +77,19 @@ void TableWidget::showRows(const std::function<bool(int row)>& isShown) {
   verticalHeader()->setUpdatesEnabled(true);
 }
 
+void TableWidget::setEmptyText(const QString& text) {
+  emptyText_ = text;
+  connect(&model_, &QAbstractItemModel::rowsInserted, this, &TableWidget::tellWhetherEmpty);
+  connect(&model_, &QAbstractItemModel::rowsRemoved, this, &TableWidget::tellWhetherEmpty);
+  tellWhetherEmpty();
+}
+
+// Who cannot see the text hears it.
+void TableWidget::tellWhetherEmpty() {
+  setAccessibleDescription(model_.rowCount() == 0 ? emptyText_ : QString());
+  viewport()->update();
+}
+
 QItemSelectionModel::SelectionFlags TableWidget::selectionCommand(const QModelIndex& index, const QEvent* event) const {
   const bool isOnBox = index.isValid() && index.column() == model_.checkColumn();
   if (isOnBox && dynamic_cast<const QMouseEvent*>(event) != nullptr) return QItemSelectionModel::NoUpdate;
@@ -116,12 +129,20 @@ void TableWidget::markEnd(bool marked) {
 // The base marks gaps beside rows only.
 void TableWidget::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
+  QPainter painter(viewport());
+  if (model_.rowCount() == 0 && !emptyText_.isEmpty()) paintEmptyText(painter);
   if (!isEndMarked_) return;
   QStyleOption mark;
   mark.initFrom(this);
   mark.rect = QRect(0, verticalHeader()->length() - verticalOffset(), viewport()->width() - 1, 0);
-  QPainter painter(viewport());
   style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemDrop, &mark, &painter, this);
+}
+
+void TableWidget::paintEmptyText(QPainter& painter) {
+  const QRect place =
+      viewport()->rect().adjusted(metrics::paneMargin, metrics::rowGap, -metrics::paneMargin, -metrics::rowGap);
+  style()->drawItemText(&painter, place, Qt::AlignCenter | Qt::TextWordWrap, palette(), isEnabled(), emptyText_,
+                        QPalette::PlaceholderText);
 }
 
 }  // namespace tarvo

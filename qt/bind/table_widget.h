@@ -20,6 +20,8 @@ class TableWidget : public QTableView {
   void adoptColumns();  // widths and drawing for the model's columns
   // Shows the rows that the call names and hides the others, 10,000 of them within a few milliseconds.
   void showRows(const std::function<bool(int row)>& isShown);
+  // What stands in the list while it has no rows.
+  void setEmptyText(const QString& text);
 
  protected:
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
@@ -31,8 +33,11 @@ class TableWidget : public QTableView {
 
  private:
   void markEnd(bool marked);
+  void tellWhetherEmpty();
+  void paintEmptyText(QPainter& painter);
   TableModel& model_;
   IconedDelegate* iconed_;
+  QString emptyText_;
   bool isEndMarked_ = false;  // a drag would go behind the last row
 };
 

@@ -25,6 +25,7 @@ inline constexpr int buttonMinimumWidth = 80;
 inline constexpr int buttonPadding = 16;  // edge to text
 inline constexpr int fieldPadding = 8;    // edge to text in fields and pop-ups
 inline constexpr int popUpArrowWidth = 28;
+inline constexpr int popUpIcon = 16;
 inline constexpr int popUpWidth = 220;  // width of pop-ups in a form, so that their edges line up
 inline constexpr int fieldWidth = 280;  // name fields of the sheets
 inline constexpr int minimumCheckBoxSize = 16;

@@ -19,7 +19,8 @@ constexpr int sides = 2 * metrics::fieldPadding + metrics::popUpArrowWidth;  // 
 int popUpWidth(const PopUpButton& control, const QFontMetrics& font) {
   int widest = 0;
   for (const PopUpButton::Item& item : control.items()) {
-    widest = std::max(widest, font.horizontalAdvance(toQString(item.title)));
+    const int icon = item.image.empty() ? 0 : metrics::popUpIcon + metrics::checkBoxGap;
+    widest = std::max(widest, font.horizontalAdvance(toQString(item.title)) + icon);
   }
   return std::max(metrics::popUpWidth, metrics::onGrid(widest + sides));
 }

@@ -8,27 +8,28 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "app/interface.h"
+#include "platform/windows.h"
 #include "qt/bind/binder.h"
 #include "qt/look/metrics.h"
 
 namespace tarvo {
 
-QDialog* buildScreenCaution(Interface& interface, Binder& binder, QWidget* parent) {
+QDialog* buildCaution(const CautionControls& controls, Binder& binder, QWidget* parent) {
   auto* dialog = new QDialog(parent);
-  ManagerOutlets& outlets = interface.manager;
-  binder.window(outlets.displayAlertWindow, *dialog);
+  binder.window(controls.window, *dialog);
   auto* rows = new QVBoxLayout(dialog);
   rows->setSizeConstraint(QLayout::SetFixedSize);
-  QLabel* text = binder.text(outlets.displayAlertText, dialog);
+  QLabel* text = binder.text(controls.text, dialog);
   text->setMinimumWidth(24 * text->fontMetrics().height());
   rows->addWidget(text);
   rows->addSpacing(metrics::rowGap);
   auto* foot = new QHBoxLayout;
-  foot->addWidget(binder.check(outlets.noDisplayDialogCheckBox, dialog));
-  foot->addSpacing(metrics::sectionGap);
+  if (controls.again != nullptr) {
+    foot->addWidget(binder.check(*controls.again, dialog));
+    foot->addSpacing(metrics::sectionGap);
+  }
   foot->addStretch();
-  QPushButton* close = binder.button(outlets.displayCloseButton, dialog);
+  QPushButton* close = binder.button(controls.close, dialog);
   close->setDefault(true);
   close->setFocus();
   foot->addWidget(close);

@@ -8,9 +8,19 @@ class QWidget;
 namespace tarvo {
 
 class Binder;
-class Interface;
+class Button;
+class CheckBox;
+class TextField;
+class Window;
 
-// The caution on small screens: a text, "do not show again" and a button that closes it.
-QDialog* buildScreenCaution(Interface& interface, Binder& binder, QWidget* parent);
+struct CautionControls {
+  Window& window;
+  TextField& text;
+  Button& close;
+  CheckBox* again = nullptr;  // "do not show again"; null: there is none
+};
+
+// A caution: a text and a button that closes it.
+QDialog* buildCaution(const CautionControls& controls, Binder& binder, QWidget* parent);
 
 }  // namespace tarvo

@@ -35,7 +35,7 @@ TEST(StartUp, tellsTheStyleModuleWhereEverythingLiesInOrder) {
   test.drop();
   Program program({services.locations, services.files, services.bundle, services.texts, services.paths, services.engine,
                    module, services.gTarvoCommonModule, services.runLoop, services.panels, services.windowHost,
-                   services.workspace});
+                   services.workspace, services.scripts});
   ASSERT_TRUE(program.construct());
   const std::string product = "/Library/Application Support/Wordhaven/TarvoEiwa/TechDic/";
   EXPECT_EQ(test.log, (Log{"tarvoStyleInitialize",

@@ -228,8 +228,9 @@ TEST_F(NewVerb, aSixthIsMadeLikeTheOthersBecauseEachRunCountsAnew) {
 
 TEST_F(NewVerb, aMissingTemplateIsTold) {
   root_.folder().makeFolder("resources");
-  std::filesystem::copy_file(TARVO_SOURCE_DIR "/resources/WordhavenPaths.plist",
-                             root_.folder() / "resources/WordhavenPaths.plist");
+  for (const std::string name : {"WordhavenPaths.plist", "DefaultAddin.plist"}) {
+    std::filesystem::copy_file(TARVO_SOURCE_DIR "/resources/" + name, root_.folder() / ("resources/" + name));
+  }
   const ToolResult result = run({"--resources", root_.folder() / "resources", "new", "je", "user", "N"});
   EXPECT_EQ(result.err, "no file was made: the template JEStationery.jud is missing\n");
   EXPECT_EQ(result.status, 1);

@@ -4,9 +4,12 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include "platform/bundle.h"
 #include "platform/locations.h"
 #include "platform/posix/posix_files.h"
+#include "tests/install/addin_world.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tarvo::test {
@@ -23,11 +26,12 @@ class MailScriptFolder : public testing::Test {
     folder.write(systemVersionFile, "<plist version=\"1.0\"><dict><key>ProductVersion</key><string>" + version +
                                         "</string></dict></plist>");
   }
-  bool create() { return MailScriptInstaller(files, "/Users/taro").createMailScriptFolder(); }
+  bool create() { return MailScriptInstaller(files, bundle, "/Users/taro").createMailScriptFolder(); }
 
   TemporaryFolder folder;
   Locations locations{folder.path(), folder / "Users/taro"};
   PosixFiles files{locations};
+  Bundle bundle{files, folder / "resources", {"en"}};
 };
 
 struct VersionCase {
@@ -68,6 +72,145 @@ TEST_F(MailScriptFolder, isMadeOpenToEverybodyAndMayBeThereAlready) {
 TEST_F(MailScriptFolder, isNotMadeBelowAPlainFile) {
   folder.write("Users/taro/Library", "in the way");
   EXPECT_FALSE(create());
+}
+
+// Installing and removing a folder of scripts.
+class MailScripts : public testing::Test, protected AddinWorld {
+ protected:
+  MailScripts() {
+    setUp({mail});
+    resource("Mail/Tarvo/a.scpt", "first");
+    resource("Mail/Tarvo/b.scpt", "second");
+    resource("Mail/Tarvo/sub/c", "third");
+  }
+  static AddinEntry loaded(AddinEntry entry) {
+    return with(entry, addin_keys::installFolderPath, installFolder(entry));
+  }
+  bool install() { return mailScripts.installMailScript(mail); }
+  bool remove() { return mailScripts.unInstallMailScript(mail); }
+
+  const AddinEntry mail = loaded(appleMail());
+  const std::string target = item(mail);
+};
+
+TEST_F(MailScripts, areOfferedWhereAnythingTakesTheirPlace) {
+  EXPECT_TRUE(mailScripts.isMailScriptFolder(mail));
+  const AddinEntry outlook = loaded(outlook2011());
+  EXPECT_FALSE(mailScripts.isMailScriptFolder(outlook));
+  folder.write(inRoot(installFolder(outlook)), "a plain file");
+  EXPECT_TRUE(mailScripts.isMailScriptFolder(outlook));
+  EXPECT_FALSE(mailScripts.isMailScriptFolder(outlook2011())) << "a relative path is nowhere";
+}
+
+TEST_F(MailScripts, areCopiedItemByItemIntoAFolderOfTheirName) {
+  const mode_t before = ::umask(022);
+  EXPECT_TRUE(install());
+  ::umask(before);
+  EXPECT_EQ(folder.mode(target), 0777U);
+  EXPECT_EQ(folder.names(target), (Rows{"a.scpt", "b.scpt", "sub"}));
+  EXPECT_EQ(folder.read(target + "/a.scpt"), "first");
+  EXPECT_EQ(folder.read(target + "/sub/c"), "third");
+}
+
+TEST_F(MailScripts, haveAWholeNameWithoutExtension) {
+  resource("Mail/Tarvo 1.0/a.scpt", "first");
+  const AddinEntry dotted = with(mail, addin_keys::installMacroName, "Mail/Tarvo 1.0");
+  EXPECT_TRUE(mailScripts.installMailScript(dotted));
+  EXPECT_EQ(folder.names(item(dotted)), Rows{"a.scpt"});
+}
+
+TEST_F(MailScripts, areNotInstalledFromAnEmptyFolderWhichLeavesOneBehind) {
+  folder.makeFolder("resources/Mail/Empty");
+  const AddinEntry empty = with(mail, addin_keys::installMacroName, "Mail/Empty");
+  EXPECT_FALSE(mailScripts.installMailScript(empty));
+  EXPECT_TRUE(folder.exists(item(empty)));
+  EXPECT_TRUE(folder.names(item(empty)).empty());
+}
+
+TEST_F(MailScripts, thatAreMissingLeaveTheirFolderBehindToo) {
+  const AddinEntry missing = with(mail, addin_keys::installMacroName, "Mail/Missing");
+  EXPECT_FALSE(mailScripts.installMailScript(missing));
+  EXPECT_TRUE(folder.exists(item(missing)));
+  EXPECT_TRUE(lists.getInstallStatus(missing)) << "and so count as installed from then on";
+}
+
+TEST_F(MailScripts, stopAtTheFirstNameThatIsTaken) {
+  resource("Mail/Tarvo/c.scpt", "third");
+  folder.write(target + "/b.scpt", "the user's");
+  EXPECT_FALSE(install());
+  EXPECT_EQ(folder.names(target), (Rows{"a.scpt", "b.scpt"}));
+  EXPECT_EQ(folder.read(target + "/b.scpt"), "the user's");
+}
+
+TEST_F(MailScripts, leaveOutWhatIsNotThereInTheProduct) {
+  ASSERT_EQ(::symlink("nowhere", (folder / "resources/Mail/Tarvo/aa").c_str()), 0);
+  EXPECT_TRUE(install());
+  EXPECT_EQ(folder.names(target), (Rows{"a.scpt", "b.scpt", "sub"}));
+}
+
+TEST_F(MailScripts, makeTheInstallFolderThatHasVanished) {
+  ASSERT_TRUE(disk.remove("/Users/taro/Library"));
+  EXPECT_TRUE(install());
+  EXPECT_EQ(folder.mode(inRoot(installFolder(mail))), 0777U);
+  EXPECT_EQ(folder.names(target), (Rows{"a.scpt", "b.scpt", "sub"}));
+}
+
+TEST_F(MailScripts, areNotInstalledOverAPlainFile) {
+  folder.write(target, "in the way");
+  EXPECT_FALSE(install());
+  EXPECT_EQ(folder.read(target), "in the way");
+}
+
+TEST_F(MailScripts, followNoLinkInTheirPlace) {
+  folder.write("elsewhere/mine.scpt", "the user's");
+  ASSERT_EQ(::symlink((folder / "elsewhere").c_str(), (folder / target).c_str()), 0);
+  EXPECT_FALSE(install());
+  EXPECT_FALSE(remove());
+  EXPECT_EQ(folder.names("elsewhere"), Rows{"mine.scpt"});
+  EXPECT_TRUE(folder.exists(target));
+}
+
+TEST_F(MailScripts, areRemovedWithTheirFolder) {
+  ASSERT_TRUE(install());
+  folder.write(target + "/sub/the user's", "too");
+  EXPECT_TRUE(remove());
+  EXPECT_FALSE(folder.exists(target));
+  EXPECT_TRUE(folder.exists(inRoot(installFolder(mail))));
+}
+
+TEST_F(MailScripts, stayFromTheFirstThatCannotBeRemoved) {
+  ASSERT_TRUE(install());
+  files.disturb(2, [](const FaultyFiles::Use&, const std::function<bool()>&) { return false; });  // list, a, b
+  EXPECT_FALSE(remove());
+  EXPECT_EQ(folder.names(target), (Rows{"b.scpt", "sub"}));
+}
+
+TEST_F(MailScripts, areOnlyGoneWhenTheirFolderIs) {
+  ASSERT_TRUE(install());
+  // What fails last decides: the folder itself.
+  files.disturb(4, [](const FaultyFiles::Use&, const std::function<bool()>&) { return false; });
+  EXPECT_FALSE(remove());
+  EXPECT_TRUE(folder.names(target).empty());
+}
+
+TEST_F(MailScripts, keepTheirFolderForALinkThatLeadsNowhere) {
+  ASSERT_TRUE(install());
+  ASSERT_EQ(::symlink("nowhere", (folder / (target + "/x")).c_str()), 0);
+  EXPECT_FALSE(remove());
+  EXPECT_EQ(folder.names(target), Rows{"x"});
+}
+
+TEST_F(MailScripts, cannotBeRemovedWhereThereAreNone) { EXPECT_FALSE(remove()); }
+
+TEST_F(MailScripts, ofANamelessRecordTouchNothing) {
+  for (const char* name : {"", "/", "Mail/..", "."}) {
+    const AddinEntry nameless = with(mail, addin_keys::installMacroName, name);
+    EXPECT_FALSE(mailScripts.installMailScript(nameless)) << name;
+    EXPECT_FALSE(mailScripts.unInstallMailScript(nameless)) << name;
+    EXPECT_FALSE(lists.getInstallStatus(nameless)) << name;
+  }
+  EXPECT_TRUE(folder.exists(inRoot(installFolder(mail))));
+  EXPECT_EQ(folder.names(inRoot("/Users/taro/Library/Scripts")), Rows{"Applications"});
 }
 
 }  // namespace

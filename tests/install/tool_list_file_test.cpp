@@ -3,6 +3,8 @@
 #include "install/tool_list_file.h"
 
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -130,6 +132,37 @@ TEST_F(ToolList, theTitleIsWrittenInShiftJisAsOtherProgramsWriteIt) {
   }
 }
 
+TEST_F(ToolList, readsBackThroughAnotherDecoderLineByLine) {
+  outlets.officeToolPopup.setItemTitle(2, "ユーザー辞書～表示");
+  choose(2);
+  const std::string command = "iconv -f CP932 -t UTF-8 '" + folder / listFile + "' > '" + folder / "utf8.txt" + "'";
+  ASSERT_EQ(std::system(command.c_str()), 0);
+  EXPECT_EQ(folder.read("utf8.txt"),
+            "Server_Path=tTS8\r\n"
+            "Cache_Path=Macintosh HD:Users:taro:Library:Preferences:Wordhaven:Cache\r\n"
+            "Setting_Path=tSM8\r\n"
+            "Helpfile_Path=Macintosh HD:Applications:TarvoEiwa.localized:Contents:AddInHelp:index.htm\r\n"
+            "Tool_Name=ユーザー辞書～表示\r\n"
+            "Tool_Path=tUD8\r\n"
+            "Tool_Action=2\r\n"
+            "Tool_Parameter=doSearch\r\n");
+  EXPECT_EQ(written(), convertedByIconv(folder, folder.read("utf8.txt")));
+}
+
+TEST_F(ToolList, endsEveryLineInTheSameWayAndHasNoMark) {
+  for (int index = 0; index < 7; ++index) {
+    choose(index);
+    const std::string text = written();
+    EXPECT_TRUE(text.starts_with("Server_Path="));
+    EXPECT_TRUE(text.ends_with("\r\n"));
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      EXPECT_TRUE(text[i] != '\n' || text[i - 1] == '\r') << index;
+      EXPECT_TRUE(text[i] != '\r' || text[i + 1] == '\n') << index;
+    }
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 8);
+  }
+}
+
 TEST_F(ToolList, aCharacterThatShiftJisLacksBecomesAQuestionMark) {
   outlets.officeToolPopup.setItemTitle(0, "한글 é 😀 x");
   choose(0);
@@ -175,6 +208,22 @@ TEST_F(ToolList, keepsTheOldFileWhenItCannotBeReplaced) {
   choose(2);
   EXPECT_EQ(folder.names(listFolder), std::vector<std::string>{"TarvoManager.txt"}) << "no temporary file stays";
   EXPECT_TRUE(folder.exists(std::string(listFile) + "/folder in the way"));
+  EXPECT_EQ(*defaults.find("Tool_Path"), PropertyList("tUD8"));
+}
+
+TEST_F(ToolList, keepsTheOldBytesWhenTheDiskIsFull) {
+  choose(0);
+  const std::string before = written();
+  rlimit limit{};
+  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+  const auto handler = ::signal(SIGXFSZ, SIG_IGN);
+  const rlimit small{16, limit.rlim_max};
+  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+  choose(2);
+  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+  ::signal(SIGXFSZ, handler);
+  EXPECT_EQ(written(), before);
+  EXPECT_EQ(folder.names(listFolder), std::vector<std::string>{"TarvoManager.txt"}) << "no temporary file stays";
   EXPECT_EQ(*defaults.find("Tool_Path"), PropertyList("tUD8"));
 }
 

@@ -16,9 +16,11 @@ ROOT = REPOSITORY / "sample/root"
 PRODUCT = ROOT / "Library/Application Support/Wordhaven/TarvoEiwa"
 TOOLS = {"MG", "QB", "TX", "GD", "TMA", "NP", "ADD", "MAIL"}
 SAME_IN_ALL_LANGUAGES = TOOLS | {"NomalStyle", "keyNameSeparator", "IgakuSougou", "Shinryouka", "Corwell", "Tekado",
-                                 "NameETekado", "NameJTekado"}
+                                 "NameETekado", "NameJTekado", "MailTarvoFolderName", "Outlook2011TarvoFolderName",
+                                 "Entourage2004TarvoFolderName"}
 ITEM_COUNTS = {"Opt1": 3, "Opt2": 3, "Opt3": 3, "TOpt1": 5, "TOpt2": 5, "TOpt3": 4, "TOpt5": 2}
-IMAGES = {"SM32", "office32", "mail32", "MG", "QB", "TX", "GD32", "TMA", "NP", "EJTD16", "JETD16", "TarvoManager"}
+IMAGES = {"SM32", "office32", "mail32", "MG", "QB", "TX", "GD32", "TMA", "NP", "UD", "TL", "EJTD16", "JETD16",
+          "TarvoManager"}
 faults = []
 
 
@@ -119,6 +121,25 @@ def check_product():
     expect(version == "10.6.8", f"system version {version}")
 
 
+def check_addins():
+    """Each record leads to something that can be installed, and to an application of the sample where there is one."""
+    records = read(REPOSITORY / "resources/DefaultAddin.plist").get("Office", [])
+    keys = {"AppName", "AppCreator", "AppVersion", "AppPath", "InstallMacroName", "InstallFolderPath", "InstallFolderName"}
+    found = 0
+    for record in records:
+        name = record.get("AppName")
+        expect(set(record) == keys and all(type(value) is str for value in record.values()), f"{name}: wrong keys")
+        item = REPOSITORY / "resources" / record["InstallMacroName"]
+        is_mail = record["AppCreator"] in ("OPIM", "emal")
+        expect(any(item.iterdir()) if is_mail and item.is_dir() else item.is_file(), f"{name}: nothing to install")
+        expect(record["InstallFolderPath"].startswith("/") is not is_mail, f"{name}: {record['InstallFolderPath']}")
+        information = ROOT / record["AppPath"].lstrip("/") / "Contents/Info.plist"
+        if information.exists():
+            found += 1
+            expect(is_mail or read(information).get("CFBundleSignature") == record["AppCreator"], f"{name}: other creator")
+    expect(len(records) == 12 and found == 9, f"{len(records)} records, {found} of them in the sample product")
+
+
 def check_resources():
     paths = read(REPOSITORY / "resources/WordhavenPaths.plist")
     for key, value in paths.items():
@@ -138,6 +159,7 @@ def check_resources():
 
 check_styles(check_texts())
 check_product()
+check_addins()
 check_resources()
 for fault in faults:
     print(fault)

@@ -102,9 +102,9 @@ class FakeWorkspace : public Workspace {
  public:
   void openFile(const std::string& path) override { opened.push_back(path); }
   void openAddress(const std::string& address) override { addresses.push_back(address); }
-  void launchApplication(const std::string&) override {}
+  void launchApplication(const std::string& name) override { launched.push_back(name); }
   std::vector<std::string> launchedApplications() override { return running; }
-  std::vector<std::string> opened, addresses, running;
+  std::vector<std::string> opened, addresses, launched, running;
 };
 
 // Posted calls run at once unless they are held until run(). Timers fire by hand, in the order of their times.

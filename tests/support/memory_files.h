@@ -29,6 +29,8 @@ class MemoryFiles : public FileService {
   int writes() const { return writes_; }             // that succeeded
 
   Kind kind(const std::string& path) const override;
+  bool isLink(const std::string&) const override { return false; }
+  bool isWritable(const std::string& folder) const override { return isFolder(folder); }
   std::optional<std::string> read(const std::string& path) const override;
   bool write(const std::string& path, std::string_view bytes) override;
   bool keepUnreadable(const std::string& path) override;

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/interface.h"
+#include "app/rooms.h"
+#include "platform/texts.h"
+
+// The Office pane, the mail pane and their cautions.
+namespace tarvo {
+
+void Interface::addinRows(Rooms& rooms, const Texts& texts) {
+  const auto table = [&](TableView& view, std::vector<TableView::Column> columns, int tag) {
+    view.setColumns(std::move(columns));
+    view.setDataSource(&rooms.addinTable);
+    view.setDelegate(&rooms.addinTable);
+    row({.control = view, .tag = tag, .tab = &manager.myTabView, .page = tag + 1});
+  };
+  const auto onPage = [&](Control& control, int page, Control::Action action = {}) {
+    row({.control = control, .tab = &manager.myTabView, .page = page, .action = std::move(action)});
+  };
+  table(addins.officeTableView, {{.identifier = "Value", .checkBox = true}, {"AppName"}, {"Version"}}, 0);
+  onPage(addins.officeInfoField, 1);
+  onPage(addins.officeSearchButton, 1, to(rooms.officeSearch, &OfficeFolderSearch::SelectOfficeFolder));
+  onPage(addins.officePowerPointButton, 1, to(rooms.cautions, &CautionWindows::selectPowerPoint));
+  table(addins.mailTableView, {{.identifier = "Value", .checkBox = true}, {"AppName"}}, 1);
+  onPage(addins.mailinfoField, 2);
+  onPage(addins.mailCautionButton, 2, to(rooms.cautions, &CautionWindows::mailButtonAction));
+  onPage(addins.scriptEditorButton, 2, to(rooms.cautions, &CautionWindows::launchAppleScriptEditor));
+  onPage(addins.scriptUtilityButton, 2, to(rooms.cautions, &CautionWindows::launchAppleScriptUtil));
+
+  struct Caution {
+    Window& window;
+    TextField& text;
+    Button& button;
+    const char* outlet;
+    void (CautionWindows::*close)();
+  };
+  for (const Caution& caution :
+       {Caution{addins.alertWindow, addins.alertWindowText, addins.alertCloseButton, "alertWindow",
+                &CautionWindows::closeCautionWindow},
+        Caution{addins.alertWindowSL, addins.alertWindowSLText, addins.alertSLCloseButton, "alertWindowSL",
+                &CautionWindows::closeCautionWindow},
+        Caution{addins.alertPowerPoint, addins.alertPowerPointText, addins.powerPointCloseButton, "alertPowerPoint",
+                &CautionWindows::closePowerPoint}}) {
+    const std::string outlet = caution.outlet;
+    row({.control = caution.window, .window = &caution.window});
+    caution.window.setTitle(texts.localized("Label." + outlet));
+    caution.window.close = [&rooms, close = caution.close] { (rooms.cautions.*close)(); };
+    row({.control = caution.text, .window = &caution.window, .label = outlet + ".text"});
+    caution.text.setStringValue(texts.localized(outlet + ".text"));
+    row({.control = caution.button, .window = &caution.window, .action = to(rooms.cautions, caution.close)});
+  }
+}
+
+}  // namespace tarvo

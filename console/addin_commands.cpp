@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "console/addin_commands.h"
+
+#include <algorithm>
+
+#include "app/product.h"
+#include "app/product_defaults.h"
+#include "app/program.h"
+#include "console/addin_reading.h"
+#include "console/json.h"
+#include "console/text_table.h"
+#include "console/verb_program.h"
+#include "install/addin_diagnosis.h"
+#include "platform/file_service.h"
+
+namespace tarvo {
+
+namespace {
+
+using namespace addin_keys;
+using Rows = std::vector<AddinEntry>;
+
+Json jsonOf(const AddinEntry& row, const char* table, const Locations& locations) {
+  return Json::Object{{"table", table},
+                      {"name", addinText(row, appName)},
+                      {"version", addinText(row, appVersion)},
+                      {"creator", addinText(row, appCreator)},
+                      {"path", locations.shown(addinText(row, appPath))},
+                      {"folder", locations.shown(addinText(row, installFolderPath))},
+                      {"installed", isMarkedInstalled(row)}};
+}
+
+std::vector<std::string> lineOf(const AddinEntry& row, const char* first, const Locations& locations) {
+  return {first, addinText(row, appName), addinText(row, appVersion), locations.shown(addinText(row, appPath))};
+}
+
+std::optional<AddinsRead> read(Console& console) {
+  std::optional<AddinsRead> addins = readAddins(console.product);
+  if (!addins) console.err << "there is no list of the applications that take add-ins\n";
+  return addins;
+}
+
+struct Place {
+  int tag = 0, row = -1;  // of the table; -1: none
+};
+
+struct Match {
+  int count = 0;
+  Place place;  // of the first
+};
+
+bool isMeant(const AddinEntry& row, const std::string& name, const std::string& version) {
+  return addinText(row, appName) == name && (version.empty() || addinText(row, appVersion) == version);
+}
+
+Match findRow(const Rows& office, const Rows& mail, const std::string& name, const std::string& version) {
+  Match match;
+  int tag = 0;
+  for (const Rows* rows : {&office, &mail}) {
+    for (std::size_t i = 0; i < rows->size(); ++i) {
+      if (!isMeant((*rows)[i], name, version)) continue;
+      if (match.count++ == 0) match.place = {tag, static_cast<int>(i)};
+    }
+    ++tag;
+  }
+  return match;
+}
+
+// Why the name means no row, or several; "" when it means one.
+std::string problemWith(const Match& match, const std::string& name, const std::string& version) {
+  const std::string asked = version.empty() ? name : name + ", version " + version;
+  if (match.count == 0) return "there is no add-in for " + asked;
+  if (match.count > 1) return "there are " + std::to_string(match.count) + " rows for " + asked;
+  return {};
+}
+
+}  // namespace
+
+ExitStatus AddinsCommand::run(Console& console) {
+  const std::optional<AddinsRead> addins = read(console);
+  if (!addins) return ExitStatus::refused;
+  const Locations& locations = console.product.locations();
+  Json::List list;
+  std::vector<std::vector<std::string>> lines;
+  for (const auto& [rows, table] : {std::pair(&addins->office, "office"), std::pair(&addins->mail, "mail")}) {
+    for (const AddinEntry& row : *rows) {
+      list.push_back(jsonOf(row, table, locations));
+      lines.push_back(lineOf(row, isMarkedInstalled(row) ? "installed" : "-", locations));
+    }
+  }
+  if (json_) {
+    console.out << writeJson(list) << '\n';
+  } else {
+    writeTable(console.out, lines);
+  }
+  return ExitStatus::done;
+}
+
+ExitStatus AddinTickCommand::run(Console& console) {
+  const std::optional<AddinsRead> addins = read(console);
+  if (!addins) return ExitStatus::refused;
+  const Match known = findRow(addins->office, addins->mail, name_, version_);
+  if (const std::string problem = problemWith(known, name_, version_); !problem.empty()) {
+    console.err << problem << '\n';
+    return ExitStatus::usage;
+  }
+  VerbProgram verb(console);
+  return verb.run([&](Program& program, Hand& hand) {
+    AddinLists& lists = program.rooms().addins;
+    const Match match = findRow(lists.fOfficeAddinArray, lists.fMailAddinArray, name_, version_);
+    // The start makes a folder without which a mail program is not listed; that can fail.
+    if (const std::string problem = problemWith(match, name_, version_); !problem.empty()) return verb.refuse(problem);
+    const auto row = [&]() -> const AddinEntry& {
+      return (*lists.rowsOf(match.place.tag))[static_cast<std::size_t>(match.place.row)];
+    };
+    if (isMarkedInstalled(row()) == install_) {
+      return verb.refuse(name_ + (install_ ? " has its add-in already" : " has no add-in"));
+    }
+    const AddinDiagnosis before = diagnoseAddin(row(), console.product.files(), console.product.bundle());
+    AddinOutlets& outlets = program.interface().addins;
+    hand.tick(match.place.tag == 0 ? outlets.officeTableView : outlets.mailTableView, match.place.row, install_);
+    if (isMarkedInstalled(row()) == install_) return;
+    const TextField& info = match.place.tag == 0 ? outlets.officeInfoField : outlets.mailinfoField;
+    const bool isKnown = install_ && !before.obstacle.empty();
+    verb.refuse(info.stringValue() + (isKnown ? " (" + before.obstacle + ")" : ""));
+  });
+}
+
+ExitStatus AddinSearchCommand::run(Console& console) {
+  const std::string folder = absolutePath(folder_);
+  Locations& locations = console.product.locations();
+  if (console.product.files().kind(locations.picked(folder)) != FileService::Kind::folder) {
+    console.err << "there is no folder " << folder_ << '\n';
+    return ExitStatus::usage;
+  }
+  VerbProgram verb(console);
+  verb.answerFilePanels(folder);
+  return verb.run([&](Program& program, Hand& hand) {
+    if (!console.product.files().list(locations.picked(folder))) return verb.refuse(folder_ + " cannot be listed");
+    AddinLists& lists = program.rooms().addins;
+    const std::size_t office = lists.fOfficeAddinArray.size(), mail = lists.fMailAddinArray.size();
+    hand.press(program.interface().addins.officeSearchButton);
+    std::vector<std::vector<std::string>> lines;
+    for (std::size_t i = office; i < lists.fOfficeAddinArray.size(); ++i) {
+      lines.push_back(lineOf(lists.fOfficeAddinArray[i], "added", locations));
+    }
+    for (std::size_t i = mail; i < lists.fMailAddinArray.size(); ++i) {
+      lines.push_back(lineOf(lists.fMailAddinArray[i], "added", locations));
+    }
+    writeTable(console.out, lines);
+    if (lines.empty()) {
+      console.err << "nothing was added: there is no application of Office 2011 in this folder that is not listed\n";
+    }
+  });
+}
+
+ExitStatus ToolListCommand::run(Console& console) {
+  const auto tool = std::find(gAppCreatorArray.begin(), gAppCreatorArray.end(), tool_);
+  if (!tool_.empty() && tool == gAppCreatorArray.end()) {
+    console.err << "there is no tool " << tool_ << "; the tools are";
+    for (const std::string_view code : gAppCreatorArray) console.err << ' ' << code;
+    console.err << '\n';
+    return ExitStatus::usage;
+  }
+  VerbProgram verb(console);
+  return verb.run([&](Program& program, Hand& hand) {
+    const ToolListFile& file = program.rooms().toolList;
+    const int index = static_cast<int>(tool - gAppCreatorArray.begin());
+    if (!tool_.empty()) hand.choose(program.interface().tools.officeToolPopup, index);
+    if (!file.isWritten()) verb.refuse(console.product.locations().resolve(file.path()) + " could not be written");
+  });
+}
+
+}  // namespace tarvo

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "install/addin_entry.h"
+
+namespace tarvo {
+
+class Bundle;
+class FileService;
+
+// What can be said of one add-in by looking at the disk, for people who ask why a box does not do what they expect.
+struct AddinDiagnosis {
+  std::string table;  // "office" or "mail"
+  std::string name, version;
+  std::string application;           // path; listed only while it exists
+  std::string folder;                // install folder
+  std::string item;                  // where the macro or the script folder goes; "" when the record names none
+  std::vector<std::string> missing;  // paths that should be there: application, resource, folder, scripts left out
+  std::string obstacle;              // why an install would fail now, in plain words; "" when nothing is in its way
+  bool isMarked = false;             // what the row says
+  bool isThere = false;              // what the disk says
+  bool isPartial = false;            // a script folder that lacks some of its scripts
+  bool differs() const { return isMarked != isThere; }
+};
+
+// entry: a row, or a record with an absolute install folder. Changes nothing.
+AddinDiagnosis diagnoseAddin(const AddinEntry& entry, const FileService& files, const Bundle& bundle);
+
+}  // namespace tarvo

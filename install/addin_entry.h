@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/property_list.h"
+
+// One application that can take an add-in: an Office program and its macro, or a mail program and its folder of
+// scripts. Records come from the shipped list ("DefaultAddin.plist") and from the settings ("Office"); keys that nobody
+// here knows stay in them.
+namespace tarvo {
+
+using AddinEntry = Dictionary;
+
+namespace addin_keys {
+inline constexpr const char* appName = "AppName";
+inline constexpr const char* appCreator = "AppCreator";  // MSWD, XCEL, PPT3; OPIM and emal are mail programs
+inline constexpr const char* appVersion = "AppVersion";  // the product year
+inline constexpr const char* appPath = "AppPath";
+inline constexpr const char* installMacroName = "InstallMacroName";    // below the resources: subfolder and item
+inline constexpr const char* installFolderPath = "InstallFolderPath";  // absolute; shipped mail records: below the home
+inline constexpr const char* installFolderName = "InstallFolderName";  // below a folder chosen later, or below the home
+inline constexpr const char* installStatus = "InstallStatus";          // boolean; never shipped
+inline constexpr const char* office = "Office";  // the array of records, shipped and in the settings
+}  // namespace addin_keys
+
+inline constexpr const char* outlookCreator = "OPIM";    // Outlook 2011 and Entourage 2004
+inline constexpr const char* appleMailCreator = "emal";  // Apple Mail
+
+// The text of a key, "" when there is none.
+std::string addinText(const AddinEntry& entry, std::string_view key);
+bool isMailAddin(const AddinEntry& entry);
+bool isMarkedInstalled(const AddinEntry& entry);  // what "InstallStatus" says
+
+// The item's own name: the last component of "InstallMacroName". "" when that names nothing that can lie in a folder,
+// so that a damaged record can never mean the install folder itself or one above it.
+std::string addinItemName(const AddinEntry& entry);
+// The part of "InstallMacroName" before the item's name: the subfolder of the resources.
+std::string addinItemFolder(const AddinEntry& entry);
+// Where the item is installed; "" when the record names no item.
+std::string installedItemPath(const AddinEntry& entry);
+
+}  // namespace tarvo

@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "install/addin_lists.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "install/addin_outlets.h"
+#include "install/mail_script_installer.h"
+#include "platform/bundle.h"
+#include "platform/file_service.h"
+#include "platform/plist_file.h"
+#include "platform/text_rules.h"
+#include "platform/user_defaults.h"
+
+namespace tarvo {
+
+namespace {
+
+using namespace addin_keys;
+
+// Elements that are no records are left out.
+std::vector<AddinLists::SharedEntry> entriesOf(const Array& values) {
+  std::vector<AddinLists::SharedEntry> entries;
+  for (const PropertyList& value : values) {
+    if (value.dictionary() != nullptr) entries.push_back(std::make_shared<AddinEntry>(*value.dictionary()));
+  }
+  return entries;
+}
+
+}  // namespace
+
+AddinLists::AddinLists(Services services, std::string home, const MailScriptInstaller& mailScripts,
+                       AddinOutlets& outlets)
+    : services_(services), home_(std::move(home)), mailScripts_(mailScripts), outlets_(outlets) {}
+
+bool AddinLists::loadAddinPlist() {
+  fDefaultOfficeSetArray = readShipped();
+  fOfficeArray.clear();
+  const PropertyList* remembered = services_.defaults.find(office);
+  if (remembered != nullptr && remembered->array() != nullptr) {
+    fOfficeArray = entriesOf(*remembered->array());
+    joinOutlook();
+    return true;
+  }
+  if (!fDefaultOfficeSetArray) return false;
+  fOfficeArray = *fDefaultOfficeSetArray;
+  for (const SharedEntry& entry : fOfficeArray) {
+    if (isMailAddin(*entry)) prefixHome(*entry);
+  }
+  return true;
+}
+
+std::optional<std::vector<AddinLists::SharedEntry>> AddinLists::readShipped() const {
+  const std::optional<std::string> path = services_.bundle.resource("DefaultAddin", "plist");
+  const std::optional<Dictionary> root = path ? PlistFile(services_.files, *path).read() : std::nullopt;
+  const Array* records = root ? root->array(office) : nullptr;
+  return records != nullptr ? std::optional(entriesOf(*records)) : std::nullopt;
+}
+
+void AddinLists::joinOutlook() {
+  if (!fDefaultOfficeSetArray) return;
+  for (const SharedEntry& shipped : *fDefaultOfficeSetArray) {
+    if (addinText(*shipped, appCreator) != outlookCreator) continue;
+    const std::string path = addinText(*shipped, appPath);
+    const bool known = std::any_of(fOfficeArray.begin(), fOfficeArray.end(), [&path](const SharedEntry& entry) {
+      return addinText(*entry, appCreator) == outlookCreator && addinText(*entry, appPath) == path;
+    });
+    if (known) continue;
+    prefixHome(*shipped);
+    fOfficeArray.push_back(shipped);
+  }
+}
+
+void AddinLists::prefixHome(AddinEntry& entry) const {
+  entry.set(installFolderPath, joinPath(home_, addinText(entry, installFolderPath)));
+}
+
+bool AddinLists::searchOfficeApplication() {
+  fOfficeAddinArray.clear();
+  fMailAddinArray.clear();
+  if (!loadAddinPlist()) return false;
+  for (const SharedEntry& candidate : fOfficeArray) {
+    AddinEntry entry = *candidate;
+    if (!services_.files.exists(addinText(entry, appPath))) continue;
+    entry.set(installStatus, getInstallStatus(entry));
+    if (!isMailAddin(entry)) {
+      fOfficeAddinArray.push_back(std::move(entry));
+    } else if (mailScripts_.isMailScriptFolder(entry)) {
+      fMailAddinArray.push_back(std::move(entry));
+    }
+  }
+  reloadTables();
+  return true;
+}
+
+bool AddinLists::getInstallStatus(const AddinEntry& entry) const {
+  return services_.files.exists(installedItemPath(entry));
+}
+
+void AddinLists::storeRows() {
+  fOfficeArray.clear();
+  Array values;
+  for (const std::vector<AddinEntry>* rows : {&fOfficeAddinArray, &fMailAddinArray}) {
+    for (const AddinEntry& entry : *rows) {
+      fOfficeArray.push_back(std::make_shared<AddinEntry>(entry));
+      values.emplace_back(entry);
+    }
+  }
+  services_.defaults.set(office, std::move(values));
+  services_.defaults.synchronize();
+}
+
+void AddinLists::reloadTables() {
+  outlets_.officeTableView.reloadData();
+  outlets_.mailTableView.reloadData();
+}
+
+std::vector<AddinEntry>* AddinLists::rowsOf(int tag) {
+  if (tag == 0) return &fOfficeAddinArray;
+  return tag == 1 ? &fMailAddinArray : nullptr;
+}
+
+}  // namespace tarvo

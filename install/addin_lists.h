@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "install/addin_entry.h"
+
+// The applications that can take an add-in.
+// Duty: read the shipped and the remembered records, find the applications among them that are installed, hold the rows
+// of both tables, remember them at the end. Not: installing; telling the user that there are no records.
+// The rows are built once a run. A record that was not listed at the last exit stays forgotten as long as the settings
+// hold a list: users who removed an application do not get it back with the next version of the shipped list. Only
+// Outlook and Entourage join a remembered list.
+namespace tarvo {
+
+class Bundle;
+class FileService;
+class MailScriptInstaller;
+class UserDefaults;
+struct AddinOutlets;
+
+class AddinLists {
+ public:
+  struct Services {
+    FileService& files;
+    const Bundle& bundle;
+    UserDefaults& defaults;
+  };
+  using SharedEntry = std::shared_ptr<AddinEntry>;
+  // home: in the core's spelling.
+  AddinLists(Services services, std::string home, const MailScriptInstaller& mailScripts, AddinOutlets& outlets);
+
+  // Builds the candidates. False: neither a remembered nor a shipped list, nothing can be done.
+  bool loadAddinPlist();
+  // Builds both tables' rows from the candidates and shows them. False: see loadAddinPlist.
+  bool searchOfficeApplication();
+  // Whether the item lies in its install folder: a file or a folder.
+  bool getInstallStatus(const AddinEntry& entry) const;
+  // The rows become the candidates and are remembered in the settings, Office rows first.
+  void storeRows();
+  void reloadTables();
+  // The rows of the table with this tag; null for another tag.
+  std::vector<AddinEntry>* rowsOf(int tag);
+
+  // The shipped records; nothing when there is no such list. Candidates that come from it are the same records, so
+  // that a path made absolute in one is absolute in both.
+  std::optional<std::vector<SharedEntry>> fDefaultOfficeSetArray;
+  std::vector<SharedEntry> fOfficeArray;      // candidates
+  std::vector<AddinEntry> fOfficeAddinArray;  // rows, copies of their own
+  std::vector<AddinEntry> fMailAddinArray;
+
+ private:
+  std::optional<std::vector<SharedEntry>> readShipped() const;
+  void joinOutlook();
+  void prefixHome(AddinEntry& entry) const;
+  Services services_;
+  std::string home_;
+  const MailScriptInstaller& mailScripts_;
+  AddinOutlets& outlets_;
+};
+
+}  // namespace tarvo

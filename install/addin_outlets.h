@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/table_view.h"
+#include "platform/windows.h"
+
+namespace tarvo {
+
+// The Office pane, the mail pane and the cautions that their buttons bring up. The tool's pop-up is ToolListOutlets'.
+struct AddinOutlets : Outlets {
+  TableView officeTableView{*this, "officeTableView"};  // tag 0: "Value" (check box), "AppName", "Version"
+  TextField officeInfoField{*this, "officeInfoField", Control::Kind::text};
+  Button officeSearchButton{*this, "officeSearchButton"}, officePowerPointButton{*this, "officePowerPointButton"};
+  TableView mailTableView{*this, "mailTableView"};  // tag 1: "Value" (check box), "AppName"
+  TextField mailinfoField{*this, "mailinfoField", Control::Kind::text};
+  Button mailCautionButton{*this, "mailCautionButton"};
+  Button scriptEditorButton{*this, "scriptEditorButton"}, scriptUtilityButton{*this, "scriptUtilityButton"};
+
+  Window alertWindow{*this, "alertWindow"}, alertWindowSL{*this, "alertWindowSL"},
+      alertPowerPoint{*this, "alertPowerPoint"};
+  TextField alertWindowText{*this, "alertWindowText", Control::Kind::text},
+      alertWindowSLText{*this, "alertWindowSLText", Control::Kind::text},
+      alertPowerPointText{*this, "alertPowerPointText", Control::Kind::text};
+  Button alertCloseButton{*this, "alertCloseButton"}, alertSLCloseButton{*this, "alertSLCloseButton"},
+      powerPointCloseButton{*this, "powerPointCloseButton"};
+  AddinOutlets() : Outlets("manager") {}
+};
+
+}  // namespace tarvo

@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "install/addin_table.h"
+
+#include <utility>
+
+#include "install/addin_lists.h"
+#include "install/addin_outlets.h"
+#include "install/macro_installer.h"
+#include "install/mail_script_installer.h"
+#include "platform/panels.h"
+#include "platform/texts.h"
+
+namespace tarvo {
+
+namespace {
+
+using namespace addin_keys;
+
+constexpr int officeTag = 0, mailTag = 1;
+
+}  // namespace
+
+AddinTable::AddinTable(Services services, AddinLists& lists, MacroInstaller& macros, MailScriptInstaller& mailScripts,
+                       AddinOutlets& outlets, const TabView& panes)
+    : services_(services),
+      lists_(lists),
+      macros_(macros),
+      mailScripts_(mailScripts),
+      outlets_(outlets),
+      panes_(panes) {}
+
+AddinEntry* AddinTable::entryAt(int tag, int row) {
+  std::vector<AddinEntry>* rows = lists_.rowsOf(tag);
+  if (rows == nullptr || !std::in_range<std::size_t>(row) || static_cast<std::size_t>(row) >= rows->size()) {
+    return nullptr;
+  }
+  return &(*rows)[static_cast<std::size_t>(row)];
+}
+
+int AddinTable::numberOfRowsInTableView(TableView& table) {
+  const std::vector<AddinEntry>* rows = lists_.rowsOf(table.tag());
+  return rows != nullptr ? static_cast<int>(rows->size()) : -1;
+}
+
+CellValue AddinTable::objectValueForTableColumn(TableView& table, std::string_view column, int row) {
+  const AddinEntry* entry = entryAt(table.tag(), row);
+  CellValue cell;
+  if (entry == nullptr) return cell;
+  if (column == "Value") cell.checked = isMarkedInstalled(*entry);
+  if (column == "AppName") cell.text = addinText(*entry, appName);
+  if (column == "Version" && table.tag() == officeTag) cell.text = addinText(*entry, appVersion);
+  return cell;
+}
+
+void AddinTable::setObjectValue(TableView& table, bool value, std::string_view column, int row) {
+  fIsInstalled = true;
+  AddinEntry* entry = entryAt(table.tag(), row);
+  if (entry == nullptr || column != "Value") return;
+  const Change changed = change(*entry, table.tag(), value);
+  if (changed.failed) services_.panels.beep();
+  entry->set(installStatus, changed.isInstalled);
+  const std::string text = addinText(*entry, appName) + changed.text;
+  table.reloadData();
+  infoField(table.tag()).setStringValue(text);
+}
+
+AddinTable::Change AddinTable::change(const AddinEntry& entry, int tag, bool on) {
+  const bool done = perform(entry, tag, on);
+  const std::string key = std::string(tag == officeTag ? "Office" : "Mail") + (on ? "Install" : "UnInstall") +
+                          (done ? "IsSuccessed" : "IsFailed");
+  return {.text = services_.texts.localized(key), .isInstalled = on == done, .failed = !done};
+}
+
+bool AddinTable::perform(const AddinEntry& entry, int tag, bool on) {
+  if (tag == officeTag) return on ? macros_.installOfficeMacro(entry) : macros_.unInstallOfficeMacro(entry);
+  return on ? mailScripts_.installMailScript(entry) : mailScripts_.unInstallMailScript(entry);
+}
+
+TextField& AddinTable::infoField(int tag) {
+  return tag == officeTag ? outlets_.officeInfoField : outlets_.mailinfoField;
+}
+
+void AddinTable::selectionDidChange(TableView&) {
+  if (std::exchange(fIsInstalled, false)) return;
+  const int tag = panes_.selectedPage() - 1;  // the pages of the add-ins are the second and the third
+  if (tag != officeTag && tag != mailTag) return;
+  const TableView& table = tag == officeTag ? outlets_.officeTableView : outlets_.mailTableView;
+  const AddinEntry* entry = entryAt(tag, table.selectedRow());
+  if (entry == nullptr) return;
+  const bool installed = isMarkedInstalled(*entry);
+  const std::string name = addinText(*entry, appName);
+  if (tag == officeTag) {
+    infoField(tag).setStringValue(addinText(*entry, appPath) + "\n\n" + name +
+                                  services_.texts.localized(installed ? "OfficeisInstalled" : "OfficeisNotInstalled"));
+  } else {
+    infoField(tag).setStringValue(name +
+                                  services_.texts.localized(installed ? "MailisInstalled" : "MailisNotInstalled"));
+  }
+}
+
+}  // namespace tarvo

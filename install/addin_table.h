@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "install/addin_entry.h"
+#include "platform/table_view.h"
+
+// Data source and delegate of the Office table (tag 0) and the mail table (tag 1).
+// Duty: what a row shows; installing or removing when its box is ticked; the text about the selected or the changed
+// row. Not: copying and removing. The box shows what the operation gave, even where the disk says otherwise: the next
+// start looks at the disk again.
+namespace tarvo {
+
+class AddinLists;
+class MacroInstaller;
+class MailScriptInstaller;
+class Panels;
+class TabView;
+class TextField;
+class Texts;
+struct AddinOutlets;
+
+class AddinTable : public TableDataSource, public TableDelegate {
+ public:
+  struct Services {
+    Panels& panels;
+    const Texts& texts;
+  };
+  // panes: the tab view whose page decides which table a selection is told of.
+  AddinTable(Services services, AddinLists& lists, MacroInstaller& macros, MailScriptInstaller& mailScripts,
+             AddinOutlets& outlets, const TabView& panes);
+
+  int numberOfRowsInTableView(TableView& table) override;
+  CellValue objectValueForTableColumn(TableView& table, std::string_view column, int row) override;
+  void setObjectValue(TableView& table, bool value, std::string_view column, int row) override;
+  void selectionDidChange(TableView& table) override;
+
+  // Set by every edit, taken back by the next selection, whose text it suppresses: the click that ticks a box also
+  // selects its row, and the result must stay to be read.
+  bool fIsInstalled = false;
+
+ private:
+  struct Change {
+    std::string text;  // what is told behind the application's name
+    bool isInstalled;  // what the box shows from now on
+    bool failed;
+  };
+  AddinEntry* entryAt(int tag, int row);
+  Change change(const AddinEntry& entry, int tag, bool on);
+  bool perform(const AddinEntry& entry, int tag, bool on);
+  TextField& infoField(int tag);
+  Services services_;
+  AddinLists& lists_;
+  MacroInstaller& macros_;
+  MailScriptInstaller& mailScripts_;
+  AddinOutlets& outlets_;
+  const TabView& panes_;
+};
+
+}  // namespace tarvo

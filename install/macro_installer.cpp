@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "install/macro_installer.h"
+
+#include <optional>
+
+#include "platform/bundle.h"
+#include "platform/file_service.h"
+#include "platform/text_rules.h"
+
+namespace tarvo {
+
+bool MacroInstaller::installOfficeMacro(const AddinEntry& entry) {
+  const std::string name = addinItemName(entry);
+  if (name.empty()) return false;
+  const std::optional<std::string> source =
+      bundle_.resource(deletingPathExtension(name), pathExtension(name), addinItemFolder(entry));
+  return source && files_.copy(*source, installedItemPath(entry));
+}
+
+bool MacroInstaller::unInstallOfficeMacro(const AddinEntry& entry) {
+  const std::string path = installedItemPath(entry);
+  return !files_.exists(path) || files_.remove(path) || !files_.exists(path);
+}
+
+}  // namespace tarvo

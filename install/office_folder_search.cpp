@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "install/office_folder_search.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "install/addin_lists.h"
+#include "install/mail_script_installer.h"
+#include "platform/common_module.h"
+#include "platform/file_service.h"
+#include "platform/locations.h"
+#include "platform/panels.h"
+#include "platform/plist_file.h"
+#include "platform/script_runner.h"
+#include "platform/text_rules.h"
+#include "platform/texts.h"
+
+namespace tarvo {
+
+namespace {
+
+using namespace addin_keys;
+
+constexpr int office2011 = 14;  // the version by which its applications call themselves
+
+bool isOfficeCreator(const std::string& creator) { return creator == "MSWD" || creator == "XCEL" || creator == "PPT3"; }
+
+}  // namespace
+
+void OfficeFolderSearch::SelectOfficeFolder() {
+  const std::optional<std::string> chosen = services_.panels.runOpenPanel(
+      {.title = services_.texts.localized("SelectOfficeFolder"), .types = {}, .foldersOnly = true});
+  if (chosen) searchFolder(services_.locations.picked(*chosen));
+}
+
+void OfficeFolderSearch::searchFolder(const std::string& folder) {
+  const auto names = services_.files.list(folder);
+  if (!names) return;
+  for (const std::string& name : *names) {
+    const std::string path = joinPath(folder, name);
+    const auto information = PlistFile(services_.files, path + "/Contents/Info.plist").read();
+    if (!information || addinText(*information, "CFBundlePackageType") != "APPL") continue;
+    if (!lists_.fDefaultOfficeSetArray) continue;
+    const int version = getApplicationVer(path);
+    const std::string signature = addinText(*information, "CFBundleSignature");
+    for (const AddinLists::SharedEntry& shipped : *lists_.fDefaultOfficeSetArray) {
+      getAddOfficeDictionary(*shipped, version, path, signature, folder);
+    }
+  }
+  lists_.reloadTables();
+}
+
+int OfficeFolderSearch::getApplicationVer(const std::string& path) {
+  // Each line feed stands between two blanks, as the script service expects it.
+  const std::string source = "tell application \"Finder\" \n set appInfo to info for file \"" +
+                             services_.module->unixPathToClassic(path) +
+                             "\" \n set appVer to short version of appInfo \n end tell";
+  const std::optional<std::string> version = services_.scripts.runScript(source);
+  return version ? leadingInteger(*version) : 0;
+}
+
+bool OfficeFolderSearch::getAddOfficeDictionary(const AddinEntry& shipped, int version, const std::string& path,
+                                                const std::string& signature, const std::string& folder) {
+  if (version != office2011 || addinText(shipped, appVersion) != "2011") return false;
+  if (signature != addinText(shipped, appCreator)) return false;
+  if (isOfficeCreator(signature)) return addOfficeRow(shipped, path, folder);
+  return signature == outlookCreator && addMailRow(shipped, path);
+}
+
+bool OfficeFolderSearch::addOfficeRow(const AddinEntry& shipped, const std::string& path, const std::string& folder) {
+  std::vector<AddinEntry>& rows = lists_.fOfficeAddinArray;
+  const auto isListed = [&path](const AddinEntry& row) { return addinText(row, appPath) == path; };
+  if (std::any_of(rows.begin(), rows.end(), isListed)) return false;
+  rows.push_back(rowFor(shipped, path, folder));
+  return true;
+}
+
+bool OfficeFolderSearch::addMailRow(const AddinEntry& shipped, const std::string& path) {
+  if (!mailScripts_.isMailScriptFolder(shipped)) return true;
+  if (!lists_.fMailAddinArray.empty() && addinText(shipped, appPath) == path) return false;
+  lists_.fMailAddinArray.push_back(rowFor(shipped, path, services_.locations.home()));
+  return true;
+}
+
+AddinEntry OfficeFolderSearch::rowFor(const AddinEntry& shipped, const std::string& path,
+                                      const std::string& base) const {
+  AddinEntry row = shipped;
+  row.set(appPath, path);
+  row.set(installFolderPath, joinPath(base, addinText(shipped, installFolderName)));
+  row.set(installStatus, lists_.getInstallStatus(row));
+  return row;
+}
+
+}  // namespace tarvo

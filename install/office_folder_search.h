@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "install/addin_entry.h"
+
+// The search for Office 2011 in a folder that the user points at, for an Office that lies elsewhere than usual.
+// Duty: ask for the folder, look at the applications in it, add a row for each that a shipped record of that edition
+// knows. Not: looking deeper than one level; rows once added are AddinLists'.
+namespace tarvo {
+
+class AddinLists;
+class FileService;
+class Locations;
+class MailScriptInstaller;
+class Panels;
+class ScriptRunner;
+class TarvoCommonModule;
+class Texts;
+
+class OfficeFolderSearch {
+ public:
+  struct Services {
+    FileService& files;
+    Locations& locations;
+    Panels& panels;
+    const Texts& texts;
+    ScriptRunner& scripts;
+    const std::unique_ptr<TarvoCommonModule>& module;  // made when the main controller starts
+  };
+  OfficeFolderSearch(Services services, AddinLists& lists, const MailScriptInstaller& mailScripts)
+      : services_(services), lists_(lists), mailScripts_(mailScripts) {}
+
+  // Asks for a folder and searches it. A folder that cannot be listed ends it silently.
+  void SelectOfficeFolder();
+  // The whole number before the first dot of an application's version, as the desktop's script service tells it; 0 when
+  // it tells nothing.
+  int getApplicationVer(const std::string& path);
+  // Adds a row for the application at path when the shipped record fits it. signature: the bundle's four characters.
+  // True: the record fits, though for a mail program without a script folder nothing was added.
+  bool getAddOfficeDictionary(const AddinEntry& shipped, int version, const std::string& path,
+                              const std::string& signature, const std::string& folder);
+
+ private:
+  void searchFolder(const std::string& folder);
+  bool addOfficeRow(const AddinEntry& shipped, const std::string& path, const std::string& folder);
+  bool addMailRow(const AddinEntry& shipped, const std::string& path);
+  AddinEntry rowFor(const AddinEntry& shipped, const std::string& path, const std::string& base) const;
+  Services services_;
+  AddinLists& lists_;
+  const MailScriptInstaller& mailScripts_;
+};
+
+}  // namespace tarvo

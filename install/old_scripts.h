@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "install/addin_entry.h"
+
+namespace tarvo {
+
+class AddinLists;
+class FileService;
+class MailScriptInstaller;
+class Panels;
+class Texts;
+
+// Removes mail scripts that an earlier generation of the product left, and says so.
+// That generation is recognised by a folder whose name, or path, is a text of its own for each program; what is removed
+// is the folder of the record's scripts. What could not be removed is not told.
+class OldScripts {
+ public:
+  struct Services {
+    FileService& files;
+    Panels& panels;
+    const Texts& texts;
+  };
+  // home: in the core's spelling.
+  OldScripts(Services services, AddinLists& lists, MailScriptInstaller& mailScripts, std::string home);
+  // Once a launch. The mail rows' states are computed anew in any case.
+  void OldscriptUninstall();
+
+ private:
+  bool removeFor(const AddinEntry& shipped, const char* oldFolderKey);
+  void tell(const std::string& removed);
+  Services services_;
+  AddinLists& lists_;
+  MailScriptInstaller& mailScripts_;
+  std::string home_;
+};
+
+}  // namespace tarvo

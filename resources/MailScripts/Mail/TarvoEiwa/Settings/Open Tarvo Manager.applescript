@@ -1,0 +1,6 @@
+-- TarvoEiwa script for Mail, in readable form.
+-- It opens the manager (creator code tSM8) on its style pane.
+
+on run
+    tell application id "tSM8" to activate
+end run

@@ -1,0 +1,1 @@
+-- A script of the user, which the manager leaves alone.

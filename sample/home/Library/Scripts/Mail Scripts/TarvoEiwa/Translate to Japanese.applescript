@@ -1,0 +1,1 @@
+-- A script of an earlier TarvoEiwa for Mail. The manager removes it when it starts, and says so.
