@@ -96,7 +96,11 @@ Program::Program(const Services& services)
                 toolListPath(services.locations)),
       mailScripts_(services.files, services.locations.home()),
       connection_({interface_.connection, interface_.manager.myWindow, services.engine, defaults_, notifications_,
-                   panels_, services.runLoop, windows_, services.texts}),
+                   panels_, services.runLoop, windows_, services.texts,
+                   [this] {
+                     const Window& window = interface_.manager.myWindow;
+                     return windows_.sheetOver(window) != nullptr || panels_.isSheetOver(window);
+                   }}),
       help_(services.bundle, services.paths, services.texts, services.workspace),
       rooms_{.store = store_,
              .options = options_,
