@@ -9,32 +9,32 @@ namespace tarvo {
 void CountedPanels::beep() { panels_.beep(); }
 
 int CountedPanels::runAlertPanel(const Alert& alert) {
-  ++up_;
+  ++running_;
   const int button = panels_.runAlertPanel(alert);
-  --up_;
+  --running_;
   return button;
 }
 
+std::optional<std::string> CountedPanels::runOpenPanel(const OpenPanel& panel) {
+  ++running_;
+  std::optional<std::string> path = panels_.runOpenPanel(panel);
+  --running_;
+  return path;
+}
+
 void CountedPanels::beginAlertSheet(Window& host, const Alert& alert, std::function<void(int button)> handler) {
-  ++up_;
-  panels_.beginAlertSheet(host, alert, [this, handler = std::move(handler)](int button) {
-    --up_;
+  hosts_.insert(&host);
+  panels_.beginAlertSheet(host, alert, [this, &host, handler = std::move(handler)](int button) {
+    hosts_.erase(hosts_.find(&host));
     handler(button);
   });
 }
 
-std::optional<std::string> CountedPanels::runOpenPanel(const OpenPanel& panel) {
-  ++up_;
-  std::optional<std::string> path = panels_.runOpenPanel(panel);
-  --up_;
-  return path;
-}
-
 void CountedPanels::beginSavePanel(Window& host, const SavePanel& panel,
                                    std::function<void(int code, const std::string& path)> handler) {
-  ++up_;
-  panels_.beginSavePanel(host, panel, [this, handler = std::move(handler)](int code, const std::string& path) {
-    --up_;
+  hosts_.insert(&host);
+  panels_.beginSavePanel(host, panel, [this, &host, handler = std::move(handler)](int code, const std::string& path) {
+    hosts_.erase(hosts_.find(&host));
     handler(code, path);
   });
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <set>
+
 #include "platform/panels.h"
 
 namespace tarvo {
@@ -10,7 +12,8 @@ namespace tarvo {
 class CountedPanels : public Panels {
  public:
   explicit CountedPanels(Panels& panels) : panels_(panels) {}
-  bool isAnyUp() const { return up_ > 0; }
+  bool isAnyUp() const { return running_ > 0 || !hosts_.empty(); }
+  bool isSheetOver(const Window& host) const { return hosts_.contains(&host); }
   void beep() override;
   int runAlertPanel(const Alert& alert) override;
   void beginAlertSheet(Window& host, const Alert& alert, std::function<void(int button)> handler) override;
@@ -20,7 +23,8 @@ class CountedPanels : public Panels {
 
  private:
   Panels& panels_;
-  int up_ = 0;
+  int running_ = 0;
+  std::multiset<const Window*> hosts_;
 };
 
 }  // namespace tarvo

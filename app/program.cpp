@@ -106,7 +106,11 @@ Program::Program(const Services& services)
       oldScripts_({services.files, services.panels, services.texts}, addins_, mailScripts_, services.locations.home()),
       cautions_(interface_.addins, windows_, services.files, services.workspace),
       connection_({interface_.connection, interface_.manager.myWindow, services.engine, defaults_, notifications_,
-                   panels_, services.runLoop, windows_, services.texts}),
+                   panels_, services.runLoop, windows_, services.texts,
+                   [this] {
+                     const Window& window = interface_.manager.myWindow;
+                     return windows_.sheetOver(window) != nullptr || panels_.isSheetOver(window);
+                   }}),
       help_(services.bundle, services.paths, services.texts, services.workspace),
       rooms_{.store = store_,
              .options = options_,

@@ -153,7 +153,9 @@ class Examination {
     }
     plain(toolListPath(product_.locations()), "tool list", "written at every start");
     engine();
-    plain(joinPath(product_.bundle().folder(), "Help/index.htm"), "help", "the help command does nothing");
+    const Bundle& bundle = product_.bundle();
+    plain(bundle.resource("index", "htm", "Help").value_or(joinPath(bundle.folder(), "Help/index.htm")), "help",
+          "the help command does nothing");
   }
 
   // It is not asked anything.

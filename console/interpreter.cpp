@@ -83,7 +83,7 @@ void Interpreter::finish() {
   over_ = true;
   const int line = static_cast<int>(lines_.size());
   if (session_.panels().hasAnswers()) fail(line, "an answer is left over");
-  if (!session_.hasProgram()) return;
+  if (session_.phase() != ScenarioSession::Phase::running) return;  // its windows went with it
   if (const Window* host = session_.panels().savePanelHost()) {
     fail(line, "the script ends with a save panel over " + host->name());
   }

@@ -45,7 +45,7 @@ void ConnectionCheck::confirmLater() {
 }
 
 void ConnectionCheck::confirmView() {
-  if (with_.windows.sheetOver(with_.myWindow) != nullptr) return confirmLater();
+  if (with_.isWindowCovered()) return confirmLater();
   with_.windows.beginSheet(with_.outlets.sslPanel, with_.myWindow,
                            [this](int returnCode) { sslSheetDidEnd(returnCode); });
 }

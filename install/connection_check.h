@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 #include "platform/controls.h"
 #include "platform/run_loop.h"
 #include "platform/windows.h"
@@ -39,6 +41,7 @@ class ConnectionCheck {
     RunLoop& runLoop;
     Windows& windows;
     const Texts& texts;
+    std::function<bool()> isWindowCovered;  // by any sheet or panel
   };
   explicit ConnectionCheck(const Collaborators& with) : with_(with) {}
   ~ConnectionCheck();

@@ -26,7 +26,8 @@ struct SavePanel {
   std::string title, requiredType, folder, name;
 };
 
-// Alerts, file panels and the beep. Paths are answered as the user picked them (see Locations::picked).
+// Alerts, file panels and the beep. Paths are answered as the user picked them (see Locations::picked). What begins as
+// a sheet returns at once; its handler is told once, a save panel that could not come up being cancelled (code 0).
 class Panels {
  public:
   virtual ~Panels() = default;

@@ -3,11 +3,14 @@
 #include "qt/guided_tour.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
 #include <QTableView>
@@ -17,6 +20,7 @@
 #include "qt/bind/in_step.h"
 #include "qt/shell.h"
 #include "qt/window/main_window.h"
+#include "qt/window/sheet.h"
 
 namespace tarvo {
 namespace {
@@ -28,10 +32,11 @@ class Tour {
   Tour(Shell& shell, const QString& folder) : shell_(shell), folder_(folder) {}
 
   bool walk() {
-    return picture("styles") && next("style.stylePopup") && picture("another-style") && next("style.ejEditPopup") &&
-           next("style.ejOption1Popup") && picture("option-changed") && press("manager.OA") &&
-           tick("manager.officeTableView") && picture("office") && press("manager.MT") &&
-           tick("manager.mailTableView") && picture("mail") && press("manager.StyleManager") && isSaved();
+    return answerTheService() && picture("styles") && next("style.stylePopup") && picture("another-style") &&
+           next("style.ejEditPopup") && next("style.ejOption1Popup") && picture("option-changed") && rename() &&
+           exportWindow() && press("manager.OA") && tick("manager.officeTableView") && picture("office") &&
+           press("manager.MT") && tick("manager.mailTableView") && picture("mail") && press("manager.StyleManager") &&
+           isSaved();
   }
 
   const std::vector<QString>& pictures() const { return pictures_; }
@@ -95,16 +100,49 @@ class Tour {
     auto* button = usable<QAbstractButton>(name);
     if (button == nullptr) return false;
     button->click();
-    return button->isChecked() ? settled() : fail(std::string(name) + " was not chosen");
+    return settled();
+  }
+
+  // The first start asks about the style service.
+  bool answerTheService() {
+    auto* sheet = shell_.registry().find<QWidget>("manager.sslPanel");
+    if (sheet == nullptr || !sheet->isVisible()) return true;
+    return picture("service") && press("manager.sslOKButton");
+  }
+
+  bool rename() { return press("style.StyleNameEditButton") && picture("rename") && press("style.snCancelButton"); }
+
+  // The choice of the menu comes back when the window is closed.
+  bool exportWindow() {
+    auto* menu = shell_.registry().find<QAction>("style.exportWindowMenu");
+    if (menu == nullptr) return fail("there is no export window");
+    bool isShown = false;
+    QTimer::singleShot(0, menu, [this, &isShown] {
+      isShown = picture("export") && press("style.exportCloseButton");
+      if (auto* left = QApplication::activeModalWidget()) left->close();
+    });
+    menu->trigger();
+    return isShown || fail("the export window did not come up");
   }
 
   bool picture(const char* name) {
     if (!settled()) return false;
     const QString number = QStringLiteral("%1-").arg(pictures_.size() + 1);
     const QString path = QDir(folder_).filePath(number + QLatin1String(name) + QStringLiteral(".png"));
-    if (!shell_.windows().mainWindow()->grab().save(path)) return fail("cannot write " + path.toStdString());
+    if (!asSeen().save(path)) return fail("cannot write " + path.toStdString());
     pictures_.push_back(path);
     return true;
+  }
+
+  // The window with the sheet that hangs in it, or the dialog that has taken its place.
+  QPixmap asSeen() {
+    QWidget& window = *shell_.windows().mainWindow();
+    if (QWidget* dialog = QApplication::activeModalWidget()) return dialog->grab();
+    QPixmap seen = window.grab();
+    if (QWidget* sheet = sheetOver(window)) {
+      QPainter(&seen).drawPixmap(window.mapFromGlobal(sheet->mapToGlobal(QPoint())), sheet->grab());
+    }
+    return seen;
   }
 
   bool isSaved() { return shell_.program().rooms().store.isSaved() || fail("the styles could not be saved"); }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
 #include <QApplication>
+#include <QObject>
 #include <chrono>
 #include <filesystem>
 #include <iostream>
@@ -65,8 +66,10 @@ int runManager(const CommandLine& line, int& argc, char** argv) {
   if (line.open) shell.program().requests().eventText(*line.open);
   shell.openFiles(line.files);
   if (!line.tour) shell.listen(identity);
-  if (line.tour) answerByDefault(application);
+  std::optional<QObject> duringStart;
+  if (line.tour) answerByDefault(duringStart.emplace());
   if (!shell.start()) return failed;
+  duringStart.reset();
   if (line.tour) return takeGuidedTour(shell, product, *line.tour) ? done : failed;
   shell.run();
   return done;

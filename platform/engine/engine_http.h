@@ -21,7 +21,7 @@ namespace tarvo {
 struct HttpTimes {
   using Milliseconds = std::chrono::milliseconds;
   // A little below 1 s and 2 s: both together, with the file written before them, stop the user for at most 3 s.
-  Milliseconds probe{975}, operation{1950}, silence{30'000};
+  Milliseconds probe{950}, operation{1900}, silence{30'000};
 };
 
 class EngineHttp : public Engine {

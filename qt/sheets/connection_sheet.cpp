@@ -10,7 +10,7 @@
 #include "install/connection_check.h"
 #include "qt/bind/binder.h"
 #include "qt/look/metrics.h"
-#include "qt/sheets/dialog_foot.h"
+#include "qt/sheets/sheet_parts.h"
 
 namespace tarvo {
 
@@ -19,6 +19,7 @@ QDialog* buildConnectionSheet(ConnectionOutlets& outlets, Binder& binder, QWidge
   binder.window(outlets.sslPanel, *dialog);
   auto* rows = new QVBoxLayout(dialog);
   rows->setSizeConstraint(QLayout::SetFixedSize);
+  rows->addWidget(buildHeading(outlets.sslPanel, dialog));
   QLabel* text = binder.text(outlets.sslText, dialog);
   text->setMinimumWidth(24 * text->fontMetrics().height());
   rows->addWidget(text);

@@ -9,7 +9,7 @@
 #include "qt/bind/binder.h"
 #include "qt/bind/form.h"
 #include "qt/look/metrics.h"
-#include "qt/sheets/dialog_foot.h"
+#include "qt/sheets/sheet_parts.h"
 #include "style/style_exchange.h"
 
 namespace tarvo {

@@ -4,12 +4,13 @@
 
 #include <QBoxLayout>
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 
 #include "qt/bind/binder.h"
 #include "qt/bind/form.h"
 #include "qt/look/metrics.h"
-#include "qt/sheets/dialog_foot.h"
+#include "qt/sheets/sheet_parts.h"
 #include "style/style_naming.h"
 
 namespace tarvo {
@@ -19,6 +20,8 @@ QDialog* buildNamingDialog(NamingOutlets& outlets, Binder& binder, QWidget* pare
   binder.window(outlets.styleNameWindow, *dialog);
   auto* rows = new QVBoxLayout(dialog);
   rows->setSizeConstraint(QLayout::SetFixedSize);
+  rows->addWidget(buildHeading(outlets.styleNameWindow, dialog));
+  rows->addSpacing(metrics::rowGap);
   auto* page = new QWidget(dialog);
   Form form(binder, *page);
   QLineEdit* name = binder.field(outlets.styleNameField, page);

@@ -12,7 +12,7 @@
 #include "qt/bind/binder.h"
 #include "qt/look/fonts.h"
 #include "qt/look/metrics.h"
-#include "qt/sheets/dialog_foot.h"
+#include "qt/sheets/sheet_parts.h"
 
 namespace tarvo {
 namespace {

@@ -37,6 +37,7 @@ SaveSheet::SaveSheet(const SavePanel& panel, QWidget* parent)
   setObjectName(QStringLiteral("savePanel"));
   setOption(DontUseNativeDialog);  // which would be a window of its own
   setOption(HideNameFilterDetails);
+  setSizeGripEnabled(false);
   setAcceptMode(AcceptSave);
   setFileMode(AnyFile);
   if (!panel.requiredType.empty()) setNameFilter(nameFilter({panel.requiredType}));

@@ -199,7 +199,7 @@ TEST_F(RequestsTest, thatWaitWhenTheProgramIsDroppedAreDropped) {
   EXPECT_EQ(*test_.defaultsOnDisk().string("SMSelectedTag"), "MG");
 }
 
-TEST_F(RequestsTest, aPanelThatIsGoneHearsNothing) {
+TEST_F(RequestsTest, aPaneThatIsGoneHearsNothing) {
   start();
   NotificationCenter notifications;
   std::optional<AppController> other;

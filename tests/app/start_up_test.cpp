@@ -28,6 +28,15 @@ TEST(StartUp, beginsWithNoToolNoStylesAndTheRegistrationOff) {
   EXPECT_FALSE(test.root.exists(test.inHome("Library")));
 }
 
+TEST(StartUp, hearsOfTheEngineFromTheConstructionOn) {
+  TestProgram test;
+  test.program().notifications().post("SendPlistNoti");
+  EXPECT_EQ(test.log, Log{});
+  ASSERT_TRUE(test.program().construct());
+  test.program().notifications().post("SendPlistNoti");
+  EXPECT_EQ(test.log, Log{"holds none"}) << "no styles are loaded, so none are sent";
+}
+
 TEST(StartUp, tellsTheStyleModuleWhereEverythingLiesInOrder) {
   TestProgram test;
   FakeStyleModule module(test.log);

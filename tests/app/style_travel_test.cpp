@@ -234,6 +234,15 @@ TEST_F(StyleTravel, registersTheNextChangeAfterTakingStylesOver) {
   EXPECT_EQ(*test_.defaultsOnDisk().string("LastUpdate"), "U1");
 }
 
+TEST_F(StyleTravel, fillsNoOptionIntoStylesThatTheEngineHolds) {
+  start();
+  setNewerStyles();
+  test_.engine.held[0].dictionary()->dictionary("JE")->remove("TOpt2");
+  post();
+  EXPECT_EQ(options()[4], 0);
+  EXPECT_FALSE(test_.stylesOnDisk().array("Style")->at(0).dictionary()->dictionary("JE")->contains("TOpt2"));
+}
+
 TEST_F(StyleTravel, drawsADividerThatTheEngineHolds) {
   start();
   setNewerStyles("keyNameSeparator");
@@ -332,8 +341,9 @@ TEST_F(StyleTravel, registersARenameOnceTheEngineIsBack) {
   choose(3);
   interface().naming.StyleNameEditButton.userPress();
   interface().naming.styleNameField.userType("Gamma");
+  test_.program().notifications().onPost = [this](const Notification& posted) { test_.log.push_back(posted.name); };
   interface().naming.snOKButton.userPress();
-  EXPECT_EQ(test_.log, (Log{"wrote", "unreachable"}));
+  EXPECT_EQ(test_.log, (Log{"wrote", "unreachable"})) << "a new name is no new dictionary";
   test_.engine.online = true;
   choose(0);
   EXPECT_EQ(*test_.engine.registered[3].dictionary()->string("Name"), "Gamma");
@@ -360,6 +370,18 @@ TEST_F(StyleTravel, theExportPanelLeavesTheMenusAsTheyAre) {
   EXPECT_TRUE(interface().style.quitMenu.isValid());
   test_.panels.endSavePanel(1, test_.root / "out.whstyle");
   EXPECT_TRUE(test_.root.exists("out.whstyle"));
+}
+
+TEST_F(StyleTravel, theConsentWaitsUntilTheSavePanelIsGone) {
+  start({false});
+  test_.panels.endAlertSheet(0);
+  choose(3);
+  interface().exchange.exportMenu.userChoose();
+  test_.runLoop.advance(2);
+  EXPECT_FALSE(interface().connection.sslPanel.isShown());
+  test_.panels.endSavePanel(0, "");
+  test_.runLoop.advance(2);
+  EXPECT_TRUE(interface().connection.sslPanel.isShown());
 }
 
 TEST(Launch, asksNothingBeforeTheScreenCautionIsClosed) {

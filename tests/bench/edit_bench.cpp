@@ -1,7 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -15,6 +13,7 @@
 #include "tests/bench/bare_replace.h"
 #include "tests/bench/changed_files.h"
 #include "tests/bench/quiet_shell.h"
+#include "tests/bench/timing.h"
 
 // One edit against bare replaces of the same files with the same bytes: edit_bench ROOT HOME ENGINE FLOOR COUNT
 // ENGINE is "local" or "none", FLOOR a folder on the same disk. Prints the medians in milliseconds and the number of
@@ -22,19 +21,6 @@
 namespace {
 
 using namespace tarvo;
-using Times = std::vector<double>;
-
-template <class Work>
-double milliseconds(Work work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
-}
-
-double median(Times times) {
-  std::sort(times.begin(), times.end());
-  return times.at(times.size() / 2);
-}
 
 ProductOptions optionsFor(const std::string& root, const std::string& home, const std::string& engine) {
   ProductOptions options;

@@ -58,8 +58,8 @@ class ConnectionCheckTest : public testing::Test {
   Windows windows_{host_};
   Main main_;
   ConnectionOutlets outlets_;
-  ConnectionCheck check_{
-      {outlets_, main_.myWindow, engine_, defaults_, notifications_, panels_, runLoop_, windows_, texts_}};
+  ConnectionCheck check_{{outlets_, main_.myWindow, engine_, defaults_, notifications_, panels_, runLoop_, windows_,
+                          texts_, [this] { return windows_.sheetOver(main_.myWindow) != nullptr; }}};
 };
 
 TEST_F(ConnectionCheckTest, asksTwiceAndThenForTheConsent) {
@@ -157,8 +157,8 @@ TEST_F(ConnectionCheckTest, waitsUntilAnotherSheetIsGone) {
 
 TEST_F(ConnectionCheckTest, leavesNoTimerBehind) {
   {
-    ConnectionCheck other(
-        {outlets_, main_.myWindow, engine_, defaults_, notifications_, panels_, runLoop_, windows_, texts_});
+    ConnectionCheck other({outlets_, main_.myWindow, engine_, defaults_, notifications_, panels_, runLoop_, windows_,
+                           texts_, [] { return false; }});
     engine_.probes = {false};
     other.checkConnection();
     panels_.endAlertSheet(0);

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -11,6 +13,8 @@
 #include "platform/windows.h"
 #include "qt/window/alert_dialog.h"
 #include "qt/window/qt_panels.h"
+#include "qt/window/save_sheet.h"
+#include "qt/window/sheet.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tarvo {
@@ -69,6 +73,96 @@ TEST_F(PanelsTest, aSheetReturnsAtOnceHangsInItsHostAndTellsItsButton) {
   EXPECT_EQ(sheet->geometry().top(), host.mapToGlobal(QPoint(0, 30)).y());
   sheet->findChild<QPushButton*>("alert.1")->click();
   EXPECT_EQ(told, 1);
+}
+
+// What the panel is opened with, what the user types, what comes back.
+struct Saved {
+  const char *type, *name, *proposed, *typed, *path;
+};
+constexpr Saved saved[] = {{"whstyle", "Beta", "Beta.whstyle", nullptr, "Beta.whstyle"},
+                           {"whstyle", "v1.2", "v1.2.whstyle", "v1.3", "v1.3.whstyle"},
+                           {"whstyle", "日本", "日本.whstyle", "a.WHSTYLE", "a.WHSTYLE"},
+                           {"whstyle", "~x", "~x.whstyle", nullptr, "~x.whstyle"},
+                           {"", "Beta", "Beta", "c", "c"}};
+
+TEST_F(PanelsTest, aSavePanelIsASheetWhoseAnswerHasTheType) {
+  host.show();
+  folder.makeFolder("styles");
+  for (const Saved& each : saved) {
+    std::string answer;
+    panels.beginSavePanel(outlets.window, {"", each.type, "styles", each.name},
+                          [&](int code, const std::string& path) { answer = std::to_string(code) + " " + path; });
+    auto* sheet = dynamic_cast<SaveSheet*>(sheetOver(host));
+    ASSERT_NE(sheet, nullptr);
+    EXPECT_EQ(sheet->geometry().top(), host.mapToGlobal(QPoint(0, 30)).y());
+    auto* name = sheet->findChild<QLineEdit*>("fileNameEdit");
+    EXPECT_EQ(name->text(), each.proposed);
+    if (each.typed != nullptr) name->setText(each.typed);
+    QTest::keyClick(name, Qt::Key_Return);
+    EXPECT_EQ(answer, "1 " + (folder / "styles/" + each.path));
+    EXPECT_EQ(sheetOver(host), nullptr);
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+TEST_F(PanelsTest, aCancelledSavePanelHasNoPath) {
+  host.show();
+  folder.makeFolder("styles");
+  std::string answer;
+  panels.beginSavePanel(outlets.window, {"", "whstyle", "styles", "Beta"},
+                        [&](int code, const std::string& path) { answer = std::to_string(code) + path; });
+  QTest::keyClick(sheetOver(host), Qt::Key_Escape);
+  EXPECT_EQ(answer, "0");
+}
+
+TEST_F(PanelsTest, aFolderThatIsTypedIsEntered) {
+  host.show();
+  folder.makeFolder("styles/inner");
+  std::string answer;
+  panels.beginSavePanel(outlets.window, {"", "whstyle", "styles", "Beta"},
+                        [&](int code, const std::string&) { answer = std::to_string(code); });
+  auto* sheet = dynamic_cast<SaveSheet*>(sheetOver(host));
+  sheet->findChild<QLineEdit*>("fileNameEdit")->setText("inner");
+  sheet->accept();
+  EXPECT_EQ(answer, "");
+  EXPECT_TRUE(sheet->directory().path().endsWith("/styles/inner"));
+  sheet->reject();
+}
+
+TEST_F(PanelsTest, anOpenPanelTakesFilesOfItsTypeInAnyCase) {
+  EXPECT_EQ(nameFilter({"whstyle"}), QString("*.whstyle (*.[wW][hH][sS][tT][yY][lL][eE])"));
+  EXPECT_EQ(nameFilter({}), QString());
+  folder.write("a.WhStyle", "");
+  const QString path = QString::fromStdString(folder / "a.WhStyle");
+  QTimer::singleShot(0, &host, [&] {
+    auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    EXPECT_EQ(panel->windowTitle(), "Select");
+    EXPECT_EQ(panel->fileMode(), QFileDialog::ExistingFile);
+    EXPECT_EQ(panel->selectedNameFilter(), QString("*.whstyle"));
+    panel->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+    QMetaObject::invokeMethod(panel, "accept");
+  });
+  EXPECT_EQ(panels.runOpenPanel({.title = "Select", .types = {"whstyle"}}), path.toStdString());
+  QTimer::singleShot(0, &host, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+  EXPECT_EQ(panels.runOpenPanel({.title = "Select", .types = {"whstyle"}}), std::nullopt);
+}
+
+TEST_F(PanelsTest, aFolderPanelTakesAFolder) {
+  folder.makeFolder("styles");
+  QTimer::singleShot(0, &host, [&] {
+    auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    EXPECT_EQ(panel->fileMode(), QFileDialog::Directory);
+    panel->findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(folder / "styles"));
+    QMetaObject::invokeMethod(panel, "accept");
+  });
+  EXPECT_EQ(panels.runOpenPanel({.title = "Select", .foldersOnly = true}), folder / "styles");
+}
+
+TEST_F(PanelsTest, escapeIsTheButtonThatTheAlertNames) {
+  Alert careful = question;
+  careful.cancelButton = 0;
+  QTimer::singleShot(0, &host, [&] { QTest::keyClick(&alert(), Qt::Key_Escape); });
+  EXPECT_EQ(panels.runAlertPanel(careful), 0);
 }
 
 }  // namespace

@@ -251,12 +251,13 @@ TEST_F(MainWindowTest, theSmallScreenCautionBlocksUntilItIsClosed) {
 }
 
 TEST_F(MainWindowTest, theTourLeavesPicturesAndEndsTheProgram) {
+  asksAboutTheService = true;
   start();
   testing::internal::CaptureStdout();
   EXPECT_TRUE(takeGuidedTour(*shell, *product, folder / "pictures"));
   const std::string printed = testing::internal::GetCapturedStdout();
   EXPECT_TRUE(shell->program().isTerminated());
-  EXPECT_EQ(folder.names("pictures").size(), 5U);
+  EXPECT_EQ(folder.names("pictures").size(), 8U);
   EXPECT_NE(printed.find(product->locations().resolve(shell->program().rooms().store.path())), std::string::npos);
 }
 

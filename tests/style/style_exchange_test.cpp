@@ -261,6 +261,19 @@ TEST_F(StyleExchangeTest, writesTheRecordOfTheMemoryAndNothingElse) {
   EXPECT_EQ(world_.defaults.find("LastUpdate"), nullptr);
 }
 
+TEST_F(StyleExchangeTest, exportsNoOptionThatTheStyleLacks) {
+  Dictionary style = record(1);
+  style.set("EJ", Dictionary());
+  world_.store.setStyle(1, style);
+  world_.store.fillInMissingOptions();
+  world_.pane.stylePopup.selectItemAtIndex(1);
+  world_.exchange.exportStyle();
+  save("/out.whstyle");
+  const auto exported = readPropertyList(world_.files.bytes("/out.whstyle"));
+  ASSERT_TRUE(exported);
+  EXPECT_TRUE(exported->dictionary()->dictionary("EJ")->empty());
+}
+
 TEST_F(StyleExchangeTest, writesTheStyleThatIsChosenWhenThePanelEnds) {
   world_.pane.stylePopup.selectItemAtIndex(3);
   world_.exchange.exportStyle();

@@ -3,12 +3,17 @@
 #pragma once
 
 class QDialog;
+class QLabel;
 class QLayout;
 
 namespace tarvo {
 
 class Binder;
 class Button;
+class Window;
+
+// A sheet has no title bar: its title stands above its contents.
+QLabel* buildHeading(const Window& window, QDialog* dialog);
 
 // The row of buttons at the foot of a dialog: the default one, which Return presses, at its right end.
 QLayout* buildFoot(Button* other, Button& first, Binder& binder, QDialog* dialog);

@@ -1,14 +1,24 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "qt/sheets/dialog_foot.h"
+#include "qt/sheets/sheet_parts.h"
 
 #include <QBoxLayout>
 #include <QDialog>
+#include <QLabel>
 #include <QPushButton>
 
+#include "platform/windows.h"
 #include "qt/bind/binder.h"
+#include "qt/look/fonts.h"
 
 namespace tarvo {
+
+QLabel* buildHeading(const Window& window, QDialog* dialog) {
+  auto* heading = new QLabel(toQString(window.title()), dialog);
+  heading->setTextFormat(Qt::PlainText);
+  heading->setFont(headingFont(heading->font()));
+  return heading;
+}
 
 QLayout* buildFoot(Button* other, Button& first, Binder& binder, QDialog* dialog) {
   auto* foot = new QHBoxLayout;
