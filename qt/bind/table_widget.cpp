@@ -91,9 +91,18 @@ void TableWidget::tellWhetherEmpty() {
 }
 
 QItemSelectionModel::SelectionFlags TableWidget::selectionCommand(const QModelIndex& index, const QEvent* event) const {
-  const bool isOnBox = index.isValid() && index.column() == model_.checkColumn();
-  if (isOnBox && dynamic_cast<const QMouseEvent*>(event) != nullptr) return QItemSelectionModel::NoUpdate;
+  const auto* mouse = dynamic_cast<const QMouseEvent*>(event);
+  if (mouse != nullptr && isOnBox(index, mouse->position().toPoint())) return QItemSelectionModel::NoUpdate;
   return QTableView::selectionCommand(index, event);
+}
+
+bool TableWidget::isOnBox(const QModelIndex& index, const QPoint& place) const {
+  if (!index.isValid() || index.column() != model_.checkColumn()) return false;
+  QStyleOptionViewItem cell;
+  initViewItemOption(&cell);
+  cell.rect = visualRect(index);
+  cell.features |= QStyleOptionViewItem::HasCheckIndicator;
+  return style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &cell, this).contains(place);
 }
 
 void TableWidget::keyPressEvent(QKeyEvent* event) {

@@ -11,7 +11,7 @@ class IconedDelegate;
 class TableModel;
 
 // The list of the window: whole rows, no grid, dragged rows with a line where they would go, also behind the last row.
-// A tick is one gesture of its own: a mouse press on a check cell selects nothing, the control does that after the
+// A tick is one gesture of its own: a mouse press on a check box selects nothing, the control does that after the
 // edit.
 class TableWidget : public QTableView {
  public:
@@ -32,6 +32,7 @@ class TableWidget : public QTableView {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  bool isOnBox(const QModelIndex& index, const QPoint& place) const;
   void markEnd(bool marked);
   void tellWhetherEmpty();
   void paintEmptyText(QPainter& painter);

@@ -11,9 +11,11 @@
 #include <QStackedWidget>
 #include <QTimer>
 #include <QUrl>
+#include <algorithm>
 #include <utility>
 
 #include "app/interface.h"
+#include "app/window_geometry.h"
 #include "qt/bind/control_view.h"
 #include "qt/look/metrics.h"
 #include "qt/window/frame_animation.h"
@@ -78,7 +80,15 @@ void MainWindow::buildPanes() {
 QSize MainWindow::minimumOfPane(int pane) {
   buildPanes();
   const QWidget* page = panes_->widget(pane);
-  return page != nullptr ? page->minimumSizeHint() : QSize();
+  if (page == nullptr) return {};
+  QSize least = page->minimumSizeHint();
+  // Sentences take more lines in larger letters.
+  const int width = std::max(least.width(), static_cast<int>(paneSizes[static_cast<std::size_t>(pane)].width));
+  const QLayout* layout = page->layout();
+  if (layout != nullptr && layout->hasHeightForWidth()) {
+    least.setHeight(std::max(least.height(), layout->minimumHeightForWidth(width)));
+  }
+  return least;
 }
 
 void MainWindow::resizeTo(QSize client, bool animate) { animation_->resizeTo(client, animate); }

@@ -31,8 +31,9 @@ QPoint placeOf(TableWidget& list, int row, int column = 0) {
   return list.visualRect(index).center();
 }
 
+// Beside its box.
 void clickRow(TableWidget& list, int row, Qt::KeyboardModifiers modifiers) {
-  const QPoint place = placeOf(list, row);
+  const QPoint place = placeOf(list, row, list.rows().checkColumn() == 0 ? 1 : 0);
   requireInReach(*list.viewport(), place);
   QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers, place);
 }

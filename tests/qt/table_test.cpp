@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDropEvent>
+#include <QHeaderView>
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTableView>
@@ -11,6 +12,7 @@
 #include <memory>
 
 #include "qt/bind/in_step.h"
+#include "qt/bind/table_widget.h"
 #include "tests/qt/bound_controls.h"
 
 namespace tarvo {
@@ -156,6 +158,37 @@ TEST_F(TableBinding, aTickIsTheEditFirstAndThenTheSelection) {
   EXPECT_FALSE(rows.on[1]);
   EXPECT_EQ(rows.calls.back(), "tick 1");
   EXPECT_EQ(inStep(), "");
+}
+
+TEST_F(TableBinding, aClickBesideABoxSelectsTheRow) {
+  withBoxes();
+  auto& view = build();
+  view.horizontalHeader()->setSectionResizeMode(0, QHeaderView::Fixed);
+  view.horizontalHeader()->resizeSection(0, 120);
+  const QRect cell = view.visualRect(view.model()->index(2, 0));
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, QPoint(cell.right() - 10, cell.center().y()));
+  EXPECT_EQ(rows.calls, std::vector<std::string>{"selected 2"});
+  EXPECT_FALSE(rows.on[2]);
+  EXPECT_EQ(inStep(), "");
+}
+
+TEST_F(TableBinding, aListWithoutRowsSaysWhatItHasNot) {
+  auto& view = build();
+  auto& list = dynamic_cast<TableWidget&>(view);
+  list.setEmptyText("Nothing was found");
+  EXPECT_EQ(view.accessibleDescription(), "");
+  const QImage full = view.viewport()->grab().toImage();
+  rows.names.clear();
+  outlets.table.reloadData();
+  EXPECT_EQ(view.accessibleDescription(), "Nothing was found");
+  const QImage told = view.viewport()->grab().toImage();
+  list.setEmptyText("");
+  EXPECT_NE(view.viewport()->grab().toImage(), told);
+  list.setEmptyText("Nothing was found");
+  rows.names = {"a", "b", "c", "d"};
+  outlets.table.reloadData();
+  EXPECT_EQ(view.accessibleDescription(), "");
+  EXPECT_EQ(view.viewport()->grab().toImage(), full);
 }
 
 TEST_F(TableBinding, aCheckBoxIsReadByTheNameOfItsRow) {

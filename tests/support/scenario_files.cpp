@@ -38,6 +38,7 @@ ScenarioFile readScenario(const std::string& path) {
     const std::string key = line.substr(2, colon - 2), value = line.substr(colon + 2);
     if (key == "options") file.options = wordsOf(value);
     if (key == "root") file.root = value;
+    if (key == "resources") file.resources = value;
     if (key == "needs") file.needsAttributes = value == "attributes";
   }
   return file;
@@ -59,6 +60,7 @@ ScenarioRoot::ScenarioRoot(const std::string& fixture) {
 
 std::vector<std::string> scenarioArguments(const ScenarioFile& file, const ScenarioRoot& root) {
   std::vector<std::string> arguments{"--root", root.root(), "--home", root.home(), "--language", "en"};
+  if (!file.resources.empty()) arguments.insert(arguments.end(), {"--resources", root.root() + "/" + file.resources});
   arguments.insert(arguments.end(), file.options.begin(), file.options.end());
   return arguments;
 }
@@ -68,6 +70,7 @@ ProductOptions scenarioProduct(const ScenarioFile& file, const ScenarioRoot& roo
   product.root = root.root();
   product.home = root.home();
   product.language = "en";
+  if (!file.resources.empty()) product.resources = root.root() + "/" + file.resources;
   for (std::size_t i = 0; i + 1 < file.options.size(); i += 2) {
     const std::string &option = file.options[i], &value = file.options[i + 1];
     if (option == "--strings") {

@@ -11,13 +11,14 @@
 // The scenario files, and how each wants to be run. Comment lines at its head say it:
 //   # options: --strings none …   command-line options; relative files start in the scenarios' folder
 //   # root: NAME                  a copy of fixtures/NAME is the product's root ("plain" when nothing is said)
+//   # resources: NAME           the folder NAME of that copy is the resource folder, so that a script can change it
 //   # needs: attributes           only where the disk keeps extended attributes
 namespace tarvo::test {
 
 struct ScenarioFile {
   std::string path, name;  // name: of the file, without extension
   std::vector<std::string> options;
-  std::string root = "plain";
+  std::string root = "plain", resources = {};
   bool needsAttributes = false;
 };
 

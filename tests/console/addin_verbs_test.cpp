@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+
+#include "tests/console/run_tool.h"
+#include "tests/support/scenario_files.h"
+
+// The verbs on macros, mail scripts and the tool list, as an administrator meets them.
+namespace tarvo::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class AddinVerbs : public testing::Test {
+ protected:
+  ToolResult run(const std::vector<std::string>& words) const {
+    std::vector<std::string> arguments{
+        "--root",     root_.root(), "--home",    root_.home(), "--resources", root_.root() + "/Bundle",
+        "--language", "en",         "--strings", "none",       "--strings",   "fixtures/addin-texts.strings"};
+    arguments.insert(arguments.end(), words.begin(), words.end());
+    return runTool(arguments, scenarioFolder());
+  }
+  void expect(const std::vector<std::string>& words, int status, const std::string& out, const std::string& err) const {
+    const ToolResult result = run(words);
+    EXPECT_EQ(result.out, out);
+    EXPECT_EQ(result.err, err);
+    EXPECT_EQ(result.status, status);
+  }
+  // A verb that refuses before anything is started.
+  void expectUntouched(const std::vector<std::string>& words, int status, const std::string& err) const {
+    const auto before = tree();
+    expect(words, status, "", err);
+    EXPECT_EQ(tree(), before);
+  }
+  void put(const std::string& path, const std::string& text) const { root_.folder().write("root" + path, text); }
+  std::string read(const std::string& path) const { return root_.folder().read("root" + path); }
+  bool exists(const std::string& path) const { return fs::exists(root_.root() + path); }
+  void makeFolder(const std::string& path) const { fs::create_directories(root_.root() + path); }
+  // What the doctor says of it, as "state: detail".
+  std::string diagnosis(const std::string& what) const {
+    const std::string out = run({"doctor", "--json"}).out;
+    const std::size_t at = out.find("\"what\":\"" + what + "\"");
+    if (at == std::string::npos) return "nothing";
+    const std::size_t begin = out.rfind('{', at), end = out.find('}', at);
+    const auto value = [&](const std::string& key) {
+      const std::size_t from = out.find("\"" + key + "\":\"", begin) + key.size() + 4;
+      return from < end ? out.substr(from, out.find('"', from) - from) : std::string();
+    };
+    return value("state") + ": " + value("detail");
+  }
+  // Every path below the root, with the bytes of the files.
+  std::map<std::string, std::string> tree() const {
+    std::map<std::string, std::string> all;
+    for (const auto& entry : fs::recursive_directory_iterator(root_.root())) {
+      const std::string rest = fs::relative(entry.path(), root_.folder().path()).string();
+      all[rest] = entry.is_regular_file() ? root_.folder().read(rest) : "";
+    }
+    return all;
+  }
+  static constexpr const char* startup = "/Applications/O11/Office/Startup/Word";
+  static constexpr const char* macro = "/Applications/O11/Office/Startup/Word/Tarvo.dotm";
+  static constexpr const char* scripts = "/Users/taro/Library/Scripts/Applications/Mail/Tarvo";
+  static constexpr const char* toolList = "/Users/taro/Library/Preferences/Wordhaven/TarvoManager.txt";
+  const ScenarioRoot root_{"addins"};
+};
+
+TEST_F(AddinVerbs, listingShowsTheRowsOfBothTablesAndOnlyReads) {
+  put(macro, "x");
+  makeFolder("/Users/taro/Library/Scripts/Entourage");
+  const auto before = tree();
+  expect({"addins"}, 0,
+         "installed  Word 2011       2011  root:/Applications/O11/Word.app\n"
+         "-          Excel 2011      2011  root:/Applications/O11/Excel.app\n"
+         "-          Word 2008       2008  root:/Applications/O08/Word.app\n"
+         "-          Mail            4     root:/Applications/Mail.app\n"
+         "-          Entourage 2004  2004  root:/Applications/O04/Entourage.app\n",
+         "");
+  const std::string json = run({"addins", "--json"}).out;
+  EXPECT_EQ(json.substr(0, json.find('}') + 1),
+            "[{\"creator\":\"MSWD\",\"folder\":\"root:/Applications/O11/Office/Startup/Word\",\"installed\":true,"
+            "\"name\":\"Word 2011\",\"path\":\"root:/Applications/O11/Word.app\",\"table\":\"office\","
+            "\"version\":\"2011\"}");
+  EXPECT_NE(json.find("{\"creator\":\"emal\",\"folder\":\"home:/Library/Scripts/Applications/Mail\",\"installed\":"
+                      "false,\"name\":\"Mail\",\"path\":\"root:/Applications/Mail.app\",\"table\":\"mail\","
+                      "\"version\":\"4\"}"),
+            std::string::npos);
+  run({"doctor"});
+  EXPECT_EQ(tree(), before);
+}
+
+TEST_F(AddinVerbs, listingIsWhatTheNextStartShows) {
+  const std::string before = run({"addins", "--json"}).out;
+  run({"tool-list"});  // starts and ends
+  EXPECT_EQ(run({"addins", "--json"}).out, before);
+}
+
+TEST_F(AddinVerbs, listingWithoutAnyList) {
+  fs::remove(root_.root() + "/Bundle/DefaultAddin.plist");
+  expectUntouched({"addins"}, 1, "there is no list of the applications that take add-ins\n");
+  expectUntouched({"addin", "install", "Mail"}, 1, "there is no list of the applications that take add-ins\n");
+  EXPECT_EQ(diagnosis("applications that take add-ins"), "problem: the manager cannot start without a list of them");
+}
+
+TEST_F(AddinVerbs, aMacroIsInstalledAndRemoved) {
+  makeFolder(startup);
+  expect({"addin", "install", "Word 2011"}, 0, "", "");
+  EXPECT_EQ(read(macro), "macro 2011/Tarvo.dotm\n");
+  EXPECT_EQ(run({"addins"}).out.substr(0, 9), "installed");
+  expect({"addin", "install", "Word 2011"}, 1, "", "Word 2011 has its add-in already\n");
+  expect({"addin", "remove", "Word 2011", "2011"}, 0, "", "");
+  EXPECT_FALSE(exists(macro));
+  expect({"addin", "remove", "Word 2011"}, 1, "", "Word 2011 has no add-in\n");
+}
+
+TEST_F(AddinVerbs, mailScriptsAreInstalledAlsoAtTheVeryFirstStart) {
+  expect({"addin", "install", "Mail"}, 0, "", "");
+  EXPECT_EQ(read(std::string(scripts) + "/sub/c"), "Mail c\n");
+  expect({"addin", "remove", "Mail", "4"}, 0, "", "");
+  EXPECT_FALSE(exists(scripts));
+}
+
+TEST_F(AddinVerbs, aNameThatMeansNoRowOrSeveralIsMisuse) {
+  expectUntouched({"addin", "install", "Word"}, 2, "there is no add-in for Word\n");
+  expectUntouched({"addin", "install", "word 2011"}, 2, "there is no add-in for word 2011\n");
+  expectUntouched({"addin", "remove", "Word 2011", "2008"}, 2, "there is no add-in for Word 2011, version 2008\n");
+  expectUntouched({"addin", "install", "Outlook 2011"}, 2, "there is no add-in for Outlook 2011\n");
+  makeFolder("/Users/taro/Library/Scripts/Outlook");
+  put("/Volumes/D/Outlook.app/Contents/Info.plist", read("/Applications/O11/Outlook.app/Contents/Info.plist"));
+  EXPECT_EQ(run({"addin", "search", root_.root() + "/Volumes/D"}).status, 0);
+  expectUntouched({"addin", "install", "Outlook 2011"}, 2, "there are 2 rows for Outlook 2011\n");
+  EXPECT_EQ(run({"addin", "install"}).status, 2);
+  EXPECT_EQ(run({"addin", "burn", "Mail"}).status, 2);
+}
+
+TEST_F(AddinVerbs, aFailedInstallTellsWhatTheWindowTellsAndWhy) {
+  expect({"addin", "install", "Word 2011"}, 1, "",
+         "Word 2011«OfficeInstallIsFailed» (the install folder is missing)\n");
+  makeFolder(startup);
+  fs::remove(root_.root() + "/Bundle/Macros/2011/Tarvo.dotm");
+  expect({"addin", "install", "Word 2011"}, 1, "",
+         "Word 2011«OfficeInstallIsFailed» (what is to be installed is missing from the product)\n");
+}
+
+TEST_F(AddinVerbs, aSearchTellsWhatItAdded) {
+  put("/Volumes/D/Word.app/Contents/Info.plist", read("/Applications/O11/Word.app/Contents/Info.plist"));
+  const std::string folder = root_.root() + "/Volumes/D";
+  expect({"addin", "search", folder}, 0, "added  Word 2011  2011  root:/Volumes/D/Word.app\n", "");
+  expect({"addin", "search", folder}, 0, "",
+         "nothing was added: there is no application of Office 2011 in this folder that is not listed\n");
+  const std::string listed = run({"addins"}).out;
+  EXPECT_NE(listed.find("root:/Volumes/D/Word.app"), std::string::npos);
+  expectUntouched({"addin", "search", folder + "/none"}, 2, "there is no folder " + folder + "/none\n");
+  expectUntouched({"addin", "search", folder + "/Word.app/Contents/Info.plist"}, 2,
+                  "there is no folder " + folder + "/Word.app/Contents/Info.plist\n");
+}
+
+TEST_F(AddinVerbs, theToolListIsWrittenForAnotherTool) {
+  expect({"tool-list"}, 0, "", "");
+  EXPECT_NE(read(toolList).find("Tool_Path=tMG8\r\n"), std::string::npos);
+  expect({"tool-list", "tUD8"}, 0, "", "");
+  EXPECT_NE(read(toolList).find("Tool_Name=UD\r\nTool_Path=tUD8\r\nTool_Action=2\r\n"), std::string::npos);
+  expect({"tool-list"}, 0, "", "");
+  EXPECT_NE(read(toolList).find("Tool_Path=tUD8\r\n"), std::string::npos);
+  expectUntouched({"tool-list", "tud8"}, 2,
+                  "there is no tool tud8; the tools are tMG8 tTX8 tUD8 tTM8 tTL8 tNP8 tQB8\n");
+}
+
+TEST_F(AddinVerbs, aToolListThatCannotBeWrittenIsTold) {
+  makeFolder(toolList);
+  expect({"tool-list", "tNP8"}, 1, "", root_.root() + toolList + " could not be written\n");
+  EXPECT_TRUE(fs::is_directory(root_.root() + toolList));
+}
+
+TEST_F(AddinVerbs, theDoctorSaysWhyAnInstallWouldFail) {
+  EXPECT_EQ(diagnosis("Word 2011"), "ok: ");
+  EXPECT_EQ(diagnosis("install folder of Word 2011"), "missing: an install would fail: the install folder is missing");
+  EXPECT_EQ(diagnosis("macro of Word 2011"), "missing: not installed");
+  makeFolder(startup);
+  EXPECT_EQ(diagnosis("install folder of Word 2011"), "ok: ");
+  fs::remove(root_.root() + "/Bundle/Macros/2011/Tarvo.dotm");
+  EXPECT_EQ(diagnosis("install folder of Word 2011"),
+            "problem: an install would fail: what is to be installed is missing from the product");
+  EXPECT_EQ(diagnosis("install folder of Outlook 2011"), "missing: is not listed without it");
+  fs::remove_all(root_.root() + "/Applications/O08");
+  EXPECT_EQ(diagnosis("Word 2008"), "missing: is not listed");
+  EXPECT_EQ(diagnosis("macro of Word 2008"), "nothing");
+}
+
+TEST_F(AddinVerbs, theDoctorSaysWhereARowAndTheDiskDiffer) {
+  put(std::string(scripts) + "/b.scpt", "of the user");
+  EXPECT_EQ(diagnosis("scripts of Mail"), "problem: installed in part, lacks a.scpt, sub");
+  EXPECT_EQ(diagnosis("install folder of Mail"),
+            "problem: an install would fail: there is a script of that name already: b.scpt");
+  makeFolder(startup);
+  EXPECT_EQ(run({"tool-list"}).status, 0);  // the rows are remembered, without the macro
+  put(macro, "of the user");
+  EXPECT_EQ(diagnosis("macro of Word 2011"),
+            "problem: installed; the box was left off and goes on with the next start");
+  EXPECT_EQ(run({"tool-list"}).status, 0);
+  EXPECT_EQ(diagnosis("macro of Word 2011"), "ok: installed");
+  fs::remove(root_.root() + macro);
+  EXPECT_EQ(diagnosis("macro of Word 2011"),
+            "problem: not installed; the box was left on and goes off with the next start");
+}
+
+}  // namespace
+}  // namespace tarvo::test
