@@ -16,6 +16,9 @@ import subprocess
 import sys
 import time
 
+from bus_rows import bus_rows
+from server_rows import hang_row, register_row
+
 TOP = pathlib.Path(__file__).resolve().parent.parent.parent
 BUILD = TOP / "build/bench"
 WORK = BUILD / "work"
@@ -24,6 +27,9 @@ FLOOR_WINDOW = BUILD / "tests/bench/floor_window"
 EDIT_BENCH = BUILD / "tests/bench/edit_bench"
 SCAN_BENCH = BUILD / "tests/bench/scan_bench"
 PICKER_BENCH = BUILD / "tests/bench/picker_bench"
+REQUEST_BENCH = BUILD / "tests/bench/request_bench"
+REGISTER_BENCH = BUILD / "tests/bench/register_bench"
+HANG_BENCH = BUILD / "tests/bench/hang_bench"
 SEED = "Library/Application Support/Wordhaven/TarvoEiwa/TarvoStyle2009.plist"
 USER_STYLES = "Library/Preferences/Wordhaven/TarvoStyle2009.plist"
 
@@ -31,6 +37,8 @@ STARTS = 15
 EDITS = 41
 SCANS = 31
 OPENINGS = 15
+REGISTRATIONS = 101
+CALLS = 41
 DICTIONARIES = 10_000
 SETTLE_SECONDS = 0.5  # from the first paint until memory is read
 LONGEST_START = 30.0
@@ -197,7 +205,7 @@ def picker_rows():
         print(f"{name:34} {float(here):9.2f} ms   at most {most} ms: {'met' if float(here) <= most else 'missed'}", flush=True)
 
 
-ROWS = ("start", "memory", "edit", "scan", "picker")
+ROWS = ("start", "memory", "edit", "scan", "picker", "bus", "register", "hang")
 
 
 def main(arguments):
@@ -213,6 +221,18 @@ def main(arguments):
         scan_rows()
     if "picker" in wanted:
         picker_rows()
+    if "bus" in wanted:
+        root = fresh_root("root")
+        bus_rows(MANAGER, REQUEST_BENCH, root, home_of(root), WORK / "floor", CALLS, print_row)
+    if "register" in wanted:
+        for count in (6, 100):
+            root = fresh_root("root")
+            give_styles(root, count)
+            for kind in ("nginx", "apache"):
+                register_row(kind, REGISTER_BENCH, home_of(root) / USER_STYLES, REGISTRATIONS, f"{count} styles", print_row)
+    if "hang" in wanted:
+        root = fresh_root("root")
+        hang_row(HANG_BENCH, root, home_of(root))
 
 
 if __name__ == "__main__":
