@@ -16,6 +16,9 @@ import subprocess
 import sys
 import time
 
+from bus_rows import bus_rows
+from server_rows import hang_row, register_row
+
 TOP = pathlib.Path(__file__).resolve().parent.parent.parent
 BUILD = TOP / "build/bench"
 WORK = BUILD / "work"
@@ -25,6 +28,9 @@ EDIT_BENCH = BUILD / "tests/bench/edit_bench"
 SCAN_BENCH = BUILD / "tests/bench/scan_bench"
 ADDIN_BENCH = BUILD / "tests/bench/addin_bench"
 PICKER_BENCH = BUILD / "tests/bench/picker_bench"
+REQUEST_BENCH = BUILD / "tests/bench/request_bench"
+REGISTER_BENCH = BUILD / "tests/bench/register_bench"
+HANG_BENCH = BUILD / "tests/bench/hang_bench"
 SEED = "Library/Application Support/Wordhaven/TarvoEiwa/TarvoStyle2009.plist"
 USER_STYLES = "Library/Preferences/Wordhaven/TarvoStyle2009.plist"
 
@@ -33,6 +39,8 @@ EDITS = 41
 SCANS = 31
 OPENINGS = 15
 INSTALLS = 31
+REGISTRATIONS = 101
+CALLS = 41
 DICTIONARIES = 10_000
 SCRIPTS = 1_000
 SETTLE_SECONDS = 0.5  # from the first paint until memory is read
@@ -220,6 +228,7 @@ def addin_rows():
 
 
 ROWS = ("start", "memory", "edit", "scan", "picker", "addin")
+ROWS = ("start", "memory", "edit", "scan", "picker", "bus", "register", "hang")
 
 
 def main(arguments):
@@ -237,6 +246,7 @@ def main(arguments):
         picker_rows()
     if "addin" in wanted:
         addin_rows()
+ROWS = ("start", "memory", "edit", "scan", "picker", "addin", "bus", "register", "hang")
 
 
 if __name__ == "__main__":

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "console/verb_table.h"
+#include "console/command_line.h"
 
 #include <CLI/CLI.hpp>
 
@@ -17,17 +17,49 @@ namespace tarvo {
 
 namespace {
 
-using Chosen = std::function<void(MakeCommand)>;
+// The options that the window program takes as well.
+std::vector<std::string> passedOn(const CommandLine& line) {
+  const ProductOptions& product = line.product;
+  std::vector<std::string> options;
+  const auto add = [&options](const char* name, const std::optional<std::string>& value) {
+    if (value) options.push_back(std::string(name) + '=' + *value);
+  };
+  add("--root", product.root);
+  add("--home", product.home);
+  add("--language", product.language);
+  for (const std::string& file : product.strings) add("--strings", file);
+  add("--paths", product.paths);
+  add("--resources", product.resources);
+  add("--engine", product.engine);
+  add("--bus-name", line.busName);
+  return options;
+}
+
+void addCommonOptions(CLI::App& app, CommandLine& line) {
+  ProductOptions& product = line.product;
+  app.add_option("--root", product.root, "prefix of the product's and the system's fixed paths");
+  app.add_option("--home", product.home, "the user's home folder");
+  app.add_option("--language", product.language, "text table")->check(CLI::IsMember({"en", "ja"}));
+  app.add_option("--strings", product.strings, "texts laid over the table; none drops those before it")
+      ->allow_extra_args(false);
+  app.add_option("--paths", product.paths, "a property list laid over the product's paths");
+  app.add_option("--resources", product.resources, "the resource folder");
+  app.add_option("--engine", product.engine, "style service; none is never reachable");
+  app.add_option("--bus-name", line.busName, "name of the manager on the session bus (under open)");
+  app.add_option("--clock", line.clock, "manual: timers fire only through advance (under run)")
+      ->check(CLI::IsMember({"manual", "real"}));
+  app.set_version_flag("--version", "tarvoctl " TARVO_VERSION);
+}
 
 struct Table {
-  VerbWords& words;
-  const Chosen& chosen;
+  CommandLine& line;
+  VerbWords& words = line.words;
 
   // make answers a command by value.
   template <class Make>
   void add(CLI::App& verb, Make make) const {
-    verb.fallthrough()->callback([chosen = chosen, make] {
-      chosen([make]() -> std::unique_ptr<Command> { return std::make_unique<decltype(make())>(make()); });
+    verb.fallthrough()->callback([&to = line.makeCommand, make] {
+      to = [make]() -> std::unique_ptr<Command> { return std::make_unique<decltype(make())>(make()); };
     });
   }
   CLI::App& group(CLI::App& app, const char* name, const char* purpose) const {
@@ -138,22 +170,38 @@ void addAddinVerbs(CLI::App& app, const Table& table) {
   table.add(list, [&] { return ToolListCommand(words.tool); });
 }
 
+void addOtherVerbs(CLI::App& app, const Table& table) {
+  VerbWords& words = table.words;
+  CLI::App& open = *app.add_subcommand("open", "bring the window to a tool, by its caller code");
+  open.add_option("CODE", words.code)->required();
+  table.add(open, [&line = table.line] { return OpenCommand(passedOn(line), line.words.code); });
+  CLI::App& doctor = *app.add_subcommand("doctor", "every path looked at, and what is there");
+  addListing(doctor, words);
+  table.add(doctor, [&words] { return DoctorCommand(words.json); });
+  CLI::App& script = *app.add_subcommand("run", "run a script of the scenario language");
+  script.add_option("FILE", table.line.script, "the script; - reads it from the input");
+}
+
 }  // namespace
 
-void addVerbs(CLI::App& app, VerbWords& words, const Chosen& chosen,
-              const std::function<std::vector<std::string>()>& passedOn) {
-  const Table table{words, chosen};
+std::optional<ExitStatus> readCommandLine(CommandLine& line, int count, const char* const* words, std::ostream& out,
+                                          std::ostream& err) {
+  CLI::App app("Manages the translation styles of TarvoEiwa.", "tarvoctl");
+  app.require_subcommand(1)->fallthrough();
+  addCommonOptions(app, line);
+  const Table table{line};
   addStyleVerbs(app, table);
   addListVerbs(app, table);
   addNewVerb(app, table);
   addEngineVerbs(app, table);
   addAddinVerbs(app, table);
-  CLI::App& open = *app.add_subcommand("open", "bring the window to a tool, by its caller code");
-  open.add_option("CODE", words.code)->required();
-  table.add(open, [&words, passedOn] { return OpenCommand(passedOn(), words.code); });
-  CLI::App& doctor = *app.add_subcommand("doctor", "every path looked at, and what is there");
-  addListing(doctor, words);
-  table.add(doctor, [&words] { return DoctorCommand(words.json); });
+  addOtherVerbs(app, table);
+  try {
+    app.parse(count, words);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error, out, err) == 0 ? ExitStatus::done : ExitStatus::usage;
+  }
+  return std::nullopt;
 }
 
 }  // namespace tarvo
