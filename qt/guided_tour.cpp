@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QEventLoop>
 #include <QKeyEvent>
@@ -27,16 +28,23 @@ class Tour {
  public:
   Tour(Shell& shell, const QString& folder) : shell_(shell), folder_(folder) {}
 
-  bool walk() {
-    return picture("styles") && next("style.stylePopup") && picture("another-style") && next("style.ejEditPopup") &&
-           next("style.ejOption1Popup") && picture("option-changed") && press("manager.OA") &&
-           tick("manager.officeTableView") && picture("office") && press("manager.MT") &&
-           tick("manager.mailTableView") && picture("mail") && press("manager.StyleManager") && isSaved();
-  }
+  bool walk() { return styles() && office() && mail() && press("manager.StyleManager") && isSaved(); }
 
   const std::vector<QString>& pictures() const { return pictures_; }
 
  private:
+  bool styles() {
+    return picture("styles") && next("style.stylePopup") && picture("another-style") && next("style.ejEditPopup") &&
+           next("style.ejOption1Popup") && picture("option-changed");
+  }
+
+  bool office() {
+    return press("manager.OA") && tick("manager.officeTableView") && picture("office") &&
+           caution("manager.officePowerPointButton", "manager.alertPowerPoint", "about-powerpoint");
+  }
+
+  bool mail() { return press("manager.MT") && tick("manager.mailTableView") && picture("mail"); }
+
   bool fail(const std::string& reason) {
     std::cerr << "tarvo-manager: tour: " << reason << '\n';
     return false;
@@ -98,11 +106,24 @@ class Tour {
     return button->isChecked() ? settled() : fail(std::string(name) + " was not chosen");
   }
 
-  bool picture(const char* name) {
+  // The window that a button brings up.
+  bool caution(const char* buttonName, const char* windowName, const char* pictureName) {
+    auto* button = usable<QAbstractButton>(buttonName);
+    if (button == nullptr) return false;
+    button->click();
     if (!settled()) return false;
+    auto* shown = usable<QDialog>(windowName);
+    if (shown == nullptr || !picture(pictureName, *shown)) return false;
+    strike(*shown, Qt::Key_Escape);
+    return !shown->isVisible() || fail(std::string(windowName) + " stays");
+  }
+
+  bool picture(const char* name) { return settled() && picture(name, *shell_.windows().mainWindow()); }
+
+  bool picture(const char* name, QWidget& window) {
     const QString number = QStringLiteral("%1-").arg(pictures_.size() + 1);
     const QString path = QDir(folder_).filePath(number + QLatin1String(name) + QStringLiteral(".png"));
-    if (!shell_.windows().mainWindow()->grab().save(path)) return fail("cannot write " + path.toStdString());
+    if (!window.grab().save(path)) return fail("cannot write " + path.toStdString());
     pictures_.push_back(path);
     return true;
   }

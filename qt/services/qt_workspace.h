@@ -10,7 +10,8 @@ namespace tarvo {
 
 class Locations;
 
-// The desktop's own ways to open files, addresses and programs.
+// The desktop's own ways to open files, addresses and programs. An application is known by the name of its bundle in
+// one of the folders for applications; one that is not there is not started.
 class QtWorkspace : public Workspace {
  public:
   // running: what launchedApplications answers.

@@ -4,10 +4,14 @@
 
 #include <QEventLoop>
 #include <QTimer>
+#include <filesystem>
 #include <memory>
 
+#include "platform/locations.h"
 #include "qt/command_line.h"
 #include "qt/services/qt_run_loop.h"
+#include "qt/services/qt_workspace.h"
+#include "tests/support/temporary_folder.h"
 
 namespace tarvo {
 namespace {
@@ -16,6 +20,21 @@ void runFor(int milliseconds) {
   QEventLoop loop;
   QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
   loop.exec();
+}
+
+TEST(QtWorkspace, anApplicationIsStartedFromTheFoldersForApplications) {
+  const test::TemporaryFolder root;
+  const std::string program = "Applications/Utilities/Script Editor.app/Contents/MacOS/editor";
+  root.write(program, "#!/bin/sh\n: > \"$(dirname \"$0\")/../started\"\n");
+  std::filesystem::permissions(root / program, std::filesystem::perms::owner_all);
+  const Locations locations(root.path(), root / "home");
+  QtWorkspace workspace(locations, [] { return std::vector<std::string>(); });
+  workspace.launchApplication("Nowhere.app");
+  workspace.launchApplication("sh");  // no bundle, though a program has that name
+  workspace.launchApplication("Script Editor.app");
+  const std::string started = root / "Applications/Utilities/Script Editor.app/Contents/started";
+  for (int i = 0; i < 500 && !std::filesystem::exists(started); ++i) runFor(10);
+  EXPECT_TRUE(std::filesystem::exists(started));
 }
 
 TEST(QtRunLoop, postedCallsRunLaterInTheirOrderAlsoInNestedLoops) {
