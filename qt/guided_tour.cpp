@@ -32,16 +32,24 @@ class Tour {
   Tour(Shell& shell, const QString& folder) : shell_(shell), folder_(folder) {}
 
   bool walk() {
-    return answerTheService() && picture("styles") && next("style.stylePopup") && picture("another-style") &&
-           next("style.ejEditPopup") && next("style.ejOption1Popup") && picture("option-changed") && rename() &&
-           exportWindow() && press("manager.OA") && tick("manager.officeTableView") && picture("office") &&
-           press("manager.MT") && tick("manager.mailTableView") && picture("mail") && press("manager.StyleManager") &&
-           isSaved();
+    return answerTheService() && styles() && office() && mail() && press("manager.StyleManager") && isSaved();
   }
 
   const std::vector<QString>& pictures() const { return pictures_; }
 
  private:
+  bool styles() {
+    return picture("styles") && next("style.stylePopup") && picture("another-style") && next("style.ejEditPopup") &&
+           next("style.ejOption1Popup") && picture("option-changed") && rename() && exportWindow();
+  }
+
+  bool office() {
+    return press("manager.OA") && tick("manager.officeTableView") && picture("office") &&
+           caution("manager.officePowerPointButton", "manager.alertPowerPoint", "about-powerpoint");
+  }
+
+  bool mail() { return press("manager.MT") && tick("manager.mailTableView") && picture("mail"); }
+
   bool fail(const std::string& reason) {
     std::cerr << "tarvo-manager: tour: " << reason << '\n';
     return false;
@@ -125,11 +133,24 @@ class Tour {
     return isShown || fail("the export window did not come up");
   }
 
-  bool picture(const char* name) {
+  // The window that a button brings up.
+  bool caution(const char* buttonName, const char* windowName, const char* pictureName) {
+    auto* button = usable<QAbstractButton>(buttonName);
+    if (button == nullptr) return false;
+    button->click();
     if (!settled()) return false;
+    auto* shown = usable<QDialog>(windowName);
+    if (shown == nullptr || !save(pictureName, shown->grab())) return false;
+    strike(*shown, Qt::Key_Escape);
+    return !shown->isVisible() || fail(std::string(windowName) + " stays");
+  }
+
+  bool picture(const char* name) { return settled() && save(name, asSeen()); }
+
+  bool save(const char* name, const QPixmap& seen) {
     const QString number = QStringLiteral("%1-").arg(pictures_.size() + 1);
     const QString path = QDir(folder_).filePath(number + QLatin1String(name) + QStringLiteral(".png"));
-    if (!asSeen().save(path)) return fail("cannot write " + path.toStdString());
+    if (!seen.save(path)) return fail("cannot write " + path.toStdString());
     pictures_.push_back(path);
     return true;
   }
