@@ -55,6 +55,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(ScriptHelp, opensNothingWhereItIsMissing) {
   const TemporaryFolder resources;
   fs::copy_file(TARVO_SOURCE_DIR "/resources/WordhavenPaths.plist", resources / "WordhavenPaths.plist");
+  fs::copy_file(TARVO_SOURCE_DIR "/resources/DefaultAddin.plist", resources / "DefaultAddin.plist");
   EXPECT_EQ(
       outputOf({"--resources", resources.path()}, "menu helpMenu\nlog\nexpect any {\"alert\":\"*\"}\nexpect end\n")
           .find("\"opened\""),
