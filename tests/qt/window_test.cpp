@@ -257,7 +257,7 @@ TEST_F(MainWindowTest, theTourLeavesPicturesAndEndsTheProgram) {
   EXPECT_TRUE(takeGuidedTour(*shell, *product, folder / "pictures"));
   const std::string printed = testing::internal::GetCapturedStdout();
   EXPECT_TRUE(shell->program().isTerminated());
-  EXPECT_EQ(folder.names("pictures").size(), 8U);
+  EXPECT_EQ(folder.names("pictures").size(), 9U);
   EXPECT_NE(printed.find(product->locations().resolve(shell->program().rooms().store.path())), std::string::npos);
 }
 
