@@ -50,17 +50,34 @@ struct Match {
   Place place;  // of the first
 };
 
-bool isMeant(const AddinEntry& row, const std::string& name, const std::string& version) {
-  return addinText(row, appName) == name && (version.empty() || addinText(row, appVersion) == version);
+// What a user asks for. The name may also be the path of the application: as listed, as remembered, or on the disk.
+struct Asked {
+  std::string name, version;
+  const Locations& locations;
+  bool means(const AddinEntry& row) const {
+    if (!version.empty() && addinText(row, appVersion) != version) return false;
+    const std::string path = addinText(row, appPath);
+    return name == addinText(row, appName) || name == path || name == locations.shown(path) ||
+           name == locations.resolve(path);
+  }
+};
+
+// A search may add an application twice; it makes no difference which of such rows is ticked.
+bool areAlike(const AddinEntry& one, const AddinEntry& other) {
+  return addinText(one, appPath) == addinText(other, appPath) && installedItemPath(one) == installedItemPath(other);
 }
 
-Match findRow(const Rows& office, const Rows& mail, const std::string& name, const std::string& version) {
+Match findRow(const Rows& office, const Rows& mail, const Asked& asked) {
   Match match;
+  const AddinEntry* first = nullptr;
   int tag = 0;
   for (const Rows* rows : {&office, &mail}) {
     for (std::size_t i = 0; i < rows->size(); ++i) {
-      if (!isMeant((*rows)[i], name, version)) continue;
-      if (match.count++ == 0) match.place = {tag, static_cast<int>(i)};
+      const AddinEntry& row = (*rows)[i];
+      if (!asked.means(row) || (first != nullptr && areAlike(*first, row))) continue;
+      if (match.count++ > 0) continue;
+      first = &row;
+      match.place = {tag, static_cast<int>(i)};
     }
     ++tag;
   }
@@ -68,11 +85,12 @@ Match findRow(const Rows& office, const Rows& mail, const std::string& name, con
 }
 
 // Why the name means no row, or several; "" when it means one.
-std::string problemWith(const Match& match, const std::string& name, const std::string& version) {
-  const std::string asked = version.empty() ? name : name + ", version " + version;
-  if (match.count == 0) return "there is no add-in for " + asked;
-  if (match.count > 1) return "there are " + std::to_string(match.count) + " rows for " + asked;
-  return {};
+std::string problemWith(const Match& match, const Asked& asked) {
+  const std::string words = asked.version.empty() ? asked.name : asked.name + ", version " + asked.version;
+  if (match.count == 0) return "there is no add-in for " + words;
+  if (match.count == 1) return {};
+  return "there are " + std::to_string(match.count) + " rows for " + words +
+         "; name one by the path of its application";
 }
 
 }  // namespace
@@ -100,17 +118,18 @@ ExitStatus AddinsCommand::run(Console& console) {
 ExitStatus AddinTickCommand::run(Console& console) {
   const std::optional<AddinsRead> addins = read(console);
   if (!addins) return ExitStatus::refused;
-  const Match known = findRow(addins->office, addins->mail, name_, version_);
-  if (const std::string problem = problemWith(known, name_, version_); !problem.empty()) {
+  const Asked asked{name_, version_, console.product.locations()};
+  const Match known = findRow(addins->office, addins->mail, asked);
+  if (const std::string problem = problemWith(known, asked); !problem.empty()) {
     console.err << problem << '\n';
     return ExitStatus::usage;
   }
   VerbProgram verb(console);
   return verb.run([&](Program& program, Hand& hand) {
     AddinLists& lists = program.rooms().addins;
-    const Match match = findRow(lists.fOfficeAddinArray, lists.fMailAddinArray, name_, version_);
+    const Match match = findRow(lists.fOfficeAddinArray, lists.fMailAddinArray, asked);
     // The start makes a folder without which a mail program is not listed; that can fail.
-    if (const std::string problem = problemWith(match, name_, version_); !problem.empty()) return verb.refuse(problem);
+    if (const std::string problem = problemWith(match, asked); !problem.empty()) return verb.refuse(problem);
     const auto row = [&]() -> const AddinEntry& {
       return (*lists.rowsOf(match.place.tag))[static_cast<std::size_t>(match.place.row)];
     };
@@ -122,8 +141,8 @@ ExitStatus AddinTickCommand::run(Console& console) {
     hand.tick(match.place.tag == 0 ? outlets.officeTableView : outlets.mailTableView, match.place.row, install_);
     if (isMarkedInstalled(row()) == install_) return;
     const TextField& info = match.place.tag == 0 ? outlets.officeInfoField : outlets.mailinfoField;
-    const bool isKnown = install_ && !before.obstacle.empty();
-    verb.refuse(info.stringValue() + (isKnown ? " (" + before.obstacle + ")" : ""));
+    const std::string& reason = install_ ? before.obstacle : before.removalObstacle;
+    verb.refuse(info.stringValue() + (reason.empty() ? "" : " (" + reason + ")"));
   });
 }
 

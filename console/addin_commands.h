@@ -23,7 +23,7 @@ class AddinsCommand : public Command {
 // window has.
 class AddinTickCommand : public Command {
  public:
-  // name: as the table shows it. version: "" where the name alone says which one.
+  // name: as the table shows it, or the path of the application. version: "" where the name alone says which one.
   AddinTickCommand(std::string name, std::string version, bool install)
       : name_(std::move(name)), version_(std::move(version)), install_(install) {}
   ExitStatus run(Console& console) override;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "console/addin_reading.h"
 
+#include <algorithm>
+
 #include "app/product.h"
 #include "app/program.h"
 #include "platform/file_service.h"
@@ -17,6 +19,20 @@ bool isListed(const AddinEntry& entry, const FileService& files, const MailScrip
   return mailScripts.isMailScriptFolder(entry) || folder == mailScripts.mailScriptFolder();
 }
 
+// A remembered list leaves out what was not there at the end of an earlier run.
+std::vector<AddinEntry> forgottenIn(const AddinLists& lists, const FileService& files) {
+  std::vector<AddinEntry> forgotten;
+  if (!lists.fDefaultOfficeSetArray) return forgotten;
+  for (const AddinLists::SharedEntry& shipped : *lists.fDefaultOfficeSetArray) {
+    const std::string path = addinText(*shipped, addin_keys::appPath);
+    const bool isCandidate = std::any_of(
+        lists.fOfficeArray.begin(), lists.fOfficeArray.end(),
+        [&](const AddinLists::SharedEntry& candidate) { return addinText(*candidate, addin_keys::appPath) == path; });
+    if (!isCandidate && files.exists(path)) forgotten.push_back(*shipped);
+  }
+  return forgotten;
+}
+
 }  // namespace
 
 std::optional<AddinsRead> readAddins(Product& product) {
@@ -27,7 +43,7 @@ std::optional<AddinsRead> readAddins(Product& product) {
   const MailScriptInstaller mailScripts(files, product.bundle(), home);
   AddinLists lists({files, product.bundle(), defaults}, home, mailScripts, outlets);
   if (!lists.searchOfficeApplication()) return std::nullopt;
-  AddinsRead read{{}, std::move(lists.fOfficeAddinArray), {}};
+  AddinsRead read{{}, forgottenIn(lists, files), std::move(lists.fOfficeAddinArray), {}};
   for (const AddinLists::SharedEntry& candidate : lists.fOfficeArray) {
     read.candidates.push_back(*candidate);
     if (!isMailAddin(*candidate) || !isListed(*candidate, files, mailScripts)) continue;

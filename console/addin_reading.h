@@ -14,6 +14,7 @@ class Product;
 
 struct AddinsRead {
   std::vector<AddinEntry> candidates;    // every record that a start would look at
+  std::vector<AddinEntry> forgotten;     // shipped records that it would not, though their applications are there
   std::vector<AddinEntry> office, mail;  // the rows that it would show
 };
 

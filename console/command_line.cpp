@@ -158,7 +158,7 @@ void addAddinVerbs(CLI::App& app, const Table& table) {
   for (const bool install : {true, false}) {
     CLI::App& verb = *addin.add_subcommand(install ? "install" : "remove",
                                            install ? "put it into its application" : "take it out again");
-    verb.add_option("NAME", words.name, "of the application, as listed")->required();
+    verb.add_option("NAME", words.name, "of the application, as listed, or its path")->required();
     verb.add_option("VERSION", words.version, "where several have the name");
     table.add(verb, [&words, install] { return AddinTickCommand(words.name, words.version, install); });
   }

@@ -26,6 +26,10 @@ class Examination {
       const bool isRemembered = entry.find(addin_keys::installStatus) != nullptr;
       examine(diagnoseAddin(entry, product_.files(), product_.bundle()), isRemembered);
     }
+    for (const AddinEntry& entry : addins->forgotten) {
+      add(addinText(entry, addin_keys::appPath), addinText(entry, addin_keys::appName), "problem",
+          "is not listed: it was not there at the end of an earlier run; without the setting Office it comes back");
+    }
     return std::move(findings_);
   }
 
@@ -65,7 +69,8 @@ class Examination {
       detail += addin.isMarked ? "; the box was left on and goes off with the next start"
                                : "; the box was left off and goes on with the next start";
     }
-    const bool isProblem = addin.isPartial || differs;
+    if (!addin.removalObstacle.empty()) detail += "; a removal would fail: " + addin.removalObstacle;
+    const bool isProblem = addin.isPartial || differs || !addin.removalObstacle.empty();
     add(addin.item, (addin.table == "mail" ? "scripts of " : "macro of ") + addin.name,
         isProblem       ? "problem"
         : addin.isThere ? "ok"

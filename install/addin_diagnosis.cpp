@@ -27,6 +27,7 @@ class Look {
               .item = installedItemPath(entry),
               .missing = {},
               .obstacle = {},
+              .removalObstacle = {},
               .isMarked = isMarkedInstalled(entry),
               .isThere = files.exists(installedItemPath(entry))};
   }
@@ -37,6 +38,7 @@ class Look {
     require(found_.folder);
     found_.obstacle = common();
     if (found_.obstacle.empty()) found_.obstacle = isMailAddin(entry_) ? ofScripts() : ofMacro();
+    if (found_.isThere) found_.removalObstacle = ofRemoval();
     return std::move(found_);
   }
 
@@ -84,6 +86,19 @@ class Look {
       }
     }
     return taken.empty() ? "" : "there is a script of that name already: " + taken;
+  }
+
+  std::string ofRemoval() const {
+    if (!files_.isWritable(found_.folder)) return "the install folder cannot be written to";
+    if (!isMailAddin(entry_)) return "";
+    if (files_.isLink(found_.item)) return "it is a link, which is left alone";
+    if (files_.kind(found_.item) != Kind::folder) return "it is no folder of scripts";
+    const auto names = files_.list(found_.item);
+    if (!names) return "it cannot be listed";
+    for (const std::string& name : *names) {
+      if (!files_.exists(joinPath(found_.item, name))) return "a link in it leads nowhere: " + name;
+    }
+    return files_.isWritable(found_.item) ? "" : "it cannot be written to";
   }
 
   const AddinEntry& entry_;

@@ -21,6 +21,7 @@ struct AddinDiagnosis {
   std::string item;                  // where the macro or the script folder goes; "" when the record names none
   std::vector<std::string> missing;  // paths that should be there: application, resource, folder, scripts left out
   std::string obstacle;              // why an install would fail now, in plain words; "" when nothing is in its way
+  std::string removalObstacle;       // the same of a removal; "" also when nothing is there
   bool isMarked = false;             // what the row says
   bool isThere = false;              // what the disk says
   bool isPartial = false;            // a script folder that lacks some of its scripts

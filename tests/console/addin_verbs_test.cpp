@@ -130,9 +130,51 @@ TEST_F(AddinVerbs, aNameThatMeansNoRowOrSeveralIsMisuse) {
   makeFolder("/Users/taro/Library/Scripts/Outlook");
   put("/Volumes/D/Outlook.app/Contents/Info.plist", read("/Applications/O11/Outlook.app/Contents/Info.plist"));
   EXPECT_EQ(run({"addin", "search", root_.root() + "/Volumes/D"}).status, 0);
-  expectUntouched({"addin", "install", "Outlook 2011"}, 2, "there are 2 rows for Outlook 2011\n");
+  expectUntouched({"addin", "install", "Outlook 2011"}, 2,
+                  "there are 2 rows for Outlook 2011; name one by the path of its application\n");
   EXPECT_EQ(run({"addin", "install"}).status, 2);
   EXPECT_EQ(run({"addin", "burn", "Mail"}).status, 2);
+}
+
+TEST_F(AddinVerbs, rowsOfOneNameAreToldApartByTheirApplications) {
+  makeFolder("/Users/taro/Library/Scripts/Outlook");
+  put("/Volumes/D/Outlook.app/Contents/Info.plist", read("/Applications/O11/Outlook.app/Contents/Info.plist"));
+  put("/Volumes/D/Word.app/Contents/Info.plist", read("/Applications/O11/Word.app/Contents/Info.plist"));
+  makeFolder("/Volumes/D/Office/Startup/Word");
+  for (int times = 0; times < 2; ++times) EXPECT_EQ(run({"addin", "search", root_.root() + "/Volumes/D"}).status, 0);
+  const std::string found = "/Volumes/D/Office/Startup/Word/Tarvo.dotm";
+  for (const std::string& path : {std::string("root:/Volumes/D/Word.app"), std::string("/Volumes/D/Word.app"),
+                                  root_.root() + "/Volumes/D/Word.app"}) {
+    expect({"addin", "install", path}, 0, "", "");
+    EXPECT_TRUE(exists(found)) << path;
+    expect({"addin", "remove", path, "2011"}, 0, "", "");
+    EXPECT_FALSE(exists(found)) << path;
+  }
+  EXPECT_FALSE(exists(startup)) << "the other one was never meant";
+  expectUntouched({"addin", "install", "/Volumes/D/Excel.app"}, 2, "there is no add-in for /Volumes/D/Excel.app\n");
+  // The second search added Outlook again: both rows mean the same scripts.
+  expect({"addin", "install", "/Volumes/D/Outlook.app"}, 0, "", "");
+  EXPECT_TRUE(exists("/Users/taro/Library/Scripts/Outlook/Tarvo/a.scpt"));
+}
+
+TEST_F(AddinVerbs, aFailedRemovalTellsWhy) {
+  fs::create_directories(root_.root() + "/elsewhere");
+  makeFolder("/Users/taro/Library/Scripts/Applications/Mail");
+  fs::create_symlink(root_.root() + "/elsewhere", root_.root() + scripts);
+  expect({"addin", "remove", "Mail"}, 1, "", "Mail«MailUnInstallIsFailed» (it is a link, which is left alone)\n");
+  EXPECT_TRUE(exists("/elsewhere"));
+  EXPECT_EQ(diagnosis("scripts of Mail"),
+            "problem: installed; a removal would fail: it is a link, which is left alone");
+}
+
+TEST_F(AddinVerbs, theDoctorTellsOfApplicationsThatAreForgotten) {
+  fs::rename(root_.root() + "/Applications/O11/Word.app", root_.root() + "/away");
+  EXPECT_EQ(run({"tool-list"}).status, 0);  // the rows are remembered, without Word
+  EXPECT_EQ(diagnosis("Word 2011"), "nothing");
+  fs::rename(root_.root() + "/away", root_.root() + "/Applications/O11/Word.app");
+  EXPECT_EQ(diagnosis("Word 2011"),
+            "problem: is not listed: it was not there at the end of an earlier run; without the setting Office it "
+            "comes back");
 }
 
 TEST_F(AddinVerbs, aFailedInstallTellsWhatTheWindowTellsAndWhy) {

@@ -87,6 +87,38 @@ TEST_F(Diagnosis, ofScriptsWithoutTheirFolderSeesNothingInTheWay) {
   EXPECT_EQ(found.missing, (Rows{"/Applications/Mail.app", "/Users/taro/Library/Scripts/Applications/Mail"}));
 }
 
+TEST_F(Diagnosis, tellsWhyScriptsCannotBeRemovedAndAgreesWithARemoval) {
+  setUp({mail});
+  const std::string target = folder / item(mail);
+  const auto expectRefused = [&](const char* why) {
+    EXPECT_EQ(of(mail).removalObstacle, why);
+    EXPECT_FALSE(mailScripts.unInstallMailScript(mail)) << why;
+  };
+  EXPECT_EQ(of(mail).removalObstacle, "") << "nothing is there";
+  folder.write(item(mail), "the user's");
+  expectRefused("it is no folder of scripts");
+  ASSERT_EQ(::unlink(target.c_str()), 0);
+  ASSERT_EQ(::symlink((folder / "resources").c_str(), target.c_str()), 0);
+  expectRefused("it is a link, which is left alone");
+  EXPECT_TRUE(folder.exists("resources/Mail/Tarvo/a.scpt"));
+  ASSERT_EQ(::unlink(target.c_str()), 0);
+  ASSERT_TRUE(mailScripts.installMailScript(mail));
+  EXPECT_EQ(of(mail).removalObstacle, "");
+  ASSERT_EQ(::symlink("nowhere", (target + "/c.scpt").c_str()), 0);
+  expectRefused("a link in it leads nowhere: c.scpt");
+  ASSERT_EQ(::unlink((target + "/c.scpt").c_str()), 0);
+  EXPECT_EQ(of(mail).removalObstacle, "");
+  EXPECT_TRUE(mailScripts.unInstallMailScript(mail));
+}
+
+TEST_F(Diagnosis, seesNothingInTheWayOfRemovingAMacroOrWhatBearsItsName) {
+  setUp({word});
+  EXPECT_EQ(of(word).removalObstacle, "");
+  folder.write(item(word) + "/inner", "of the user");
+  EXPECT_EQ(of(word).removalObstacle, "");
+  EXPECT_TRUE(macros.unInstallOfficeMacro(word));
+}
+
 TEST_F(Diagnosis, agreesWithWhatAnInstallDoes) {
   setUp({word, mail});
   for (int times = 0; times < 2; ++times) {
