@@ -131,6 +131,29 @@ TEST(DictionaryLoading, aListFillsUpToTheLimit) {
   }
 }
 
+TEST(DictionaryLoading, aListBeyondTheLimitTakesNothingUntilEnoughAreRemoved) {
+  LoadingWorld world(technicalNames(10), {"x.TRet"});
+  world.withPicker([&] {
+    world.tick({0});
+    world.takeLog();
+    world.loading.dicWindowOK();
+    EXPECT_EQ(world.takeLog(), (Log{"beep", "alert MaxOverTDAlertHeader / MaxOverTDAlertContents"}));
+    EXPECT_TRUE(world.picker.myWindow.isShown());
+  });
+  EXPECT_EQ(loadedOf(world.editing.ejTDController), technicalNames(10));
+  for (int times = 0; times < 3; ++times) {
+    world.outlets.ejTDTable.selectRows({0});
+    world.editing.removeTD(0);
+  }
+  world.withPicker([&] {
+    world.tick({world.picker.techDicTable.numberOfRows() - 1});
+    world.loading.dicWindowOK();
+    EXPECT_FALSE(world.picker.myWindow.isShown());
+  });
+  EXPECT_EQ(world.listOnDisk(keyNameEJ).size(), 8U);
+  EXPECT_EQ(world.listOnDisk(keyNameEJ).back(), PropertyList("x.TRet"));
+}
+
 TEST(DictionaryLoading, aVanishedFileIsToldAndTheOthersAreAdded) {
   LoadingWorld world({}, {"a.TRet", "gone.TRet", "z.TRet"});
   world.setText("notExistsFileAlertContents", "Missing:");
