@@ -62,9 +62,10 @@ struct Asked {
   }
 };
 
-// A search may add an application twice; it makes no difference which of such rows is ticked.
-bool areAlike(const AddinEntry& one, const AddinEntry& other) {
-  return addinText(one, appPath) == addinText(other, appPath) && installedItemPath(one) == installedItemPath(other);
+// A search may add an application twice. Asked for by its path, it makes no difference which row is ticked.
+bool isRepeated(const AddinEntry& row, const AddinEntry& first, const std::string& name) {
+  return addinText(row, appName) != name && addinText(row, appPath) == addinText(first, appPath) &&
+         installedItemPath(row) == installedItemPath(first);
 }
 
 Match findRow(const Rows& office, const Rows& mail, const Asked& asked) {
@@ -74,7 +75,7 @@ Match findRow(const Rows& office, const Rows& mail, const Asked& asked) {
   for (const Rows* rows : {&office, &mail}) {
     for (std::size_t i = 0; i < rows->size(); ++i) {
       const AddinEntry& row = (*rows)[i];
-      if (!asked.means(row) || (first != nullptr && areAlike(*first, row))) continue;
+      if (!asked.means(row) || (first != nullptr && isRepeated(row, *first, asked.name))) continue;
       if (match.count++ > 0) continue;
       first = &row;
       match.place = {tag, static_cast<int>(i)};

@@ -152,7 +152,9 @@ TEST_F(AddinVerbs, rowsOfOneNameAreToldApartByTheirApplications) {
   }
   EXPECT_FALSE(exists(startup)) << "the other one was never meant";
   expectUntouched({"addin", "install", "/Volumes/D/Excel.app"}, 2, "there is no add-in for /Volumes/D/Excel.app\n");
-  // The second search added Outlook again: both rows mean the same scripts.
+  // The second search added Outlook again: all three rows bear the name, two are for this application.
+  expectUntouched({"addin", "install", "Outlook 2011"}, 2,
+                  "there are 3 rows for Outlook 2011; name one by the path of its application\n");
   expect({"addin", "install", "/Volumes/D/Outlook.app"}, 0, "", "");
   EXPECT_TRUE(exists("/Users/taro/Library/Scripts/Outlook/Tarvo/a.scpt"));
 }
