@@ -41,7 +41,7 @@ Product::Product(const ProductOptions& options)
   layTexts(options.strings);
   paths_ = std::make_unique<ProductPaths>(locations_, readPaths(options.paths));
   scripts_ = std::make_unique<BundleScriptRunner>(*files_, paths_->volumeName());
-  if (engine_ && tarvo::makeEngine(*engine_, *files_, enginePlaces()) == nullptr) {
+  if (engine_ && tarvo::makeEngine(engineURL(), *files_, enginePlaces()) == nullptr) {
     problem_ = "there is no style service of this kind: " + *engine_;
   }
 }
@@ -74,7 +74,9 @@ std::optional<Dictionary> Product::readPaths(const std::optional<std::string>& o
   return configuration;
 }
 
-std::string Product::engineURL() const { return engine_.value_or(paths_->engineURL()); }
+std::string Product::engineURL() const {
+  return addressForUser(engine_.value_or(paths_->engineURL()), lastPathComponent(locations_.home()));
+}
 
 EnginePlaces Product::enginePlaces() const {
   return {paths_->localEnginePath(), locations_.resolve(locations_.inHome(".netrc"))};

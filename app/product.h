@@ -46,7 +46,8 @@ class Product {
   ProductPaths& paths() { return *paths_; }
   LocalStyleModule& styleModule() { return *styleModule_; }
 
-  // As the options or the configuration say it; "" for the local engine.
+  // As the options or the configuration say it, for the user whose home this is: "{user}" stands for the home's own
+  // name (addressForUser). "" for the local engine.
   std::string engineURL() const;
   // The engine that the options or the configuration name, working on these files; one that is never reachable when
   // there is none of that kind (see problem()).

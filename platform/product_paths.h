@@ -48,7 +48,7 @@ class ProductPaths {
 
   std::string preferencesWordhavenCache() const;         // the product's cache folder
   std::string volumeName() const;                        // of the boot volume, for classic paths
-  std::string engineURL() const;                         // style service; "" for the local engine
+  std::string engineURL() const;                         // style service as configured; "" for the local engine
   std::string localEnginePath() const;                   // the local engine's file
   std::vector<std::string> applicationFolders() const;   // where an application is looked for by its name, in order
   std::vector<std::string> runningApplications() const;  // that count as running, whatever the system says

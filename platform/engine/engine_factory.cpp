@@ -7,6 +7,39 @@
 #include "platform/engine/engine_none.h"
 
 namespace tarvo {
+namespace {
+
+bool isUnreserved(unsigned char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' || c == '.' ||
+         c == '_' || c == '~';
+}
+
+std::string percentEncoded(std::string_view text) {
+  constexpr std::string_view digits = "0123456789ABCDEF";
+  std::string encoded;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (isUnreserved(byte)) {
+      encoded += c;
+    } else {
+      (encoded += '%') += {digits[byte >> 4], digits[byte & 15]};
+    }
+  }
+  return encoded;
+}
+
+}  // namespace
+
+std::string addressForUser(std::string_view address, std::string_view user) {
+  constexpr std::string_view place = "{user}";
+  const std::string name = percentEncoded(user);
+  std::string filled;
+  for (std::size_t at = address.find(place); at != std::string_view::npos; at = address.find(place)) {
+    filled.append(address.substr(0, at)).append(name);
+    address.remove_prefix(at + place.size());
+  }
+  return filled.append(address);
+}
 
 std::unique_ptr<Engine> makeEngine(const std::string& engineURL, FileService& files, const EnginePlaces& places) {
   if (engineURL == "none") return std::make_unique<EngineNone>();

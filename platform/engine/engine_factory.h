@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "platform/engine.h"
 
@@ -16,7 +17,11 @@ struct EnginePlaces {
   std::string netrc;      // real path of the user's credentials for style services
 };
 
-// The engine that a configured address stands for: "none" is none, "" the local one, http://… and https://… the
+// The address of one user, from one that is configured for many machines: each "{user}" in it stands for the user's
+// name, percent-encoded but for letters, digits and "-._~" (RFC 6570, simple expansion).
+std::string addressForUser(std::string_view address, std::string_view user);
+
+// The engine that an address stands for: "none" is none, "" the local one, http://… and https://… the
 // resource of this user on a style service (isHttpAddress). Null for an address that nothing here serves.
 std::unique_ptr<Engine> makeEngine(const std::string& engineURL, FileService& files, const EnginePlaces& places);
 

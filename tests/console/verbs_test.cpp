@@ -258,6 +258,18 @@ TEST_F(Verbs, doctorNamesTheStyleServiceAndDoesNotAskIt) {
   EXPECT_EQ(states.at("http://service.example/x"), Json("ok"));
 }
 
+TEST_F(Verbs, oneConfigurationGivesEachUserAResource) {
+  const std::string address = "http://service.example/{user}.plist";
+  root_.folder().write("root/many.plist",
+                       "<plist><dict><key>EngineURL</key><string>" + address + "</string></dict></plist>");
+  for (const std::vector<std::string>& options :
+       {std::vector<std::string>{"--engine", address}, {"--paths", root_.root() + "/many.plist"}}) {
+    std::vector<std::string> words = options;
+    words.insert(words.end(), {"doctor", "--json"});
+    EXPECT_EQ(byPath(run(words).out).at("http://service.example/taro.plist"), Json("ok"));
+  }
+}
+
 TEST_F(Verbs, doctorFindsNothingMissingThatAStartMakes) {
   putStyles("root4.plist");
   run({"style", "set", "0", "Opt1=1"});

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "platform/engine/engine_factory.h"
 #include "platform/engine/engine_http.h"
 #include "platform/engine/engine_local.h"
@@ -33,6 +35,17 @@ TEST(EngineForms, theConfiguredAddressChoosesTheForm) {
   std::string stamp;
   local->sendRegistStyle({{}, {}}, stamp);
   EXPECT_TRUE(folder.exists("engine.plist"));
+}
+
+TEST(EngineForms, anAddressForManyBecomesThatOfTheUser) {
+  const std::array<std::string, 3> cases[] = {
+      {"https://example/{user}.plist", "taro", "https://example/taro.plist"},
+      {"https://example/{user}/{user}", "a.b-c_d~9", "https://example/a.b-c_d~9/a.b-c_d~9"},
+      {"https://example/{user}", "田 a/b%{user}@?#", "https://example/%E7%94%B0%20a%2Fb%25%7Buser%7D%40%3F%23"},
+      {"https://example/{User}{}{user", "taro", "https://example/{User}{}{user"},
+      {"none", "taro", "none"},
+      {"", "taro", ""}};
+  for (const auto& [address, user, expected] : cases) EXPECT_EQ(addressForUser(address, user), expected);
 }
 
 TEST(EngineForms, noEngineIsNeverReachedAndChangesNothing) {
