@@ -143,7 +143,7 @@ def check_addins():
 def check_resources():
     paths = read(REPOSITORY / "resources/WordhavenPaths.plist")
     for key, value in paths.items():
-        expect(not re.search(r"://", value), f"WordhavenPaths.plist: {key} holds an address")
+        expect(not re.search(r"://", str(value)), f"WordhavenPaths.plist: {key} holds an address")
     tool = paths.get("tarvoPathGetAppleyPath.4", "").lstrip("/")
     expect((ROOT / tool / "Contents/Info.plist").is_file(), "WordhavenPaths.plist: tool 4 is not in the sample product")
     for template in ("EJStationery.eud2", "JEStationery.jud"):
