@@ -9,8 +9,24 @@
 #include <fstream>
 #include <utility>
 
+#include "platform/engine/shared_library.h"
+
 namespace tarvo {
 namespace {
+
+struct CurlLibrary {
+  SharedLibrary library{"libcurl.so.4"};
+  decltype(&curl_easy_init) init = library.function<decltype(curl_easy_init)>("curl_easy_init");
+  decltype(&curl_easy_reset) reset = library.function<decltype(curl_easy_reset)>("curl_easy_reset");
+  decltype(&curl_easy_setopt) setopt = library.function<decltype(curl_easy_setopt)>("curl_easy_setopt");
+  decltype(&curl_easy_perform) perform = library.function<decltype(curl_easy_perform)>("curl_easy_perform");
+  decltype(&curl_easy_getinfo) getinfo = library.function<decltype(curl_easy_getinfo)>("curl_easy_getinfo");
+  decltype(&curl_easy_cleanup) cleanup = library.function<decltype(curl_easy_cleanup)>("curl_easy_cleanup");
+  decltype(&curl_slist_append) append = library.function<decltype(curl_slist_append)>("curl_slist_append");
+  decltype(&curl_slist_free_all) freeAll = library.function<decltype(curl_slist_free_all)>("curl_slist_free_all");
+
+  bool isWhole() const { return init && reset && setopt && perform && getinfo && cleanup && append && freeAll; }
+};
 
 // The TLS library writes to connections that the other side has closed.
 class BrokenPipesIgnored {
@@ -30,19 +46,20 @@ class BrokenPipesIgnored {
 
 class HeaderList {
  public:
-  explicit HeaderList(const std::vector<std::string>& lines) {
+  HeaderList(const CurlLibrary& library, const std::vector<std::string>& lines) : library_(library) {
     for (const std::string& line : lines) add(line);
     add("Expect:");  // waiting for leave to send would use up the time
   }
-  ~HeaderList() { curl_slist_free_all(list_); }
+  ~HeaderList() { library_.freeAll(list_); }
   HeaderList(const HeaderList&) = delete;
   HeaderList& operator=(const HeaderList&) = delete;
   curl_slist* get() const { return list_; }
 
  private:
   void add(const std::string& line) {
-    if (curl_slist* longer = curl_slist_append(list_, line.c_str())) list_ = longer;
+    if (curl_slist* longer = library_.append(list_, line.c_str())) list_ = longer;
   }
+  const CurlLibrary& library_;
   curl_slist* list_ = nullptr;
 };
 
@@ -79,16 +96,23 @@ std::size_t takeHeader(char* bytes, std::size_t, std::size_t size, void* answer)
 }  // namespace
 
 struct HttpClient::Handle {
-  CURL* curl = curl_easy_init();
-  ~Handle() { curl_easy_cleanup(curl); }
+  CurlLibrary library;
+  CURL* curl = library.isWhole() ? library.init() : nullptr;
+
+  Handle() = default;
+  ~Handle() {
+    if (curl != nullptr) library.cleanup(curl);
+  }
+  Handle(const Handle&) = delete;
+  Handle& operator=(const Handle&) = delete;
 
   template <class Value>
   void set(CURLoption option, Value value) {
-    curl_easy_setopt(curl, option, value);
+    library.setopt(curl, option, value);
   }
   // A reset keeps the open connections.
   void prepare(const HttpPlace& place) {
-    curl_easy_reset(curl);
+    library.reset(curl);
     set(CURLOPT_URL, place.address.c_str());
     set(CURLOPT_PROTOCOLS_STR, "http,https");
     set(CURLOPT_NOSIGNAL, 1L);
@@ -133,7 +157,7 @@ std::string HttpAnswer::header(const std::string& name) const {
   return found == headers.end() ? "" : found->second;
 }
 
-HttpClient::HttpClient(HttpPlace place) : place_(std::move(place)), handle_(std::make_unique<Handle>()) {}
+HttpClient::HttpClient(HttpPlace place) : place_(std::move(place)) {}
 
 HttpClient::~HttpClient() = default;
 
@@ -143,18 +167,19 @@ HttpAnswer HttpClient::send(const HttpRequest& request, Milliseconds limit) {
     answer.arrival = HttpAnswer::Arrival::late;
     return answer;
   }
+  if (handle_ == nullptr) handle_ = std::make_unique<Handle>();
   if (handle_->curl == nullptr || request.body.size() > largestHttpBody) return answer;
   const BrokenPipesIgnored ignored;
-  const HeaderList headers(request.headers);
+  const HeaderList headers(handle_->library, request.headers);
   handle_->prepare(place_);
   handle_->ask(request, headers);
   handle_->takeInto(answer);
   handle_->set(CURLOPT_TIMEOUT_MS, static_cast<long>(limit.count()));
-  const CURLcode code = curl_easy_perform(handle_->curl);
+  const CURLcode code = handle_->library.perform(handle_->curl);
   if (code == CURLE_OPERATION_TIMEDOUT) answer.arrival = HttpAnswer::Arrival::late;
   if (code != CURLE_OK) return answer;
   long status = 0;
-  curl_easy_getinfo(handle_->curl, CURLINFO_RESPONSE_CODE, &status);
+  handle_->library.getinfo(handle_->curl, CURLINFO_RESPONSE_CODE, &status);
   answer.status = static_cast<int>(status);
   answer.arrival = HttpAnswer::Arrival::whole;
   return answer;

@@ -13,7 +13,8 @@
 // Duty: send one request and wait for its answer, no longer than told; keep the connection for the next one. Not: what
 // an answer means. Certificates and host names are always verified; credentials come from the user's netrc alone, never
 // from the address; no redirect is followed, so neither styles nor credentials go to a place that nobody configured.
-// Proxies as the environment names them. No signal is raised or left handled otherwise.
+// Proxies as the environment names them. No signal is raised or left handled otherwise. The library that does it is
+// loaded with the first request; without it nothing is sent and no answer comes.
 namespace tarvo {
 
 struct HttpPlace {
@@ -59,7 +60,7 @@ class HttpClient {
  private:
   struct Handle;
   HttpPlace place_;
-  std::unique_ptr<Handle> handle_;
+  std::unique_ptr<Handle> handle_;  // null until the first request
 };
 
 }  // namespace tarvo
