@@ -166,6 +166,8 @@ bool Program::load() {
 
 void Program::launch() {
   windows_.orderFront(interface_.manager.myWindow);
+  if (didShow) didShow();
+  if (terminated_) return;
   manager_.applicationDidFinishLaunching();
   requests_.launchDidEnd();
 }

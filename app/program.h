@@ -38,6 +38,7 @@ class Program {
   void quit();
   bool isTerminated() const { return terminated_; }
   std::function<void()> didTerminate;  // told once
+  std::function<void()> didShow;       // told once the window is up, before the launch goes on
 
   Interface& interface() { return interface_; }
   Rooms& rooms() { return rooms_; }

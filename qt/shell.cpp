@@ -63,6 +63,7 @@ bool Shell::start() {
   if (!program_.load()) return false;
   probeFirstPaint(*windows_.mainWindow(), [this] { program_.quit(); });
   afterFirstPaint(*windows_.mainWindow(), [this] { finishLater(); });
+  program_.didShow = [this] { waitForFirstPaint(*windows_.mainWindow()); };
   program_.launch();
   return true;
 }

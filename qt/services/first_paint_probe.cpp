@@ -5,7 +5,11 @@
 #include <unistd.h>
 
 #include <QEvent>
+#include <QEventLoop>
+#include <QPointer>
+#include <QTimer>
 #include <QWidget>
+#include <chrono>
 #include <string_view>
 #include <utility>
 
@@ -39,6 +43,16 @@ class FirstPaint : public QObject {
 }  // namespace
 
 void afterFirstPaint(QWidget& window, std::function<void()> call) { new FirstPaint(window, std::move(call)); }
+
+void waitForFirstPaint(QWidget& window) {
+  constexpr std::chrono::seconds longest(1);
+  QEventLoop loop;
+  afterFirstPaint(window, [left = QPointer<QEventLoop>(&loop)] {
+    if (left) left->quit();
+  });
+  QTimer::singleShot(longest, &loop, &QEventLoop::quit);
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
 
 void probeFirstPaint(QWidget& window, std::function<void()> quit) {
   bool isNumber = false;
