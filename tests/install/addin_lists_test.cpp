@@ -59,6 +59,16 @@ TEST_F(AddinListsTest, addNoOutlookThatIsRememberedAlready) {
   EXPECT_EQ(folderOf((*lists.fDefaultOfficeSetArray)[0]), "Library/Scripts/Outlook") << "not made absolute";
 }
 
+TEST_F(AddinListsTest, giveTheShippedRecordTheHomeWhenOutlookJoinsARememberedList) {
+  ship({word2011(), outlook2011(), appleMail()});
+  remember({word2011()});
+  ASSERT_TRUE(lists.loadAddinPlist());
+  const auto& shipped = *lists.fDefaultOfficeSetArray;
+  EXPECT_EQ(lists.fOfficeArray.back(), shipped[1]) << "the same record, not one like it";
+  EXPECT_EQ(addinText(*shipped[1], installFolderPath), "/Users/taro/Library/Scripts/Outlook");
+  EXPECT_EQ(addinText(*shipped[2], installFolderPath), "Library/Scripts/Applications/Mail") << "did not join";
+}
+
 TEST_F(AddinListsTest, compareOutlooksPathExactly) {
   ship({outlook2011()});
   remember({with(remembered(outlook2011()), appPath, "/Applications/O11/OUTLOOK.app")});
