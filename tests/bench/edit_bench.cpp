@@ -53,7 +53,9 @@ class EditBench {
         product_(options),
         engine_(product_.makeEngine(product_.files())),
         program_(product_.services(product_.files(), *engine_, loop_, panels_, windows_, workspace_)) {
-    if (!program_.start()) throw std::runtime_error("the program did not start: " + product_.problem());
+    if (!program_.construct() || !program_.load()) {
+      throw std::runtime_error("the program did not start: " + product_.problem());
+    }
     program_.interface().style.stylePopup.userChoose(1);
   }
 
