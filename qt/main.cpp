@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QObject>
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <thread>
@@ -12,6 +13,7 @@
 #include "qt/command_line.h"
 #include "qt/guided_tour.h"
 #include "qt/look/tarvo_style.h"
+#include "qt/services/bus_probe.h"
 #include "qt/services/single_instance.h"
 #include "qt/shell.h"
 
@@ -50,6 +52,7 @@ std::optional<int> enter(std::optional<InstanceLock>& lock, const CommandLine& l
 }
 
 int runManager(const CommandLine& line, int& argc, char** argv) {
+  avoidHangingBus();
   Product product(line.product);
   if (!product.problem().empty()) return tell(misused, product.problem());
   const BusIdentity identity = identityOf(line, product.locations());
@@ -85,5 +88,7 @@ int main(int argc, char** argv) {
     std::cout << (line.help ? tarvo::usage() : std::string("tarvo-manager " TARVO_VERSION "\n"));
     return tarvo::done;
   }
-  return tarvo::runManager(line, argc, argv);
+  const int status = tarvo::runManager(line, argc, argv);
+  std::cout.flush();
+  std::_Exit(status);  // everything is stored; the bus library would still wait for a bus that never answers
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "qt/services/bus_service.h"
 
+#include <QObject>
+#include <QThread>
 #include <utility>
 
 #include "qt/services/bus_object.h"
@@ -9,32 +11,52 @@
 namespace tarvo {
 namespace {
 
+constexpr unsigned long patience = 300;  // ms for the thread to end
+
+// In the thread of the requests, which alone touches isOver.
+struct Receiver : QObject {
+  bool isOver = false;
+};
+
 // The same call, made from the event loop of the receiver's thread.
 template <class Argument>
-std::function<void(Argument)> inThreadOf(QObject& receiver, std::function<void(Argument)> call) {
+std::function<void(Argument)> inThreadOf(Receiver& receiver, std::function<void(Argument)> call) {
   return [&receiver, call = std::move(call)](Argument argument) {
     QMetaObject::invokeMethod(
-        &receiver, [call, argument = std::move(argument)] { call(argument); }, Qt::QueuedConnection);
+        &receiver,
+        [&receiver, call, argument = std::move(argument)] {
+          if (!receiver.isOver) call(argument);
+        },
+        Qt::QueuedConnection);
   };
 }
 
 }  // namespace
 
+struct BusService::Parts {
+  Receiver receiver;
+  QThread thread;
+};
+
 BusService::BusService(const BusIdentity& identity, BusRequests requests) {
   if (identity.name == "none" || !hasSessionBus()) return;
+  parts_ = std::make_unique<Parts>();
+  auto& [receiver, thread] = *parts_;
   auto* object = new BusObject(
       identity,
-      {inThreadOf(receiver_, std::move(requests.activate)), inThreadOf(receiver_, std::move(requests.openFiles)),
-       inThreadOf(receiver_, std::move(requests.openTool)), inThreadOf(receiver_, std::move(requests.handleEvent))});
-  object->moveToThread(&thread_);
-  QObject::connect(&thread_, &QThread::started, object, [object] { object->appear(); });
-  QObject::connect(&thread_, &QThread::finished, object, &QObject::deleteLater);
-  thread_.start();
+      {inThreadOf(receiver, std::move(requests.activate)), inThreadOf(receiver, std::move(requests.openFiles)),
+       inThreadOf(receiver, std::move(requests.openTool)), inThreadOf(receiver, std::move(requests.handleEvent))});
+  object->moveToThread(&thread);
+  QObject::connect(&thread, &QThread::started, object, [object] { object->appear(); });
+  QObject::connect(&thread, &QThread::finished, object, &QObject::deleteLater);
+  thread.start();
 }
 
 BusService::~BusService() {
-  thread_.quit();
-  thread_.wait();
+  if (!parts_) return;
+  parts_->receiver.isOver = true;
+  parts_->thread.quit();
+  if (!parts_->thread.wait(patience)) parts_.release();  // it still waits for the bus
 }
 
 }  // namespace tarvo

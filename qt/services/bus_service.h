@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
-#include <QThread>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -27,7 +26,9 @@ struct BusRequests {
 // calls. Not: acting on them. It has a thread of its own, so that no caller waits for files or for a style server.
 //
 // The requests arrive from the event loop of the thread that made the service, one at a time, also in nested loops;
-// none after its end. Without a bus, or where another manager has the name, it does nothing.
+// none after its end. Without a bus, or where another manager has the name, it does nothing. A bus that takes calls and
+// never answers holds up neither the making nor the end of a service: its thread is then left to the end of the
+// process.
 class BusService {
  public:
   BusService(const BusIdentity& identity, BusRequests requests);
@@ -36,8 +37,8 @@ class BusService {
   BusService& operator=(const BusService&) = delete;
 
  private:
-  QObject receiver_;  // in the thread of the requests
-  QThread thread_;
+  struct Parts;
+  std::unique_ptr<Parts> parts_;
 };
 
 }  // namespace tarvo

@@ -7,12 +7,15 @@
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QVariant>
+#include <chrono>
+#include <future>
+#include <thread>
 #include <utility>
 
 namespace tarvo {
 namespace {
 
-constexpr int patience = 3000;  // ms for an answer
+constexpr int patience = 2000;  // ms for each answer, and for all of them
 constexpr char connectionName[] = "second start";
 
 // The manager that has the name, as this start calls it.
@@ -79,19 +82,30 @@ bool sendAll(RunningManager& manager, const StartRequest& request) {
   return isTaken;
 }
 
-}  // namespace
-
-Handover handOver(const BusIdentity& identity, const StartRequest& request) {
-  if (identity.name == "none" || !hasSessionBus()) return Handover::noBus;
-  int none = 0;
-  std::optional<QCoreApplication> application;
-  if (QCoreApplication::instance() == nullptr) application.emplace(none, nullptr);
+Handover ask(const BusIdentity& identity, const StartRequest& request) {
   RunningManager manager(identity.name);
   if (!manager.isConnected()) return Handover::noBus;
   const std::optional<std::string> home = manager.property("Home"), root = manager.property("Root");
   if (!home || !root) return Handover::nobody;
   if (*home != identity.home || *root != identity.root) return Handover::stranger;
   return sendAll(manager, request) ? Handover::done : Handover::nobody;
+}
+
+}  // namespace
+
+// A bus that does not answer would be waited for without end while the connection is made, so a thread does it.
+Handover handOver(const BusIdentity& identity, const StartRequest& request) {
+  if (identity.name == "none" || !hasSessionBus()) return Handover::noBus;
+  int none = 0;
+  std::optional<QCoreApplication> application;
+  if (QCoreApplication::instance() == nullptr) application.emplace(none, nullptr);
+  std::promise<Handover> promise;
+  std::future<Handover> answer = promise.get_future();
+  std::thread([identity, request, promise = std::move(promise)]() mutable {
+    promise.set_value_at_thread_exit(ask(identity, request));
+  }).detach();
+  const bool isAnswered = answer.wait_for(std::chrono::milliseconds(patience)) == std::future_status::ready;
+  return isAnswered ? answer.get() : Handover::noBus;
 }
 
 }  // namespace tarvo

@@ -18,7 +18,7 @@ struct StartRequest {
 
 enum class Handover {
   done,      // the running manager has the request
-  noBus,     // nobody can be asked
+  noBus,     // nobody can be asked: there is no bus, or it does not answer
   nobody,    // no manager has the name
   stranger,  // the one that has it works on another home or product
 };

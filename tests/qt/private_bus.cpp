@@ -84,8 +84,8 @@ void setManagerToStart(const std::string& command) { environment->setManagerToSt
 Ran runProgram(const QString& program, const QStringList& arguments) {
   QProcess process;
   process.start(program, arguments);
-  process.waitForFinished();
-  return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+  const bool isOver = process.waitForFinished();
+  return {isOver && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
           process.readAllStandardOutput().toStdString(), process.readAllStandardError().toStdString()};
 }
 

@@ -10,7 +10,10 @@
 #include <memory>
 
 #include "platform/plist_reader.h"
+#include "platform/posix/instance_lock.h"
 #include "platform/property_list.h"
+#include "qt/services/bus_probe.h"
+#include "tests/qt/hanging_bus.h"
 #include "tests/qt/private_bus.h"
 #include "tests/support/shell.h"
 #include "tests/support/temporary_folder.h"
@@ -115,6 +118,8 @@ TEST_F(SecondStart, theSamePlacesInOtherWordsAreTheSame) {
 
 TEST_F(SecondStart, whileTheFirstIsComingUpLosesNothing) {
   manager_ = std::make_unique<Manager>(product.options());
+  const std::string lock = product.folder / "root/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.lock";
+  for (int i = 0; i < 5000 && InstanceLock(lock).state() == InstanceLock::State::held; ++i) QThread::msleep(1);
   const test::Ran second = start(product.options() + QStringList{"--open", "tGD8"});
   EXPECT_EQ(second.status, 0) << second.err;
   EXPECT_TRUE(product.shows("GD"));
@@ -144,6 +149,65 @@ TEST_F(SecondStart, withoutABusIsLockedOut) {
   EXPECT_EQ(start(product.options()).status, 3);
   qunsetenv("XDG_RUNTIME_DIR");
   qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+}
+
+// With a bus that takes connections and says nothing, or lets callers in and answers no call.
+class StartWithHangingBus : public testing::TestWithParam<bool> {
+ protected:
+  StartWithHangingBus() {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address());
+  }
+  ~StartWithHangingBus() override {
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address_);
+    EXPECT_TRUE(bus.wasAsked());
+  }
+  SomeProduct product;
+  test::HangingBus bus{GetParam()};
+
+ private:
+  QByteArray address_ = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+};
+
+TEST_P(StartWithHangingBus, comesUpAndQuits) {
+  qputenv("TARVO_PAINT_PROBE_FD", "1");
+  qputenv("TARVO_PAINT_PROBE_QUIT", "1");
+  const test::Ran run = test::runProgram(TARVO_MANAGER, product.options());
+  qunsetenv("TARVO_PAINT_PROBE_FD");
+  qunsetenv("TARVO_PAINT_PROBE_QUIT");
+  EXPECT_EQ(run.out, "first-paint\n");
+  EXPECT_EQ(run.status, 0) << "-1: it does not end; " << run.err;
+}
+
+TEST_P(StartWithHangingBus, isLockedOutBesideAnother) {
+  Manager first(product.options());
+  ASSERT_TRUE(product.shows("MG"));
+  const test::Ran second = test::runProgram(TARVO_MANAGER, product.options() + QStringList{"--open", "tGD8"});
+  EXPECT_EQ(second.status, 3) << "-1: it does not end; " << second.err;
+  EXPECT_TRUE(first.isRunning());
+}
+
+// The toolkit has its own use for the bus.
+TEST_P(StartWithHangingBus, goesOnWithoutABusThatIsSilent) {
+  avoidHangingBus();
+  EXPECT_EQ(qgetenv("DBUS_SESSION_BUS_ADDRESS"), GetParam() ? bus.address() : QByteArray("disabled:"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Buses, StartWithHangingBus, testing::Bool(),
+                         [](const auto& test) { return test.param ? "thatLetsIn" : "thatIsSilent"; });
+
+TEST_F(SecondStart, leavesEveryOtherBusAlone) {
+  const QByteArray real = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+  ASSERT_TRUE(real.startsWith("unix:path=")) << real.toStdString();
+  for (const QByteArray& address :
+       {real, QByteArray("unix:path=/nowhere/%e5%ae%b6,guid=1;unix:abstract=x"),
+        QByteArray("unix:abstract=nobody-listens-here"), QByteArray("unix:"),
+        QByteArray("unix:path=/" + QByteArray(200, 'x')), QByteArray("tcp:host=x,port=1")}) {
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    avoidHangingBus();
+    EXPECT_EQ(qgetenv("DBUS_SESSION_BUS_ADDRESS"), address);
+  }
+  qputenv("DBUS_SESSION_BUS_ADDRESS", real);
 }
 
 TEST_F(SecondStart, ofNoneIsTheFirst) {
