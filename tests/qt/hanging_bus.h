@@ -9,7 +9,7 @@
 namespace tarvo::test {
 
 // What calls itself a session bus and never answers a call: silent from the beginning, or after it has let a caller in
-// (D-Bus Specification, "Authentication Protocol").
+// by the words of D-Bus's authentication.
 class HangingBus {
  public:
   explicit HangingBus(bool letsIn);
