@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "app/picked_applications.h"
 #include "app/window_geometry.h"
 #include "platform/locations.h"
 #include "platform/texts.h"
@@ -152,6 +153,7 @@ bool Program::construct() {
   interface_.connect(rooms_, services_.texts);
   Window& window = interface_.manager.myWindow;
   window.setFrameInPlace(firstFrame(windows_.host(), window));
+  leavePickedApplications(defaults_, services_.locations);
   if (!manager_.init()) return false;
   styles_.init();
   return true;

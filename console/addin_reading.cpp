@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "app/picked_applications.h"
 #include "app/product.h"
 #include "app/program.h"
 #include "platform/file_service.h"
@@ -40,6 +41,7 @@ std::optional<AddinsRead> readAddins(Product& product) {
   const std::string home = product.locations().home();
   AddinOutlets outlets;
   UserDefaults defaults(files, userDefaultsPath(product.locations()));
+  leavePickedApplications(defaults, product.locations());
   const MailScriptInstaller mailScripts(files, product.bundle(), home);
   AddinLists lists({files, product.bundle(), defaults}, home, mailScripts, outlets);
   if (!lists.searchOfficeApplication()) return std::nullopt;

@@ -161,6 +161,25 @@ TEST_F(AddinVerbs, rowsOfOneNameAreToldApartByTheirApplications) {
   EXPECT_TRUE(exists("/Users/taro/Library/Scripts/Outlook/Tarvo/a.scpt"));
 }
 
+TEST_F(AddinVerbs, anOfficeOutsideTheRootIsRememberedToo) {
+  const TemporaryFolder other;
+  other.write("Word.app/Contents/Info.plist", read("/Applications/O11/Word.app/Contents/Info.plist"));
+  other.makeFolder("Office/Startup/Word");
+  const std::string word = other / "Word.app";
+  expect({"addin", "search", other.path()}, 0, "added  Word 2011  2011  " + word + "\n", "");
+  EXPECT_NE(run({"addins"}).out.find(word), std::string::npos);
+  expect({"addin", "install", word}, 0, "", "");
+  EXPECT_TRUE(other.exists("Office/Startup/Word/Tarvo.dotm"));
+  expect({"addin", "remove", word}, 0, "", "");
+  EXPECT_EQ(other.names("Office/Startup/Word"), std::vector<std::string>{});
+  // What lies at that place below the root comes first.
+  put(word + "/Contents/Info.plist", "");
+  makeFolder(other / "Office/Startup/Word");
+  expect({"addin", "install", "root:" + word}, 0, "", "");
+  EXPECT_TRUE(exists(other / "Office/Startup/Word/Tarvo.dotm"));
+  EXPECT_EQ(other.names("Office/Startup/Word"), std::vector<std::string>{});
+}
+
 TEST_F(AddinVerbs, aFailedRemovalTellsWhy) {
   fs::create_directories(root_.root() + "/elsewhere");
   makeFolder("/Users/taro/Library/Scripts/Applications/Mail");
