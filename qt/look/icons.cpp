@@ -7,7 +7,9 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QSvgRenderer>
+#include <functional>
 #include <memory>
+#include <utility>
 
 namespace tarvo {
 namespace {
@@ -26,7 +28,8 @@ QByteArray recoloured(QByteArray drawing, Scheme scheme) {
 // One drawing, parsed at its first use.
 class Drawing {
  public:
-  Drawing(QString path, Scheme scheme) : path_(std::move(path)), scheme_(scheme) {}
+  using Source = std::function<QByteArray()>;
+  Drawing(Source source, Scheme scheme) : source_(std::move(source)), scheme_(scheme) {}
   void render(QPainter& painter, const QRectF& rect) {
     if (!renderer_) load();
     if (!renderer_->isValid()) return;
@@ -38,12 +41,11 @@ class Drawing {
 
  private:
   void load() {
-    QFile file(path_);
-    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const QByteArray text = source_();
     renderer_ = std::make_unique<QSvgRenderer>();
     if (!text.isEmpty()) renderer_->load(recoloured(text, scheme_));
   }
-  QString path_;
+  Source source_;
   Scheme scheme_;
   std::unique_ptr<QSvgRenderer> renderer_;
 };
@@ -73,11 +75,24 @@ class DrawingEngine : public QIconEngine {
   std::shared_ptr<Drawing> drawing_;
 };
 
+QIcon drawn(Drawing::Source source, Scheme scheme) {
+  return QIcon(new DrawingEngine(std::make_shared<Drawing>(std::move(source), scheme)));
+}
+
 }  // namespace
 
 QIcon icon(const QString& svgPath, Scheme scheme) {
   if (!QFile::exists(svgPath)) return {};
-  return QIcon(new DrawingEngine(std::make_shared<Drawing>(svgPath, scheme)));
+  return drawn(
+      [svgPath] {
+        QFile file(svgPath);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+      },
+      scheme);
+}
+
+QIcon iconOf(QByteArray drawing, Scheme scheme) {
+  return drawn([text = std::move(drawing)] { return text; }, scheme);
 }
 
 }  // namespace tarvo

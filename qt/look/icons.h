@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QIcon>
 #include <QString>
 
@@ -13,6 +14,9 @@
 // name (see platform/bundle.h).
 // The file is read and parsed when the icon is painted for the first time; copies of an icon share that work.
 namespace tarvo {
+
+// drawing: the text of an SVG.
+QIcon iconOf(QByteArray drawing, Scheme scheme);
 
 // svgPath: the path of the drawing. A missing file gives a null icon, an unreadable one an icon that paints nothing.
 QIcon icon(const QString& svgPath, Scheme scheme);

@@ -8,6 +8,7 @@
 
 #include "qt/look/draw.h"
 #include "qt/look/fonts.h"
+#include "qt/look/panel_icons.h"
 #include "qt/look/style_metrics.h"
 
 namespace tarvo {
@@ -137,7 +138,8 @@ int TarvoStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
 QIcon TarvoStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const {
   // The toolkit's bars ask for it though nothing ever overflows here; reading it would load every image plugin.
   if (picture == SP_ToolBarHorizontalExtensionButton || picture == SP_ToolBarVerticalExtensionButton) return {};
-  return QProxyStyle::standardIcon(picture, option, widget);
+  const QIcon own = panelIcon(picture, scheme_);
+  return own.isNull() ? QProxyStyle::standardIcon(picture, option, widget) : own;
 }
 
 QPalette TarvoStyle::standardPalette() const { return makePalette(scheme_); }

@@ -8,6 +8,7 @@
 
 #include "qt/bind/binder.h"
 #include "qt/window/alert_dialog.h"
+#include "qt/window/file_panel.h"
 #include "qt/window/save_sheet.h"
 #include "qt/window/sheet.h"
 
@@ -42,7 +43,7 @@ std::optional<std::string> QtPanels::runOpenPanel(const OpenPanel& panel) {
   QFileDialog dialog(QApplication::activeWindow(), toQString(panel.title));
   dialog.setFileMode(panel.foldersOnly ? QFileDialog::Directory : QFileDialog::ExistingFile);
   if (panel.foldersOnly) dialog.setOption(QFileDialog::ShowDirsOnly);
-  dialog.setOption(QFileDialog::HideNameFilterDetails);
+  arrangeFilePanel(dialog);
   if (const QString filter = nameFilter(panel.types); !filter.isEmpty()) dialog.setNameFilter(filter);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return chosenPath(dialog);

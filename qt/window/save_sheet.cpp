@@ -6,6 +6,7 @@
 #include <QLineEdit>
 
 #include "qt/bind/binder.h"
+#include "qt/window/file_panel.h"
 
 namespace tarvo {
 namespace {
@@ -36,7 +37,7 @@ SaveSheet::SaveSheet(const SavePanel& panel, QWidget* parent)
     : QFileDialog(parent, toQString(panel.title), toQString(panel.folder)), type_(toQString(panel.requiredType)) {
   setObjectName(QStringLiteral("savePanel"));
   setOption(DontUseNativeDialog);  // which would be a window of its own
-  setOption(HideNameFilterDetails);
+  arrangeFilePanel(*this);
   setSizeGripEnabled(false);
   setAcceptMode(AcceptSave);
   setFileMode(AnyFile);

@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <string>
 
+#include "qt/look/panel_icons.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tarvo {
@@ -90,6 +91,20 @@ TEST_F(Icons, anUnreadableDrawingPaintsNothing) {
     EXPECT_FALSE(nothing.isNull());
     EXPECT_EQ(image(nothing, 16).pixelColor(8, 8).alpha(), 0) << text;
   }
+}
+
+TEST(PanelIcons, areDrawnInTheInksOfTheScheme) {
+  for (const auto& [scheme, ink] :
+       {std::pair{Scheme::light, QColor(0x3a, 0x42, 0x50)}, {Scheme::dark, QColor(0xd5, 0xda, 0xe3)}}) {
+    for (const auto picture : {QStyle::SP_ArrowBack, QStyle::SP_FileDialogToParent, QStyle::SP_FileDialogNewFolder,
+                               QStyle::SP_DirIcon, QStyle::SP_FileIcon, QStyle::SP_LineEditClearButton}) {
+      const QImage shown = image(panelIcon(picture, scheme), 64);
+      int inked = 0;
+      for (int i = 0; i < 64 * 64; ++i) inked += shown.pixelColor(i % 64, i / 64) == ink ? 1 : 0;
+      EXPECT_GT(inked, 64) << picture;
+    }
+  }
+  EXPECT_TRUE(panelIcon(QStyle::SP_MessageBoxWarning, Scheme::light).isNull());
 }
 
 }  // namespace

@@ -3,11 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include "platform/outlets.h"
 #include "platform/windows.h"
@@ -139,6 +141,8 @@ TEST_F(PanelsTest, anOpenPanelTakesFilesOfItsTypeInAnyCase) {
     EXPECT_EQ(panel->windowTitle(), "Select");
     EXPECT_EQ(panel->fileMode(), QFileDialog::ExistingFile);
     EXPECT_EQ(panel->selectedNameFilter(), QString("*.whstyle"));
+    EXPECT_TRUE(panel->findChild<QTreeView*>("treeView")->isColumnHidden(2));
+    EXPECT_TRUE(panel->findChild<QComboBox*>("fileTypeCombo")->isVisible());
     panel->findChild<QLineEdit*>("fileNameEdit")->setText(path);
     QMetaObject::invokeMethod(panel, "accept");
   });
@@ -152,6 +156,7 @@ TEST_F(PanelsTest, aFolderPanelTakesAFolder) {
   QTimer::singleShot(0, &host, [&] {
     auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
     EXPECT_EQ(panel->fileMode(), QFileDialog::Directory);
+    EXPECT_FALSE(panel->findChild<QComboBox*>("fileTypeCombo")->isVisible());
     panel->findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(folder / "styles"));
     QMetaObject::invokeMethod(panel, "accept");
   });
