@@ -10,6 +10,7 @@
 #include "install/connection_check.h"
 #include "qt/bind/binder.h"
 #include "qt/look/metrics.h"
+#include "qt/look/readable.h"
 #include "qt/sheets/sheet_parts.h"
 
 namespace tarvo {
@@ -21,8 +22,8 @@ QDialog* buildConnectionSheet(ConnectionOutlets& outlets, Binder& binder, QWidge
   rows->setSizeConstraint(QLayout::SetFixedSize);
   rows->addWidget(buildHeading(outlets.sslPanel, dialog));
   QLabel* text = binder.text(outlets.sslText, dialog);
-  text->setMinimumWidth(24 * text->fontMetrics().height());
-  rows->addWidget(text);
+  wrapReadably(*text);
+  rows->addWidget(text, 0, Qt::AlignLeft);
   rows->addSpacing(metrics::rowGap);
   rows->addWidget(binder.check(outlets.sslCheck, dialog));
   rows->addSpacing(metrics::sectionGap - metrics::rowGap);

@@ -12,6 +12,7 @@
 #include "qt/bind/binder.h"
 #include "qt/look/fonts.h"
 #include "qt/look/metrics.h"
+#include "qt/look/readable.h"
 #include "qt/sheets/sheet_parts.h"
 
 namespace tarvo {
@@ -46,7 +47,7 @@ QDialog* buildNewDictionaryDialog(const NewDictionaryControls& controls, Binder&
   rows->setSizeConstraint(QLayout::SetFixedSize);
   QLabel* prompt = binder.text(controls.prompt, dialog);
   prompt->setFont(headingFont(prompt->font()));
-  prompt->setMinimumWidth(24 * prompt->fontMetrics().height());
+  prompt->setMinimumWidth(readableWidth(prompt->fontMetrics()));
   rows->addWidget(prompt);
   rows->addSpacing(metrics::rowGap);
   rows->addLayout(fields(controls, binder, dialog));

@@ -10,19 +10,18 @@
 #include "qt/bind/binder.h"
 #include "qt/look/fonts.h"
 #include "qt/look/metrics.h"
+#include "qt/look/readable.h"
 
 namespace tarvo {
 namespace {
 
-constexpr int textWidth = 24;  // in heights of a line
-
-QLabel* paragraph(const std::string& text, QWidget& dialog) {
+void addParagraph(QBoxLayout& rows, const std::string& text, QWidget& dialog, const QFont& font) {
   auto* label = new QLabel(toQString(text), &dialog);
   label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
   label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  label->setMinimumWidth(textWidth * label->fontMetrics().height());
-  return label;
+  label->setFont(font);
+  wrapReadably(*label);
+  rows.addWidget(label, 0, Qt::AlignLeft);
 }
 
 }  // namespace
@@ -34,12 +33,8 @@ AlertDialog::AlertDialog(const Alert& alert, QWidget* parent) : QDialog(parent) 
   setWindowTitle(toQString(alert.title.empty() ? alert.message : alert.title));
   auto* rows = new QVBoxLayout(this);
   rows->setSizeConstraint(QLayout::SetFixedSize);
-  if (!alert.title.empty()) {
-    QLabel* title = paragraph(alert.title, *this);
-    title->setFont(headingFont(font()));
-    rows->addWidget(title);
-  }
-  rows->addWidget(paragraph(alert.message, *this));
+  if (!alert.title.empty()) addParagraph(*rows, alert.title, *this, headingFont(font()));
+  addParagraph(*rows, alert.message, *this, font());
   if (!alert.details.empty()) {
     auto* details = new QPlainTextEdit(toQString(alert.details), this);
     details->setReadOnly(true);

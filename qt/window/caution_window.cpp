@@ -11,6 +11,7 @@
 #include "platform/windows.h"
 #include "qt/bind/binder.h"
 #include "qt/look/metrics.h"
+#include "qt/look/readable.h"
 
 namespace tarvo {
 
@@ -20,8 +21,8 @@ QDialog* buildCaution(const CautionControls& controls, Binder& binder, QWidget* 
   auto* rows = new QVBoxLayout(dialog);
   rows->setSizeConstraint(QLayout::SetFixedSize);
   QLabel* text = binder.text(controls.text, dialog);
-  text->setMinimumWidth(24 * text->fontMetrics().height());
-  rows->addWidget(text);
+  wrapReadably(*text);
+  rows->addWidget(text, 0, Qt::AlignLeft);
   rows->addSpacing(metrics::rowGap);
   auto* foot = new QHBoxLayout;
   if (controls.again != nullptr) {
