@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QTimer>
 #include <QWindow>
 
@@ -51,9 +52,33 @@ bool isAsking(QEvent::Type type) {
   return type == QEvent::Close || type == QEvent::DragEnter || type == QEvent::DragMove || type == QEvent::Drop;
 }
 
+// Dims what a sheet keeps from the user; the menu bar stays as it is.
+class Veil : public QWidget {
+ public:
+  explicit Veil(QWidget& host) : QWidget(&host) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    cover();
+    show();
+  }
+
+  void cover() {
+    const QWidget& host = *parentWidget();
+    const auto* bar = host.findChild<QMenuBar*>(QString(), Qt::FindDirectChildrenOnly);
+    setGeometry(host.rect().adjusted(0, bar != nullptr && bar->isVisible() ? bar->height() : 0, 0, 0));
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QColor shade = palette().color(QPalette::Shadow);
+    shade.setAlphaF(isDark(palette()) ? 0.4F : 0.12F);
+    QPainter(this).fillRect(rect(), shade);
+  }
+};
+
 class Hanger : public QObject {
  public:
-  Hanger(QDialog& sheet, QWidget& host, int top) : QObject(&sheet), sheet_(sheet), host_(host), top_(top) {
+  Hanger(QDialog& sheet, QWidget& host, int top)
+      : QObject(&sheet), sheet_(sheet), host_(host), top_(top), veil_(new Veil(host)) {
     host.installEventFilter(this);
     sheet.installEventFilter(this);
     host.window()->windowHandle()->installEventFilter(this);
@@ -62,11 +87,13 @@ class Hanger : public QObject {
 
   ~Hanger() override {
     for (QAction* action : host_.actions()) sheet_.removeAction(action);
+    delete veil_;
   }
 
   void hang() {
     const int x = (host_.width() - sheet_.width()) / 2;
     sheet_.move(host_.mapToGlobal(QPoint(x, top_)));
+    veil_->cover();
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -111,6 +138,7 @@ class Hanger : public QObject {
   QDialog& sheet_;
   QWidget& host_;
   int top_;
+  QPointer<Veil> veil_;  // the host may go first
 };
 
 }  // namespace

@@ -138,5 +138,18 @@ TEST_F(SheetTest, aSheetFollowsItsHost) {
   EXPECT_EQ(sheet->geometry().center().x(), host.geometry().center().x());
 }
 
+TEST_F(SheetTest, aSheetDimsItsHostBelowTheMenuBar) {
+  const auto light = [this](const QPoint& place) { return host.grab().toImage().pixelColor(place).lightness(); };
+  const QPoint below(host.width() / 2, host.height() - 3), above(host.width() - 3, bar->height() / 2);
+  const int before = light(below), menu = light(above);
+  open();
+  EXPECT_LT(light(below), before);
+  EXPECT_EQ(light(above), menu);
+  host.resize(600, 400);
+  EXPECT_LT(light({host.width() - 3, host.height() - 3}), before);
+  sheet->hide();
+  EXPECT_EQ(light(below), before);
+}
+
 }  // namespace
 }  // namespace tarvo
