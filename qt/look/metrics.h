@@ -35,7 +35,7 @@ inline constexpr int menuMark = 24;  // tick before a menu item, arrow behind it
 
 // Segments with an icon.
 inline constexpr int segmentIcon = 32;
-inline constexpr int segmentWidth = 60;
+inline constexpr int segmentWidth = 56;
 inline constexpr int segmentHeight = 44;
 
 // Toolbar.

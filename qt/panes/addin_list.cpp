@@ -16,6 +16,7 @@ namespace tarvo {
 namespace {
 
 constexpr int nameWidth = 300;  // of the column with the application's name; it can be dragged
+constexpr int leastRows = 4;    // that large letters leave, below the titles
 constexpr int infoLines = 3;    // a path, a gap, a state
 
 QTableView* buildTable(const AddinList& list, Binder& binder, QWidget* pane) {
@@ -24,6 +25,7 @@ QTableView* buildTable(const AddinList& list, Binder& binder, QWidget* pane) {
   QTableView* table = binder.table(list.table, pane, headers);
   dynamic_cast<TableWidget&>(*table).setEmptyText(binder.localized(list.whenEmpty));
   table->horizontalHeader()->resizeSection(1, nameWidth);
+  table->setMinimumHeight((leastRows + 1) * metrics::rowHeight(table->fontMetrics()) + 2 * metrics::listPadding);
   return table;
 }
 

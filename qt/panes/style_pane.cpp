@@ -47,7 +47,7 @@ QLayout* buildHead(Interface& interface, Binder& binder, QWidget* pane) {
   head->addLayout(chosen, 0, 2);
   QWidget* tools = buildToolChooser(interface, binder, pane);
   label(binder.localized("Label.toolChooser"), 1, tools);
-  head->addWidget(tools, 1, 2, Qt::AlignLeft | Qt::AlignVCenter);
+  head->addWidget(tools, 1, 2, Qt::AlignVCenter);
   return head;
 }
 
