@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "qt/window/main_window.h"
 
+#include <QAccessibleWidget>
 #include <QBoxLayout>
 #include <QDropEvent>
 #include <QEvent>
@@ -34,6 +35,12 @@ std::vector<std::string> styleFilesIn(const QMimeData& data) {
   return paths;
 }
 
+// Assistive tools look for the active window by its role, which a plain widget does not have.
+QAccessibleInterface* windowForAssistiveTools(const QString&, QObject* object) {
+  auto* window = dynamic_cast<MainWindow*>(object);
+  return window == nullptr ? nullptr : new QAccessibleWidget(window, QAccessible::Window);
+}
+
 }  // namespace
 
 MainWindow::MainWindow(Interface& interface, Binder& binder, std::vector<PageBuilder> panes)
@@ -47,9 +54,12 @@ MainWindow::MainWindow(Interface& interface, Binder& binder, std::vector<PageBui
       animation_(new FrameAnimation(*this, [this](bool moving) {
         // An empty pane while the window moves: laying it out at each step would look restless.
         if (panes_ == nullptr) return;
+        if (moving && panes_->isVisible()) hadKeyboard_ = panes_->isAncestorOf(focusWidget());
         fitPane();
         panes_->setVisible(!moving);
+        if (!moving && std::exchange(hadKeyboard_, false)) giveKeyboardToPane();
       })) {
+  QAccessible::installFactory(windowForAssistiveTools);
   binder.window(interface.manager.myWindow, *this);
   setAcceptDrops(true);
   auto* rows = new QVBoxLayout(this);
@@ -113,6 +123,15 @@ void MainWindow::dropEvent(QDropEvent* event) {
   if (styleFilesDropped) styleFilesDropped(std::move(paths));
 }
 
+void MainWindow::giveKeyboardToPane() {
+  QWidget* page = panes_->currentWidget();
+  QWidget* first = page->focusWidget() != nullptr ? page->focusWidget() : page->nextInFocusChain();
+  while (page->isAncestorOf(first) && ((first->focusPolicy() & Qt::TabFocus) == 0 || !first->isEnabled())) {
+    first = first->nextInFocusChain();
+  }
+  if (page->isAncestorOf(first)) first->setFocus(Qt::OtherFocusReason);
+}
+
 void MainWindow::fitPane() { panes_->setGeometry(paneArea_->rect()); }
 
 void MainWindow::setNotice(const QString& text) {
@@ -121,7 +140,9 @@ void MainWindow::setNotice(const QString& text) {
     notice_ = new QLabel(this);
     notice_->setObjectName(QStringLiteral("notice"));
     notice_->setTextFormat(Qt::PlainText);
-    notice_->setMargin(metrics::labelGap);
+    notice_->setContentsMargins(metrics::paneMargin, metrics::rowGap, metrics::paneMargin, metrics::rowGap);
+    notice_->setBackgroundRole(QPalette::Midlight);
+    notice_->setAutoFillBackground(true);
     notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // a long path never widens the window
     static_cast<QBoxLayout*>(layout())->addWidget(notice_);
   }

@@ -39,6 +39,7 @@ class MainWindow : public QWidget {
 
  private:
   void fitPane();
+  void giveKeyboardToPane();
   Interface& interface_;
   Binder& binder_;
   std::vector<PageBuilder> builders_;
@@ -49,6 +50,7 @@ class MainWindow : public QWidget {
   QLabel* notice_ = nullptr;
   QStackedWidget* panes_ = nullptr;
   FrameAnimation* animation_;
+  bool hadKeyboard_ = false;  // the pane that is hidden while the window moves
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
@@ -267,6 +268,42 @@ TEST_F(MainWindowTest, aTourThatCannotLeavePicturesFails) {
   testing::internal::CaptureStderr();
   EXPECT_FALSE(takeGuidedTour(*shell, *product, folder / "pictures"));
   EXPECT_NE(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(MainWindowTest, assistiveToolsSeeAWindow) {
+  start();
+  QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(&window());
+  ASSERT_NE(seen, nullptr);
+  EXPECT_EQ(seen->role(), QAccessible::Window);
+  EXPECT_FALSE(seen->text(QAccessible::Name).isEmpty());
+}
+
+TEST_F(MainWindowTest, theKeyboardStaysInThePaneWhileTheWindowMoves) {
+  qunsetenv("TARVO_NO_ANIMATION");
+  start();
+  widget<QWidget>("style.stylePopup").setFocus();
+  for (const char* pane : {"manager.OA", "manager.StyleManager"}) {
+    QTest::mouseClick(&widget<QAbstractButton>(pane), Qt::LeftButton);
+    settle(500);
+    ASSERT_NE(window().focusWidget(), nullptr) << pane;
+    EXPECT_TRUE(this->pane().isAncestorOf(window().focusWidget())) << pane;
+    EXPECT_TRUE(window().focusWidget()->isVisible()) << pane;
+  }
+  EXPECT_EQ(window().focusWidget(), &widget<QWidget>("style.stylePopup"));
+}
+
+TEST_F(MainWindowTest, theChosenToolIsCalledByItsName) {
+  start();
+  const auto isNamed = [this](const QString& name) {
+    for (const QLabel* label : pane().findChildren<QLabel*>()) {
+      if (label->text() == name && label->isVisible()) return true;
+    }
+    return false;
+  };
+  EXPECT_TRUE(isNamed("Tarvo Manager"));
+  QTest::mouseClick(pane().findChild<QAbstractButton*>("style.TEAppSeg2.1"), Qt::LeftButton);
+  EXPECT_TRUE(isNamed("Translation Memory"));
+  EXPECT_FALSE(isNamed("Tarvo Manager"));
 }
 
 }  // namespace
