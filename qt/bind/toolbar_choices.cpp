@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "qt/bind/binder.h"
+#include "qt/look/metrics.h"
 
 namespace tarvo {
 namespace {
@@ -53,6 +54,7 @@ class OrderList : public QObject {
   void add(const std::string& identifier, bool isShown) {
     const Button& button = *toolbar_.item(identifier);
     auto* item = new QListWidgetItem(binder_.icon(button.image()), toQString(button.label()), &list_);
+    item->setSizeHint({0, metrics::rowHeight(list_.fontMetrics())});
     item->setData(identifierRole, toQString(identifier));
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
     item->setCheckState(isShown ? Qt::Checked : Qt::Unchecked);

@@ -58,8 +58,10 @@ bool drawMenuItem(QPainter& painter, const QStyleOption& option, const QWidget*)
   const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
   const bool isChosen = isEnabled && option.state.testFlag(QStyle::State_Selected);
   const QRect plate = option.rect.adjusted(metrics::grid, 0, -metrics::grid, 0);
-  if (isChosen) drawPlate(painter, plate, metrics::controlRadius - 1, palette.color(QPalette::Highlight));
-  const QColor ink = palette.color(isChosen ? QPalette::HighlightedText : QPalette::Text);
+  // A tint, as of a chosen row in a list: icons keep their colours on it.
+  const QColor tint = mixed(palette.color(QPalette::ToolTipBase), palette.color(QPalette::Highlight), 0.16);
+  if (isChosen) drawPlate(painter, plate, metrics::controlRadius - 1, tint);
+  const QColor ink = palette.color(QPalette::Text);
   const QColor quiet = isChosen ? ink : palette.color(QPalette::PlaceholderText);
   painter.setFont(item->font);
   if (item->checked) drawTick(painter, QRect(plate.left(), plate.top(), metrics::menuMark, plate.height()), ink);
