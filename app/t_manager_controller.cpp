@@ -221,8 +221,9 @@ bool TManagerController::allowsMenuItem(std::string_view title) const {
 
 void TManagerController::showAbout() {
   const Texts& texts = services_.texts;
-  services_.panels.runAlertPanel(
-      {"TarvoEiwa Manager " TARVO_VERSION, texts.localized("AboutText"), {texts.localized("AlertClose")}});
+  services_.panels.runAlertPanel({texts.localized("ApplicationName") + " " TARVO_VERSION,
+                                  texts.localized("AboutText"),
+                                  {texts.localized("AlertClose")}});
 }
 
 }  // namespace tarvo

@@ -63,6 +63,7 @@ QDialog* buildToolbarCustomise(Toolbar& toolbar, Binder& binder, QWidget* parent
   foot->addWidget(done);
 
   auto* rows = new QVBoxLayout(dialog);
+  rows->setSizeConstraint(QLayout::SetFixedSize);
   rows->addWidget(labelOf(*list, binder, "Customize.Items", *dialog));
   rows->addLayout(order);
   rows->addSpacing(metrics::rowGap);
