@@ -3,12 +3,12 @@
 #include "qt/dialogs.h"
 
 #include "app/interface.h"
+#include "qt/sheets/caution_window.h"
 #include "qt/sheets/connection_sheet.h"
 #include "qt/sheets/export_window.h"
 #include "qt/sheets/naming_dialog.h"
 #include "qt/sheets/new_dictionary_dialog.h"
 #include "qt/sheets/picker_window.h"
-#include "qt/window/caution_window.h"
 #include "qt/window/qt_windows.h"
 
 namespace tarvo {

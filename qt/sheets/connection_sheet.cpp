@@ -16,10 +16,7 @@
 namespace tarvo {
 
 QDialog* buildConnectionSheet(ConnectionOutlets& outlets, Binder& binder, QWidget* parent) {
-  auto* dialog = new QDialog(parent);
-  binder.window(outlets.sslPanel, *dialog);
-  auto* rows = new QVBoxLayout(dialog);
-  rows->setSizeConstraint(QLayout::SetFixedSize);
+  const auto [dialog, rows] = buildFixedDialog(outlets.sslPanel, binder, parent);
   rows->addWidget(buildHeading(outlets.sslPanel, dialog));
   QLabel* text = binder.text(outlets.sslText, dialog);
   wrapReadably(*text);

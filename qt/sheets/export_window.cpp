@@ -15,10 +15,7 @@
 namespace tarvo {
 
 QDialog* buildExportWindow(ExportOutlets& outlets, Binder& binder, QWidget* parent) {
-  auto* dialog = new QDialog(parent);
-  binder.window(outlets.exportWindow, *dialog);
-  auto* rows = new QVBoxLayout(dialog);
-  rows->setSizeConstraint(QLayout::SetFixedSize);
+  const auto [dialog, rows] = buildFixedDialog(outlets.exportWindow, binder, parent);
   auto* page = new QWidget(dialog);
   Form form(binder, *page);
   QComboBox* styles = binder.popup(outlets.exportStylePopup, page);

@@ -16,10 +16,7 @@
 namespace tarvo {
 
 QDialog* buildNamingDialog(NamingOutlets& outlets, Binder& binder, QWidget* parent) {
-  auto* dialog = new QDialog(parent);
-  binder.window(outlets.styleNameWindow, *dialog);
-  auto* rows = new QVBoxLayout(dialog);
-  rows->setSizeConstraint(QLayout::SetFixedSize);
+  const auto [dialog, rows] = buildFixedDialog(outlets.styleNameWindow, binder, parent);
   rows->addWidget(buildHeading(outlets.styleNameWindow, dialog));
   rows->addSpacing(metrics::rowGap);
   auto* page = new QWidget(dialog);

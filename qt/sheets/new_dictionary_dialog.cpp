@@ -41,10 +41,7 @@ QLayout* fields(const NewDictionaryControls& controls, Binder& binder, QDialog* 
 }  // namespace
 
 QDialog* buildNewDictionaryDialog(const NewDictionaryControls& controls, Binder& binder, QWidget* parent) {
-  auto* dialog = new QDialog(parent);
-  binder.window(controls.window, *dialog);
-  auto* rows = new QVBoxLayout(dialog);
-  rows->setSizeConstraint(QLayout::SetFixedSize);
+  const auto [dialog, rows] = buildFixedDialog(controls.window, binder, parent);
   QLabel* prompt = binder.text(controls.prompt, dialog);
   prompt->setFont(headingFont(prompt->font()));
   prompt->setMinimumWidth(readableWidth(prompt->fontMetrics()));

@@ -13,6 +13,14 @@
 
 namespace tarvo {
 
+FixedDialog buildFixedDialog(Window& window, Binder& binder, QWidget* parent) {
+  auto* dialog = new QDialog(parent);
+  binder.window(window, *dialog);
+  auto* rows = new QVBoxLayout(dialog);
+  rows->setSizeConstraint(QLayout::SetFixedSize);
+  return {dialog, rows};
+}
+
 QLabel* buildHeading(const Window& window, QDialog* dialog) {
   auto* heading = new QLabel(toQString(window.title()), dialog);
   heading->setTextFormat(Qt::PlainText);

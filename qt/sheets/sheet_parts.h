@@ -5,12 +5,21 @@
 class QDialog;
 class QLabel;
 class QLayout;
+class QVBoxLayout;
+class QWidget;
 
 namespace tarvo {
 
 class Binder;
 class Button;
 class Window;
+
+// A dialog that stands for a window, as large as the rows that its column is given.
+struct FixedDialog {
+  QDialog* dialog;
+  QVBoxLayout* rows;
+};
+FixedDialog buildFixedDialog(Window& window, Binder& binder, QWidget* parent);
 
 // A sheet has no title bar: its title stands above its contents.
 QLabel* buildHeading(const Window& window, QDialog* dialog);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "qt/window/caution_window.h"
+#include "qt/sheets/caution_window.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -12,14 +12,12 @@
 #include "qt/bind/binder.h"
 #include "qt/look/metrics.h"
 #include "qt/look/readable.h"
+#include "qt/sheets/sheet_parts.h"
 
 namespace tarvo {
 
 QDialog* buildCaution(const CautionControls& controls, Binder& binder, QWidget* parent) {
-  auto* dialog = new QDialog(parent);
-  binder.window(controls.window, *dialog);
-  auto* rows = new QVBoxLayout(dialog);
-  rows->setSizeConstraint(QLayout::SetFixedSize);
+  const auto [dialog, rows] = buildFixedDialog(controls.window, binder, parent);
   QLabel* text = binder.text(controls.text, dialog);
   wrapReadably(*text);
   rows->addWidget(text, 0, Qt::AlignLeft);
