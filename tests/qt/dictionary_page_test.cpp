@@ -144,7 +144,7 @@ TEST_F(DictionaryPage, theSheetOpensAgainWithTheKeyboardInItsField) {
   hand->choose(interface().newDictionary.newJETMAMenu);
   settle();
   EXPECT_TRUE(name.hasFocus());
-  EXPECT_EQ(widget<QLabel>("style.NewDicText").text(), "Name of the new Japanese–English translation memory:");
+  EXPECT_EQ(widget<QLabel>("style.NewDicText").text(), "New Japanese–English translation memory");
   EXPECT_EQ(inStep(), "");
 }
 
