@@ -141,10 +141,13 @@ Program::Program(const Services& services)
              .flags = flags_},
       manager_(interface_, rooms_, services_, defaults_, notifications_, windows_, [this] { quit(); }),
       styles_(interface_, rooms_, services_, defaults_, notifications_, [this] { quit(); }),
-      opening_({interface_, styles_, manager_, panels_, windows_, services.texts}),
+      opening_({interface_, styles_, manager_, panels_, connection_, windows_, services.texts}),
       requests_(services.runLoop, services.locations, styles_, opening_) {
   rooms_.manager = &manager_;
   rooms_.styles = &styles_;
+  connection_.didEndAsking = [this] {
+    if (const std::optional<std::string> file = opening_.takeKept()) requests_.openStyleFile(*file);
+  };
 }
 
 Program::~Program() = default;

@@ -3,11 +3,13 @@
 #include "app/style_file_opening.h"
 
 #include <string_view>
+#include <utility>
 
 #include "app/app_controller.h"
 #include "app/counted_panels.h"
 #include "app/interface.h"
 #include "app/t_manager_controller.h"
+#include "install/connection_check.h"
 #include "platform/text_rules.h"
 #include "platform/texts.h"
 
@@ -25,10 +27,15 @@ std::string filledIn(std::string text, const std::string& name) {
 
 void StyleFileOpening::openStyleFile(const std::string& path) {
   const bool isBusy = with_.windows.modalWindow() != nullptr || with_.windows.hasSheet() || with_.panels.isAnyUp();
-  if (isBusy) return with_.panels.beep();
+  if (isBusy) {
+    if (with_.connection.isAsking()) kept_ = path;
+    return with_.panels.beep();
+  }
   if (with_.interface.manager.myTabView.selectedPage() != 0) with_.manager.changeToolbar();
   if (mayReplace(path)) with_.styles.readImportStyle(path);
 }
+
+std::optional<std::string> StyleFileOpening::takeKept() { return std::exchange(kept_, std::nullopt); }
 
 bool StyleFileOpening::mayReplace(const std::string& path) {
   const PopUpButton& stylePopup = with_.interface.style.stylePopup;

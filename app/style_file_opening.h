@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace tarvo {
 
 class AppController;
+class ConnectionCheck;
 class CountedPanels;
 class Interface;
 class TManagerController;
@@ -23,17 +25,22 @@ class StyleFileOpening {
     AppController& styles;
     TManagerController& manager;
     CountedPanels& panels;
+    const ConnectionCheck& connection;
     Windows& windows;
     const Texts& texts;
   };
   explicit StyleFileOpening(const Collaborators& with) : with_(with) {}
   // Brings the style pane forward and asks whether the chosen style is to be replaced; then as from the import command.
-  // While another question or window waits for the user there is only a beep. path: in the core's spelling.
+  // While another question or window waits for the user there is only a beep; a file that comes upon the launch's own
+  // question is kept for afterwards. path: in the core's spelling.
   void openStyleFile(const std::string& path);
+  // The file that was kept last, once.
+  std::optional<std::string> takeKept();
 
  private:
   bool mayReplace(const std::string& path);
   Collaborators with_;
+  std::optional<std::string> kept_;
 };
 
 }  // namespace tarvo

@@ -21,6 +21,7 @@ ConnectionCheck::~ConnectionCheck() { with_.runLoop.cancel(timer_); }
 
 void ConnectionCheck::checkConnection() {
   if (!with_.engine.checkConnectionWithCurl()) {
+    asking_ = true;
     const Texts& texts = with_.texts;
     with_.panels.beginAlertSheet(with_.myWindow,
                                  {texts.localized("Cant connect internet Header"),
@@ -36,15 +37,14 @@ void ConnectionCheck::checkConnection() {
   confirmView();
 }
 
-void ConnectionCheck::connectSheetDidEnd(int returnCode) {
-  if (returnCode == defaultButton) confirmLater();
-}
+void ConnectionCheck::connectSheetDidEnd(int returnCode) { returnCode == defaultButton ? confirmLater() : endAsking(); }
 
 void ConnectionCheck::confirmLater() {
   timer_ = with_.runLoop.after(secondsUntilConfirmation, [this] { confirmView(); });
 }
 
 void ConnectionCheck::confirmView() {
+  asking_ = true;
   if (with_.isWindowCovered()) return confirmLater();
   with_.windows.beginSheet(with_.outlets.sslPanel, with_.myWindow,
                            [this](int returnCode) { sslSheetDidEnd(returnCode); });
@@ -57,6 +57,14 @@ void ConnectionCheck::actionPanel() {
   with_.notifications.post(sendPlistNoti);
 }
 
-void ConnectionCheck::sslSheetDidEnd(int) { with_.windows.orderOut(with_.outlets.sslPanel); }
+void ConnectionCheck::sslSheetDidEnd(int) {
+  with_.windows.orderOut(with_.outlets.sslPanel);
+  endAsking();
+}
+
+void ConnectionCheck::endAsking() {
+  asking_ = false;
+  if (didEndAsking) didEndAsking();
+}
 
 }  // namespace tarvo

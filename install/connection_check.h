@@ -52,6 +52,9 @@ class ConnectionCheck {
   void checkConnection();
   // Asks for the confirmation in a sheet; while another sheet is up it asks a little later.
   void confirmView();
+  // Whether the launch waits for an answer: from its first question to its last one.
+  bool isAsking() const { return asking_; }
+  std::function<void()> didEndAsking;  // told at the end of it, before styles are exchanged
   // The confirmation. Whatever the box says, styles are exchanged now; it only decides about the next launch.
   void actionPanel();
 
@@ -59,8 +62,10 @@ class ConnectionCheck {
   void connectSheetDidEnd(int returnCode);
   void sslSheetDidEnd(int returnCode);
   void confirmLater();
+  void endAsking();
   Collaborators with_;
   RunLoop::Timer timer_ = 0;
+  bool asking_ = false;
 };
 
 }  // namespace tarvo

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "platform/plist_writer.h"
 #include "tests/style/exchange_world.h"
 #include "tests/support/sample_styles.h"
@@ -195,13 +197,36 @@ TEST_F(StyleTravel, beepsWhenAFileIsOpenedWhileSomethingWaitsForTheUser) {
   EXPECT_EQ(test_.log, Log{question}) << "nothing waits any more";
 }
 
-TEST_F(StyleTravel, beepsWhileTheLaunchAsksAboutTheService) {
+TEST_F(StyleTravel, keepsAFileForTheTimeAfterTheLaunchsQuestion) {
   start({false});
   test_.program().requests().openStyleFile(test_.root / "in.whstyle");
   EXPECT_EQ(test_.log, Log{"beep"});
   test_.panels.endAlertSheet(1);
-  test_.program().requests().openStyleFile(test_.root / "in.whstyle");
   EXPECT_EQ(test_.log, (Log{"beep", question}));
+  test_.runLoop.advance(10);
+  EXPECT_EQ(test_.log, (Log{"beep", question})) << "once";
+}
+
+TEST_F(StyleTravel, exchangesStylesBeforeTheFileThatWasKeptComes) {
+  start({true, true});
+  fileWith(importedStyle());
+  test_.runLoop.holds = true;
+  for (const char* file : {"other.whstyle", "in.whstyle"}) test_.program().requests().openStyleFile(test_.root / file);
+  test_.runLoop.run();
+  interface().connection.sslOKButton.userPress();
+  test_.runLoop.run();
+  EXPECT_EQ(test_.log, (Log{"beep", "beep", "holds none", "register 4", question})) << "the last one";
+}
+
+TEST_F(StyleTravel, keepsAFileAlsoUntilThePanelThatFollowsAFailure) {
+  start({false});
+  test_.panels.endAlertSheet(0);
+  test_.runLoop.advance(2);
+  test_.program().requests().openStyleFile(test_.root / "in.whstyle");
+  EXPECT_EQ(test_.log, Log{"beep"});
+  test_.log.clear();
+  interface().connection.sslOKButton.userPress();
+  EXPECT_EQ(std::count(test_.log.begin(), test_.log.end(), question), 1);
 }
 
 TEST_F(StyleTravel, storesTheStampThenShowsAndWritesNewerStyles) {
