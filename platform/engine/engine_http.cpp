@@ -19,10 +19,20 @@ std::chrono::steady_clock::duration steadyNow() { return std::chrono::steady_clo
 EngineHttp::EngineHttp(HttpPlace place, HttpTimes times, Now now)
     : resource_(std::move(place)), times_(times), now_(now ? std::move(now) : steadyNow) {}
 
-bool EngineHttp::isSilent() const { return now_() < silentUntil_; }
+std::optional<Deadline> EngineHttp::begin(Milliseconds limit) {
+  begun_ = now_();
+  if (begun_ < silentUntil_) return std::nullopt;
+  if (begun_ - finished_ >= times_.pause) spent_ = {};
+  const auto left = std::chrono::duration_cast<Milliseconds>(times_.action - spent_);
+  if (left < times_.prompt) return std::nullopt;
+  return Deadline(std::min(limit, left));
+}
 
 void EngineHttp::finish() {
-  if (resource_.takeLateness()) silentUntil_ = now_() + times_.silence;
+  finished_ = now_();
+  if (resource_.takeLateness()) silentUntil_ = finished_ + times_.silence;
+  const auto time = finished_ - begun_;
+  if (time > times_.prompt) spent_ += time;
 }
 
 // At the end of counting all sets have one revision, and another hash is newer.
@@ -35,8 +45,9 @@ StyleResource::Front EngineHttp::readFront(const Deadline& deadline) {
 }
 
 bool EngineHttp::checkConnectionWithCurl() {
-  if (isSilent()) return false;
-  const StyleResource::Front front = readFront(Deadline(times_.probe));
+  const std::optional<Deadline> deadline = begin(times_.probe);
+  if (!deadline) return false;
+  const StyleResource::Front front = readFront(*deadline);
   finish();
   return front.state != State::unknown;
 }
@@ -44,8 +55,9 @@ bool EngineHttp::checkConnectionWithCurl() {
 void EngineHttp::sendRegistStyle(const StyleSet& styles, std::string& updateString) {
   const StylePayload payload(styles);
   SetStamp stamp = payload.stamp(nextRevision());
-  didRegister_ = !isSilent() && keepTrying(payload, stamp, Deadline(times_.operation));
-  finish();
+  const std::optional<Deadline> deadline = begin(times_.operation);
+  didRegister_ = deadline && keepTrying(payload, stamp, *deadline);
+  if (deadline) finish();
   updateString = stamp.text();
 }
 
@@ -76,8 +88,9 @@ EngineHttp::Try EngineHttp::tryToStore(const StylePayload& payload, SetStamp& st
 }
 
 bool EngineHttp::checkStyle() {
-  if (isSilent()) return true;
-  const StyleResource::Front front = readFront(Deadline(times_.operation));
+  const std::optional<Deadline> deadline = begin(times_.operation);
+  if (!deadline) return true;
+  const StyleResource::Front front = readFront(*deadline);
   finish();
   return front.state != State::nothing;
 }
@@ -85,11 +98,11 @@ bool EngineHttp::checkStyle() {
 bool EngineHttp::requestStyle(Array& styles, std::string& localUpdate) {
   const SetStamp local = SetStamp::parse(localUpdate);
   known_ = std::max(known_, local.revision);
-  if (isSilent()) return false;
-  const Deadline deadline(times_.operation);
-  const StyleResource::Front front = readFront(deadline);
+  const std::optional<Deadline> deadline = begin(times_.operation);
+  if (!deadline) return false;
+  const StyleResource::Front front = readFront(*deadline);
   std::optional<ReadPayload> set;
-  if (front.stamp.isNewerThan(local)) set = resource_.whole(deadline);
+  if (front.stamp.isNewerThan(local)) set = resource_.whole(*deadline);
   finish();
   if (!set || !set->stamp.isNewerThan(local)) return false;
   known_ = std::max(known_, set->stamp.revision);

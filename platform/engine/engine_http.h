@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
 #include "platform/engine.h"
 #include "platform/engine/style_resource.h"
@@ -11,7 +12,9 @@
 // The engine's style set on a server, one resource for each user (docs/engine.md).
 // Duty: the four operations within their time. Not: transport (http_client.h), the bytes (style_payload.h).
 // Every operation has a limit that its requests share. When one runs out, the service counts as unreachable and is not
-// asked for a while, so that a server that hangs stops the user once and not at each edit.
+// asked for a while, so that a server that hangs stops the user once and not at each edit. Operations without a pause
+// between them belong to one action of the user and share a limit too: a service that is merely slow is then not asked
+// for the rest of the action. Those that it answers promptly do not count.
 // The stamp is that of the payload (SetStamp). What is not known is answered so that nothing is lost: a service that
 // cannot say whether it holds a set is taken to hold one, since the answer to "no" is to send ours over it; and after
 // a registration that failed or whose end is not known, the stamp handed back is that of the set as it would have been
@@ -20,12 +23,13 @@ namespace tarvo {
 
 struct HttpTimes {
   using Milliseconds = std::chrono::milliseconds;
-  // A little below 1 s and 2 s: both together, with the file written before them, stop the user for at most 3 s.
-  Milliseconds probe{950}, operation{1900}, silence{30'000};
+  // A little below 1 s and 2 s, and 3 s for an action with the files that it writes.
+  Milliseconds probe{950}, operation{1900}, silence{30'000}, action{2800}, prompt{250}, pause{500};
 };
 
 class EngineHttp : public Engine {
  public:
+  using Milliseconds = HttpTimes::Milliseconds;
   // Monotonic time since whenever.
   using Now = std::function<std::chrono::steady_clock::duration()>;
 
@@ -41,8 +45,9 @@ class EngineHttp : public Engine {
 
  private:
   enum class Try { stored, raced, failed };
-  bool isSilent() const;
-  void finish();  // an operation: silence follows when its time ran out
+  // An operation begins: until when, or nothing when the service is not to be asked. One that began is finished.
+  std::optional<Deadline> begin(Milliseconds limit);
+  void finish();
   std::uint64_t nextRevision() const;
   StyleResource::Front readFront(const Deadline& deadline);
   bool keepTrying(const StylePayload& payload, SetStamp& stamp, const Deadline& deadline);
@@ -50,8 +55,9 @@ class EngineHttp : public Engine {
   StyleResource resource_;
   HttpTimes times_;
   Now now_;
-  std::chrono::steady_clock::duration silentUntil_{};
-  std::uint64_t known_ = 0;  // the greatest revision that was seen anywhere
+  std::chrono::steady_clock::duration silentUntil_{}, begun_{}, finished_{};
+  std::chrono::steady_clock::duration spent_{};  // of the action
+  std::uint64_t known_ = 0;                      // the greatest revision that was seen anywhere
   bool didRegister_ = true;
 };
 

@@ -366,6 +366,38 @@ TEST_F(EngineHttpTest, aPullFromAServerThatHangsTakesNothing) {
   }
 }
 
+TEST_F(EngineHttpTest, aSlowServiceIsNotAskedForTheRestOfAnAction) {
+  web.instead = [this](const SeenRequest& request, int) -> std::optional<Reply> {
+    now += request.method == "LOCK" ? 0ms : 650ms;
+    return std::nullopt;
+  };
+  EngineHttp http = engine();
+  EXPECT_TRUE(http.checkConnectionWithCurl());
+  EXPECT_EQ(registered(http, one), stampOf(one, 1));
+  EXPECT_TRUE(http.didRegister());
+  server.forgetRequests();
+  now += 499ms;
+  EXPECT_FALSE(http.checkConnectionWithCurl());
+  EXPECT_TRUE(http.checkStyle());
+  EXPECT_EQ(newerThan(http, ""), std::nullopt);
+  EXPECT_EQ(registered(http, two), stampOf(two, 2));
+  EXPECT_FALSE(http.didRegister());
+  EXPECT_EQ(server.methods(), Methods{});
+  now += 1ms;
+  EXPECT_TRUE(http.checkConnectionWithCurl()) << "the user paused";
+  EXPECT_EQ(registered(http, two), stampOf(two, 2));
+  EXPECT_TRUE(http.didRegister());
+}
+
+TEST_F(EngineHttpTest, promptOperationsMayFollowEachOtherForever) {
+  web.instead = [this](const SeenRequest&, int) {
+    now += 250ms;
+    return std::nullopt;
+  };
+  EngineHttp http = engine();
+  for (int i = 0; i < 100; ++i) ASSERT_TRUE(http.checkConnectionWithCurl()) << i;
+}
+
 TEST_F(EngineHttpTest, aServerThatIsGoneIsAskedAgainAtOnce) {
   std::string address;
   {
