@@ -16,7 +16,7 @@ import subprocess
 import sys
 import time
 
-from bus_rows import bus_rows
+from bus_rows import bus_rows, offscreen
 from server_rows import hang_row, register_row
 
 TOP = pathlib.Path(__file__).resolve().parent.parent.parent
@@ -213,8 +213,7 @@ def picker_rows():
     root = fresh_root("root")
     fill_folder(root / "Library/Application Support/Wordhaven/TarvoEiwa/TechDic/EJ", "{:05} 専門辞書 Dictionary.TRet")
     command = [PICKER_BENCH, root, home_of(root), "123", OPENINGS]
-    environment = os.environ | {"QT_QPA_PLATFORM": "xcb" if os.environ.get("DISPLAY") else "offscreen"}
-    done = subprocess.run([str(word) for word in command], check=True, stdout=subprocess.PIPE, text=True, env=environment)
+    done = subprocess.run([str(word) for word in command], check=True, stdout=subprocess.PIPE, text=True, env=offscreen())
     opening, first, keystroke, rows = done.stdout.split()
     for name, here, most in ((f"picker of {rows}, first opening", first, 300), ("  later opening", opening, 300),
                              ("  keystroke in its filter", keystroke, 16)):
@@ -274,7 +273,7 @@ def main(arguments):
         server_rows()
     if "hang" in wanted:
         root = fresh_root("root")
-        hang_row(HANG_BENCH, root, home_of(root))
+        hang_row(HANG_BENCH, root, home_of(root), offscreen())
 
 
 if __name__ == "__main__":

@@ -12,8 +12,9 @@ sys.path.append(str(pathlib.Path(__file__).resolve().parent.parent / "servers"))
 from web_servers import WebServer  # noqa: E402
 
 
-def output_of(command):
-    return subprocess.run([str(word) for word in command], check=True, stdout=subprocess.PIPE, text=True).stdout
+def output_of(command, environment=None):
+    return subprocess.run([str(word) for word in command], check=True, stdout=subprocess.PIPE, text=True,
+                          env=environment).stdout
 
 
 def traffic_of(server, registrations):
@@ -41,8 +42,8 @@ def register_row(kind, program, style_file, registrations, name, print_row):
     print(f"  {int(size):,} B of styles: {requests:.1f} requests, {sent:,.0f} B sent, {received:,.0f} B received", flush=True)
 
 
-def hang_row(program, root, home):
-    rows = [line.split(" ", 1) for line in output_of([program, root, home]).splitlines()]
+def hang_row(program, root, home, environment):
+    rows = [line.split(" ", 1) for line in output_of([program, root, home], environment).splitlines()]
     longest, where = max((float(time), where) for time, where in rows)
-    print(f"{f'longest stop of {len(rows)} hangs':34} {longest:9.2f} ms   at most 3000 ms: "
+    print(f"{f'longest stop of {len(rows)} troubles':34} {longest:9.2f} ms   at most 3000 ms: "
           f"{'met' if longest <= 3000 else 'missed'} ({where})", flush=True)
