@@ -25,7 +25,6 @@ ExitStatus exchange(Console& console, Act act) {
   const VerbProgram::EngineCalls& calls = verb.engineCalls();
   if (!calls.reached || !calls.stored) return status == ExitStatus::locked ? status : ExitStatus::refused;
   if (calls.handedOver) console.out << "handed over " << *calls.handedOver << " styles\n";
-  if (calls.taken) console.out << "took " << *calls.taken << " styles\n";
   return status;
 }
 
@@ -68,10 +67,18 @@ ExitStatus EnginePullCommand::run(Console& console) {
     if (!program.services().engine.checkConnectionWithCurl()) return;
     program.notifications().post(sendPlistNoti);
     const VerbProgram::EngineCalls& calls = verb.engineCalls();
-    if (calls.taken && program.rooms().store.getSelection() == nullptr) {
-      verb.refuse("the style file remembers no choice of a style: what was taken is not in it");
-    } else if (!calls.taken && !calls.handedOver) {
+    if (calls.handedOver) return;
+    if (!calls.offered && program.services().engine.couldRead()) {
       console.out << "nothing newer\n";
+      return;
+    }
+    const std::string* stamp = program.defaults().string(lastUpdate);  // an offer that was taken left its own
+    if (!calls.offered || stamp == nullptr || *stamp != calls.offered->stamp) {
+      return verb.refuse("the styles of the service cannot be read: nothing was taken");
+    }
+    console.out << "took " << calls.offered->styles << " styles\n";
+    if (program.rooms().store.getSelection() == nullptr) {
+      verb.refuse("the style file remembers no choice of a style: what was taken is not in it");
     }
   });
 }

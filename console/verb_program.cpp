@@ -55,11 +55,12 @@ class VerbProgram::ToldEngine : public Engine {
   bool checkStyle() override { return engine_.checkStyle(); }
   bool requestStyle(Array& styles, std::string& localUpdate) override {
     const bool newer = engine_.requestStyle(styles, localUpdate);
-    if (newer) calls_.taken = static_cast<int>(styles.size());
+    if (newer) calls_.offered = Offer{static_cast<int>(styles.size()), localUpdate};
     return newer;
   }
   std::string form() const override { return engine_.form(); }
   bool didRegister() const override { return engine_.didRegister(); }
+  bool couldRead() const override { return engine_.couldRead(); }
 
  private:
   void tell(const char* what) {

@@ -37,11 +37,17 @@ class VerbProgram {
   // Every file panel from now on is answered by this path; else it is cancelled.
   void answerFilePanels(const std::string& path);
 
+  // A newer set that the service handed out.
+  struct Offer {
+    int styles;
+    std::string stamp;
+  };
   // What became of the exchanges with the style service.
   struct EngineCalls {
-    bool reached = true;                   // whenever it was asked for
-    bool stored = true;                    // whatever was handed over
-    std::optional<int> handedOver, taken;  // the number of styles, where it happened
+    bool reached = true;            // whenever it was asked for
+    bool stored = true;             // whatever was handed over
+    std::optional<int> handedOver;  // the number of styles, where it happened
+    std::optional<Offer> offered;
   };
   const EngineCalls& engineCalls() const;
 

@@ -34,6 +34,8 @@ class Engine {
   virtual std::string form() const { return "other"; }
   // Whether the last registration is known to have been stored; true before the first.
   virtual bool didRegister() const { return true; }
+  // Whether the last request for a newer set found one that can be read, newer or not; true before the first.
+  virtual bool couldRead() const { return true; }
 };
 
 }  // namespace tarvo

@@ -98,12 +98,15 @@ bool EngineHttp::checkStyle() {
 bool EngineHttp::requestStyle(Array& styles, std::string& localUpdate) {
   const SetStamp local = SetStamp::parse(localUpdate);
   known_ = std::max(known_, local.revision);
+  couldRead_ = false;
   const std::optional<Deadline> deadline = begin(times_.operation);
   if (!deadline) return false;
   const StyleResource::Front front = readFront(*deadline);
+  const bool isNewer = front.state == State::held && front.stamp.isNewerThan(local);
   std::optional<ReadPayload> set;
-  if (front.stamp.isNewerThan(local)) set = resource_.whole(*deadline);
+  if (isNewer) set = resource_.whole(*deadline);
   finish();
+  couldRead_ = front.state == State::held && set.has_value() == isNewer;
   if (!set || !set->stamp.isNewerThan(local)) return false;
   known_ = std::max(known_, set->stamp.revision);
   styles = std::move(set->styles);

@@ -42,6 +42,7 @@ class EngineHttp : public Engine {
   bool requestStyle(Array& styles, std::string& localUpdate) override;
   std::string form() const override { return "http"; }
   bool didRegister() const override { return didRegister_; }
+  bool couldRead() const override { return couldRead_; }
 
  private:
   enum class Try { stored, raced, failed };
@@ -58,7 +59,7 @@ class EngineHttp : public Engine {
   std::chrono::steady_clock::duration silentUntil_{}, begun_{}, finished_{};
   std::chrono::steady_clock::duration spent_{};  // of the action
   std::uint64_t known_ = 0;                      // the greatest revision that was seen anywhere
-  bool didRegister_ = true;
+  bool didRegister_ = true, couldRead_ = true;
 };
 
 }  // namespace tarvo

@@ -91,6 +91,14 @@ TEST_F(EngineVerbs, whatWasTakenButNotWrittenIsTold) {
   expectSaid({"engine", "push"}, "handed over 4 styles\n", "", 0);
 }
 
+TEST_F(EngineVerbs, stylesThatCannotBeReadAreNotSaidToBeTaken) {
+  root_.folder().write(std::string("root/Users/taro/") + engineFile,
+                       "<plist><dict><key>Stamp</key><string>00000000000000000007 2026-01-01T00:00:00Z</string>"
+                       "<key>Style</key><array><dict/><string>two</string></array></dict></plist>");
+  expectSaid({"engine", "pull"}, "", "the styles of the service cannot be read: nothing was taken\n", 1);
+  EXPECT_NE(run({"styles"}).out.find("Beta"), std::string::npos);
+}
+
 TEST_F(EngineVerbs, aServiceThatIsNotThereIsAFailureOfTheExchange) {
   for (const char* verb : {"push", "pull"}) {
     const std::string told = "the style service cannot be reached; it keeps its former styles\n";

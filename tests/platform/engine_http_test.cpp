@@ -92,6 +92,7 @@ TEST_F(EngineHttpTest, askingWithTheCurrentStampDownloadsNoStyles) {
   web.hold(payload(two, 5));
   EngineHttp http = engine();
   EXPECT_EQ(newerThan(http, stampOf(two, 5)), std::nullopt);
+  EXPECT_TRUE(http.couldRead());
   EXPECT_EQ(server.methods(), Methods{"GET"});
   EXPECT_EQ(server.requests()[0].header("range"), "bytes=0-511");
   EXPECT_EQ(newerThan(http, stampOf(two, 4)), two.records);
@@ -226,11 +227,13 @@ TEST_F(EngineHttpTest, whatIsDamagedIsNeverTakenAndTheNextRegistrationReplacesIt
     EXPECT_TRUE(http.checkConnectionWithCurl());
     EXPECT_TRUE(http.checkStyle()) << "a set that is being stored may look like this: ours is not sent over it";
     EXPECT_EQ(newerThan(http, stampOf(two, 4)), std::nullopt);
+    EXPECT_FALSE(http.couldRead());
     EXPECT_EQ(web.held, bytes);
     const std::string stamp = registered(http, one);
     EXPECT_TRUE(http.didRegister());
     EXPECT_GE(SetStamp::parse(stamp).revision, 5U);
     EXPECT_EQ(newerThan(http, stampOf(two, 4)), one.records);
+    EXPECT_TRUE(http.couldRead());
   }
 }
 
@@ -242,6 +245,7 @@ TEST_F(EngineHttpTest, anAnswerThatBreaksOffIsNoAnswer) {
     EXPECT_FALSE(http.checkConnectionWithCurl());
     EXPECT_TRUE(http.checkStyle()) << "not known: ours must not be sent over it";
     EXPECT_EQ(newerThan(http, ""), std::nullopt);
+    EXPECT_FALSE(http.couldRead());
     registered(http, one);
     EXPECT_FALSE(http.didRegister());
     EXPECT_EQ(web.held, payload(two, 5));
