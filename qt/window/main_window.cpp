@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPainter>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QUrl>
@@ -19,6 +20,7 @@
 #include "app/window_geometry.h"
 #include "qt/bind/control_view.h"
 #include "qt/look/metrics.h"
+#include "qt/look/plate.h"
 #include "qt/window/frame_animation.h"
 #include "qt/window/toolbar_view.h"
 
@@ -34,6 +36,23 @@ std::vector<std::string> styleFilesIn(const QMimeData& data) {
   }
   return paths;
 }
+
+// The frame of the place that takes what is dragged over it.
+class DropMark : public QWidget {
+ public:
+  explicit DropMark(QWidget* parent) : QWidget(parent) {
+    setObjectName(QStringLiteral("dropMark"));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    hide();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    const QRect frame = rect().marginsRemoved(QMargins(metrics::grid, metrics::grid, metrics::grid, metrics::grid));
+    drawFocusRing(painter, frame, metrics::cardRadius, palette());
+  }
+};
 
 // Assistive tools look for the active window by its role, which a plain widget does not have.
 QAccessibleInterface* windowForAssistiveTools(const QString&, QObject* object) {
@@ -113,9 +132,19 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
   if (styleFilesIn(*event->mimeData()).empty()) return;
   event->setDropAction(Qt::CopyAction);  // the file stays where it is
   event->accept();
+  if (dropMark_ == nullptr) dropMark_ = new DropMark(this);
+  dropMark_->setGeometry(paneArea_->geometry());
+  dropMark_->raise();
+  dropMark_->show();
+}
+
+void MainWindow::dragLeaveEvent(QDragLeaveEvent* event) {
+  if (dropMark_ != nullptr) dropMark_->hide();
+  QWidget::dragLeaveEvent(event);
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
+  if (dropMark_ != nullptr) dropMark_->hide();
   std::vector<std::string> paths = styleFilesIn(*event->mimeData());
   if (paths.empty()) return;
   event->setDropAction(Qt::CopyAction);

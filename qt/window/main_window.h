@@ -48,6 +48,7 @@ class MainWindow : public QWidget {
   ToolbarView* toolbar_;
   QWidget* paneArea_;
   QLabel* notice_ = nullptr;
+  QWidget* dropMark_ = nullptr;
   QStackedWidget* panes_ = nullptr;
   FrameAnimation* animation_;
   bool hadKeyboard_ = false;  // the pane that is hidden while the window moves
@@ -55,6 +56,7 @@ class MainWindow : public QWidget {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragLeaveEvent(QDragLeaveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 };
 

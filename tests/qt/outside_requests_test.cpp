@@ -83,10 +83,16 @@ struct OutsideRequests : testing::Test, test::TestWindow {
     enter.ignore();
     QApplication::sendEvent(&window(), &enter);
     isTaken = enter.isAccepted();
+    EXPECT_EQ(isMarked(), isTaken);
     if (!isTaken) return;
     QDropEvent dropped(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(&window(), &dropped);
     EXPECT_EQ(dropped.dropAction(), Qt::CopyAction);
+    EXPECT_FALSE(isMarked());
+  }
+  bool isMarked() {
+    const auto* mark = window().findChild<QWidget*>("dropMark");
+    return mark != nullptr && mark->isVisible();
   }
   static QUrl url(const std::string& path) { return QUrl::fromLocalFile(QString::fromStdString(path)); }
   bool isTaken = false;
@@ -167,6 +173,18 @@ TEST_F(OutsideRequests, onlyStyleFilesAreTakenByTheWindow) {
   settle(150);
   EXPECT_EQ(option(), 2);
   EXPECT_EQ(inStep(), "");
+}
+
+TEST_F(OutsideRequests, theMarkOfADropGoesWithThePointer) {
+  start();
+  QMimeData data;
+  data.setUrls({url("/tmp/a.whstyle")});
+  QDragEnterEvent enter(window().rect().center(), Qt::CopyAction, &data, Qt::LeftButton, {});
+  QApplication::sendEvent(&window(), &enter);
+  EXPECT_TRUE(isMarked());
+  QDragLeaveEvent leave;
+  QApplication::sendEvent(&window(), &leave);
+  EXPECT_FALSE(isMarked());
 }
 
 TEST_F(OutsideRequests, nothingIsTakenUnderASheet) {
