@@ -30,7 +30,24 @@ class Drawing {
  public:
   using Source = std::function<QByteArray()>;
   Drawing(Source source, Scheme scheme) : source_(std::move(source)), scheme_(scheme) {}
-  void render(QPainter& painter, const QRectF& rect) {
+  // A painter that only moves gets the picture kept from last time.
+  void render(QPainter& painter, const QRect& rect) {
+    if (painter.worldTransform().type() > QTransform::TxTranslate) return draw(painter, rect);
+    const qreal scale = painter.device()->devicePixelRatio();
+    if (kept_.size() != rect.size() * scale || kept_.devicePixelRatio() != scale) keep(rect.size(), scale);
+    painter.drawPixmap(rect.topLeft(), kept_);
+  }
+
+ private:
+  void keep(const QSize& size, qreal scale) {
+    kept_ = QPixmap(size * scale);
+    kept_.setDevicePixelRatio(scale);
+    kept_.fill(Qt::transparent);
+    QPainter painter(&kept_);
+    painter.setRenderHint(QPainter::Antialiasing);
+    draw(painter, QRectF(QPointF(), size));
+  }
+  void draw(QPainter& painter, const QRectF& rect) {
     if (!renderer_) load();
     if (!renderer_->isValid()) return;
     const QSizeF size = QSizeF(renderer_->defaultSize()).scaled(rect.size(), Qt::KeepAspectRatio);
@@ -38,8 +55,6 @@ class Drawing {
     place.moveCenter(rect.center());
     renderer_->render(&painter, place);
   }
-
- private:
   void load() {
     const QByteArray text = source_();
     renderer_ = std::make_unique<QSvgRenderer>();
@@ -48,6 +63,7 @@ class Drawing {
   Source source_;
   Scheme scheme_;
   std::unique_ptr<QSvgRenderer> renderer_;
+  QPixmap kept_;
 };
 
 class DrawingEngine : public QIconEngine {
