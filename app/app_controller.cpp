@@ -40,16 +40,20 @@ void AppController::init() {
 bool AppController::awakeFromNib() {
   if (!loadUserInfor()) return false;
   createDictControllers();
+  showStyles();
+  interface_.options.ejOptionView.scrollToTop();
+  interface_.options.jeOptionView.scrollToTop();
+  rooms_.store.awakeFlag = false;
+  return true;
+}
+
+void AppController::showStyles() {
   fillStyleMenu(interface_.style.stylePopup, rooms_.store, services_.texts);
   restoreTool();
   rooms_.lists.updateButton(0);
   rooms_.lists.updateButton(1);
   rooms_.naming.updateStyleNameButton();
   showFirstPages();
-  interface_.options.ejOptionView.scrollToTop();
-  interface_.options.jeOptionView.scrollToTop();
-  rooms_.store.awakeFlag = false;
-  return true;
 }
 
 void AppController::createDictControllers() {

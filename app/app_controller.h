@@ -57,6 +57,7 @@ class AppController {
   bool makePreferencesFolder();
   void tellThatNothingCanBeDone();
   void createDictControllers();
+  void showStyles();  // all of them anew: the menu, the remembered tool and its style, the first pages
   void restoreTool();
   void showFirstPages();
   void answerCaller(const CallerRequest& request);

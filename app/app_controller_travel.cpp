@@ -3,7 +3,6 @@
 #include "app/app_controller.h"
 #include "app/interface.h"
 #include "app/rooms.h"
-#include "app/style_menu.h"
 #include "platform/notification_center.h"
 #include "style/caller_requests.h"
 
@@ -43,12 +42,7 @@ bool AppController::readImportStyle(const std::string& path) {
 void AppController::sendPlist() {
   if (!rooms_.store.reconcile()) return;
   const Awakening awakening(rooms_.store);
-  fillStyleMenu(interface_.style.stylePopup, rooms_.store, services_.texts);
-  restoreTool();
-  rooms_.lists.updateButton(0);
-  rooms_.lists.updateButton(1);
-  rooms_.naming.updateStyleNameButton();
-  showFirstPages();
+  showStyles();
 }
 
 void AppController::handleAppleEvent(const std::optional<std::string>& bytes) {
