@@ -23,7 +23,7 @@ namespace tarvo {
 
 class Program {
  public:
-  explicit Program(const Services& services);
+  explicit Program(const Services& given);
   ~Program();
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;

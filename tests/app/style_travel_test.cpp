@@ -191,6 +191,7 @@ TEST_F(StyleTravel, beepsWhenAFileIsOpenedWhileSomethingWaitsForTheUser) {
   test_.panels.endSavePanel(0, "");
   test_.panels.whileUp = open;
   interface().exchange.importMenu.userChoose();
+  interface().addins.officeSearchButton.userPress();
   test_.panels.whileUp = nullptr;
   test_.log.clear();
   test_.program().requests().openStyleFile(path);
