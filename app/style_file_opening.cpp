@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/style_file_opening.h"
 
-#include <string_view>
 #include <utility>
 
 #include "app/app_controller.h"
@@ -14,16 +13,6 @@
 #include "platform/texts.h"
 
 namespace tarvo {
-
-namespace {
-
-std::string filledIn(std::string text, const std::string& name) {
-  constexpr std::string_view place = "%@";
-  const std::size_t at = text.find(place);
-  return at == std::string::npos ? text : text.replace(at, place.size(), name);
-}
-
-}  // namespace
 
 void StyleFileOpening::openStyleFile(const std::string& path) {
   const bool isBusy = with_.windows.modalWindow() != nullptr || with_.windows.hasSheet() || with_.panels.isAnyUp();

@@ -37,22 +37,6 @@ constexpr int oldestVersionWithScreenCheck = 104;
 
 bool isPane(int tag) { return tag >= 0 && tag < static_cast<int>(panes.size()); }
 
-// The text with its first number format replaced. Texts are never used as formats themselves: a translated one may hold
-// anything.
-std::string withNumber(std::string text, int number) {
-  std::size_t first = std::string::npos;
-  std::size_t length = 0;
-  for (const std::string_view format : {"%d", "%i", "%ld", "%@"}) {
-    const std::size_t found = text.find(format);
-    if (found < first) {
-      first = found;
-      length = format.size();
-    }
-  }
-  if (first != std::string::npos) text.replace(first, length, std::to_string(number));
-  return text;
-}
-
 }  // namespace
 
 TManagerController::TManagerController(Interface& interface, Rooms& rooms, const Services& services,
@@ -106,8 +90,9 @@ bool TManagerController::startModules() {
 
 void TManagerController::tellModuleFailure(int code) {
   const Texts& texts = services_.texts;
-  services_.panels.runAlertPanel(
-      {"", withNumber(texts.localized("Failed Instlation Contents"), code), {texts.localized("AlertClose")}});
+  services_.panels.runAlertPanel({"",
+                                  filledIn(texts.localized("Failed Instlation Contents"), std::to_string(code)),
+                                  {texts.localized("AlertClose")}});
   terminate_();
 }
 

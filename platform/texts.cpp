@@ -47,4 +47,15 @@ void overlayShippedTable(Texts& texts, const Bundle& bundle, const FileService& 
   }
 }
 
+std::string filledIn(std::string text, std::string_view value) {
+  std::size_t first = std::string::npos, length = 0;
+  for (const std::string_view place : {"%@", "%d", "%i", "%ld"}) {
+    const std::size_t found = text.find(place);
+    if (found >= first) continue;
+    first = found;
+    length = place.size();
+  }
+  return first == std::string::npos ? text : text.replace(first, length, value);
+}
+
 }  // namespace tarvo

@@ -32,6 +32,10 @@ class Texts {
   std::unordered_map<std::string, std::string, Hash, std::equal_to<>> table_;
 };
 
+// The text with the first place for a value in it (%@, %d, %i or %ld) filled. Texts are never used as formats
+// themselves: a translated one may hold anything.
+std::string filledIn(std::string text, std::string_view value);
+
 class Bundle;
 class FileService;
 // Lays the shipped table over the texts: "Localizable.strings" (a property list) of the bundle's first language that

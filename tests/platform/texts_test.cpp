@@ -70,5 +70,12 @@ TEST_F(TextsTest, aTableFileMustBeADictionary) {
   EXPECT_EQ(texts.localized("a"), "1");
 }
 
+TEST(Texts, aValueTakesTheFirstPlaceForOne) {
+  EXPECT_EQ(filledIn("error %d, again %@", "7"), "error 7, again %@");
+  EXPECT_EQ(filledIn("“%@”を", "%d"), "“%d”を");
+  EXPECT_EQ(filledIn("%ld items", "3"), "3 items");
+  EXPECT_EQ(filledIn("100 % sure", "x"), "100 % sure");
+}
+
 }  // namespace
 }  // namespace tarvo
