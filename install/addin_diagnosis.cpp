@@ -4,7 +4,6 @@
 
 #include <optional>
 
-#include "platform/bundle.h"
 #include "platform/file_service.h"
 #include "platform/text_rules.h"
 
@@ -18,7 +17,7 @@ using Kind = FileService::Kind;
 class Look {
  public:
   Look(const AddinEntry& entry, const FileService& files, const Bundle& bundle)
-      : entry_(entry), files_(files), source_(resourceOf(entry, bundle)) {
+      : entry_(entry), files_(files), source_(addinSource(entry, bundle)) {
     found_ = {.table = isMailAddin(entry) ? "mail" : "office",
               .name = addinText(entry, appName),
               .version = addinText(entry, appVersion),
@@ -43,13 +42,6 @@ class Look {
   }
 
  private:
-  static std::optional<std::string> resourceOf(const AddinEntry& entry, const Bundle& bundle) {
-    const std::string name = addinItemName(entry);
-    if (name.empty()) return std::nullopt;
-    if (isMailAddin(entry)) return bundle.resource(name, "", addinItemFolder(entry));
-    return bundle.resource(deletingPathExtension(name), pathExtension(name), addinItemFolder(entry));
-  }
-
   void require(const std::string& path) {
     if (!files_.exists(path)) found_.missing.push_back(path);
   }

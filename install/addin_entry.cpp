@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "install/addin_entry.h"
 
+#include "platform/bundle.h"
 #include "platform/text_rules.h"
 
 namespace tarvo {
@@ -26,8 +27,12 @@ std::string addinItemName(const AddinEntry& entry) {
   return name == "/" || name == "." || name == ".." ? "" : name;
 }
 
-std::string addinItemFolder(const AddinEntry& entry) {
-  return deletingLastPathComponent(addinText(entry, addin_keys::installMacroName));
+std::optional<std::string> addinSource(const AddinEntry& entry, const Bundle& bundle) {
+  const std::string name = addinItemName(entry);
+  const std::string subfolder = deletingLastPathComponent(addinText(entry, addin_keys::installMacroName));
+  // A folder of scripts has no extension: "Tarvo 1.0" is one name.
+  if (isMailAddin(entry)) return bundle.resource(name, "", subfolder);
+  return bundle.resource(deletingPathExtension(name), pathExtension(name), subfolder);
 }
 
 std::string installedItemPath(const AddinEntry& entry) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,8 @@
 // scripts. Records come from the shipped list ("DefaultAddin.plist") and from the settings ("Office"); keys that nobody
 // here knows stay in them.
 namespace tarvo {
+
+class Bundle;
 
 using AddinEntry = Dictionary;
 
@@ -37,8 +40,9 @@ bool isMarkedInstalled(const AddinEntry& entry);  // what "InstallStatus" says
 // The item's own name: the last component of "InstallMacroName". "" when that names nothing that can lie in a folder,
 // so that a damaged record can never mean the install folder itself or one above it.
 std::string addinItemName(const AddinEntry& entry);
-// The part of "InstallMacroName" before the item's name: the subfolder of the resources.
-std::string addinItemFolder(const AddinEntry& entry);
+// What is installed: the macro or the folder of scripts in the product's resources. Nothing when it is missing, or the
+// record names no item.
+std::optional<std::string> addinSource(const AddinEntry& entry, const Bundle& bundle);
 // Where the item is installed; "" when the record names no item.
 std::string installedItemPath(const AddinEntry& entry);
 

@@ -4,17 +4,12 @@
 
 #include <optional>
 
-#include "platform/bundle.h"
 #include "platform/file_service.h"
-#include "platform/text_rules.h"
 
 namespace tarvo {
 
 bool MacroInstaller::installOfficeMacro(const AddinEntry& entry) {
-  const std::string name = addinItemName(entry);
-  if (name.empty()) return false;
-  const std::optional<std::string> source =
-      bundle_.resource(deletingPathExtension(name), pathExtension(name), addinItemFolder(entry));
+  const std::optional<std::string> source = addinSource(entry, bundle_);
   return source && files_.copy(*source, installedItemPath(entry));
 }
 

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "install/directory_creation.h"
-#include "platform/bundle.h"
 #include "platform/file_service.h"
 #include "platform/system_version.h"
 #include "platform/text_rules.h"
@@ -35,7 +34,7 @@ bool MailScriptInstaller::isMailScriptFolder(const AddinEntry& entry) const {
 bool MailScriptInstaller::installMailScript(const AddinEntry& entry) {
   const std::string name = addinItemName(entry);
   if (name.empty()) return false;
-  const std::optional<std::string> source = bundle_.resource(name, "", addinItemFolder(entry));
+  const std::optional<std::string> source = addinSource(entry, bundle_);
   createDirectoryFromPath(files_, name, addinText(entry, addin_keys::installFolderPath));
   const std::string target = installedItemPath(entry);
   const auto names = source ? files_.list(*source) : std::nullopt;

@@ -224,7 +224,7 @@ TEST(ShippedAddins, haveTheirMacrosAndScripts) {
   for (const AddinLists::SharedEntry& shipped : *lists.fDefaultOfficeSetArray) {
     names.push_back(addinText(*shipped, appName));
     EXPECT_FALSE(shipped->contains(installStatus));
-    const auto item = bundle.resource(addinItemName(*shipped), "", addinItemFolder(*shipped));
+    const auto item = addinSource(*shipped, bundle);
     ASSERT_TRUE(item) << names.back();
     const bool isFolder = test.product->files().kind(*item) == FileService::Kind::folder;
     EXPECT_EQ(isFolder, isMailAddin(*shipped)) << names.back();
