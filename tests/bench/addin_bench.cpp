@@ -1,7 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -13,6 +11,7 @@
 #include "platform/bundle.h"
 #include "platform/locations.h"
 #include "platform/posix/posix_files.h"
+#include "tests/bench/timing.h"
 
 // Installing and removing a folder of scripts against the system's own commands: addin_bench RESOURCES PLACE COUNT
 // RESOURCES holds the folder "Scripts/Many"; it goes to PLACE, an existing folder. Prints the medians in milliseconds:
@@ -20,18 +19,6 @@
 namespace {
 
 using namespace tarvo;
-
-template <class Work>
-double milliseconds(Work work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
-}
-
-double median(std::vector<double> times) {
-  std::sort(times.begin(), times.end());
-  return times.at(times.size() / 2);
-}
 
 void run(const std::string& command) {
   if (std::system(command.c_str()) != 0) throw std::runtime_error(command + " failed");

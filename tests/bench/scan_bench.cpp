@@ -4,8 +4,6 @@
 #include <malloc.h>
 #include <sys/xattr.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -15,6 +13,7 @@
 
 #include "app/product.h"
 #include "dict/dict_controller.h"
+#include "tests/bench/timing.h"
 
 // A scan of a folder of dictionaries against a bare listing of it that reads one attribute of each entry:
 // scan_bench ROOT FOLDER COUNT
@@ -23,18 +22,6 @@
 namespace {
 
 using namespace tarvo;
-
-template <class Work>
-double milliseconds(Work work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
-}
-
-double median(std::vector<double> times) {
-  std::sort(times.begin(), times.end());
-  return times.at(times.size() / 2);
-}
 
 // Answers the number of entries, so that nothing can be left out.
 std::size_t listBarely(const std::string& folder) {
