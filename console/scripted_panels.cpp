@@ -11,15 +11,6 @@
 
 namespace tarvo {
 
-namespace {
-
-std::string withRequiredType(std::string path, const std::string& type) {
-  if (type.empty() || equalIgnoringCase(pathExtension(lastPathComponent(path)), type)) return path;
-  return path + '.' + type;
-}
-
-}  // namespace
-
 void ScriptedPanels::beep() { recorder_.note({{"beep", true}}); }
 
 void ScriptedPanels::fail(std::string reason) {
@@ -104,7 +95,7 @@ void ScriptedPanels::beginSavePanel(Window& host, const SavePanel& panel,
                                     std::function<void(int code, const std::string& path)> handler) {
   if (up_ && up_->host == &host) return handler(0, "");  // a window has one sheet
   std::optional<FileAnswer> answer = takeAnswer(Kind::save);
-  if (answer && answer->path) answer->path = withRequiredType(std::move(*answer->path), panel.requiredType);
+  if (answer && answer->path) answer->path = withPathExtension(std::move(*answer->path), panel.requiredType);
   Json::Object event{{"kind", "save"}, {"over", host.name()}};
   if (answer) event.emplace("answer", shown(answer->path));
   if (!panel.title.empty()) event.emplace("title", panel.title);
@@ -118,7 +109,7 @@ void ScriptedPanels::beginSavePanel(Window& host, const SavePanel& panel,
 
 void ScriptedPanels::endSavePanel(std::optional<std::string> path) {
   const UpPanel ended = *std::exchange(up_, std::nullopt);
-  if (path) path = withRequiredType(std::move(*path), ended.requiredType);
+  if (path) path = withPathExtension(std::move(*path), ended.requiredType);
   recorder_.note({{"panelEnded", "save"}, {"answer", shown(path)}});
   ended.handler(path ? 1 : 0, path.value_or(""));
 }

@@ -139,6 +139,11 @@ std::string pathExtension(std::string_view name) {
   return dot == std::string_view::npos ? "" : std::string(name.substr(dot + 1));
 }
 
+std::string withPathExtension(std::string name, std::string_view extension) {
+  if (extension.empty() || equalIgnoringCase(pathExtension(lastPathComponent(name)), extension)) return name;
+  return name.append(".").append(extension);
+}
+
 std::string deletingPathExtension(std::string_view name) {
   name = withoutTrailingSlashes(name);
   return std::string(name.substr(0, extensionDot(name)));

@@ -24,7 +24,9 @@ int leadingInteger(std::string_view text);
 
 std::string lastPathComponent(std::string_view path);  // "/a/b/" gives "b"
 std::string deletingLastPathComponent(std::string_view path);
-std::string pathExtension(std::string_view name);          // without the dot; "" for ".TRet" and "a"
+std::string pathExtension(std::string_view name);  // without the dot; "" for ".TRet" and "a"
+// With the extension added, unless it has it already, ignoring case. An empty extension adds nothing.
+std::string withPathExtension(std::string name, std::string_view extension);
 std::string deletingPathExtension(std::string_view name);  // "a.b.TRet" gives "a.b"; ".TRet" stays
 // Exactly one slash between the two, even when the second begins with one; the first alone when the second is empty.
 std::string joinPath(std::string_view base, std::string_view rest);

@@ -5,18 +5,12 @@
 #include <QDir>
 #include <QLineEdit>
 
+#include "platform/text_rules.h"
 #include "qt/bind/binder.h"
 #include "qt/window/file_panel.h"
 
 namespace tarvo {
-namespace {
-
-QString withType(const QString& name, const QString& type) {
-  const QString ending = QLatin1Char('.') + type;
-  return type.isEmpty() || name.endsWith(ending, Qt::CaseInsensitive) ? name : name + ending;
-}
-
-}  // namespace
+namespace {}  // namespace
 
 QString nameFilter(const std::vector<std::string>& types) {
   QStringList shown, patterns;
@@ -34,7 +28,7 @@ QString nameFilter(const std::vector<std::string>& types) {
 }
 
 SaveSheet::SaveSheet(const SavePanel& panel, QWidget* parent)
-    : QFileDialog(parent, toQString(panel.title), toQString(panel.folder)), type_(toQString(panel.requiredType)) {
+    : QFileDialog(parent, toQString(panel.title), toQString(panel.folder)), type_(panel.requiredType) {
   setObjectName(QStringLiteral("savePanel"));
   setOption(DontUseNativeDialog);  // which would be a window of its own
   arrangeFilePanel(*this);
@@ -42,7 +36,7 @@ SaveSheet::SaveSheet(const SavePanel& panel, QWidget* parent)
   setAcceptMode(AcceptSave);
   setFileMode(AnyFile);
   if (!panel.requiredType.empty()) setNameFilter(nameFilter({panel.requiredType}));
-  selectFile(withType(toQString(panel.name), type_));
+  selectFile(toQString(withPathExtension(panel.name, type_)));
 }
 
 std::string SaveSheet::path() const {
@@ -54,7 +48,7 @@ std::string SaveSheet::path() const {
 void SaveSheet::accept() {
   auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
   if (name != nullptr && !name->text().isEmpty() && !QDir(directory().absoluteFilePath(name->text())).exists()) {
-    name->setText(withType(name->text(), type_));
+    name->setText(toQString(withPathExtension(name->text().toStdString(), type_)));
   }
   QFileDialog::accept();
 }

@@ -19,7 +19,7 @@ class SaveSheet : public QFileDialog {
   void accept() override;
 
  private:
-  QString type_;
+  std::string type_;
 };
 
 // "*.whstyle" in any case of letters, shown without the cases; "" for an empty list, which lets every file through.

@@ -157,5 +157,12 @@ TEST(TextRules, aPathIsBelowAFolderOnlyAtAWholeComponent) {
   EXPECT_FALSE(isBelow("", "/"));
 }
 
+TEST(TextRules, anExtensionIsAddedWhereItLacks) {
+  EXPECT_EQ(withPathExtension("/a.b/Beta", "whstyle"), "/a.b/Beta.whstyle");
+  EXPECT_EQ(withPathExtension("v1.2", "whstyle"), "v1.2.whstyle");
+  EXPECT_EQ(withPathExtension("a.WHSTYLE", "whstyle"), "a.WHSTYLE");
+  EXPECT_EQ(withPathExtension("a", ""), "a");
+}
+
 }  // namespace
 }  // namespace tarvo
