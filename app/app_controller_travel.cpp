@@ -3,7 +3,7 @@
 #include "app/app_controller.h"
 #include "app/interface.h"
 #include "app/rooms.h"
-#include "platform/notification_center.h"
+#include "platform/services/notification_center.h"
 #include "style/caller_requests.h"
 
 // What reaches the style pane from outside: style files, the engine's styles, requests of other tools.

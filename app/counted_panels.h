@@ -4,7 +4,7 @@
 
 #include <set>
 
-#include "platform/panels.h"
+#include "platform/services/panels.h"
 
 namespace tarvo {
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <initializer_list>
 
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 
 namespace tarvo {
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/interface.h"
 #include "app/rooms.h"
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 
 // The Office pane, the mail pane and their cautions.
 namespace tarvo {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/interface.h"
 #include "app/rooms.h"
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 
 // The dictionary pages of the style pane, one per direction.
 namespace tarvo {

@@ -7,7 +7,7 @@
 #include "app/interface.h"
 #include "app/rooms.h"
 #include "app/t_manager_controller.h"
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 
 // The main window, its toolbar and panes, the small-screen caution and the menus.
 namespace tarvo {

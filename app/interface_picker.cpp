@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/interface.h"
 #include "app/rooms.h"
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 
 // The picker, its new-dictionary sheet, and that of the style pane.
 namespace tarvo {

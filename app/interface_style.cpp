@@ -3,7 +3,7 @@
 #include "app/app_controller.h"
 #include "app/interface.h"
 #include "app/rooms.h"
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 #include "style/option_table.h"
 #include "style/style_keys.h"
 

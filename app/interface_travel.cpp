@@ -3,7 +3,7 @@
 #include "app/app_controller.h"
 #include "app/interface.h"
 #include "app/rooms.h"
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 
 // How styles travel: the naming sheet, import and export, the connection sheet, and the help beside them.
 namespace tarvo {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/menu_rules.h"
 
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 #include "style/process_flags.h"
 
 namespace tarvo {

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "app/program.h"
-#include "platform/locations.h"
-#include "platform/text_rules.h"
+#include "platform/services/locations.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/property_list.h"
+#include "platform/plist/property_list.h"
 
 namespace tarvo {
 

@@ -5,9 +5,9 @@
 #include <filesystem>
 
 #include "install/addin_entry.h"
-#include "platform/locations.h"
-#include "platform/text_rules.h"
-#include "platform/user_defaults.h"
+#include "platform/services/locations.h"
+#include "platform/services/user_defaults.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 

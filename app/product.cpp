@@ -5,14 +5,14 @@
 #include <utility>
 
 #include "app/product_defaults.h"
-#include "platform/common_module.h"
-#include "platform/engine.h"
 #include "platform/engine/engine_factory.h"
 #include "platform/engine/local_style_module.h"
-#include "platform/plist_file.h"
 #include "platform/posix/bundle_script_runner.h"
 #include "platform/posix/posix_files.h"
-#include "platform/text_rules.h"
+#include "platform/services/common_module.h"
+#include "platform/services/engine.h"
+#include "platform/services/plist_file.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 

@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "app/services.h"
-#include "platform/bundle.h"
-#include "platform/locations.h"
-#include "platform/product_paths.h"
-#include "platform/texts.h"
+#include "platform/services/bundle.h"
+#include "platform/services/locations.h"
+#include "platform/services/product_paths.h"
+#include "platform/services/texts.h"
 
 // The installed product as the command line, the environment and the build describe it: both shells make one of it.
 namespace tarvo {

@@ -11,7 +11,7 @@
 #include <string_view>
 #include <system_error>
 
-#include "platform/text_rules.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 

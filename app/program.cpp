@@ -7,8 +7,8 @@
 
 #include "app/picked_applications.h"
 #include "app/window_geometry.h"
-#include "platform/locations.h"
-#include "platform/texts.h"
+#include "platform/services/locations.h"
+#include "platform/services/texts.h"
 #include "style/style_keys.h"
 
 namespace tarvo {

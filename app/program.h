@@ -14,9 +14,9 @@
 #include "app/services.h"
 #include "app/style_file_opening.h"
 #include "app/t_manager_controller.h"
-#include "platform/notification_center.h"
-#include "platform/user_defaults.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/services/notification_center.h"
+#include "platform/services/user_defaults.h"
 
 // The running program: it owns the controls, the rooms and both controllers, and brings them up and down in order.
 namespace tarvo {

@@ -6,8 +6,8 @@
 
 #include "app/app_controller.h"
 #include "app/style_file_opening.h"
-#include "platform/locations.h"
-#include "platform/run_loop.h"
+#include "platform/services/locations.h"
+#include "platform/services/run_loop.h"
 
 namespace tarvo {
 

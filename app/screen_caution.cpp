@@ -3,8 +3,8 @@
 #include "app/screen_caution.h"
 
 #include "app/interface.h"
-#include "platform/user_defaults.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/services/user_defaults.h"
 
 namespace tarvo {
 

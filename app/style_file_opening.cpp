@@ -9,8 +9,8 @@
 #include "app/interface.h"
 #include "app/t_manager_controller.h"
 #include "install/connection_check.h"
-#include "platform/text_rules.h"
-#include "platform/texts.h"
+#include "platform/services/texts.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 

@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/controls.h"
-#include "platform/texts.h"
+#include "platform/controls/controls.h"
+#include "platform/services/texts.h"
 #include "style/style_keys.h"
 #include "style/style_store.h"
 

@@ -10,14 +10,14 @@
 #include "app/menu_rules.h"
 #include "app/rooms.h"
 #include "app/window_geometry.h"
-#include "platform/common_module.h"
-#include "platform/notification_center.h"
-#include "platform/panels.h"
-#include "platform/product_paths.h"
-#include "platform/style_module.h"
-#include "platform/system_version.h"
-#include "platform/texts.h"
-#include "platform/user_defaults.h"
+#include "platform/services/common_module.h"
+#include "platform/services/notification_center.h"
+#include "platform/services/panels.h"
+#include "platform/services/product_paths.h"
+#include "platform/services/style_module.h"
+#include "platform/services/system_version.h"
+#include "platform/services/texts.h"
+#include "platform/services/user_defaults.h"
 
 namespace tarvo {
 

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "app/interface.h"
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 #include "style/process_flags.h"
 #include "style/sibling_tools.h"
 

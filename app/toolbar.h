@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/controls.h"
-#include "platform/property_list.h"
+#include "platform/controls/controls.h"
+#include "platform/plist/property_list.h"
 
 namespace tarvo {
 

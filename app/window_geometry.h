@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
 
 // The arithmetic of the main window's frame: pure functions in single precision, from left to right as written.
 namespace tarvo {

@@ -46,10 +46,11 @@ function(tarvo_room NAME)
   target_link_libraries(${NAME} PUBLIC tarvo_options ${ROOM_LINK} PRIVATE ${ROOM_PRIVATE})
 endfunction()
 
-# tarvo_tests(NAME [LINK lib...]): the test program of the current folder, run whole by ctest and by script/test.
+# tarvo_tests(NAME [LINK lib...]): the test program of the current folder and those below it, run whole by ctest and by
+# script/test.
 function(tarvo_tests NAME)
   cmake_parse_arguments(TESTS "" "" "LINK" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS *.cpp)
   if(NOT sources)
     return()
   endif()

@@ -4,14 +4,14 @@
 
 #include <CLI/CLI.hpp>
 
-#include "console/addin_commands.h"
-#include "console/dictionary_commands.h"
-#include "console/doctor.h"
-#include "console/engine_commands.h"
-#include "console/new_dictionary_command.h"
-#include "console/open_command.h"
-#include "console/style_commands.h"
-#include "console/style_travel_commands.h"
+#include "console/verbs/addin_commands.h"
+#include "console/verbs/dictionary_commands.h"
+#include "console/verbs/doctor.h"
+#include "console/verbs/engine_commands.h"
+#include "console/verbs/new_dictionary_command.h"
+#include "console/verbs/open_command.h"
+#include "console/verbs/style_commands.h"
+#include "console/verbs/style_travel_commands.h"
 
 namespace tarvo {
 

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "app/product.h"
-#include "console/command.h"
+#include "console/verbs/command.h"
 
 // The command line of tarvoctl: its options, its verbs and their words.
 namespace tarvo {

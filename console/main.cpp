@@ -9,8 +9,8 @@
 
 #include "app/product.h"
 #include "console/command_line.h"
-#include "console/manual_run_loop.h"
-#include "console/run_script.h"
+#include "console/script/manual_run_loop.h"
+#include "console/script/run_script.h"
 #include "platform/posix/instance_lock.h"
 #include "platform/posix/posix_run_loop.h"
 

@@ -7,10 +7,10 @@
 #include "dict/dictionary_creation.h"
 #include "dict/dictionary_reorder.h"
 #include "dict/dictionary_scan.h"
-#include "platform/file_service.h"
-#include "platform/product_paths.h"
-#include "platform/text_rules.h"
-#include "platform/texts.h"
+#include "platform/services/file_service.h"
+#include "platform/services/product_paths.h"
+#include "platform/services/texts.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 namespace {

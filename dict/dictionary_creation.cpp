@@ -4,8 +4,8 @@
 
 #include <optional>
 
-#include "platform/bundle.h"
-#include "platform/file_service.h"
+#include "platform/services/bundle.h"
+#include "platform/services/file_service.h"
 
 namespace tarvo {
 

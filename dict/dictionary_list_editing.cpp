@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "dict/running_application_guard.h"
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 #include "style/divider.h"
 #include "style/style_keys.h"
 #include "style/style_store.h"

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "dict/dict_controller.h"
-#include "platform/controls.h"
-#include "platform/table_view.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/table_view.h"
 
 // Editing of the technical dictionary lists in the style pane. Every edit goes through the direction's list model and
 // is written into the shown style at once. A direction travels as an integer, the tag of its table and buttons: 0

@@ -8,7 +8,7 @@
 #include "dict/new_dictionary_request.h"
 #include "dict/running_application_guard.h"
 #include "dict/tech_dic_controller.h"
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 #include "style/pane_alerts.h"
 
 namespace tarvo {

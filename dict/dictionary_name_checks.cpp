@@ -6,13 +6,13 @@
 #include <utility>
 
 #include "dict/new_dictionary_request.h"
-#include "platform/controls.h"
-#include "platform/file_service.h"
-#include "platform/panels.h"
-#include "platform/product_paths.h"
-#include "platform/text_encoding.h"
-#include "platform/text_rules.h"
-#include "platform/texts.h"
+#include "platform/controls/controls.h"
+#include "platform/services/file_service.h"
+#include "platform/services/panels.h"
+#include "platform/services/product_paths.h"
+#include "platform/services/texts.h"
+#include "platform/text/text_encoding.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 namespace {

@@ -6,7 +6,7 @@
 #include <unordered_set>
 #include <utility>
 
-#include "platform/text_rules.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 namespace {

@@ -4,9 +4,9 @@
 
 #include <algorithm>
 
-#include "platform/file_service.h"
-#include "platform/text_rules.h"
-#include "platform/texts.h"
+#include "platform/services/file_service.h"
+#include "platform/services/texts.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 namespace {

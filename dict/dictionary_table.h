@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/table_view.h"
+#include "platform/controls/table_view.h"
 
 namespace tarvo {
 

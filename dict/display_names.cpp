@@ -5,8 +5,8 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/text_rules.h"
-#include "platform/texts.h"
+#include "platform/services/texts.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 

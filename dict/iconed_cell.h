@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/geometry.h"
+#include "platform/services/geometry.h"
 
 // Where a table cell draws a small icon and the text behind it. Points, in the coordinates of the view.
 namespace tarvo {

@@ -4,10 +4,10 @@
 
 #include <utility>
 
-#include "platform/file_service.h"
-#include "platform/text_rules.h"
-#include "platform/texts.h"
-#include "platform/user_defaults.h"
+#include "platform/services/file_service.h"
+#include "platform/services/texts.h"
+#include "platform/services/user_defaults.h"
+#include "platform/text/text_rules.h"
 #include "style/style_keys.h"
 #include "style/style_store.h"
 

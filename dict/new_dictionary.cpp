@@ -6,7 +6,7 @@
 #include "dict/running_application_guard.h"
 #include "dict/user_list_rows.h"
 #include "dict/user_lists.h"
-#include "platform/notification_center.h"
+#include "platform/services/notification_center.h"
 #include "style/pane_alerts.h"
 #include "style/process_flags.h"
 

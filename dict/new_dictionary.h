@@ -6,8 +6,8 @@
 
 #include "dict/new_dictionary_request.h"
 #include "dict/new_dictionary_sheet.h"
-#include "platform/controls.h"
-#include "platform/windows.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/windows.h"
 
 // New user dictionaries and translation memories, made from the style pane: its sheet, and what follows when a sheet
 // has ended with a name. The file lands in the user's folder; a style never names it.

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "dict/new_dictionary_request.h"
-#include "platform/texts.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/services/texts.h"
 
 namespace tarvo {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "dict/dictionary_name_checks.h"
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 // The sheet that asks for the name of a new dictionary. The style pane and the picker have one each.
 // Duty: show the kind's texts, let only a good name end it with OK. Not: making the dictionary.

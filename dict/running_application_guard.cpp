@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/product_paths.h"
-#include "platform/workspace.h"
+#include "platform/services/product_paths.h"
+#include "platform/services/workspace.h"
 
 namespace tarvo {
 

@@ -7,11 +7,11 @@
 
 #include "dict/display_names.h"
 #include "dict/running_application_guard.h"
-#include "platform/notification_center.h"
-#include "platform/product_paths.h"
-#include "platform/text_rules.h"
-#include "platform/texts.h"
-#include "platform/workspace.h"
+#include "platform/services/notification_center.h"
+#include "platform/services/product_paths.h"
+#include "platform/services/texts.h"
+#include "platform/services/workspace.h"
+#include "platform/text/text_rules.h"
 #include "style/pane_alerts.h"
 
 namespace tarvo {

@@ -10,9 +10,9 @@
 #include "dict/dict_controller.h"
 #include "dict/new_dictionary_request.h"
 #include "dict/new_dictionary_sheet.h"
-#include "platform/controls.h"
-#include "platform/table_view.h"
-#include "platform/windows.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/table_view.h"
+#include "platform/controls/windows.h"
 
 // The picker: a modal window that lists the technical dictionaries of one direction that a style does not use, with
 // check boxes. Duty: the lists and their ticks, the filter, its copy of the new-dictionary sheet. Not: adding anything

@@ -5,7 +5,7 @@
 #include <array>
 
 #include "dict/dict_controller.h"
-#include "platform/table_view.h"
+#include "platform/controls/table_view.h"
 
 namespace tarvo {
 

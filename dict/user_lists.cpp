@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "dict/user_lists.h"
 
-#include "platform/file_service.h"
-#include "platform/product_paths.h"
+#include "platform/services/file_service.h"
+#include "platform/services/product_paths.h"
 
 namespace tarvo {
 

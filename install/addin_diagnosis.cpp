@@ -4,8 +4,8 @@
 
 #include <optional>
 
-#include "platform/file_service.h"
-#include "platform/text_rules.h"
+#include "platform/services/file_service.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "install/addin_entry.h"
 
-#include "platform/bundle.h"
-#include "platform/text_rules.h"
+#include "platform/services/bundle.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 

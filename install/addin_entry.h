@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/property_list.h"
+#include "platform/plist/property_list.h"
 
 // One application that can take an add-in: an Office program and its macro, or a mail program and its folder of
 // scripts. Records come from the shipped list ("DefaultAddin.plist") and from the settings ("Office"); keys that nobody

@@ -7,11 +7,11 @@
 
 #include "install/addin_outlets.h"
 #include "install/mail_script_installer.h"
-#include "platform/bundle.h"
-#include "platform/file_service.h"
-#include "platform/plist_file.h"
-#include "platform/text_rules.h"
-#include "platform/user_defaults.h"
+#include "platform/services/bundle.h"
+#include "platform/services/file_service.h"
+#include "platform/services/plist_file.h"
+#include "platform/services/user_defaults.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/table_view.h"
-#include "platform/windows.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/table_view.h"
+#include "platform/controls/windows.h"
 
 namespace tarvo {
 

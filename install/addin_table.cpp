@@ -8,8 +8,8 @@
 #include "install/addin_outlets.h"
 #include "install/macro_installer.h"
 #include "install/mail_script_installer.h"
-#include "platform/panels.h"
-#include "platform/texts.h"
+#include "platform/services/panels.h"
+#include "platform/services/texts.h"
 
 namespace tarvo {
 

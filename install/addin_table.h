@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "install/addin_entry.h"
-#include "platform/table_view.h"
+#include "platform/controls/table_view.h"
 
 // Data source and delegate of the Office table (tag 0) and the mail table (tag 1).
 // Duty: what a row shows; installing or removing when its box is ticked; the text about the selected or the changed

@@ -3,9 +3,9 @@
 #include "install/caution_windows.h"
 
 #include "install/addin_outlets.h"
-#include "platform/system_version.h"
-#include "platform/windows.h"
-#include "platform/workspace.h"
+#include "platform/controls/windows.h"
+#include "platform/services/system_version.h"
+#include "platform/services/workspace.h"
 
 namespace tarvo {
 

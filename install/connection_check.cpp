@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "install/connection_check.h"
 
-#include "platform/engine.h"
-#include "platform/notification_center.h"
-#include "platform/panels.h"
-#include "platform/texts.h"
-#include "platform/user_defaults.h"
+#include "platform/services/engine.h"
+#include "platform/services/notification_center.h"
+#include "platform/services/panels.h"
+#include "platform/services/texts.h"
+#include "platform/services/user_defaults.h"
 
 namespace tarvo {
 

@@ -4,9 +4,9 @@
 
 #include <functional>
 
-#include "platform/controls.h"
-#include "platform/run_loop.h"
-#include "platform/windows.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/windows.h"
+#include "platform/services/run_loop.h"
 
 // The question, once at every launch, whether the program may talk to the engine's service.
 // Duty: probe, ask, remember the answer as "ConnectServer", and post "SendPlistNoti". Not: handing over styles.

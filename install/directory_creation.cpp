@@ -4,8 +4,8 @@
 
 #include <sstream>
 
-#include "platform/file_service.h"
-#include "platform/text_rules.h"
+#include "platform/services/file_service.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 

@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <optional>
 
-#include "platform/bundle.h"
-#include "platform/product_paths.h"
-#include "platform/texts.h"
-#include "platform/workspace.h"
+#include "platform/services/bundle.h"
+#include "platform/services/product_paths.h"
+#include "platform/services/texts.h"
+#include "platform/services/workspace.h"
 
 namespace tarvo {
 

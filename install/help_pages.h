@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 // The help of the program and the maker's pages. No address is built in: they come from the paths' configuration and
 // the text tables, and a command without one does nothing.

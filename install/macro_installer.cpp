@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "platform/file_service.h"
+#include "platform/services/file_service.h"
 
 namespace tarvo {
 

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "install/directory_creation.h"
-#include "platform/file_service.h"
-#include "platform/system_version.h"
-#include "platform/text_rules.h"
+#include "platform/services/file_service.h"
+#include "platform/services/system_version.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 

@@ -9,14 +9,14 @@
 
 #include "install/addin_lists.h"
 #include "install/mail_script_installer.h"
-#include "platform/common_module.h"
-#include "platform/file_service.h"
-#include "platform/locations.h"
-#include "platform/panels.h"
-#include "platform/plist_file.h"
-#include "platform/script_runner.h"
-#include "platform/text_rules.h"
-#include "platform/texts.h"
+#include "platform/services/common_module.h"
+#include "platform/services/file_service.h"
+#include "platform/services/locations.h"
+#include "platform/services/panels.h"
+#include "platform/services/plist_file.h"
+#include "platform/services/script_runner.h"
+#include "platform/services/texts.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 

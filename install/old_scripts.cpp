@@ -7,10 +7,10 @@
 
 #include "install/addin_lists.h"
 #include "install/mail_script_installer.h"
-#include "platform/file_service.h"
-#include "platform/panels.h"
-#include "platform/text_rules.h"
-#include "platform/texts.h"
+#include "platform/services/file_service.h"
+#include "platform/services/panels.h"
+#include "platform/services/texts.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 

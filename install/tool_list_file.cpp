@@ -5,11 +5,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/common_module.h"
-#include "platform/file_service.h"
-#include "platform/text_encoding.h"
-#include "platform/text_rules.h"
-#include "platform/user_defaults.h"
+#include "platform/services/common_module.h"
+#include "platform/services/file_service.h"
+#include "platform/services/user_defaults.h"
+#include "platform/text/text_encoding.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 namespace {

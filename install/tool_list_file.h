@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 // The tool-list file, from which the installed Office macros learn which tool a button starts.
 // Eight lines "key=value" with CR LF, Shift_JIS without a byte-order mark, written whole.

@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "app/t_manager_controller.h"
-#include "platform/engine.h"
+#include "platform/services/engine.h"
 #include "qt/dialogs.h"
 #include "qt/panes/mail_pane.h"
 #include "qt/panes/office_pane.h"

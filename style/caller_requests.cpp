@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "style/caller_requests.h"
 
-#include "platform/text_encoding.h"
+#include "platform/text/text_encoding.h"
 
 namespace tarvo {
 

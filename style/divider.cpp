@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "style/divider.h"
 
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 #include "style/style_keys.h"
 
 namespace tarvo {

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "platform/user_defaults.h"
+#include "platform/services/user_defaults.h"
 #include "style/style_file.h"
 #include "style/style_keys.h"
 

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "platform/engine.h"
+#include "platform/services/engine.h"
 
 namespace tarvo {
 

@@ -4,8 +4,8 @@
 
 #include <deque>
 
-#include "platform/controls.h"
-#include "platform/property_list.h"
+#include "platform/controls/controls.h"
+#include "platform/plist/property_list.h"
 
 // Shows a style's options in their pop-ups and writes each change back into the style at once.
 // Duty: the option half of showing and editing a style. Not: dictionaries, or which style is shown.

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <string>
 
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 #include "style/style_keys.h"
 
 namespace tarvo {

@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/controls.h"
-#include "platform/property_list.h"
+#include "platform/controls/controls.h"
+#include "platform/plist/property_list.h"
 
 // The vocabulary of a style's translation options: every key, the values it may take, and the pop-up that edits it.
 // The engine reads keys and values in these spellings; what they mean is the engine's.

@@ -5,8 +5,8 @@
 #include <array>
 #include <utility>
 
-#include "platform/panels.h"
-#include "platform/texts.h"
+#include "platform/services/panels.h"
+#include "platform/services/texts.h"
 
 namespace tarvo {
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "style/sibling_tools.h"
 
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 
 namespace tarvo {
 

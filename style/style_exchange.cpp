@@ -6,12 +6,12 @@
 #include <utility>
 #include <vector>
 
-#include "platform/file_service.h"
-#include "platform/locations.h"
-#include "platform/panels.h"
-#include "platform/plist_file.h"
-#include "platform/plist_writer.h"
-#include "platform/texts.h"
+#include "platform/plist/plist_writer.h"
+#include "platform/services/file_service.h"
+#include "platform/services/locations.h"
+#include "platform/services/panels.h"
+#include "platform/services/plist_file.h"
+#include "platform/services/texts.h"
 #include "style/pane_alerts.h"
 #include "style/style_file.h"
 #include "style/style_keys.h"

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/controls.h"
-#include "platform/windows.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/windows.h"
 
 // Styles as files of their own ("*.whstyle"): a property list whose root is one record of the style file.
 // Duty: check such a file and put it in a style's place; ask where to export and write. Not: showing what came in.

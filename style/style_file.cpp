@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "style/style_file.h"
 
-#include "platform/plist_reader.h"
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_reader.h"
+#include "platform/plist/plist_writer.h"
 #include "style/style_keys.h"
 
 namespace tarvo {

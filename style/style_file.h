@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/plist_file.h"
+#include "platform/services/plist_file.h"
 
 namespace tarvo {
 

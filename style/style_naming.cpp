@@ -5,7 +5,7 @@
 #include <optional>
 #include <utility>
 
-#include "platform/text_rules.h"
+#include "platform/text/text_rules.h"
 #include "style/pane_alerts.h"
 #include "style/process_flags.h"
 #include "style/style_keys.h"

@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "platform/controls.h"
-#include "platform/property_list.h"
-#include "platform/windows.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/windows.h"
+#include "platform/plist/property_list.h"
 
 namespace tarvo {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/engine.h"
+#include "platform/services/engine.h"
 
 namespace tarvo {
 

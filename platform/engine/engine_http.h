@@ -6,8 +6,8 @@
 #include <functional>
 #include <optional>
 
-#include "platform/engine.h"
 #include "platform/engine/style_resource.h"
+#include "platform/services/engine.h"
 
 // The engine's style set on a server, one resource for each user (docs/engine.md).
 // Duty: the four operations within their time. Not: transport (http_client.h), the bytes (style_payload.h).

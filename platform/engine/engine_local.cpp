@@ -11,9 +11,9 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/file_service.h"
-#include "platform/plist_writer.h"
-#include "platform/text_rules.h"
+#include "platform/plist/plist_writer.h"
+#include "platform/services/file_service.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 namespace {

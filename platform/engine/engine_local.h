@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/engine.h"
-#include "platform/plist_file.h"
+#include "platform/services/engine.h"
+#include "platform/services/plist_file.h"
 
 // The engine's style set in a file of this machine: a property list with the array "Style" and the text "Stamp".
 // Duty: keep the set and its stamp; always reachable. Not: translating. A stamp is a counter of fixed width, one more

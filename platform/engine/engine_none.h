@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/engine.h"
+#include "platform/services/engine.h"
 
 namespace tarvo {
 

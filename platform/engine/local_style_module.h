@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/style_module.h"
+#include "platform/services/style_module.h"
 
 namespace tarvo {
 

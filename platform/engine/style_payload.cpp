@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "platform/engine/content_hash.h"
-#include "platform/plist_reader.h"
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_reader.h"
+#include "platform/plist/plist_writer.h"
 
 namespace tarvo {
 namespace {

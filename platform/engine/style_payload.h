@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/engine.h"
+#include "platform/services/engine.h"
 
 // What a style service stores for a user, as bytes: a property list (plist_writer.h) with "Hash", "Revision" and the
 // array "Style", in this order.

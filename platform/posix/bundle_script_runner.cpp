@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "platform/plist_file.h"
+#include "platform/services/plist_file.h"
 
 namespace tarvo {
 namespace {

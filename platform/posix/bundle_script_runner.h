@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/script_runner.h"
+#include "platform/services/script_runner.h"
 
 namespace tarvo {
 

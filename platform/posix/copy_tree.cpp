@@ -15,7 +15,7 @@
 
 #include "platform/posix/attributes.h"
 #include "platform/posix/descriptor.h"
-#include "platform/text_rules.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/file_service.h"
+#include "platform/services/file_service.h"
 
 // Type and creator codes in the extended attribute "user.com.apple.FinderInfo": 32 bytes, the type at 0 and the creator
 // at 4, big-endian; the rest belongs to the desktop and is kept. Source of the layout: struct FileInfo of the Finder

@@ -10,7 +10,7 @@
 #include <cerrno>
 
 #include "platform/posix/descriptor.h"
-#include "platform/text_rules.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 namespace {

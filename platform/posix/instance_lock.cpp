@@ -9,7 +9,7 @@
 #include <cerrno>
 
 #include "platform/posix/folders.h"
-#include "platform/text_rules.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 

@@ -10,7 +10,7 @@
 
 #include "platform/posix/copy_tree.h"
 #include "platform/posix/descriptor.h"
-#include "platform/text_rules.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 namespace {

@@ -8,14 +8,14 @@
 
 #include <algorithm>
 
-#include "platform/locations.h"
 #include "platform/posix/copy_tree.h"
 #include "platform/posix/descriptor.h"
 #include "platform/posix/finder_info.h"
 #include "platform/posix/folders.h"
 #include "platform/posix/keep_unreadable.h"
 #include "platform/posix/replace_file.h"
-#include "platform/text_rules.h"
+#include "platform/services/locations.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 namespace {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/file_service.h"
+#include "platform/services/file_service.h"
 
 // The real disk of a POSIX system. Every path goes through Locations first.
 namespace tarvo {

@@ -7,7 +7,7 @@
 #include <map>
 #include <utility>
 
-#include "platform/run_loop.h"
+#include "platform/services/run_loop.h"
 
 // A run loop without a window system, on the monotonic clock. For one thread.
 namespace tarvo {

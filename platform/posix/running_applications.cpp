@@ -12,9 +12,9 @@
 #include <memory>
 #include <set>
 
-#include "platform/locations.h"
 #include "platform/posix/descriptor.h"
-#include "platform/text_rules.h"
+#include "platform/services/locations.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 namespace {

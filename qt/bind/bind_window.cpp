@@ -4,7 +4,7 @@
 #include <QKeyEvent>
 #include <QWidget>
 
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
 #include "qt/bind/binder.h"
 #include "qt/bind/control_view.h"
 

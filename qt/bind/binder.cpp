@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "qt/bind/binder.h"
 
-#include "platform/bundle.h"
-#include "platform/locations.h"
-#include "platform/texts.h"
+#include "platform/services/bundle.h"
+#include "platform/services/locations.h"
+#include "platform/services/texts.h"
 #include "qt/look/icons.h"
 
 namespace tarvo {

@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/controls.h"
-#include "platform/table_view.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/table_view.h"
 #include "qt/bind/registry.h"
 #include "qt/look/palette.h"
 

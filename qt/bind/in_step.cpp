@@ -15,8 +15,8 @@
 #include <QToolButton>
 
 #include "app/toolbar.h"
-#include "platform/table_view.h"
-#include "platform/windows.h"
+#include "platform/controls/table_view.h"
+#include "platform/controls/windows.h"
 #include "qt/bind/control_view.h"
 #include "qt/bind/image_widget.h"
 #include "qt/bind/registry.h"

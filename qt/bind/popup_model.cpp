@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "qt/bind/popup_model.h"
 
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 #include "qt/bind/binder.h"
 
 namespace tarvo {

@@ -4,7 +4,7 @@
 
 #include <QObject>
 
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 namespace tarvo {
 

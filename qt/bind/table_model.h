@@ -7,7 +7,7 @@
 #include <QString>
 #include <vector>
 
-#include "platform/table_view.h"
+#include "platform/controls/table_view.h"
 
 namespace tarvo {
 

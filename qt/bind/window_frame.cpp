@@ -8,7 +8,7 @@
 #include <QTimer>
 #include <QWidget>
 
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
 
 namespace tarvo {
 namespace {

@@ -7,7 +7,7 @@
 #include <QRect>
 #include <QSize>
 
-#include "platform/geometry.h"
+#include "platform/services/geometry.h"
 
 class QWidget;
 

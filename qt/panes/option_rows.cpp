@@ -9,7 +9,7 @@
 #include <algorithm>
 
 #include "app/window_geometry.h"
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 #include "qt/bind/binder.h"
 #include "qt/bind/form.h"
 #include "qt/look/metrics.h"

@@ -5,7 +5,7 @@
 #include <QFontMetrics>
 #include <algorithm>
 
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 #include "qt/bind/binder.h"
 #include "qt/look/metrics.h"
 

@@ -5,7 +5,7 @@
 #include <QObject>
 #include <map>
 
-#include "platform/run_loop.h"
+#include "platform/services/run_loop.h"
 
 class QTimer;
 

@@ -7,9 +7,9 @@
 #include <QUrl>
 #include <utility>
 
-#include "platform/application_program.h"
-#include "platform/locations.h"
-#include "platform/product_paths.h"
+#include "platform/services/application_program.h"
+#include "platform/services/locations.h"
+#include "platform/services/product_paths.h"
 
 namespace tarvo {
 

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "platform/workspace.h"
+#include "platform/services/workspace.h"
 
 namespace tarvo {
 

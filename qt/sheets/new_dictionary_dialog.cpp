@@ -8,7 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
 #include "qt/bind/binder.h"
 #include "qt/look/fonts.h"
 #include "qt/look/metrics.h"

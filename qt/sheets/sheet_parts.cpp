@@ -7,7 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
 #include "qt/bind/binder.h"
 #include "qt/look/fonts.h"
 

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "platform/panels.h"
+#include "platform/services/panels.h"
 
 class QWidget;
 

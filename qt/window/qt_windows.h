@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
 #include "qt/bind/binder.h"
 
 class QDialog;

@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QLineEdit>
 
-#include "platform/text_rules.h"
+#include "platform/text/text_rules.h"
 #include "qt/bind/binder.h"
 #include "qt/window/file_panel.h"
 

@@ -4,7 +4,7 @@
 
 #include <QFileDialog>
 
-#include "platform/panels.h"
+#include "platform/services/panels.h"
 
 namespace tarvo {
 

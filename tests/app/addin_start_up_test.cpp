@@ -6,8 +6,8 @@
 
 #include "app/operations.h"
 #include "install/addin_entry.h"
-#include "platform/file_service.h"
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_writer.h"
+#include "platform/services/file_service.h"
 #include "tests/support/sample_styles.h"
 #include "tests/support/test_program.h"
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_writer.h"
 #include "tests/support/sample_styles.h"
 #include "tests/support/test_program.h"
 

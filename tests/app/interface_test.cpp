@@ -12,7 +12,7 @@
 #include <set>
 #include <sstream>
 
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 #include "tests/app/controls_page.h"
 #include "tests/support/test_program.h"
 

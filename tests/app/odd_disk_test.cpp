@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_writer.h"
 #include "style/style_keys.h"
 #include "tests/support/sample_styles.h"
 #include "tests/support/test_program.h"

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "app/operations.h"
-#include "platform/plist_writer.h"
-#include "platform/style_module.h"
+#include "platform/plist/plist_writer.h"
+#include "platform/services/style_module.h"
 #include "style/style_keys.h"
 #include "tests/support/sample_styles.h"
 #include "tests/support/test_program.h"

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_writer.h"
 #include "tests/style/exchange_world.h"
 #include "tests/support/faulty_files.h"
 #include "tests/support/sample_styles.h"

@@ -23,17 +23,23 @@ Names with(Names some, const Names& more) {
 
 // The longest folder that holds a file is its room.
 const std::vector<Room>& rooms() {
-  static const Names core = {"platform", "style", "dict", "install", "app"};
+  static const Names platform = {"platform/text", "platform/plist", "platform/services", "platform/controls"};
+  static const Names core = with(platform, {"style", "dict", "install", "app"});
   static const Names drawn = with(core, {"qt/look", "qt/bind"});
   static const std::vector<Room> all = {
-      {"platform", {}},
-      {"platform/posix", {"platform"}},
-      {"platform/engine", {"platform"}},
-      {"style", {"platform"}},
-      {"dict", {"platform", "style"}},
-      {"install", {"platform"}},
-      {"app", {"platform", "style", "dict", "install"}},
-      {"console", core},
+      {"platform/text", {}},
+      {"platform/plist", {"platform/text"}},
+      {"platform/services", {"platform/text", "platform/plist"}},
+      {"platform/controls", {"platform/text", "platform/plist", "platform/services"}},
+      {"platform/posix", {"platform/text", "platform/plist", "platform/services"}},
+      {"platform/engine", {"platform/text", "platform/plist", "platform/services"}},
+      {"style", platform},
+      {"dict", with(platform, {"style"})},
+      {"install", platform},
+      {"app", with(platform, {"style", "dict", "install"})},
+      {"console/script", core},
+      {"console/verbs", with(core, {"console/script"})},
+      {"console", with(core, {"console/script", "console/verbs"})},
       {"qt/look", core},
       {"qt/services", core},
       {"qt/bind", with(core, {"qt/look"})},
@@ -67,7 +73,7 @@ const Room* roomOf(std::string_view path) {
 
 bool inCore(std::string_view path) {
   const Room* room = roomOf(path);
-  return room != nullptr && room->folder != "console" && !room->folder.starts_with("qt");
+  return room != nullptr && !room->folder.starts_with("console") && !room->folder.starts_with("qt");
 }
 
 std::string at(const std::string& path, const Include& include) {

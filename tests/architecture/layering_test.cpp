@@ -31,8 +31,8 @@ const SourceTree& project() {
 
 TEST(Layering, theProjectIsRead) {
   EXPECT_GT(project().size(), 50U);
-  ASSERT_TRUE(project().contains("platform/controls.h"));
-  EXPECT_FALSE(project().at("platform/controls.h").empty());
+  ASSERT_TRUE(project().contains("platform/controls/controls.h"));
+  EXPECT_FALSE(project().at("platform/controls/controls.h").empty());
 }
 
 TEST(Layering, noArrowRunsUpOrSideways) { EXPECT_EQ(joined(faultyArrows(project())), ""); }
@@ -61,19 +61,22 @@ TEST_P(Arrows, isJudged) {
 
 INSTANTIATE_TEST_SUITE_P(
     Down, Arrows,
-    testing::Values(Arrow{"style/a.cpp", "platform/b.h", true}, Arrow{"dict/a.cpp", "style/b.h", true},
-                    Arrow{"install/a.cpp", "platform/b.h", true}, Arrow{"app/a.cpp", "install/b.h", true},
-                    Arrow{"console/a.cpp", "app/b.h", true}, Arrow{"qt/panes/a.cpp", "qt/bind/b.h", true},
-                    Arrow{"qt/bind/a.cpp", "qt/look/b.h", true}, Arrow{"qt/shell.cpp", "qt/window/b.h", true},
-                    Arrow{"platform/posix/a.cpp", "platform/b.h", true},
-                    Arrow{"app/product.cpp", "platform/posix/b.h", true},
-                    Arrow{"qt/main.cpp", "platform/engine/b.h", true},
-                    Arrow{"tests/style/a_test.cpp", "qt/panes/b.h", true}));
+    testing::Values(
+        Arrow{"style/a.cpp", "platform/services/b.h", true}, Arrow{"dict/a.cpp", "style/b.h", true},
+        Arrow{"install/a.cpp", "platform/services/b.h", true}, Arrow{"app/a.cpp", "install/b.h", true},
+        Arrow{"console/verbs/a.cpp", "app/b.h", true}, Arrow{"console/verbs/a.cpp", "console/script/b.h", true},
+        Arrow{"platform/controls/a.cpp", "platform/plist/b.h", true}, Arrow{"qt/panes/a.cpp", "qt/bind/b.h", true},
+        Arrow{"qt/bind/a.cpp", "qt/look/b.h", true}, Arrow{"qt/shell.cpp", "qt/window/b.h", true},
+        Arrow{"platform/posix/a.cpp", "platform/services/b.h", true},
+        Arrow{"app/product.cpp", "platform/posix/b.h", true}, Arrow{"qt/main.cpp", "platform/engine/b.h", true},
+        Arrow{"tests/style/a_test.cpp", "qt/panes/b.h", true}));
 
 INSTANTIATE_TEST_SUITE_P(
     Up, Arrows,
-    testing::Values(Arrow{"platform/a.h", "style/b.h", false}, Arrow{"style/a.cpp", "dict/b.h", false},
-                    Arrow{"dict/a.cpp", "app/b.h", false}, Arrow{"install/a.cpp", "app/b.h", false},
+    testing::Values(Arrow{"platform/text/a.h", "style/b.h", false}, Arrow{"style/a.cpp", "dict/b.h", false},
+                    Arrow{"dict/a.cpp", "app/b.h", false}, Arrow{"platform/text/a.cpp", "platform/plist/b.h", false},
+                    Arrow{"platform/services/a.h", "platform/controls/b.h", false},
+                    Arrow{"console/script/a.cpp", "console/verbs/b.h", false}, Arrow{"install/a.cpp", "app/b.h", false},
                     Arrow{"app/a.cpp", "qt/window/b.h", false}, Arrow{"app/a.cpp", "console/b.h", false},
                     Arrow{"qt/look/a.cpp", "qt/bind/b.h", false}, Arrow{"qt/bind/a.cpp", "qt/panes/b.h", false},
                     Arrow{"qt/window/a.cpp", "qt/shell.h", false}, Arrow{"qt/shell.cpp", "tests/support/b.h", false}));
@@ -85,7 +88,7 @@ INSTANTIATE_TEST_SUITE_P(Sideways, Arrows,
                                          Arrow{"console/a.cpp", "qt/b.h", false},
                                          Arrow{"qt/panes/a.cpp", "qt/sheets/b.h", false},
                                          Arrow{"platform/posix/a.cpp", "platform/engine/b.h", false},
-                                         Arrow{"platform/a.cpp", "platform/posix/b.h", false},
+                                         Arrow{"platform/services/a.cpp", "platform/posix/b.h", false},
                                          Arrow{"app/program.cpp", "platform/posix/b.h", false},
                                          Arrow{"style/a.cpp", "platform/engine/b.h", false}));
 
@@ -124,9 +127,9 @@ TEST(Layering, aHeaderOfTheCoreMayIncludeTheStandardLibraryAlone) {
 }
 
 TEST(Layering, aSecondFileOfALibraryIsAFault) {
-  const auto found = faults(spreadLibraries, {{"platform/a.cpp", "#include <expat.h>\n"},
+  const auto found = faults(spreadLibraries, {{"platform/text/a.cpp", "#include <expat.h>\n"},
                                               {"style/b.cpp", "#include <expat.h>\n#include <unicode/uchar.h>\n"}});
-  EXPECT_EQ(joined(found), "style/b.cpp:1: <expat.h> belongs to platform/a.cpp alone\n");
+  EXPECT_EQ(joined(found), "style/b.cpp:1: <expat.h> belongs to platform/text/a.cpp alone\n");
 }
 
 TEST(Layering, theToolkitStaysInItsFolder) {

@@ -83,8 +83,8 @@ class Code(unittest.TestCase):
         for gesture in lint.GESTURES.split("|"):
             self.fires("qt/panes/style_pane.cpp", f"  button.user{gesture}();", "gesture")
         self.fires("app/app_controller.cpp", "  popup.userChoose(2);", "gesture")
-        self.fires("console/style_commands.cpp", "  popup->userChoose (2);", "gesture")
-        for place in ("qt/bind/bind_popup.cpp", "console/memory_hand.cpp", "tests/style/x_test.cpp", "platform/controls.cpp"):
+        self.fires("console/verbs/style_commands.cpp", "  popup->userChoose (2);", "gesture")
+        for place in ("qt/bind/bind_popup.cpp", "console/script/memory_hand.cpp", "tests/style/x_test.cpp", "platform/controls/controls.cpp"):
             self.passes(place, "  popup.userChoose(2);")
         self.passes("app/app_controller.cpp", "// a binder calls userChoose(index) then")
 

@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "install/mail_script_installer.h"
-#include "platform/bundle.h"
-#include "platform/locations.h"
 #include "platform/posix/posix_files.h"
+#include "platform/services/bundle.h"
+#include "platform/services/locations.h"
 #include "tests/bench/timing.h"
 
 // Installing and removing a folder of scripts against the system's own commands: addin_bench RESOURCES PLACE COUNT

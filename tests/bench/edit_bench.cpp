@@ -8,8 +8,8 @@
 
 #include "app/product.h"
 #include "app/program.h"
-#include "platform/engine.h"
 #include "platform/posix/posix_run_loop.h"
+#include "platform/services/engine.h"
 #include "tests/bench/bare_replace.h"
 #include "tests/bench/changed_files.h"
 #include "tests/bench/quiet_shell.h"

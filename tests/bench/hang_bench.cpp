@@ -11,9 +11,9 @@
 #include <thread>
 
 #include "platform/engine/style_payload.h"
-#include "platform/plist_file.h"
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_writer.h"
 #include "platform/posix/posix_run_loop.h"
+#include "platform/services/plist_file.h"
 #include "qt/look/tarvo_style.h"
 #include "qt/shell.h"
 #include "style/style_keys.h"

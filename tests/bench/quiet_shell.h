@@ -4,9 +4,9 @@
 
 #include <stdexcept>
 
-#include "platform/panels.h"
-#include "platform/windows.h"
-#include "platform/workspace.h"
+#include "platform/controls/windows.h"
+#include "platform/services/panels.h"
+#include "platform/services/workspace.h"
 
 // A shell that shows nothing, so that only the program's own work is measured. An alert ends the measurement: what
 // follows it would be no usual edit.

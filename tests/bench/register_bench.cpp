@@ -8,8 +8,8 @@
 #include <stdexcept>
 
 #include "platform/engine/engine_http.h"
-#include "platform/plist_reader.h"
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_reader.h"
+#include "platform/plist/plist_writer.h"
 #include "tests/bench/timing.h"
 
 // What an edit adds for a style service, against the least that would move the same bytes: register_bench ADDRESS

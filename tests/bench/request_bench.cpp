@@ -9,7 +9,7 @@
 #include <iostream>
 #include <stdexcept>
 
-#include "platform/notification_center.h"
+#include "platform/services/notification_center.h"
 #include "qt/look/tarvo_style.h"
 #include "qt/shell.h"
 #include "tests/bench/bare_replace.h"

@@ -8,8 +8,8 @@
 
 #include "app/product.h"
 #include "app/program.h"
-#include "platform/engine.h"
 #include "platform/posix/posix_run_loop.h"
+#include "platform/services/engine.h"
 #include "tests/bench/quiet_shell.h"
 #include "tests/support/faulty_files.h"
 

@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "console/recorder.h"
+#include "console/script/recorder.h"
 
 #include <gtest/gtest.h>
 
-#include "console/manual_run_loop.h"
-#include "console/memory_shell.h"
-#include "console/scripted_engine.h"
-#include "console/scripted_panels.h"
+#include "console/script/manual_run_loop.h"
+#include "console/script/memory_shell.h"
+#include "console/script/scripted_engine.h"
+#include "console/script/scripted_panels.h"
+#include "platform/controls/windows.h"
 #include "platform/posix/posix_files.h"
-#include "platform/windows.h"
 #include "tests/support/temporary_folder.h"
 
 // The surroundings of a scenario, one by one.

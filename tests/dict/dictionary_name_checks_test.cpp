@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "dict/new_dictionary_request.h"
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 #include "tests/dict/dictionary_world.h"
 #include "tests/support/fake_shell.h"
 

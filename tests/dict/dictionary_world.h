@@ -10,12 +10,12 @@
 #include <vector>
 
 #include "dict/dict_controller.h"
-#include "platform/bundle.h"
-#include "platform/file_service.h"
-#include "platform/locations.h"
 #include "platform/posix/posix_files.h"
-#include "platform/product_paths.h"
-#include "platform/texts.h"
+#include "platform/services/bundle.h"
+#include "platform/services/file_service.h"
+#include "platform/services/locations.h"
+#include "platform/services/product_paths.h"
+#include "platform/services/texts.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tarvo::test {

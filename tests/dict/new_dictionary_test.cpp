@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/text_rules.h"
+#include "platform/text/text_rules.h"
 #include "tests/dict/list_buttons.h"
 #include "tests/dict/picker_world.h"
 #include "tests/support/memory_files.h"

@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/locations.h"
-#include "platform/product_paths.h"
+#include "platform/services/locations.h"
+#include "platform/services/product_paths.h"
 #include "tests/support/fake_shell.h"
 
 namespace tarvo::test {

@@ -4,10 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/notification_center.h"
-#include "platform/plist_reader.h"
-#include "platform/texts.h"
-#include "platform/user_defaults.h"
+#include "platform/plist/plist_reader.h"
+#include "platform/services/notification_center.h"
+#include "platform/services/texts.h"
+#include "platform/services/user_defaults.h"
 #include "tests/support/fake_shell.h"
 #include "tests/support/memory_files.h"
 

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "platform/locations.h"
 #include "platform/posix/posix_files.h"
+#include "platform/services/locations.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tarvo::test {

@@ -6,10 +6,10 @@
 
 #include <optional>
 
-#include "platform/bundle.h"
-#include "platform/locations.h"
-#include "platform/product_paths.h"
-#include "platform/texts.h"
+#include "platform/services/bundle.h"
+#include "platform/services/locations.h"
+#include "platform/services/product_paths.h"
+#include "platform/services/texts.h"
 #include "tests/support/fake_shell.h"
 #include "tests/support/memory_files.h"
 

@@ -6,9 +6,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/bundle.h"
-#include "platform/locations.h"
 #include "platform/posix/posix_files.h"
+#include "platform/services/bundle.h"
+#include "platform/services/locations.h"
 #include "tests/install/addin_world.h"
 #include "tests/support/temporary_folder.h"
 

@@ -6,9 +6,9 @@
 #include "install/addin_diagnosis.h"
 #include "install/office_folder_search.h"
 #include "install/old_scripts.h"
-#include "platform/common_module.h"
-#include "platform/product_paths.h"
-#include "platform/script_runner.h"
+#include "platform/services/common_module.h"
+#include "platform/services/product_paths.h"
+#include "platform/services/script_runner.h"
 #include "tests/install/addin_world.h"
 
 // Lists of applications as no product ships them and no run leaves them: other kinds, missing keys, odd names. Whatever

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "install/office_folder_search.h"
 
-#include "platform/common_module.h"
-#include "platform/product_paths.h"
-#include "platform/script_runner.h"
+#include "platform/services/common_module.h"
+#include "platform/services/product_paths.h"
+#include "platform/services/script_runner.h"
 #include "tests/install/addin_world.h"
 
 namespace tarvo::test {

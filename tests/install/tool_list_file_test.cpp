@@ -10,11 +10,11 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "platform/common_module.h"
-#include "platform/locations.h"
 #include "platform/posix/posix_files.h"
-#include "platform/product_paths.h"
-#include "platform/user_defaults.h"
+#include "platform/services/common_module.h"
+#include "platform/services/locations.h"
+#include "platform/services/product_paths.h"
+#include "platform/services/user_defaults.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tarvo::test {

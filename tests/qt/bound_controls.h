@@ -5,9 +5,9 @@
 #include <QWidget>
 
 #include "app/product.h"
-#include "platform/controls.h"
-#include "platform/table_view.h"
-#include "platform/windows.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/table_view.h"
+#include "platform/controls/windows.h"
 #include "qt/bind/binder.h"
 #include "tests/support/temporary_folder.h"
 

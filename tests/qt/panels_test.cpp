@@ -11,8 +11,8 @@
 #include <QTimer>
 #include <QTreeView>
 
-#include "platform/outlets.h"
-#include "platform/windows.h"
+#include "platform/controls/outlets.h"
+#include "platform/controls/windows.h"
 #include "qt/window/alert_dialog.h"
 #include "qt/window/qt_panels.h"
 #include "qt/window/save_sheet.h"

@@ -19,7 +19,7 @@
 #include <QToolButton>
 
 #include "app/toolbar.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
 #include "qt/bind/binder.h"
 #include "qt/bind/in_step.h"
 #include "qt/bind/segments_widget.h"

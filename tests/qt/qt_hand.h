@@ -4,7 +4,7 @@
 
 #include <QPoint>
 
-#include "console/hand.h"
+#include "console/script/hand.h"
 
 class QWidget;
 

@@ -8,7 +8,7 @@
 #include <QTest>
 
 #include "app/program.h"
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 #include "qt/dialogs.h"
 #include "qt/shell.h"
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <optional>
 
-#include "console/scenario_shell.h"
+#include "console/script/scenario_shell.h"
 #include "qt/bind/binder.h"
 #include "qt/window/qt_panels.h"
 #include "qt/window/qt_windows.h"

@@ -5,7 +5,7 @@
 #include <iostream>
 #include <sstream>
 
-#include "console/manual_run_loop.h"
+#include "console/script/manual_run_loop.h"
 #include "tests/qt/qt_scenario_shell.h"
 #include "tests/qt/script_run.h"
 #include "tests/soak/list_edits.h"

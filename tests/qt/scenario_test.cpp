@@ -5,9 +5,9 @@
 #include <fstream>
 #include <sstream>
 
-#include "console/interpreter.h"
-#include "console/manual_run_loop.h"
-#include "console/scenario_session.h"
+#include "console/script/interpreter.h"
+#include "console/script/manual_run_loop.h"
+#include "console/script/scenario_session.h"
 #include "tests/qt/qt_scenario_shell.h"
 #include "tests/qt/script_run.h"
 #include "tests/support/scenario_files.h"

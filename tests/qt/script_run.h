@@ -6,7 +6,7 @@
 #include <QDialog>
 #include <QEventLoop>
 
-#include "console/interpreter.h"
+#include "console/script/interpreter.h"
 
 namespace tarvo::test {
 

@@ -9,9 +9,9 @@
 #include <QThread>
 #include <memory>
 
-#include "platform/plist_reader.h"
+#include "platform/plist/plist_reader.h"
+#include "platform/plist/property_list.h"
 #include "platform/posix/instance_lock.h"
-#include "platform/property_list.h"
 #include "qt/services/bus_probe.h"
 #include "tests/qt/hanging_bus.h"
 #include "tests/qt/private_bus.h"

@@ -8,9 +8,9 @@
 #include <memory>
 
 #include "app/product_defaults.h"
-#include "platform/locations.h"
 #include "platform/posix/posix_files.h"
-#include "platform/product_paths.h"
+#include "platform/services/locations.h"
+#include "platform/services/product_paths.h"
 #include "qt/command_line.h"
 #include "qt/services/qt_run_loop.h"
 #include "qt/services/qt_workspace.h"

@@ -9,8 +9,8 @@
 #include <optional>
 
 #include "app/app_controller.h"
-#include "platform/plist_file.h"
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_writer.h"
+#include "platform/services/plist_file.h"
 #include "qt/bind/in_step.h"
 #include "qt/shell.h"
 #include "qt/window/main_window.h"

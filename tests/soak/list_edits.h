@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "console/hand.h"
-#include "console/scenario_session.h"
-#include "platform/property_list.h"
+#include "console/script/hand.h"
+#include "console/script/scenario_session.h"
+#include "platform/plist/property_list.h"
 #include "tests/soak/plain_lists.h"
 #include "tests/support/temporary_folder.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
 #include "app/program.h"
-#include "console/memory_windows.h"
+#include "console/script/memory_windows.h"
 #include "tests/soak/list_edits.h"
 
 // Edits by hand.

@@ -7,11 +7,11 @@
 #include <sstream>
 
 #include "app/program.h"
-#include "console/manual_run_loop.h"
-#include "console/memory_shell.h"
-#include "console/run_script.h"
-#include "console/scenario_session.h"
-#include "platform/plist_file.h"
+#include "console/script/manual_run_loop.h"
+#include "console/script/memory_shell.h"
+#include "console/script/run_script.h"
+#include "console/script/scenario_session.h"
+#include "platform/services/plist_file.h"
 #include "tests/soak/list_edits.h"
 #include "tests/support/shell.h"
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "console/json.h"
+#include "platform/plist/json.h"
 #include "tests/soak/list_edits.h"
 
 // Edits as lines of a script, which every shell can run.

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_writer.h"
 #include "style/style_keys.h"
 #include "tests/soak/list_edits.h"
 

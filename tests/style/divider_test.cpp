@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 
 namespace tarvo {
 namespace {

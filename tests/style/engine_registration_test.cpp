@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/plist_reader.h"
-#include "platform/plist_writer.h"
-#include "platform/user_defaults.h"
+#include "platform/plist/plist_reader.h"
+#include "platform/plist/plist_writer.h"
+#include "platform/services/user_defaults.h"
 #include "style/style_store.h"
 #include "tests/support/fake_shell.h"
 #include "tests/support/memory_files.h"

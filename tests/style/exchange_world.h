@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/locations.h"
-#include "platform/plist_writer.h"
-#include "platform/texts.h"
-#include "platform/user_defaults.h"
+#include "platform/plist/plist_writer.h"
+#include "platform/services/locations.h"
+#include "platform/services/texts.h"
+#include "platform/services/user_defaults.h"
 #include "style/pane_alerts.h"
 #include "style/style_exchange.h"
 #include "style/style_store.h"

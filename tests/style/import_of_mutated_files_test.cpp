@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "platform/plist_reader.h"
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_reader.h"
+#include "platform/plist/plist_writer.h"
 #include "tests/style/exchange_world.h"
 #include "tests/style/mutated_files.h"
 #include "tests/style/random_styles.h"

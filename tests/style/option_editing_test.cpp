@@ -4,10 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/locations.h"
 #include "platform/posix/posix_files.h"
-#include "platform/texts.h"
-#include "platform/user_defaults.h"
+#include "platform/services/locations.h"
+#include "platform/services/texts.h"
+#include "platform/services/user_defaults.h"
 #include "style/option_table.h"
 #include "style/style_store.h"
 #include "tests/support/fake_shell.h"

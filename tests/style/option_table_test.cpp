@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 
 namespace tarvo {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/texts.h"
+#include "platform/services/texts.h"
 #include "tests/support/fake_shell.h"
 
 namespace tarvo::test {

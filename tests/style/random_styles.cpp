@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "platform/plist_numbers.h"
+#include "platform/plist/plist_numbers.h"
 #include "style/option_table.h"
 
 namespace tarvo::test {

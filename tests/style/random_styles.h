@@ -5,7 +5,7 @@
 #include <random>
 #include <string>
 
-#include "platform/property_list.h"
+#include "platform/plist/property_list.h"
 
 namespace tarvo::test {
 

@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/property_list.h"
-#include "platform/texts.h"
+#include "platform/plist/property_list.h"
+#include "platform/services/texts.h"
 
 namespace tarvo {
 namespace {

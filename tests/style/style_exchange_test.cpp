@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/plist_reader.h"
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_reader.h"
+#include "platform/plist/plist_writer.h"
 #include "tests/style/exchange_world.h"
 #include "tests/support/sample_styles.h"
 

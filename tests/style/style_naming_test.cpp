@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/plist_writer.h"
-#include "platform/texts.h"
-#include "platform/user_defaults.h"
+#include "platform/plist/plist_writer.h"
+#include "platform/services/texts.h"
+#include "platform/services/user_defaults.h"
 #include "style/pane_alerts.h"
 #include "style/process_flags.h"
 #include "style/style_store.h"

@@ -6,11 +6,11 @@
 
 #include <random>
 
-#include "platform/locations.h"
-#include "platform/plist_reader.h"
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_reader.h"
+#include "platform/plist/plist_writer.h"
 #include "platform/posix/posix_files.h"
-#include "platform/user_defaults.h"
+#include "platform/services/locations.h"
+#include "platform/services/user_defaults.h"
 #include "tests/support/fake_shell.h"
 #include "tests/support/sample_styles.h"
 #include "tests/support/temporary_folder.h"

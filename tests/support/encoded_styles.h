@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/engine.h"
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_writer.h"
+#include "platform/services/engine.h"
 
 namespace tarvo::test {
 

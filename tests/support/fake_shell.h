@@ -11,12 +11,12 @@
 #include <vector>
 
 #include "app/window_geometry.h"
-#include "platform/engine.h"
-#include "platform/panels.h"
-#include "platform/run_loop.h"
-#include "platform/style_module.h"
-#include "platform/windows.h"
-#include "platform/workspace.h"
+#include "platform/controls/windows.h"
+#include "platform/services/engine.h"
+#include "platform/services/panels.h"
+#include "platform/services/run_loop.h"
+#include "platform/services/style_module.h"
+#include "platform/services/workspace.h"
 
 // A shell and an engine that only note what they are asked, one word a call, in the order of the calls.
 namespace tarvo::test {

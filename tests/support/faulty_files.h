@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/file_service.h"
+#include "platform/services/file_service.h"
 
 // A real disk on which one chosen operation goes wrong. Only what makes, copies, removes and lists is counted; what
 // merely looks is passed on.

@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "platform/text_rules.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo::test {
 

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/file_service.h"
+#include "platform/services/file_service.h"
 
 // A disk in memory, for tests that need no real one: what lies where is set up and looked at directly, and any
 // operation can be made to fail. Not: links, modes, owners, attributes other than the two codes.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/property_list.h"
+#include "platform/plist/property_list.h"
 
 namespace tarvo::test {
 

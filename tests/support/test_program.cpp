@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/test_program.h"
 
-#include "platform/locations.h"
-#include "platform/plist_reader.h"
-#include "platform/plist_writer.h"
+#include "platform/plist/plist_reader.h"
+#include "platform/plist/plist_writer.h"
+#include "platform/services/locations.h"
 
 namespace tarvo::test {
 

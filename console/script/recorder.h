@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/plist/json.h"
+#include "platform/services/engine.h"
+#include "platform/services/file_service.h"
+#include "platform/services/locations.h"
+#include "platform/services/script_runner.h"
+#include "platform/services/workspace.h"
+
+// The log of a scenario: what the program did, in the order in which it happened. Everything that the log holds comes
+// from here.
+namespace tarvo {
+
+class Program;
+
+class Recorder {
+ public:
+  explicit Recorder(const Locations& locations) : locations_(locations) {}
+  void note(Json::Object event);
+  // The events since the last call.
+  std::vector<Json> take();
+  // Paths as the log shows them.
+  std::string shown(const std::string& path) const { return locations_.shown(path); }
+  // Attaches itself to what a program tells: settings, notifications, windows.
+  void observe(Program& program);
+  // While it is off nothing is noted: the script acts, not the program.
+  void setOn(bool on) { on_ = on; }
+
+ private:
+  void observeWindows(Program& program);
+  const Locations& locations_;
+  std::vector<Json> events_;
+  bool on_ = true;
+};
+
+// Files as the program sees them: notes writes, and refuses what the script says.
+class RecordedFiles : public FileService {
+ public:
+  enum class Operation { write, copy, remove, make, list };
+  RecordedFiles(FileService& disk, Recorder& recorder) : disk_(disk), recorder_(recorder) {}
+  // How the log names a file; "" leaves its writes out of the log.
+  void name(const std::string& path, std::string name) { names_[path] = std::move(name); }
+  // Makes such operations at and below the path fail.
+  void refuse(Operation operation, const std::string& path) { refused_.push_back({operation, path}); }
+  void allow() { refused_.clear(); }
+
+  Kind kind(const std::string& path) const override { return disk_.kind(path); }
+  bool isLink(const std::string& path) const override { return disk_.isLink(path); }
+  bool isWritable(const std::string& folder) const override { return disk_.isWritable(folder); }
+  std::optional<std::string> read(const std::string& path) const override { return disk_.read(path); }
+  bool write(const std::string& path, std::string_view bytes) override;
+  bool keepUnreadable(const std::string& path) override;
+  std::optional<std::vector<std::string>> list(const std::string& folder) const override;
+  bool makeFolder(const std::string& path) override;
+  bool copy(const std::string& from, const std::string& to) override;
+  bool remove(const std::string& path) override;
+  bool removeEmptyFolder(const std::string& path) override;
+  FourCharCode typeCode(const std::string& path) const override { return disk_.typeCode(path); }
+  bool setCodes(const std::string& path, FourCharCode type, FourCharCode creator) override {
+    return disk_.setCodes(path, type, creator);
+  }
+
+ private:
+  bool isRefused(Operation operation, const std::string& path) const;
+  void noteWrite(const std::string& path, bool written);
+  struct Refusal {
+    Operation operation;
+    std::string path;
+  };
+  FileService& disk_;
+  Recorder& recorder_;
+  std::map<std::string, std::string> names_;
+  std::vector<Refusal> refused_;
+};
+
+// An engine whose calls are noted.
+class RecordedEngine : public Engine {
+ public:
+  RecordedEngine(Engine& engine, Recorder& recorder) : engine_(engine), recorder_(recorder) {}
+  bool checkConnectionWithCurl() override;
+  void sendRegistStyle(const StyleSet& styles, std::string& updateString) override;
+  bool checkStyle() override;
+  bool requestStyle(Array& styles, std::string& localUpdate) override;
+
+ private:
+  Engine& engine_;
+  Recorder& recorder_;
+};
+
+// A script service whose scripts are noted.
+class RecordedScripts : public ScriptRunner {
+ public:
+  RecordedScripts(ScriptRunner& scripts, Recorder& recorder) : scripts_(scripts), recorder_(recorder) {}
+  std::optional<std::string> runScript(const std::string& source) override {
+    recorder_.note({{"script", source}});
+    return scripts_.runScript(source);
+  }
+
+ private:
+  ScriptRunner& scripts_;
+  Recorder& recorder_;
+};
+
+// A desktop that only notes what it is asked for.
+class RecordedWorkspace : public Workspace {
+ public:
+  explicit RecordedWorkspace(Recorder& recorder) : recorder_(recorder) {}
+  std::vector<std::string> running;  // what launchedApplications answers
+  void openFile(const std::string& path) override { recorder_.note({{"opened", recorder_.shown(path)}}); }
+  void openAddress(const std::string& address) override { recorder_.note({{"address", address}}); }
+  void launchApplication(const std::string& name) override { recorder_.note({{"launched", name}}); }
+  std::vector<std::string> launchedApplications() override { return running; }
+
+ private:
+  Recorder& recorder_;
+};
+
+}  // namespace tarvo

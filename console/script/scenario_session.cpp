@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "console/script/scenario_session.h"
+
+#include "app/program.h"
+#include "console/script/script_error.h"
+#include "platform/text/text_rules.h"
+#include "style/style_keys.h"
+
+namespace tarvo {
+
+ScenarioSession::ScenarioSession(const ScenarioOptions& options, ScenarioShell& shell, ScenarioClock& clock)
+    : product_(options.product),
+      shell_(shell),
+      clock_(clock),
+      folder_(options.folder),
+      takeLock_(options.takeLock),
+      recorder_(product_.locations()),
+      files_(product_.files(), recorder_),
+      configured_(options.product.engine ? product_.makeEngine(files_) : nullptr),
+      engine_(configured_ ? *configured_ : scripted_, recorder_),
+      panels_(recorder_, shell),
+      workspace_(recorder_),
+      scripts_(product_.scripts(), recorder_),
+      usesConfigured_(options.product.engine.has_value()) {
+  product_.locations().leaveAsIs(folder_);
+  files_.name(product_.locations().inHome(std::string(gStylePath)), "styles");
+  files_.name(toolListPath(product_.locations()), "tool list");
+  files_.name(userDefaultsPath(product_.locations()), "");
+  files_.name(product_.paths().localEnginePath(), "");
+}
+
+ScenarioSession::~ScenarioSession() { drop(); }
+
+ScriptedEngine& ScenarioSession::engine() {
+  if (usesConfigured_) throw ScriptError("the engine is not the scripted one");
+  return scripted_;
+}
+
+Program& ScenarioSession::program() {
+  if (!program_) throw ScriptError("no program runs");
+  return *program_;
+}
+
+void ScenarioSession::takeLock() {
+  const Locations& locations = product_.locations();
+  lockedOut_ = takeLock_ && !takeLock_(locations.resolve(lockPath(locations)));
+  if (lockedOut_) throw ScriptError("another manager works on these files");
+  takeLock_ = {};
+}
+
+void ScenarioSession::start() {
+  drop();
+  takeLock();
+  program_ = std::make_unique<Program>(
+      product_.services(files_, engine_, clock_, panels_, shell_.windowHost(), workspace_, &scripts_));
+  phase_ = Phase::running;
+  recorder_.observe(*program_);
+  program_->didTerminate = [this] {
+    recorder_.note({{"terminated", true}});
+    panels_.dropSavePanel();
+    phase_ = Phase::terminated;
+  };
+  shell_.programMade(*program_);
+  if (!program_->construct()) return;
+  constructed_ = true;
+  shell_.programConstructed(*program_);
+  if (program_->load()) program_->launch();
+}
+
+void ScenarioSession::drop() {
+  if (!program_) return;
+  panels_.dropSavePanel();
+  shell_.programEnds(*program_);
+  constructed_ = false;
+  program_.reset();
+}
+
+void ScenarioSession::kill() {
+  if (program().windows().modalWindow() != nullptr) throw ScriptError("a modal window is up");
+  drop();
+  phase_ = Phase::none;
+}
+
+std::string ScenarioSession::path(const std::string& text) {
+  if (text.starts_with("root:/")) return text.substr(5);
+  if (text.starts_with("home:/")) return product_.locations().inHome(text.substr(6));
+  return isAbsolutePath(text) ? text : joinPath(folder_, text);
+}
+
+}  // namespace tarvo

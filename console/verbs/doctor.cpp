@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "console/verbs/doctor.h"
+
+#include <array>
+#include <vector>
+
+#include "app/product.h"
+#include "app/program.h"
+#include "console/verbs/doctor_addins.h"
+#include "console/verbs/text_table.h"
+#include "dict/dict_controller.h"
+#include "platform/plist/json.h"
+#include "platform/plist/plist_reader.h"
+#include "platform/services/engine.h"
+#include "platform/services/file_service.h"
+#include "platform/services/system_version.h"
+#include "platform/text/text_rules.h"
+#include "style/style_keys.h"
+
+namespace tarvo {
+
+namespace {
+
+using Kind = FileService::Kind;
+
+class Examination {
+ public:
+  explicit Examination(Product& product) : product_(product) {}
+
+  std::vector<Finding> all() {
+    styles();
+    settings();
+    resources();
+    dictionaries();
+    medical();
+    rest();
+    for (Finding& finding : examineAddins(product_)) findings_.push_back(std::move(finding));
+    return std::move(findings_);
+  }
+
+ private:
+  void add(const std::string& path, const char* what, const char* state, std::string detail) {
+    findings_.push_back({product_.locations().shown(path), what, state, std::move(detail)});
+  }
+
+  // A property list whose root is a dictionary; nothing when there is none, and then it is noted.
+  std::optional<Dictionary> list(const std::string& path, const char* what, const char* whenMissing) {
+    const Kind kind = product_.files().kind(path);
+    const std::optional<std::string> bytes = product_.files().read(path);
+    if (kind == Kind::absent) {
+      add(path, what, "missing", whenMissing);
+    } else if (!bytes) {
+      add(path, what, "problem", kind == Kind::file ? "cannot be read" : "is no file");
+    } else if (std::optional<PropertyList> value = readPropertyList(*bytes); !value) {
+      add(path, what, "problem", "is no property list");
+    } else if (value->dictionary() == nullptr) {
+      add(path, what, "problem", "is a property list without keys");
+    } else {
+      return std::move(*value->dictionary());
+    }
+    return std::nullopt;
+  }
+
+  void keys(const std::string& path, const char* what, const char* whenMissing) {
+    if (const auto values = list(path, what, whenMissing)) {
+      add(path, what, "ok", std::to_string(values->size()) + " keys");
+    }
+  }
+
+  void styleFile(const std::string& path, const char* what, const char* whenMissing) {
+    const std::optional<Dictionary> root = list(path, what, whenMissing);
+    if (!root) return;
+    const Array* styles = root->array(keyNameStyle);
+    const std::string count = std::to_string(styles != nullptr ? styles->size() : 0) + " styles";
+    const bool complete = styles != nullptr && root->dictionary(keyNameSelection) != nullptr;
+    add(path, what, complete ? "ok" : "problem", complete ? count : count + ", no remembered choice");
+  }
+
+  void styles() {
+    styleFile(product_.locations().inHome(std::string(gStylePath)), "styles", "made at the first start");
+    styleFile(std::string(gAppSupportStylePlist), "styles that came with the product",
+              "there is nothing to start with");
+  }
+
+  void settings() {
+    keys(userDefaultsPath(product_.locations()), "settings", "made at the first start");
+    plain(lockPath(product_.locations()), "lock", "made when the manager starts");
+  }
+
+  void resources() {
+    const Bundle& bundle = product_.bundle();
+    folder(bundle.folder(), "resources");
+    keys(joinPath(bundle.folder(), "WordhavenPaths.plist"), "paths", "the manager cannot start");
+    for (const std::string& language : bundle.languages()) {
+      keys(bundle.folder() + "/" + language + ".lproj/Localizable.strings", "texts", "keys are shown instead");
+    }
+    keys(machineTexts, "texts of this machine", "none are needed");
+  }
+
+  void folder(const std::string& path, const char* what) {
+    const auto names = product_.files().list(path);
+    if (names) {
+      add(path, what, "ok", std::to_string(names->size()) + " entries");
+    } else {
+      const bool absent = product_.files().kind(path) == Kind::absent;
+      add(path, what, absent ? "missing" : "problem", absent ? "" : "cannot be listed");
+    }
+  }
+
+  void dictionaryFolder(const std::string& path, const char* what, int kind, bool english) {
+    const auto names = product_.files().list(path);
+    if (!names) return folder(path, what);
+    DictController list({product_.files(), product_.texts(), product_.bundle(), product_.paths()});
+    list.initializeDictController(kind, path, english);
+    const std::size_t usable = list.getAllDictionary().size();
+    add(path, what, "ok", std::to_string(usable) + " usable, " + std::to_string(names->size()) + " entries");
+  }
+
+  void dictionaries() {
+    const ProductPaths& paths = product_.paths();
+    dictionaryFolder(paths.tarvoPathTechnicalDicEngFolderURL(), "dictionaries English to Japanese", 0, true);
+    dictionaryFolder(paths.tarvoPathTechnicalDicJpnFolderURL(), "dictionaries Japanese to English", 0, false);
+    for (const bool english : {true, false}) {
+      const char* user = english ? "user dictionaries English to Japanese" : "user dictionaries Japanese to English";
+      const char* memory = english ? "memories English to Japanese" : "memories Japanese to English";
+      dictionaryFolder(paths.tarvoPathUserDicFolderURL(), user, 1, english);
+      dictionaryFolder(paths.tarvoPathUserTmaFolderURL(), memory, 2, english);
+    }
+  }
+
+  void medical() {
+    for (const char* key : {"TechECorwell6", "TechJCorwell6", "TechETekado", "TechJTekado"}) {
+      const std::string path = product_.texts().localized(key);
+      if (isAbsolutePath(path)) {
+        plain(path, "medical dictionary", "is not installed");
+      } else {
+        findings_.push_back({path, "medical dictionary", "missing", "is not installed"});
+      }
+    }
+  }
+
+  void plain(const std::string& path, const char* what, const char* whenMissing) {
+    const bool exists = product_.files().exists(path);
+    add(path, what, exists ? "ok" : "missing", exists ? "" : whenMissing);
+  }
+
+  void rest() {
+    const std::string version = "/System/Library/CoreServices/SystemVersion.plist";
+    if (list(version, "system version", "counts as 0")) {
+      const int number = systemVersion(product_.files());
+      add(version, "system version", number != 0 ? "ok" : "problem", std::to_string(number));
+    }
+    plain(toolListPath(product_.locations()), "tool list", "written at every start");
+    engine();
+    const Bundle& bundle = product_.bundle();
+    plain(bundle.resource("index", "htm", "Help").value_or(joinPath(bundle.folder(), "Help/index.htm")), "help",
+          "the help command does nothing");
+  }
+
+  // It is not asked anything.
+  void engine() {
+    const std::string url = product_.engineURL();
+    const std::string form = product_.makeEngine(product_.files())->form();
+    const bool isKnown = form != "none" || url == "none";
+    findings_.push_back({url.empty() ? form : url, "style service", isKnown ? "ok" : "problem",
+                         isKnown ? form : "there is no style service of this kind"});
+    if (form == "local") {
+      keys(product_.paths().localEnginePath(), "styles of the local engine", "made by the first registration");
+    } else if (form == "http") {
+      plain(product_.locations().inHome(".netrc"), "credentials of the style service", "none are sent");
+    }
+  }
+
+  Product& product_;
+  std::vector<Finding> findings_;
+};
+
+}  // namespace
+
+ExitStatus DoctorCommand::run(Console& console) {
+  const std::vector<Finding> findings = Examination(console.product).all();
+  if (json_) {
+    Json::List list;
+    for (const Finding& finding : findings) {
+      list.emplace_back(Json::Object{
+          {"path", finding.path}, {"what", finding.what}, {"state", finding.state}, {"detail", finding.detail}});
+    }
+    console.out << writeJson(list) << '\n';
+    return ExitStatus::done;
+  }
+  std::vector<std::vector<std::string>> rows;
+  for (const Finding& finding : findings) rows.push_back({finding.state, finding.what, finding.path, finding.detail});
+  writeTable(console.out, rows);
+  return ExitStatus::done;
+}
+
+}  // namespace tarvo

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "console/verbs/doctor_addins.h"
+
+#include "app/product.h"
+#include "console/verbs/addin_reading.h"
+#include "install/addin_diagnosis.h"
+#include "platform/services/file_service.h"
+
+namespace tarvo {
+
+namespace {
+
+class Examination {
+ public:
+  explicit Examination(Product& product) : product_(product) {}
+
+  std::vector<Finding> all() {
+    const std::optional<AddinsRead> addins = readAddins(product_);
+    if (!addins) {
+      findings_.push_back({product_.bundle().folder() + "/DefaultAddin.plist", "applications that take add-ins",
+                           "problem", "the manager cannot start without a list of them"});
+      return std::move(findings_);
+    }
+    for (const AddinEntry& entry : addins->candidates) {
+      const bool isRemembered = entry.find(addin_keys::installStatus) != nullptr;
+      examine(diagnoseAddin(entry, product_.files(), product_.bundle()), isRemembered);
+    }
+    for (const AddinEntry& entry : addins->forgotten) {
+      add(addinText(entry, addin_keys::appPath), addinText(entry, addin_keys::appName), "problem",
+          "is not listed: it was not there at the end of an earlier run; without the setting Office it comes back");
+    }
+    return std::move(findings_);
+  }
+
+ private:
+  void add(const std::string& path, const std::string& what, const char* state, std::string detail) {
+    findings_.push_back({product_.locations().shown(path), what, state, std::move(detail)});
+  }
+
+  void examine(const AddinDiagnosis& addin, bool isRemembered) {
+    const bool exists = product_.files().exists(addin.application);
+    add(addin.application, addin.name, exists ? "ok" : "missing", exists ? "" : "is not listed");
+    if (!exists) return;
+    folder(addin);
+    item(addin, isRemembered);
+  }
+
+  void folder(const AddinDiagnosis& addin) {
+    const bool exists = product_.files().exists(addin.folder);
+    // What is installed is in its own way; that is no fault.
+    const bool isInstalled = addin.isThere && !addin.isPartial;
+    const bool fails = !addin.obstacle.empty() && !isInstalled;
+    const char* whenMissing = addin.table == "mail" ? "is not listed without it" : "";
+    add(addin.folder, "install folder of " + addin.name,
+        !exists ? "missing"
+        : fails ? "problem"
+                : "ok",
+        fails    ? "an install would fail: " + addin.obstacle
+        : exists ? ""
+                 : whenMissing);
+  }
+
+  void item(const AddinDiagnosis& addin, bool isRemembered) {
+    std::string detail = addin.isThere ? "installed" : "not installed";
+    if (addin.isPartial) detail = "installed in part, lacks " + lacking(addin);
+    const bool differs = isRemembered && addin.differs();
+    if (differs) {
+      detail += addin.isMarked ? "; the box was left on and goes off with the next start"
+                               : "; the box was left off and goes on with the next start";
+    }
+    if (!addin.removalObstacle.empty()) detail += "; a removal would fail: " + addin.removalObstacle;
+    const bool isProblem = addin.isPartial || differs || !addin.removalObstacle.empty();
+    add(addin.item, (addin.table == "mail" ? "scripts of " : "macro of ") + addin.name,
+        isProblem       ? "problem"
+        : addin.isThere ? "ok"
+                        : "missing",
+        detail);
+  }
+
+  static std::string lacking(const AddinDiagnosis& addin) {
+    std::string names;
+    for (const std::string& path : addin.missing) {
+      if (path.starts_with(addin.item + "/")) names += (names.empty() ? "" : ", ") + path.substr(addin.item.size() + 1);
+    }
+    return names;
+  }
+
+  Product& product_;
+  std::vector<Finding> findings_;
+};
+
+}  // namespace
+
+std::vector<Finding> examineAddins(Product& product) { return Examination(product).all(); }
+
+}  // namespace tarvo

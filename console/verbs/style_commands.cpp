@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "console/verbs/style_commands.h"
+#include "app/product.h"
+#include "console/verbs/style_reading.h"
+#include "console/verbs/text_table.h"
+#include "platform/plist/json.h"
+#include "style/sibling_tools.h"
+#include "style/style_keys.h"
+
+// The verbs that only read styles.
+namespace tarvo {
+
+namespace {
+
+using Rows = std::vector<std::vector<std::string>>;
+
+std::string nameOf(const PropertyList& record) {
+  const std::string* name = record.dictionary() != nullptr ? record.dictionary()->string(keyNameName) : nullptr;
+  return name != nullptr ? *name : "";
+}
+
+// The ids of the tools whose remembered style this is.
+std::vector<std::string> toolsAt(const Dictionary& root, int index, const std::vector<std::string>& ids) {
+  std::vector<std::string> tools;
+  const Dictionary* selection = root.dictionary(keyNameSelection);
+  for (const std::string& id : ids) {
+    if (selection != nullptr && selection->contains(id) && selection->integerValue(id) == index) tools.push_back(id);
+  }
+  return tools;
+}
+
+std::string joined(const std::vector<std::string>& words, const char* between) {
+  std::string all;
+  for (const std::string& word : words) all += (all.empty() ? "" : between) + word;
+  return all;
+}
+
+std::string shortForm(const PropertyList& value) {
+  if (value.string() != nullptr) return *value.string();
+  const Array* array = value.array();
+  if (array == nullptr) return writeJson(jsonFromPropertyList(value));
+  std::vector<std::string> elements;
+  for (const PropertyList& element : *array) elements.push_back(shortForm(element));
+  return joined(elements, ", ");
+}
+
+// One row a value; those of nested dictionaries stand behind their names.
+void addRows(Rows& rows, const Dictionary& dictionary, const std::string& before) {
+  for (const auto& [key, value] : dictionary.entries()) {
+    if (value.dictionary() != nullptr) {
+      addRows(rows, *value.dictionary(), before + key + '.');
+    } else {
+      rows.push_back({before + key, shortForm(value)});
+    }
+  }
+}
+
+}  // namespace
+
+ExitStatus StylesCommand::run(Console& console) {
+  const std::optional<Dictionary> root = readStyles(console);
+  if (!root) return ExitStatus::refused;
+  const std::string divider = console.product.texts().localized(keyNameSeparator);
+  const std::vector<std::string> ids = toolIds(console.product.texts());
+  const Array none;
+  const Array* styles = root->array(keyNameStyle);
+  Json::List list;
+  Rows rows;
+  int index = 0;
+  for (const PropertyList& record : styles != nullptr ? *styles : none) {
+    const std::string name = nameOf(record);
+    const bool isDivider = name == divider;
+    const std::vector<std::string> tools = toolsAt(*root, index, ids);
+    rows.push_back({std::to_string(index), isDivider ? "(divider)" : name, joined(tools, " ")});
+    list.emplace_back(Json::Object{
+        {"index", index}, {"name", name}, {"divider", isDivider}, {"tools", Json::List(tools.begin(), tools.end())}});
+    ++index;
+  }
+  if (json_) {
+    console.out << writeJson(list) << '\n';
+  } else {
+    writeTable(console.out, rows);
+  }
+  return ExitStatus::done;
+}
+
+ExitStatus StyleShowCommand::run(Console& console) {
+  const std::optional<Dictionary> root = readStyles(console);
+  if (!root) return ExitStatus::refused;
+  const Dictionary* record = findStyle(console, *root, index_);
+  if (record == nullptr) return ExitStatus::usage;
+  if (json_) {
+    console.out << writeJson(jsonFromPropertyList(*record)) << '\n';
+    return ExitStatus::done;
+  }
+  Rows rows;
+  addRows(rows, *record, "");
+  writeTable(console.out, rows);
+  return ExitStatus::done;
+}
+
+}  // namespace tarvo

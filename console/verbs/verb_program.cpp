@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "console/verbs/verb_program.h"
+
+#include "app/product.h"
+#include "app/program.h"
+
+namespace tarvo {
+
+class VerbProgram::ToldPanels : public Panels {
+ public:
+  explicit ToldPanels(std::ostream& err) : err_(err) {}
+  bool refused() const { return refused_; }
+  void refuse(const std::string& reason) {
+    err_ << reason << '\n';
+    refused_ = true;
+  }
+  void answer(const std::string& path) { path_ = path; }
+  void beep() override {}
+  int runAlertPanel(const Alert& alert) override {
+    refuse((alert.title.empty() ? "" : alert.title + ": ") + alert.message);
+    return 0;
+  }
+  void beginAlertSheet(Window&, const Alert& alert, std::function<void(int)> handler) override {
+    handler(runAlertPanel(alert));
+  }
+  std::optional<std::string> runOpenPanel(const OpenPanel&) override { return path_; }
+  void beginSavePanel(Window&, const SavePanel&, std::function<void(int, const std::string&)> handler) override {
+    handler(path_ ? 1 : 0, path_.value_or(""));
+  }
+
+ private:
+  std::ostream& err_;
+  std::optional<std::string> path_;
+  bool refused_ = false;
+};
+
+// Says once that the service cannot be reached, or that it did not store the styles.
+class VerbProgram::ToldEngine : public Engine {
+ public:
+  ToldEngine(Engine& engine, Console& console) : engine_(engine), console_(console), told_(!console.engineIsWanted) {}
+  const EngineCalls& calls() const { return calls_; }
+  bool checkConnectionWithCurl() override {
+    const bool reachable = engine_.checkConnectionWithCurl();
+    if (!reachable) tell("the style service cannot be reached; it keeps its former styles");
+    calls_.reached = calls_.reached && reachable;
+    return reachable;
+  }
+  void sendRegistStyle(const StyleSet& styles, std::string& updateString) override {
+    engine_.sendRegistStyle(styles, updateString);
+    if (!engine_.didRegister()) tell("the style service did not store the styles");
+    calls_.stored = engine_.didRegister();
+    calls_.handedOver = static_cast<int>(styles.records.size());
+  }
+  bool checkStyle() override { return engine_.checkStyle(); }
+  bool requestStyle(Array& styles, std::string& localUpdate) override {
+    const bool newer = engine_.requestStyle(styles, localUpdate);
+    if (newer) calls_.offered = Offer{static_cast<int>(styles.size()), localUpdate};
+    return newer;
+  }
+  std::string form() const override { return engine_.form(); }
+  bool didRegister() const override { return engine_.didRegister(); }
+  bool couldRead() const override { return engine_.couldRead(); }
+
+ private:
+  void tell(const char* what) {
+    if (!told_) console_.err << what << '\n';
+    told_ = true;
+  }
+  Engine& engine_;
+  Console& console_;
+  EngineCalls calls_;
+  bool told_;
+};
+
+class VerbProgram::ToldWorkspace : public Workspace {
+ public:
+  explicit ToldWorkspace(std::ostream& err) : err_(err) {}
+  void openFile(const std::string& path) override { err_ << "would open " << path << '\n'; }
+  void openAddress(const std::string& address) override { err_ << "would open " << address << '\n'; }
+  void launchApplication(const std::string& name) override { err_ << "would start " << name << '\n'; }
+  std::vector<std::string> launchedApplications() override { return {}; }
+
+ private:
+  std::ostream& err_;
+};
+
+VerbProgram::VerbProgram(Console& console)
+    : console_(console),
+      panels_(std::make_unique<ToldPanels>(console.err)),
+      service_(console.product.makeEngine(console.product.files())),
+      engine_(std::make_unique<ToldEngine>(*service_, console)),
+      workspace_(std::make_unique<ToldWorkspace>(console.err)) {}
+
+VerbProgram::~VerbProgram() = default;
+
+ExitStatus VerbProgram::run(const std::function<void(Program& program, Hand& hand)>& act) {
+  const Locations& locations = console_.product.locations();
+  if (!console_.takeLock(locations.resolve(lockPath(locations)))) {
+    console_.err << "another manager works on these files\n";
+    return ExitStatus::locked;
+  }
+  return runProgram(act);
+}
+
+void VerbProgram::refuse(const std::string& reason) { panels_->refuse(reason); }
+
+void VerbProgram::answerFilePanels(const std::string& path) { panels_->answer(path); }
+
+const VerbProgram::EngineCalls& VerbProgram::engineCalls() const { return engine_->calls(); }
+
+void VerbProgram::duringModalRun(std::function<void()> act) {
+  shell_.windowHost().step = [act = std::move(act)] {
+    act();
+    return true;
+  };
+}
+
+ExitStatus VerbProgram::runProgram(const std::function<void(Program& program, Hand& hand)>& act) {
+  Program program(console_.product.services(console_.product.files(), *engine_, console_.runLoop, *panels_,
+                                            shell_.windowHost(), *workspace_));
+  bool saved = true;
+  StyleStore& store = program.rooms().store;
+  store.didWrite = [&] { saved = saved && store.isSaved(); };
+  shell_.programMade(program);
+  const bool started = program.construct() && program.load();
+  if (started) {
+    act(program, shell_.hand());
+    program.quit();
+  }
+  shell_.programEnds(program);
+  if (!saved) console_.err << "the style file could not be written\n";
+  return started && saved && !panels_->refused() ? ExitStatus::done : ExitStatus::refused;
+}
+
+}  // namespace tarvo

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "platform/services/common_module.h"
+
+#include "platform/services/classic_path.h"
+#include "platform/services/product_paths.h"
+
+namespace tarvo {
+
+TarvoCommonModule::TarvoCommonModule(const ProductPaths& paths) : paths_(paths) {}
+
+std::string TarvoCommonModule::unixPathToClassic(const std::string& path) const {
+  return classicPath(path, paths_.volumeName());
+}
+
+std::string TarvoCommonModule::preferencesWordhavenCache() const { return paths_.preferencesWordhavenCache(); }
+
+}  // namespace tarvo

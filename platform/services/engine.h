@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "platform/plist/property_list.h"
+
+namespace tarvo {
+
+// The styles as handed over: the records, and each of them encoded (plist_writer.h, at depth 2), so that an engine that
+// keeps a property list need not encode them again. Valid for the length of the call only.
+struct StyleSet {
+  const Array& records;
+  std::span<const std::string> encoded;
+};
+
+// The translation engine's side of the styles. Calls are synchronous and answer soon, reachable or not.
+class Engine {
+ public:
+  virtual ~Engine() = default;
+  // Whether the engine's service can be reached now.
+  virtual bool checkConnectionWithCurl() = 0;
+  // Stores the whole set and writes the new update stamp into the string.
+  virtual void sendRegistStyle(const StyleSet& styles, std::string& updateString) = 0;
+  // Whether the engine holds a style set for this user.
+  virtual bool checkStyle() = 0;
+  // localUpdate: the stamp of the local set, "" for none. True: the engine's set is newer, styles and stamp are filled
+  // in.
+  virtual bool requestStyle(Array& styles, std::string& localUpdate) = 0;
+
+  // For people: "none", "local", "http"; other kinds name themselves.
+  virtual std::string form() const { return "other"; }
+  // Whether the last registration is known to have been stored; true before the first.
+  virtual bool didRegister() const { return true; }
+  // Whether the last request for a newer set found one that can be read, newer or not; true before the first.
+  virtual bool couldRead() const { return true; }
+};
+
+}  // namespace tarvo

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/plist/property_list.h"
+
+// The path module: where the product's files lie, from one property list "WordhavenPaths.plist" (one key per function)
+// with an optional second one laid over it. Values begin with "/" (the product's root) or "~/" (the user's home). Duty:
+// answer paths and addresses in the core's spelling. Not: testing whether anything is there.
+namespace tarvo {
+
+class Locations;
+
+class ProductPaths {
+ public:
+  // configuration: nothing when the list could not be read.
+  ProductPaths(const Locations& locations, std::optional<Dictionary> configuration);
+  virtual ~ProductPaths() = default;
+  ProductPaths(const ProductPaths&) = delete;
+  ProductPaths& operator=(const ProductPaths&) = delete;
+
+  void tarvoPathInitialize();
+  // 0 when the configuration could be read, else 1; or the number configured under the function's own name.
+  int tarvoPathLoadDictAndHelper(int mode);
+  void tarvoPathTerminate();
+  bool isInitialized() const { return initialized_; }
+
+  std::string tarvoPathPreferencesFolderURL() const;
+  std::string tarvoPathTechnicalDicEngFolderURL() const;
+  std::string tarvoPathTechnicalDicJpnFolderURL() const;
+  std::string tarvoPathUserDicFolderURL() const;
+  std::string tarvoPathUserTmaFolderURL() const;
+  std::string tarvoPathMemoryEtoJTitle() const;
+  std::string tarvoPathMemoryJtoETitle() const;
+  std::string tarvoPathMemoryEtoJURL() const;
+  std::string tarvoPathMemoryJtoEURL() const;
+  std::string tarvoPathTranslationStylePathURL() const;
+  std::string tarvoPathSupportURL() const;  // an address, "" when none is configured
+  std::string tarvoPathHomepageURL() const;
+  // Application path of one of the product's tools, keys "tarvoPathGetAppleyPath.<number>"; "" for an unknown tool.
+  // Who has to know when a tool is asked for derives.
+  virtual std::string tarvoPathGetAppleyPath(int tool) const;
+
+  std::string preferencesWordhavenCache() const;         // the product's cache folder
+  std::string volumeName() const;                        // of the boot volume, for classic paths
+  std::string engineURL() const;                         // style service as configured; "" for the local engine
+  std::string localEnginePath() const;                   // the local engine's file
+  std::vector<std::string> applicationFolders() const;   // where an application is looked for by its name, in order
+  std::vector<std::string> runningApplications() const;  // that count as running, whatever the system says
+
+ private:
+  std::string path(std::string_view key, std::string_view otherwise) const;
+  std::string spelled(const std::string& configured) const;
+  std::vector<std::string> pathList(std::string_view key, std::vector<std::string> otherwise) const;
+  std::string text(std::string_view key, std::string_view otherwise) const;
+  const Locations& locations_;
+  Dictionary configuration_;
+  bool readable_, initialized_ = false;
+};
+
+}  // namespace tarvo

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "platform/services/user_defaults.h"
+
+#include <utility>
+
+#include "platform/services/file_service.h"
+#include "platform/text/text_rules.h"
+
+namespace tarvo {
+
+UserDefaults::UserDefaults(FileService& files, std::string path)
+    : files_(files), file_(files, std::move(path)), values_(file_.read().value_or(Dictionary{})) {}
+
+void UserDefaults::set(std::string_view key, PropertyList value) {
+  const PropertyList* present = values_.find(key);
+  if (present == nullptr || *present != value) {
+    values_.set(key, std::move(value));
+    changed_ = true;
+  }
+  if (observer) observer(key, values_.find(key));
+}
+
+void UserDefaults::remove(std::string_view key) {
+  if (values_.remove(key)) changed_ = true;
+  if (observer) observer(key, nullptr);
+}
+
+void UserDefaults::synchronize() {
+  if (observer) observer({}, nullptr);
+  if (!changed_) return;
+  files_.makeFolder(deletingLastPathComponent(file_.path()));
+  if (file_.write(values_)) changed_ = false;
+}
+
+}  // namespace tarvo

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "platform/services/plist_file.h"
+
+// The application's own settings: one property list, read when constructed, written whole at each synchronise.
+// Duty: hold typed values; an absent key differs from false, "" and an empty array. Not: knowing the keys' meaning.
+// A failed write is silent and tried again at the next synchronise.
+namespace tarvo {
+
+class UserDefaults {
+ public:
+  UserDefaults(FileService& files, std::string path);
+  const PropertyList* find(std::string_view key) const { return values_.find(key); }
+  const std::string* string(std::string_view key) const { return values_.string(key); }
+  void set(std::string_view key, PropertyList value);
+  void remove(std::string_view key);
+  // Writes the file when something changed since the last good write; folders for it are made on demand.
+  void synchronize();
+
+  // Told of every set (with the value), every removal (with null) and, by an empty key, of every synchronise.
+  std::function<void(std::string_view key, const PropertyList* value)> observer;
+
+ private:
+  FileService& files_;
+  PlistFile file_;
+  Dictionary values_;
+  bool changed_ = false;
+};
+
+}  // namespace tarvo

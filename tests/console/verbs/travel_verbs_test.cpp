@@ -1,0 +1,185 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include <filesystem>
+
+#include "platform/posix/instance_lock.h"
+#include "tests/console/verbs/verb_test.h"
+
+// The verbs that rename styles and carry them as files, as an administrator meets them.
+namespace tarvo::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class TravelVerbs : public VerbTest {
+ protected:
+  TravelVerbs() { putStyles("root4.plist"); }
+  void expectDone(const std::vector<std::string>& words) const {
+    const ToolResult result = run(words);
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(result.err, "");
+    EXPECT_EQ(result.status, 0);
+  }
+  // Refused with a reason; no style and no choice has changed.
+  void expectRefused(const std::vector<std::string>& words, const std::string& reason, int status) const {
+    const std::string before = allStyles();
+    const ToolResult result = run(words);
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(result.err, reason + "\n");
+    EXPECT_EQ(result.status, status);
+    EXPECT_EQ(allStyles(), before);
+  }
+  std::string allStyles() const {
+    std::string all = run({"styles", "--json"}).out;
+    for (const int index : {0, 1, 2, 3}) all += style(index);
+    return all;
+  }
+  ToolResult runInJapanese(std::vector<std::string> words) const {
+    words.insert(words.begin(), {"--root", root_.root(), "--home", root_.home(), "--language", "ja"});
+    return runTool(words, scenarioFolder());
+  }
+  const TemporaryFolder files_;
+};
+
+constexpr const char* beta =
+    R"({"EJ":{"Opt1":2,"Opt2":2,"Opt3":1,"TD":["b.TRet","a.TRet"],"UD":["u.eud2"]},"Future":{"k":1},"ID":3,)"
+    R"("JE":{"FLEX_MODE":"x","PARS_SAHEN":"past","TD":["j2.TRet"],"TOpt1":4,"TOpt2":4,"TOpt3":0,"TOpt4":true,)"
+    R"("TOpt5":0},"Name":"Beta"})"
+    "\n";
+
+TEST_F(TravelVerbs, aStyleIsRenamedAndTheChoiceEndsAsItBegan) {
+  expectDone({"style", "rename", "3", "  特許 Gamma "});
+  EXPECT_EQ(run({"styles"}).out, "0  NomalStyle  MG\n1  Alpha\n2  (divider)\n3  特許 Gamma  QB\n");
+}
+
+TEST_F(TravelVerbs, refusedNamesAreTold) {
+  expectRefused({"style", "rename", "3", "ALPHA"}, "CantStyleNameNomalHeader: CantStyleNameNomalMessage", 1);
+  expectRefused({"style", "rename", "3", "nomalstyle"}, "CantStyleNameNomalHeader: CantStyleNameNomalMessage", 1);
+  expectRefused({"style", "rename", "3", " \n"}, "NoStyleNameHeader: NoStyleNameMessage", 1);
+}
+
+TEST_F(TravelVerbs, refusedNamesAreToldInTheUsersLanguage) {
+  EXPECT_EQ(runInEnglish({"style", "rename", "3", "Alpha"}).err,
+            "This name is taken: The standard style or another style has this name already. Names that differ only in "
+            "upper and lower case count as the same. Enter another name.\n");
+  EXPECT_TRUE(runInJapanese({"style", "rename", "3", " "}).err.starts_with("スタイルの名前を入力してください: "));
+}
+
+TEST_F(TravelVerbs, stylesThatCannotBeRenamed) {
+  expectRefused({"style", "rename", "0", "X"}, "style 0 is the standard style: it keeps its name", 2);
+  expectRefused({"style", "rename", "2", "X"}, "style 2 is the divider", 2);
+  expectRefused({"style", "rename", "4", "X"}, "there is no style 4", 2);
+  expectRefused({"style", "rename", "--", "-1", "X"}, "there is no style -1", 2);
+}
+
+TEST_F(TravelVerbs, aStyleIsExportedAsItStands) {
+  expectDone({"style", "export", "3", files_ / "x.whstyle"});
+  const std::string bytes = files_.read("x.whstyle");
+  EXPECT_TRUE(bytes.starts_with("<?xml"));
+  EXPECT_NE(bytes.find("<key>FLEX_MODE</key>"), std::string::npos);
+  EXPECT_EQ(run({"styles"}).out, "0  NomalStyle  MG\n1  Alpha\n2  (divider)\n3  Beta        QB\n");
+}
+
+TEST_F(TravelVerbs, theFileIsTakenAsItIsNamed) {
+  expectDone({"style", "export", "1", files_ / "no type"});
+  EXPECT_TRUE(fs::exists(files_ / "no type"));
+  expectDone({"style", "export", "3", files_ / "no type"});
+  EXPECT_NE(files_.read("no type").find("Beta"), std::string::npos);
+}
+
+TEST_F(TravelVerbs, anExportThatCannotBeWrittenIsTold) {
+  const std::string told = "ExportPlistErrorHeader: ExportPlistErrorMessage";
+  expectRefused({"style", "export", "3", files_ / "missing/x.whstyle"}, told, 1);
+  expectRefused({"style", "export", "3", files_.path()}, told, 1);
+  expectRefused({"style", "export", "2", files_ / "x.whstyle"}, "style 2 is the divider", 2);
+  EXPECT_FALSE(fs::exists(files_ / "x.whstyle"));
+}
+
+TEST_F(TravelVerbs, aStyleTravelsFromOneHomeToAnother) {
+  expectDone({"style", "export", "3", files_ / "x.whstyle"});
+  putStyles("root4.plist");
+  expectDone({"style", "import", "1", files_ / "x.whstyle"});
+  std::string expected = beta;
+  expected.replace(expected.find("\"ID\":3"), 6, "\"ID\":1").replace(expected.find("Beta"), 4, "Alpha");
+  EXPECT_EQ(style(1), expected);
+  EXPECT_EQ(style(3), beta);
+  EXPECT_EQ(run({"styles"}).out, "0  NomalStyle  MG\n1  Alpha\n2  (divider)\n3  Beta        QB\n");
+}
+
+TEST_F(TravelVerbs, relativePathsStartAtTheWorkingFolder) {
+  expectDone({"style", "import", "1", "fixtures/import/valid.whstyle"});
+  EXPECT_NE(style(1).find(R"("K":"v","Name":"Alpha")"), std::string::npos);
+}
+
+TEST_F(TravelVerbs, theShownPaneDoesNotMatter) {
+  root_.folder().write("root/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.plist",
+                       "<plist><dict><key>ToolbarTag</key><string>MT</string></dict></plist>");
+  expectDone({"style", "import", "1", "fixtures/import/valid.whstyle"});
+  expectDone({"style", "export", "1", files_ / "x.whstyle"});
+  EXPECT_NE(files_.read("x.whstyle").find("<key>K</key>"), std::string::npos);
+}
+
+TEST_F(TravelVerbs, filesThatAreNoStyleAreToldAndChangeNothing) {
+  const std::string told = "ImportPlistErrorHeader: ImportPlistErrorMessage";
+  for (const char* file : {"missing.whstyle", "fixtures", "fixtures/root4.plist", "fixtures/import/no-ej.whstyle",
+                           "fixtures/import/topt3-is-4.whstyle", "name_of_blanks_is_refused.scenario"}) {
+    expectRefused({"style", "import", "3", file}, told, 1);
+  }
+  EXPECT_TRUE(
+      runInJapanese({"style", "import", "3", "missing.whstyle"}).err.starts_with("スタイルを読み込めませんでした: "));
+}
+
+TEST_F(TravelVerbs, stylesThatCannotBeReplaced) {
+  expectRefused({"style", "import", "2", "fixtures/import/valid.whstyle"}, "style 2 is the divider", 2);
+  expectRefused({"style", "import", "9", "fixtures/import/valid.whstyle"}, "there is no style 9", 2);
+}
+
+TEST_F(TravelVerbs, aStyleFileWithoutARememberedChoiceIsWorkedOnAll) {
+  putStyles("no-selection.plist");
+  expectDone({"style", "rename", "3", "Gamma"});
+  expectDone({"style", "import", "1", "fixtures/import/valid.whstyle"});
+  expectDone({"style", "export", "3", files_ / "x.whstyle"});
+  EXPECT_EQ(run({"styles"}).out, "0  NomalStyle\n1  Alpha\n2  (divider)\n3  Gamma\n");
+  EXPECT_NE(files_.read("x.whstyle").find("Gamma"), std::string::npos);
+}
+
+TEST_F(TravelVerbs, aWriteThatFailsIsTold) {
+  fs::remove(root_.home() + "/" + styleFile);
+  fs::copy_file(scenarioFolder() + "/fixtures/root4.plist",
+                root_.root() + "/Library/Application Support/Wordhaven/TarvoEiwa/TarvoStyle2009.plist");
+  fs::create_directories(fs::path(root_.home()) / styleFile);
+  const ToolResult result = run({"style", "rename", "1", "Gamma"});
+  EXPECT_EQ(result.err, "the style file could not be written\n");
+  EXPECT_EQ(result.status, 1);
+}
+
+TEST_F(TravelVerbs, theLockIsNeeded) {
+  const InstanceLock lock(root_.home() + "/Library/Preferences/com.wordhaven.TarvoManager.lock");
+  ASSERT_EQ(lock.state(), InstanceLock::State::held);
+  for (const std::vector<std::string>& words :
+       {std::vector<std::string>{"style", "rename", "1", "X"},
+        std::vector<std::string>{"style", "export", "1", files_ / "x"},
+        std::vector<std::string>{"style", "import", "1", "fixtures/import/valid.whstyle"},
+        std::vector<std::string>{"engine", "push"}, std::vector<std::string>{"engine", "pull"}}) {
+    expectRefused(words, "another manager works on these files", 3);
+  }
+}
+
+TEST_F(TravelVerbs, theCommandLineIsChecked) {
+  for (const std::vector<std::string>& words :
+       {std::vector<std::string>{"style", "rename", "1"}, std::vector<std::string>{"style", "rename"},
+        std::vector<std::string>{"style", "rename", "x", "X"}, std::vector<std::string>{"style", "export", "1"},
+        std::vector<std::string>{"style", "import", "1"}, std::vector<std::string>{"style", "import", "1", "a", "b"},
+        std::vector<std::string>{"engine"}, std::vector<std::string>{"engine", "burn"},
+        std::vector<std::string>{"engine", "push", "1"}, std::vector<std::string>{"open"}}) {
+    const auto before = tree();
+    const ToolResult result = run(words);
+    EXPECT_EQ(result.status, 2) << testing::PrintToString(words);
+    EXPECT_EQ(result.out, "");
+    EXPECT_NE(result.err, "");
+    EXPECT_EQ(tree(), before);
+  }
+}
+
+}  // namespace
+}  // namespace tarvo::test

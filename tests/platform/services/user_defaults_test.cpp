@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "platform/services/user_defaults.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+
+#include "platform/plist/plist_reader.h"
+#include "platform/plist/plist_writer.h"
+#include "platform/posix/posix_files.h"
+#include "platform/services/locations.h"
+#include "tests/support/temporary_folder.h"
+
+namespace tarvo {
+namespace {
+namespace fs = std::filesystem;
+
+class UserDefaultsTest : public testing::Test {
+ protected:
+  // What the disk holds under the key.
+  PropertyList stored(std::string_view key) const {
+    const auto list = readPropertyList(folder.read(file));
+    const Dictionary* root = list ? list->dictionary() : nullptr;
+    const PropertyList* value = root != nullptr ? root->find(key) : nullptr;
+    return value != nullptr ? *value : PropertyList("absent");
+  }
+  ino_t fileNumber() const {
+    struct stat status {};
+    return ::stat((folder / file).c_str(), &status) == 0 ? status.st_ino : 0;
+  }
+  const std::string file = "Library/Preferences/tarvo.plist";
+  test::TemporaryFolder folder;
+  Locations locations{"/", folder.path()};
+  PosixFiles files{locations};
+};
+
+TEST_F(UserDefaultsTest, valuesKeepTheirKindsOverARestart) {
+  const Array rows{PropertyList("a"), PropertyList(Dictionary{})};
+  {
+    UserDefaults defaults(files, folder / file);
+    EXPECT_EQ(defaults.find("key"), nullptr);
+    defaults.set("text", "文字");
+    defaults.set("empty", "");
+    defaults.set("no", false);
+    defaults.set("number", 1);
+    defaults.set("rows", rows);
+    defaults.set("none", Array{});
+    defaults.synchronize();
+  }
+  const UserDefaults again(files, folder / file);
+  EXPECT_EQ(*again.string("text"), "文字");
+  EXPECT_EQ(*again.string("empty"), "");
+  EXPECT_EQ(*again.find("no"), PropertyList(false));
+  EXPECT_EQ(*again.find("number"), PropertyList(1));
+  EXPECT_EQ(again.string("number"), nullptr);
+  EXPECT_EQ(*again.find("rows"), PropertyList(rows));
+  EXPECT_EQ(*again.find("none"), PropertyList(Array{}));
+  EXPECT_EQ(again.find("absent"), nullptr);
+}
+
+TEST_F(UserDefaultsTest, nothingIsWrittenBeforeSynchronise) {
+  UserDefaults defaults(files, folder / file);
+  defaults.set("a", 1);
+  EXPECT_FALSE(folder.exists("Library"));
+  defaults.synchronize();
+  EXPECT_EQ(stored("a"), PropertyList(1));
+  EXPECT_EQ(folder.mode("Library"), 0777U);
+  defaults.remove("a");
+  EXPECT_EQ(stored("a"), PropertyList(1));
+  defaults.synchronize();
+  EXPECT_EQ(stored("a"), PropertyList("absent"));
+}
+
+TEST_F(UserDefaultsTest, onlyAChangeIsWritten) {
+  UserDefaults defaults(files, folder / file);
+  defaults.synchronize();
+  EXPECT_FALSE(folder.exists("Library")) << "there is nothing to keep";
+  defaults.set("a", 1);
+  defaults.synchronize();
+  // Another name for the file keeps its number from being used again.
+  fs::create_hard_link(folder / file, folder / "first");
+  const ino_t first = fileNumber();
+  defaults.set("a", 1);
+  defaults.remove("missing");
+  defaults.synchronize();
+  EXPECT_EQ(fileNumber(), first);
+  defaults.set("a", true);
+  defaults.synchronize();
+  EXPECT_NE(fileNumber(), first);
+  EXPECT_EQ(stored("a"), PropertyList(true));
+}
+
+TEST_F(UserDefaultsTest, keysThatNobodyKnowsStay) {
+  Dictionary root;
+  root.set("foreign", Date{"2009-01-01T00:00:00Z"});
+  folder.write(file, writePropertyList(root));
+  UserDefaults defaults(files, folder / file);
+  defaults.set("a", 1);
+  defaults.synchronize();
+  EXPECT_EQ(stored("foreign"), PropertyList(Date{"2009-01-01T00:00:00Z"}));
+}
+
+TEST_F(UserDefaultsTest, aFailedWriteIsTriedAgain) {
+  folder.write("Library", "in the way");
+  UserDefaults defaults(files, folder / file);
+  defaults.set("a", 1);
+  defaults.synchronize();
+  EXPECT_EQ(folder.read("Library"), "in the way");
+  fs::remove(folder / "Library");
+  defaults.synchronize();
+  EXPECT_EQ(stored("a"), PropertyList(1));
+}
+
+TEST_F(UserDefaultsTest, bytesThatCannotBeReadAreKeptBesideTheFirstWrite) {
+  folder.write(file, "garbage");
+  UserDefaults defaults(files, folder / file);
+  defaults.synchronize();
+  EXPECT_EQ(folder.read(file), "garbage");
+  defaults.set("a", 1);
+  defaults.synchronize();
+  defaults.set("a", 2);
+  defaults.synchronize();
+  EXPECT_EQ(stored("a"), PropertyList(2));
+  EXPECT_EQ(folder.names("Library/Preferences"), (std::vector<std::string>{"tarvo.plist", "tarvo.plist.unreadable"}));
+  EXPECT_EQ(folder.read(file + ".unreadable"), "garbage");
+}
+
+TEST_F(UserDefaultsTest, theObserverHearsOfEverySetRemovalAndSynchronise) {
+  UserDefaults defaults(files, folder / file);
+  std::string heard;
+  defaults.observer = [&](std::string_view key, const PropertyList* value) {
+    heard += std::string(key) + (value != nullptr ? "=" + *value->string() : "-") + " ";
+  };
+  defaults.set("a", "1");
+  defaults.set("a", "1");
+  defaults.synchronize();
+  defaults.remove("a");
+  defaults.remove("a");
+  defaults.synchronize();
+  EXPECT_EQ(heard, "a=1 a=1 - a- a- - ");
+}
+
+}  // namespace
+}  // namespace tarvo
