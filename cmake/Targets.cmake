@@ -3,7 +3,7 @@
 # One static library per folder and one test program per folder. Sources are globbed: a folder is the list of its files,
 # and CONFIGURE_DEPENDS looks again at every build.
 
-set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD 23)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)

@@ -32,7 +32,7 @@ struct CurlLibrary {
 class BrokenPipesIgnored {
  public:
   BrokenPipesIgnored() {
-    struct sigaction ignore {};
+    struct sigaction ignore{};
     ignore.sa_handler = SIG_IGN;
     sigaction(SIGPIPE, &ignore, &former_);
   }
@@ -41,7 +41,7 @@ class BrokenPipesIgnored {
   BrokenPipesIgnored& operator=(const BrokenPipesIgnored&) = delete;
 
  private:
-  struct sigaction former_ {};
+  struct sigaction former_{};
 };
 
 class HeaderList {

@@ -44,7 +44,7 @@ bool copyBytes(int from, int to) {
 
 bool copyRegular(Place from, Place to, int openFlags) {
   const Descriptor source(::openat(from.folder, from.name.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | openFlags));
-  struct stat status {};
+  struct stat status{};
   if (!source || ::fstat(source.get(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
   Descriptor target(::openat(to.folder, to.name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
   if (!target) return false;
@@ -80,7 +80,7 @@ bool copyFolder(Place from, Place to, mode_t mode) {
 }
 
 bool copyAny(Place from, Place to) {
-  struct stat status {};
+  struct stat status{};
   if (::fstatat(from.folder, from.name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) return false;
   if (S_ISREG(status.st_mode)) return copyRegular(from, to, O_NOFOLLOW);
   if (S_ISLNK(status.st_mode)) return copyLink(from, to);
@@ -98,7 +98,7 @@ bool isInside(const std::string& path, const std::string& folder) {
 }
 
 bool isFolderItself(const std::string& path) {
-  struct stat status {};
+  struct stat status{};
   return ::lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 

@@ -20,7 +20,7 @@ constexpr int maximumKept = 5;
 enum class Outcome { kept, taken, failed };
 
 bool isSameFile(const std::string& path, const struct stat& status) {
-  struct stat other {};
+  struct stat other{};
   return ::lstat(path.c_str(), &other) == 0 && other.st_dev == status.st_dev && other.st_ino == status.st_ino;
 }
 
@@ -28,7 +28,7 @@ Outcome keepAs(const std::string& path, const std::string& kept) {
   if (::linkat(AT_FDCWD, path.c_str(), AT_FDCWD, kept.c_str(), AT_SYMLINK_FOLLOW) == 0) return Outcome::kept;
   if (errno == EEXIST) return Outcome::taken;
   if (copyFile(path, kept)) return Outcome::kept;
-  struct stat status {};
+  struct stat status{};
   return ::lstat(kept.c_str(), &status) == 0 ? Outcome::taken : Outcome::failed;
 }
 
@@ -44,7 +44,7 @@ bool replaceKept(const std::string& path, const std::string& kept) {
 }  // namespace
 
 bool keepUnreadableFile(const std::string& path) {
-  struct stat status {};
+  struct stat status{};
   if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
   std::string kept;
   for (int number = 1; number <= maximumKept; ++number) {

@@ -37,7 +37,7 @@ std::optional<std::string> PosixFiles::real(const std::string& path) const {
 
 FileService::Kind PosixFiles::kind(const std::string& path) const {
   const auto name = real(path);
-  struct stat status {};
+  struct stat status{};
   if (!name || ::stat(name->c_str(), &status) != 0) return Kind::absent;
   if (S_ISREG(status.st_mode)) return Kind::file;
   return S_ISDIR(status.st_mode) ? Kind::folder : Kind::other;
@@ -45,7 +45,7 @@ FileService::Kind PosixFiles::kind(const std::string& path) const {
 
 bool PosixFiles::isLink(const std::string& path) const {
   const auto name = real(path);
-  struct stat status {};
+  struct stat status{};
   return name && ::lstat(name->c_str(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
@@ -59,7 +59,7 @@ std::optional<std::string> PosixFiles::read(const std::string& path) const {
   if (!name) return std::nullopt;
   // Non-blocking: opening a pipe for reading would wait for a writer.
   const Descriptor file(::open(name->c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-  struct stat status {};
+  struct stat status{};
   if (!file || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
   return readAll(file.get(), static_cast<std::size_t>(status.st_size), maximumFileSize);
 }

@@ -36,7 +36,7 @@ std::optional<std::string> linkContent(const std::string& path) {
 // Where the bytes belong after following final links; nothing for a loop or for what is no regular file.
 std::optional<Target> findTarget(std::string path) {
   for (int links = 0; links <= maximumLinks; ++links) {
-    struct stat status {};
+    struct stat status{};
     if (::lstat(path.c_str(), &status) != 0) return errno == ENOENT ? std::optional(Target{path, {}}) : std::nullopt;
     if (S_ISREG(status.st_mode)) return Target{path, status};
     if (!S_ISLNK(status.st_mode)) return std::nullopt;
@@ -61,7 +61,7 @@ mode_t handOver(int file, const struct stat& present) {
 bool takeOver(int folder, const std::string& name, const struct stat& present, int file) {
   const Descriptor old(::openat(folder, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
   if (old) copyAttributes(old.get(), file);
-  struct stat fresh {};
+  struct stat fresh{};
   if (::fstat(file, &fresh) != 0) return false;
   const bool sameOwner = fresh.st_uid == present.st_uid && fresh.st_gid == present.st_gid;
   return ::fchmod(file, sameOwner ? present.st_mode & 07777 : handOver(file, present)) == 0;

@@ -11,7 +11,7 @@ namespace tarvo {
 FileIdentities fileIdentities(const std::string& folder) {
   FileIdentities found;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-    struct stat status {};
+    struct stat status{};
     if (stat(entry.path().c_str(), &status) == 0 && S_ISREG(status.st_mode)) found[entry.path()] = status.st_ino;
   }
   return found;

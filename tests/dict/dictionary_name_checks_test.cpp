@@ -163,7 +163,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Length{times(31, "ｱ"), false},  // half width: one byte each
                     Length{times(28, "a") + "〜", true}, Length{times(29, "a") + "〜", false},  // U+301C: two
                     Length{times(28, "a") + "～", true}, Length{times(29, "a") + "～", false},  // U+FF5E: two
-                    Length{times(30, "😀"), true}, Length{times(31, "😀"), false},                // no such letter: one
+                    Length{times(30, "😀"), true}, Length{times(31, "😀"), false},              // no such letter: one
                     Length{times(30, "\u00a5"), true}, Length{times(31, "\u203e"), false},
                     Length{times(15, "か\u3099"), false},  // the mark counts by itself
                     Length{times(30, "é"), true}, Length{times(31, "é"), false}));

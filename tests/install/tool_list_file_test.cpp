@@ -185,8 +185,7 @@ TEST_F(ToolList, replacesALongerFileWhole) {
 TEST_F(ToolList, isWrittenAnewThoughNothingChanged) {
   choose(0);
   const std::string before = written();
-  struct stat first {
-  }, second{};
+  struct stat first{}, second{};
   ASSERT_EQ(::stat((folder / listFile).c_str(), &first), 0);
   log.clear();
   toolList.writeOffieTool();

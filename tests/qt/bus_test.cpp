@@ -170,7 +170,9 @@ TEST_F(Bus, thereIsNoneWithoutAnAddress) {
   qputenv("XDG_RUNTIME_DIR", "/nowhere");
   EXPECT_FALSE(hasSessionBus());
   EXPECT_EQ(handOver({name, "/h", "/"}, {}), Handover::noBus);
-  { const BusService service({name, "/h", "/"}, {}); }
+  {
+    const BusService service({name, "/h", "/"}, {});
+  }
   qputenv("DBUS_SESSION_BUS_ADDRESS", address);
   runtime.isNull() ? qunsetenv("XDG_RUNTIME_DIR") : qputenv("XDG_RUNTIME_DIR", runtime);
   EXPECT_TRUE(hasSessionBus());

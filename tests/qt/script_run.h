@@ -25,8 +25,7 @@ class ScriptRun {
   static constexpr int settlingTurns = 3;
 
   void post(int turns) {
-    QMetaObject::invokeMethod(
-        &loop_, [this, turns] { turn(turns); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(&loop_, [this, turns] { turn(turns); }, Qt::QueuedConnection);
   }
 
   void turn(int turns) {

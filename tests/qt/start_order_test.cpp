@@ -43,8 +43,7 @@ TEST(StartOrder, endsBeforeTheLaunchWhenTheProgramQuitsMeanwhile) {
   TestWindow test;
   test.asksAboutTheService = true;
   test.prepare = [&test] {
-    QMetaObject::invokeMethod(
-        qApp, [&test] { test.shell->program().quit(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(qApp, [&test] { test.shell->program().quit(); }, Qt::QueuedConnection);
   };
   Appearances appearances;
   test.start();

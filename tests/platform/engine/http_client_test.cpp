@@ -93,9 +93,8 @@ TEST(HttpClient, sendsAndReceivesWhatItIsTold) {
 
 TEST(HttpClient, aKeptConnectionThatTheServerEndedIsReplaced) {
   int count = 0;
-  const ScriptedServer server([&](const SeenRequest&) {
-    return Reply{200, {}, "x", Reply::Way(++count == 2 ? 5 : 0)};
-  });
+  const ScriptedServer server(
+      [&](const SeenRequest&) { return Reply{200, {}, "x", Reply::Way(++count == 2 ? 5 : 0)}; });
   HttpClient client({server.address(), "", ""});
   EXPECT_TRUE(client.send({"PUT", {}, "one"}, 10s).isWhole());
   EXPECT_TRUE(client.send({"PUT", {}, "two"}, 10s).isWhole());
@@ -104,9 +103,8 @@ TEST(HttpClient, aKeptConnectionThatTheServerEndedIsReplaced) {
 }
 
 TEST(HttpClient, credentialsComeFromTheUsersNetrcOnly) {
-  const ScriptedServer server([](const SeenRequest& request) {
-    return Reply{200, {}, request.header("authorization")};
-  });
+  const ScriptedServer server(
+      [](const SeenRequest& request) { return Reply{200, {}, request.header("authorization")}; });
   const test::TemporaryFolder home;
   home.write(".netrc", "machine elsewhere login x password y\nmachine 127.0.0.1 login taro password pass-word\n");
   EXPECT_EQ(HttpClient({server.address(), home / ".netrc", ""}).send({"GET", {}, {}}, 10s).body,

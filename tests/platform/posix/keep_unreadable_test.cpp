@@ -68,8 +68,7 @@ TEST_F(KeepUnreadable, aLinkKeepsTheBytesOfItsTarget) {
 
 // Links between disks are impossible; so is one from the memory disk to this folder.
 TEST_F(KeepUnreadable, aCopyIsMadeWhereNoHardLinkCanBe) {
-  struct stat here {
-  }, there{};
+  struct stat here{}, there{};
   if (::stat(folder.path().c_str(), &here) != 0 || ::stat("/dev/shm", &there) != 0 || here.st_dev == there.st_dev) {
     GTEST_SKIP() << "there is no second disk";
   }

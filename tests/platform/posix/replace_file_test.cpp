@@ -66,7 +66,7 @@ TEST_F(ReplaceFile, keepsTheOwnerWhereTheSystemAllows) {
   if (::chown((folder / "file").c_str(), 12345, 23456) != 0) GTEST_SKIP() << "only root may give files away";
   ASSERT_EQ(::chmod((folder / "file").c_str(), 0640), 0);
   EXPECT_TRUE(replaceFile(folder / "file", "new"));
-  struct stat status {};
+  struct stat status{};
   ASSERT_EQ(::stat((folder / "file").c_str(), &status), 0);
   EXPECT_EQ(status.st_uid, 12345U);
   EXPECT_EQ(status.st_gid, 23456U);

@@ -27,7 +27,7 @@ class UserDefaultsTest : public testing::Test {
     return value != nullptr ? *value : PropertyList("absent");
   }
   ino_t fileNumber() const {
-    struct stat status {};
+    struct stat status{};
     return ::stat((folder / file).c_str(), &status) == 0 ? status.st_ino : 0;
   }
   const std::string file = "Library/Preferences/tarvo.plist";
