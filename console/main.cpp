@@ -10,7 +10,7 @@
 #include "app/product.h"
 #include "console/command_line.h"
 #include "console/script/manual_run_loop.h"
-#include "console/script/run_script.h"
+#include "console/verbs/run_script.h"
 #include "platform/posix/instance_lock.h"
 #include "platform/posix/posix_run_loop.h"
 

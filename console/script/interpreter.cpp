@@ -5,7 +5,7 @@
 #include "app/program.h"
 #include "console/script/hand.h"
 #include "console/script/scenario_session.h"
-#include "console/verbs/script_commands.h"
+#include "console/script/script_commands.h"
 
 namespace tarvo {
 

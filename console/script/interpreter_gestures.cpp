@@ -6,7 +6,7 @@
 #include "console/script/hand.h"
 #include "console/script/interpreter.h"
 #include "console/script/scenario_session.h"
-#include "console/verbs/script_commands.h"
+#include "console/script/script_commands.h"
 #include "platform/text/text_rules.h"
 
 // What a user can do: each command finds its control, asks whether it may be reached, and hands over to the hand.

@@ -8,9 +8,9 @@
 #include "app/program.h"
 #include "console/script/interpreter.h"
 #include "console/script/scenario_session.h"
+#include "console/script/script_commands.h"
 #include "console/script/script_error.h"
 #include "console/script/state_json.h"
-#include "console/verbs/script_commands.h"
 #include "platform/plist/plist_reader.h"
 #include "platform/text/utf8.h"
 

@@ -6,8 +6,8 @@
 #include "app/program.h"
 #include "console/script/interpreter.h"
 #include "console/script/scenario_session.h"
+#include "console/script/script_commands.h"
 #include "console/script/script_error.h"
-#include "console/verbs/script_commands.h"
 
 // What comes to the program from others: answers to its panels, requests of callers, notifications.
 namespace tarvo {

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "console/verbs/script_commands.h"
+#include "console/script/script_commands.h"
 
 #include <charconv>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "console/script/run_script.h"
+#include "console/verbs/run_script.h"
 
 #include "console/script/interpreter.h"
 #include "console/script/memory_shell.h"
