@@ -26,7 +26,7 @@ std::string textOf(const std::string& path) {
 std::string failureOf(const ScenarioFile& file, const ScenarioRoot& root, const std::string& text) {
   QtScenarioShell shell;
   ManualRunLoop clock;
-  ScenarioSession session({.product = scenarioProduct(file, root), .folder = scenarioFolder()}, shell, clock);
+  ScenarioSession session({.product = scenarioProduct(file, root), .folder = file.folder}, shell, clock);
   if (!session.problem().empty()) return session.problem();
   std::ostringstream output;
   Interpreter interpreter(session, text, file.path, output);
@@ -72,6 +72,7 @@ class FailingScript : public testing::TestWithParam<Script> {};
 TEST_P(FailingScript, saysWhereAndWhy) {
   ScenarioFile file;
   file.path = "SCRIPT";
+  file.folder = scenarioFolder();
   file.options = {"--strings", "none"};
   const std::string failure = failureOf(file, ScenarioRoot(file.root), std::string(styles) + GetParam().lines);
   EXPECT_EQ(failure.substr(0, std::string(GetParam().reason).size()), GetParam().reason) << failure;

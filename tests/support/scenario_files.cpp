@@ -23,6 +23,13 @@ std::vector<std::string> wordsOf(const std::string& line) {
 
 std::string inFolder(const std::string& file) { return file == "none" ? file : scenarioFolder() + "/" + file; }
 
+// "tools/two_tools_with_one_id.scenario" gives "tools_two_tools_with_one_id".
+std::string nameOf(fs::path path) {
+  std::string name = path.replace_extension().generic_string();
+  std::replace(name.begin(), name.end(), '/', '_');
+  return name;
+}
+
 }  // namespace
 
 std::string scenarioFolder() { return TARVO_SOURCE_DIR "/tests/scenarios"; }
@@ -30,7 +37,8 @@ std::string scenarioFolder() { return TARVO_SOURCE_DIR "/tests/scenarios"; }
 ScenarioFile readScenario(const std::string& path) {
   ScenarioFile file;
   file.path = path;
-  file.name = fs::path(path).stem().string();
+  file.folder = fs::path(path).parent_path().string();
+  file.name = nameOf(fs::path(path).lexically_relative(scenarioFolder()));
   std::ifstream in(path);
   for (std::string line; std::getline(in, line) && line.starts_with('#');) {
     const std::size_t colon = line.find(": ");
@@ -46,7 +54,7 @@ ScenarioFile readScenario(const std::string& path) {
 
 std::vector<ScenarioFile> scenarioFiles() {
   std::vector<ScenarioFile> files;
-  for (const fs::directory_entry& entry : fs::directory_iterator(scenarioFolder())) {
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(scenarioFolder())) {
     if (entry.path().extension() == ".scenario") files.push_back(readScenario(entry.path().string()));
   }
   std::sort(files.begin(), files.end(), [](const ScenarioFile& a, const ScenarioFile& b) { return a.name < b.name; });

@@ -8,15 +8,17 @@
 #include "app/product.h"
 #include "tests/support/temporary_folder.h"
 
-// The scenario files, and how each wants to be run. Comment lines at its head say it:
-//   # options: --strings none …   command-line options; relative files start in the scenarios' folder
+// The scenario files below tests/scenarios, a folder a room, and how each wants to be run. Comment lines at its head
+// say it:
+//   # options: --strings none …   command-line options; relative files start in tests/scenarios
 //   # root: NAME                  a copy of fixtures/NAME is the product's root ("plain" when nothing is said)
 //   # resources: NAME           the folder NAME of that copy is the resource folder, so that a script can change it
 //   # needs: attributes           only where the disk keeps extended attributes
 namespace tarvo::test {
 
 struct ScenarioFile {
-  std::string path, name;  // name: of the file, without extension
+  std::string path, folder;  // folder: that of the file, where relative paths of its lines start
+  std::string name;          // room and file as one word, "tools_two_tools_with_one_id": a name for a test
   std::vector<std::string> options;
   std::string root = "plain", resources = {};
   bool needsAttributes = false;
