@@ -19,7 +19,7 @@ class AddinVerbs : public testing::Test {
   ToolResult run(const std::vector<std::string>& words) const {
     std::vector<std::string> arguments{
         "--root",     root_.root(), "--home",    root_.home(), "--resources", root_.root() + "/Bundle",
-        "--language", "en",         "--strings", "none",       "--strings",   "fixtures/addin-texts.strings"};
+        "--language", "en",         "--strings", "none",       "--strings",   "fixtures/texts/addin-texts.strings"};
     arguments.insert(arguments.end(), words.begin(), words.end());
     return runTool(arguments, scenarioFolder());
   }

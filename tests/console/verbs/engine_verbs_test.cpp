@@ -50,7 +50,7 @@ TEST_F(EngineVerbs, statusOnlyReads) {
 }
 
 TEST_F(EngineVerbs, statusOfAServiceThatIsNotThereIsNoFailure) {
-  expectSaid({"--paths", "fixtures/no-engine-paths.plist", "engine", "status", "--json"},
+  expectSaid({"--paths", "fixtures/paths/no-engine-paths.plist", "engine", "status", "--json"},
              R"({"form":"none","holds":false,"lastUpdate":null,"reachable":false})"
              "\n",
              "the style service cannot be reached\n", 0);
@@ -103,7 +103,7 @@ TEST_F(EngineVerbs, aServiceThatIsNotThereIsAFailureOfTheExchange) {
   for (const char* verb : {"push", "pull"}) {
     const std::string told = "the style service cannot be reached; it keeps its former styles\n";
     expectSaid({"--engine", "none", "engine", verb}, "", told, 1);
-    expectSaid({"--paths", "fixtures/no-engine-paths.plist", "engine", verb}, "", told, 1);
+    expectSaid({"--paths", "fixtures/paths/no-engine-paths.plist", "engine", verb}, "", told, 1);
   }
 }
 

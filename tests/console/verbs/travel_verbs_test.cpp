@@ -122,7 +122,7 @@ TEST_F(TravelVerbs, theShownPaneDoesNotMatter) {
 TEST_F(TravelVerbs, filesThatAreNoStyleAreToldAndChangeNothing) {
   const std::string told = "ImportPlistErrorHeader: ImportPlistErrorMessage";
   for (const char* file : {"missing.whstyle", "fixtures", "fixtures/root4.plist", "fixtures/import/no-ej.whstyle",
-                           "fixtures/import/topt3-is-4.whstyle", "name_of_blanks_is_refused.scenario"}) {
+                           "fixtures/import/topt3-is-4.whstyle", "naming/name_of_blanks_is_refused.scenario"}) {
     expectRefused({"style", "import", "3", file}, told, 1);
   }
   EXPECT_TRUE(

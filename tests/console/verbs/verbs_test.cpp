@@ -204,7 +204,8 @@ TEST_F(Verbs, anEngineAddressThatNothingServesIsAUsageError) {
 
 TEST_F(Verbs, anEngineThatCannotBeReachedIsToldOnce) {
   putStyles("root4.plist");
-  const ToolResult result = run({"--paths", "fixtures/no-engine-paths.plist", "style", "set", "1", "Opt1=2", "Opt2=2"});
+  const ToolResult result =
+      run({"--paths", "fixtures/paths/no-engine-paths.plist", "style", "set", "1", "Opt1=2", "Opt2=2"});
   EXPECT_EQ(result.err, "the style service cannot be reached; it keeps its former styles\n");
   EXPECT_EQ(result.status, 0);
 }
