@@ -80,13 +80,24 @@ class Code(unittest.TestCase):
         self.assertEqual([], findings(place, f"{LICENCE}{line}\n"))
 
     def test_only_binders_hands_and_tests_act_as_the_user(self):
-        for gesture in lint.GESTURES.split("|"):
-            self.fires("qt/panes/style_pane.cpp", f"  button.user{gesture}();", "gesture")
+        for gesture in lint.GESTURES:
+            self.fires("qt/panes/style_pane.cpp", f"  button.{gesture}();", "gesture")
         self.fires("app/app_controller.cpp", "  popup.userChoose(2);", "gesture")
+        self.fires("app/app_controller.cpp", "  toolbar_.userShow(true);", "gesture")
+        self.fires("qt/panes/style_pane.cpp", "  connect(&button, &Button::userPress);", "gesture")
         self.fires("console/verbs/style_commands.cpp", "  popup->userChoose (2);", "gesture")
-        for place in ("qt/bind/bind_popup.cpp", "console/script/memory_hand.cpp", "tests/style/x_test.cpp", "platform/controls/controls.cpp"):
+        for place in ("qt/bind/bind_popup.cpp", "console/script/memory_hand.cpp", "tests/style/x_test.cpp", "platform/controls/controls.cpp",
+                      "app/toolbar.cpp"):
             self.passes(place, "  popup.userChoose(2);")
         self.passes("app/app_controller.cpp", "// a binder calls userChoose(index) then")
+        self.passes("app/app_controller.cpp", "  const UserDefaults defaults(files, userDefaultsPath(locations));")
+
+    def test_the_headers_of_the_controls_tell_the_gestures(self):
+        names, places = lint.read_gestures({
+            "app/dial.h": "class Dial final : public Control {\n  void userTurn(int by);  // and userGuess()\n  void setBy(int by);\n};\n",
+            "app/rooms.h": "struct Rooms {\n  void userRows();\n};\n"})
+        self.assertEqual((["userTurn"], ["app/dial.cpp", "app/dial.h"]), (names, sorted(places)[:2]))
+        self.assertLessEqual({"userPress", "userChoose", "userDrop", "userMove", "userShow", "userOrder"}, set(lint.GESTURES))
 
     def test_modules_of_qt_are_not_included(self):
         for module in lint.QT_MODULES.split("|"):
@@ -117,6 +128,13 @@ class Code(unittest.TestCase):
         self.assertEqual(1, len(findings("app/a.cpp", LICENCE.replace("MIT", "BSD"))))
         self.assertEqual([], findings("script/a", "#!/bin/sh\n" + LICENCE.replace("//", "#")))
         self.assertEqual([], findings("docs/a.md", "text\n"))
+
+    def test_a_folder_may_hold_sixty_files_of_its_own(self):
+        found = lint.Findings([])
+        lint.check_folders([f"room/{number}" for number in range(lint.MOST_FILES)] + ["room/below/file", "file"], found)
+        self.assertEqual([], found.lines)
+        lint.check_folders([f"room/{number}" for number in range(lint.MOST_FILES + 1)], found)
+        self.assertEqual(["room:0: [folder] holds 61 files, 60 are the limit: sort them into folders"], found.lines)
 
     def test_a_file_in_another_form_is_found(self):
         if lint.formatter() is None:
