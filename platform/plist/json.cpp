@@ -2,60 +2,50 @@
 // SPDX-License-Identifier: MIT
 #include "platform/plist/json.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 
+#include "platform/plist/plist_numbers.h"
+#include "platform/text/base64.h"
 #include "platform/text/utf8.h"
 
 namespace tarvo {
 
 namespace {
 
-std::string shortest(double value) {
-  char digits[40];
-  const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-  return {digits, end};
-}
-
-double number(const Real& real) {
-  double value = 0;
-  const char* begin = real.text.data();
-  const char* end = begin + real.text.size();
-  if (begin != end && *begin == '+') ++begin;
-  std::from_chars(begin, end, value);
-  return value;
-}
-
-// Texts of property lists may hold what JSON has no form for: a plus sign, no digit before or behind the point, nan.
+// Property lists may hold what JSON has no form for: a plus sign, no digit before or behind the point, nan, infinity.
 std::string realText(const Real& real) {
-  const double value = number(real);
-  if (!std::isfinite(value)) return "{\"$real\":\"" + shortest(value) + "\"}";
-  std::string text = shortest(value);
-  if (text.find_first_of(".e") == std::string::npos) text += ".0";
-  return text;
+  const double value = realFromText(real.text).value_or(0);
+  std::string text = textFromReal(value);
+  if (!std::isfinite(value)) return "{\"$real\":\"" + text + "\"}";
+  return text.find_first_of(".e") == std::string::npos ? text + ".0" : text;
 }
 
-void writeText(std::string& out, std::string_view text) {
+void appendControl(std::string& out, char32_t c) {
+  constexpr std::string_view digits = "0123456789abcdef";
+  if (c == U'\n') {
+    out += "\\n";
+  } else if (c == U'\t') {
+    out += "\\t";
+  } else if (c == U'\r') {
+    out += "\\r";
+  } else {
+    out.append("\\u00").append({digits[c >> 4], digits[c & 15]});
+  }
+}
+
+void appendText(std::string& out, std::string_view text) {
   out += '"';
   for (std::size_t at = 0; at < text.size();) {
     const char32_t c = nextCodePoint(text, at);
-    if (c == U'"' || c == U'\\') {
-      out += '\\';
-      out += static_cast<char>(c);
-    } else if (c == U'\n') {
-      out += "\\n";
-    } else if (c == U'\t') {
-      out += "\\t";
-    } else if (c == U'\r') {
-      out += "\\r";
-    } else if (c < 0x20) {
-      char escape[8];
-      std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(c));
-      out += escape;
-    } else {
-      appendCodePoint(out, c < invalidByte ? c : U'\uFFFD');
+    if (c < 0x20) {
+      appendControl(out, c);
+      continue;
     }
+    if (c == U'"' || c == U'\\') out += '\\';
+    appendCodePoint(out, c < invalidByte ? c : U'\uFFFD');
   }
   out += '"';
 }
@@ -67,25 +57,77 @@ struct Writer {
   void operator()(bool value) { out += value ? "true" : "false"; }
   void operator()(const Integer& value) { out += (value.negative ? "-" : "") + std::to_string(value.magnitude); }
   void operator()(const Real& value) { out += realText(value); }
-  void operator()(const std::string& value) { writeText(out, value); }
+  void operator()(const std::string& value) { appendText(out, value); }
   void operator()(const Json::List& list) {
-    out += '[';
+    const char* separator = "[";
     for (const Json& element : list) {
-      if (&element != &list.front()) out += ',';
+      out += std::exchange(separator, ",");
       write(element);
     }
-    out += ']';
+    out += list.empty() ? "[]" : "]";
   }
   void operator()(const Json::Object& object) {
-    out += '{';
-    bool first = true;
+    const char* separator = "{";
     for (const auto& [key, value] : object) {
-      if (!std::exchange(first, false)) out += ',';
-      writeText(out, key);
+      out += std::exchange(separator, ",");
+      appendText(out, key);
       out += ':';
       write(value);
     }
-    out += '}';
+    out += object.empty() ? "{}" : "}";
+  }
+};
+
+struct ToJson {
+  Json operator()(const auto& value) const { return value; }
+  Json operator()(const Date& value) const { return Json::Object{{"$date", value.text}}; }
+  Json operator()(const Data& value) const {
+    std::string text;
+    appendBase64(text, value);
+    return Json::Object{{"$data", std::move(text)}};
+  }
+  Json operator()(const Array& array) const {
+    Json::List list;
+    for (const PropertyList& element : array) list.push_back(jsonFromPropertyList(element));
+    return list;
+  }
+  Json operator()(const Dictionary& dictionary) const {
+    Json::Object object;
+    for (const auto& [key, value] : dictionary.entries()) object.emplace(key, jsonFromPropertyList(value));
+    return object;
+  }
+};
+
+using Result = std::optional<PropertyList>;
+
+// The one text of an object {"$date": …} or {"$data": …}.
+const std::string* onlyText(const Json::Object& object, std::string_view key) {
+  const auto found = object.find(key);
+  return object.size() == 1 && found != object.end() ? std::get_if<std::string>(&found->second.value()) : nullptr;
+}
+
+struct ToPropertyList {
+  Result operator()(const auto& value) const { return value; }
+  Result operator()(std::nullptr_t) const { return std::nullopt; }
+  Result operator()(const Json::List& list) const {
+    Array array;
+    for (const Json& element : list) {
+      Result value = propertyListFromJson(element);
+      if (!value) return std::nullopt;
+      array.push_back(std::move(*value));
+    }
+    return array;
+  }
+  Result operator()(const Json::Object& object) const {
+    if (const std::string* date = onlyText(object, "$date")) return Date{*date};
+    if (const std::string* data = onlyText(object, "$data")) return bytesFromBase64(*data);
+    Dictionary dictionary;
+    for (const auto& [key, element] : object) {
+      Result value = propertyListFromJson(element);
+      if (!value) return std::nullopt;
+      dictionary.set(key, std::move(*value));
+    }
+    return dictionary;
   }
 };
 
@@ -105,27 +147,28 @@ std::string writeJson(const Json& value) {
 }
 
 bool matches(const Json& expected, const Json& value) {
-  const auto* text = std::get_if<std::string>(&expected.value());
-  if (text != nullptr && *text == "*") return true;
+  if (expected == Json("*")) return true;
   const auto* list = std::get_if<Json::List>(&expected.value());
   const auto* otherList = std::get_if<Json::List>(&value.value());
-  if (list != nullptr && otherList != nullptr) {
-    return std::equal(list->begin(), list->end(), otherList->begin(), otherList->end(), matches);
-  }
+  if (list != nullptr && otherList != nullptr) return std::ranges::equal(*list, *otherList, matches);
   const auto* object = std::get_if<Json::Object>(&expected.value());
   const auto* otherObject = std::get_if<Json::Object>(&value.value());
   if (object == nullptr || otherObject == nullptr) return expected == value;
-  return std::equal(object->begin(), object->end(), otherObject->begin(), otherObject->end(),
-                    [](const auto& left, const auto& right) {
-                      return left.first == right.first && matches(left.second, right.second);
-                    });
+  return std::ranges::equal(*object, *otherObject, [](const auto& left, const auto& right) {
+    return left.first == right.first && matches(left.second, right.second);
+  });
 }
 
 Json jsonNumber(float value) {
-  char digits[40];
-  const std::string text(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
   if (std::trunc(value) == value && std::fabs(value) < 1e9F) return static_cast<int>(value);
-  return Real{text};
+  std::array<char, 40> digits;
+  return Real{{digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr}};
+}
+
+Json jsonFromPropertyList(const PropertyList& value) { return std::visit(ToJson{}, value.value()); }
+
+std::optional<PropertyList> propertyListFromJson(const Json& value) {
+  return std::visit(ToPropertyList{}, value.value());
 }
 
 }  // namespace tarvo

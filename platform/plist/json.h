@@ -44,7 +44,9 @@ class Json {
 
 // One line, without a line break. Bytes that are no UTF-8 become U+FFFD.
 std::string writeJson(const Json& value);
-// Nothing when the text is no JSON, or has something behind it; depth up to 512.
+// Nothing when the text is no JSON (half a surrogate pair and bytes that are no UTF-8 among it), has something behind
+// it, nests deeper than 512, or holds a number that would lose its value: an integer of more than 64 bits, a real
+// beyond a double. Of members with one key the last stays.
 std::optional<Json> readJson(std::string_view text);
 
 // Whether a value is as expected: equal, where the text "*" in the expectation equals anything.
@@ -53,9 +55,10 @@ bool matches(const Json& expected, const Json& value);
 // A number of a frame: an integer without a fraction, else the shortest real.
 Json jsonNumber(float value);
 
-// Property lists: dates as {"$date": text}, data as {"$data": base64}, everything else as its like.
+// Property lists: dates as {"$date": text}, data as {"$data": base64}, reals that are no number or infinite as
+// {"$real": text}, everything else as its like.
 Json jsonFromPropertyList(const PropertyList& value);
-// Nothing where JSON holds what a property list cannot (null).
+// Nothing where JSON holds what a property list cannot: null, data that are no base64.
 std::optional<PropertyList> propertyListFromJson(const Json& value);
 
 }  // namespace tarvo

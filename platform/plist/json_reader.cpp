@@ -1,167 +1,80 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include <charconv>
+#include <nlohmann/json.hpp>
 
 #include "platform/plist/json.h"
-#include "platform/text/utf8.h"
+#include "platform/plist/plist_numbers.h"
 
 namespace tarvo {
 
 namespace {
 
-constexpr int deepest = 512;
+constexpr std::size_t deepest = 512;
 
-// Reads forward; any deviation sets failed and stops everything.
-class Reader {
+// Takes what the library's parser finds, in its order and under the names that it calls. False stops it.
+class Builder {
  public:
-  explicit Reader(std::string_view text) : text_(text) {}
+  Json take() { return std::move(whole_); }
 
-  std::optional<Json> document() {
-    Json value = this->value(0);
-    skipBlanks();
-    if (failed_ || at_ != text_.size()) return std::nullopt;
-    return value;
+  bool null() { return add(nullptr); }
+  bool boolean(bool value) { return add(value); }
+  bool number_integer(std::int64_t value) { return add(Integer::of(value)); }
+  bool number_unsigned(std::uint64_t value) { return add(Integer{value, false}); }
+  // Also an integer of more than 64 bits, which would lose digits.
+  bool number_float(double /*value*/, const std::string& text) {
+    if (text.find_first_of(".eE") != std::string::npos) return add(Real{text});
+    const std::optional<Integer> integer = integerFromText(text);
+    return integer && add(*integer);
   }
-
- private:
-  Json fail() {
-    failed_ = true;
-    return nullptr;
-  }
-  char peek() const { return at_ < text_.size() ? text_[at_] : '\0'; }
-  void skipBlanks() {
-    while (at_ < text_.size() && std::string_view(" \t\r\n").find(text_[at_]) != std::string_view::npos) ++at_;
-  }
-  bool take(std::string_view word) {
-    if (!text_.substr(at_).starts_with(word)) return false;
-    at_ += word.size();
+  bool string(std::string& text) { return add(std::move(text)); }
+  bool binary(std::vector<std::uint8_t>& /*bytes*/) { return false; }
+  bool start_array(std::size_t /*size*/) { return open(Json::List{}); }
+  bool end_array() { return close(); }
+  bool start_object(std::size_t /*size*/) { return open(Json::Object{}); }
+  bool key(std::string& name) {
+    open_.back().key = std::move(name);
     return true;
   }
-  bool takeAfterBlanks(std::string_view word) {
-    skipBlanks();
-    return take(word);
-  }
+  bool end_object() { return close(); }
+  bool parse_error(std::size_t /*at*/, const std::string& /*token*/, const std::exception& /*reason*/) { return false; }
 
-  Json value(int depth) {
-    skipBlanks();
-    if (failed_ || depth > deepest) return fail();
-    if (take("null")) return nullptr;
-    if (take("true")) return true;
-    if (take("false")) return false;
-    if (peek() == '"') return text();
-    if (peek() == '[') return list(depth);
-    if (peek() == '{') return object(depth);
-    return number();
-  }
+ private:
+  struct Open {
+    std::variant<Json::List, Json::Object> container;
+    std::string key;  // of the member that comes next
+  };
 
-  Json list(int depth) {
-    ++at_;
-    Json::List elements;
-    if (takeAfterBlanks("]")) return elements;
-    do {
-      elements.push_back(value(depth + 1));
-    } while (!failed_ && takeAfterBlanks(","));
-    return takeAfterBlanks("]") ? Json(std::move(elements)) : fail();
-  }
-
-  Json object(int depth) {
-    ++at_;
-    Json::Object members;
-    if (takeAfterBlanks("}")) return members;
-    do {
-      skipBlanks();
-      if (peek() != '"') return fail();
-      std::string key = text();
-      if (!takeAfterBlanks(":")) return fail();
-      members.insert_or_assign(std::move(key), value(depth + 1));
-    } while (!failed_ && takeAfterBlanks(","));
-    return takeAfterBlanks("}") ? Json(std::move(members)) : fail();
-  }
-
-  std::size_t digits() {
-    const std::size_t begin = at_;
-    while (peek() >= '0' && peek() <= '9') ++at_;
-    return at_ - begin;
-  }
-
-  Json number() {
-    const std::size_t begin = at_;
-    const bool negative = take("-");
-    const bool leadingZero = peek() == '0';
-    const std::size_t whole = digits();
-    if (whole == 0 || (leadingZero && whole > 1)) return fail();
-    bool real = false;
-    if (take(".")) {
-      real = true;
-      if (digits() == 0) return fail();
+  bool add(Json value) {
+    if (open_.empty()) {
+      whole_ = std::move(value);
+    } else if (auto* list = std::get_if<Json::List>(&open_.back().container)) {
+      list->push_back(std::move(value));
+    } else {
+      std::get<Json::Object>(open_.back().container).insert_or_assign(open_.back().key, std::move(value));
     }
-    if (take("e") || take("E")) {
-      real = true;
-      if (!take("-")) take("+");
-      if (digits() == 0) return fail();
-    }
-    const std::string_view written = text_.substr(begin, at_ - begin);
-    if (real) return Real{std::string(written)};
-    Integer integer{0, negative};
-    const std::string_view magnitude = written.substr(negative ? 1 : 0);
-    const auto read = std::from_chars(magnitude.data(), magnitude.data() + magnitude.size(), integer.magnitude);
-    if (read.ec != std::errc{}) return fail();
-    if (integer.magnitude == 0) integer.negative = false;
-    return integer;
+    return true;
+  }
+  bool open(std::variant<Json::List, Json::Object> container) {
+    if (open_.size() == deepest) return false;
+    open_.push_back({std::move(container), {}});
+    return true;
+  }
+  bool close() {
+    Json value = std::visit([](auto& container) { return Json(std::move(container)); }, open_.back().container);
+    open_.pop_back();
+    return add(std::move(value));
   }
 
-  char32_t hexadecimal() {
-    unsigned unit = 0;
-    const char* begin = text_.data() + at_;
-    if (text_.size() - at_ < 4 || std::from_chars(begin, begin + 4, unit, 16).ptr != begin + 4) failed_ = true;
-    at_ += failed_ ? 0 : 4;
-    return unit;
-  }
-
-  void escape(std::string& out) {
-    constexpr std::string_view names = "\"\\/bfnrt";
-    constexpr std::string_view characters = "\"\\/\b\f\n\r\t";
-    const std::size_t known = names.find(peek());
-    if (at_ < text_.size() && known != std::string_view::npos) {
-      ++at_;
-      out += characters[known];
-      return;
-    }
-    if (!take("u")) {
-      failed_ = true;
-      return;
-    }
-    char32_t unit = hexadecimal();
-    if (unit >= 0xD800 && unit < 0xDC00 && take("\\u")) {
-      const char32_t low = hexadecimal();
-      unit = low >= 0xDC00 && low < 0xE000 ? 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00) : U'\uFFFD';
-    }
-    appendCodePoint(out, unit >= 0xD800 && unit < 0xE000 ? U'\uFFFD' : unit);
-  }
-
-  std::string text() {
-    std::string out;
-    ++at_;
-    while (!failed_ && peek() != '"') {
-      if (at_ >= text_.size() || static_cast<unsigned char>(peek()) < 0x20) {
-        failed_ = true;
-      } else if (take("\\")) {
-        escape(out);
-      } else {
-        out += text_[at_++];
-      }
-    }
-    ++at_;
-    return out;
-  }
-
-  std::string_view text_;
-  std::size_t at_ = 0;
-  bool failed_ = false;
+  std::vector<Open> open_;
+  Json whole_;
 };
 
 }  // namespace
 
-std::optional<Json> readJson(std::string_view text) { return Reader(text).document(); }
+std::optional<Json> readJson(std::string_view text) {
+  Builder builder;
+  if (!nlohmann::json::sax_parse(text, &builder)) return std::nullopt;
+  return builder.take();
+}
 
 }  // namespace tarvo

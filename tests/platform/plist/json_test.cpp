@@ -26,20 +26,31 @@ TEST(Json, writesWhatItReadsInItsOneForm) {
       {"1e300", "1e+300"},
       {R"("\u3042\ud83d\ude00\/\b")", "\"あ😀/\\u0008\""},
       {"\"tab\\tline\\nquote\\\"\"", "\"tab\\tline\\nquote\\\"\""},
-      {R"("\ud83d")", "\"\xEF\xBF\xBD\""},
+      {"-18446744073709551615", "-18446744073709551615"},
+      {"1e-400", "0.0"},
+      {R"({"a":1,"b":2,"a":3})", R"({"a":3,"b":2})"},
   };
   for (const auto& [text, written] : cases) EXPECT_EQ(rewritten(text), written) << text;
 }
 
 TEST(Json, refusesWhatIsNone) {
-  for (const char* text : {"", "nul", "01", "1.", ".5", "+1", "1e", "[1,]", "[1 2]", "{\"a\"}", "{a:1}", "\"open",
-                           "\"a\nb\"", R"("\x")", R"("\u12g4")", "[1]2", "18446744073709551616", "-", "{\"a\":1,}"}) {
+  for (const char* text :
+       {"",      "nul",    "01",       "1.",      ".5",          "+1",   "1e",  "[1,]", "[1 2]", "{\"a\"}",
+        "{a:1}", "\"open", "\"a\nb\"", R"("\x")", R"("\u12g4")", "[1]2", "nan", "inf",  "-",     "{\"a\":1,}"}) {
+    EXPECT_EQ(rewritten(text), "no JSON") << text;
+  }
+}
+
+TEST(Json, refusesWhatItCouldNotHold) {
+  for (const char* text : {"18446744073709551616", "1e400", "-1e400", R"("\ud83d")", R"("\ud83d\u0041")", R"("\ude00")",
+                           "\"a\xFF\"", "\"\xE3\x81\""}) {
     EXPECT_EQ(rewritten(text), "no JSON") << text;
   }
 }
 
 TEST(Json, endsInsteadOfOverflowingOnDeepNesting) {
-  EXPECT_NE(rewritten(std::string(500, '[') + std::string(500, ']')), "no JSON");
+  EXPECT_NE(rewritten(std::string(512, '[') + std::string(512, ']')), "no JSON");
+  EXPECT_EQ(rewritten(std::string(513, '[') + std::string(513, ']')), "no JSON");
   EXPECT_EQ(rewritten(std::string(100000, '[')), "no JSON");
 }
 
@@ -86,6 +97,7 @@ TEST(Json, padsDataOfEveryLength) {
   }
   EXPECT_FALSE(propertyListFromJson(*readJson(R"({"$data":"A"})")));
   EXPECT_FALSE(propertyListFromJson(*readJson(R"({"$data":"A*A="})")));
+  EXPECT_FALSE(propertyListFromJson(*readJson(R"({"$data":"AB=="})")));  // bits left over
 }
 
 TEST(Json, hasNoPropertyListForNull) { EXPECT_FALSE(propertyListFromJson(*readJson("[1,null]"))); }
@@ -95,6 +107,8 @@ TEST(Json, writesRealsOfPropertyListsAsNumbers) {
   EXPECT_EQ(writeJson(Real{"+2.50"}), "2.5");
   EXPECT_EQ(writeJson(Real{".5"}), "0.5");
   EXPECT_EQ(writeJson(Real{"nan"}), R"({"$real":"nan"})");
+  EXPECT_EQ(writeJson(Real{"1e400"}), R"({"$real":"+infinity"})");
+  EXPECT_EQ(writeJson(Real{"-inf"}), R"({"$real":"-infinity"})");
 }
 
 TEST(Json, writesFramesWithoutNeedlessDecimals) {
