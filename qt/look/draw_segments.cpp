@@ -23,25 +23,20 @@ QRectF sharedPlate(const QRectF& piece, SegmentPlace place) {
 }
 
 void drawDivider(QPainter& painter, const QRectF& piece, const QColor& color) {
-  const QRectF whole = snapped(painter, piece);
   const double inset = piece.height() / 4;
   painter.fillRect(
-      snapped(painter, QRectF(whole.left(), whole.top() + inset, lineWidth(painter), whole.height() - 2 * inset)),
+      snapped(painter, QRectF(piece.left(), piece.top() + inset, lineWidth(painter), piece.height() - 2 * inset)),
       color);
 }
 
 void drawFace(QPainter& painter, const QStyleOptionToolButton& piece) {
-  const bool isEnabled = piece.state.testFlag(QStyle::State_Enabled);
-  const auto mode = isEnabled ? QIcon::Normal : QIcon::Disabled;
-  if (!piece.icon.isNull()) {
-    QRect picture(QPoint(), piece.iconSize);
-    picture.moveTopLeft(piece.rect.topLeft() + QPoint((piece.rect.width() - picture.width()) / 2,
-                                                      (piece.rect.height() - picture.height()) / 2));
-    piece.icon.paint(&painter, picture, Qt::AlignCenter, mode);
-    return;
+  if (piece.icon.isNull()) {
+    painter.setFont(piece.font);
+    return drawLabel(painter, piece.rect, Qt::AlignCenter, piece.text, piece.palette.color(QPalette::ButtonText));
   }
-  painter.setFont(piece.font);
-  drawLabel(painter, piece.rect, Qt::AlignCenter, piece.text, piece.palette.color(QPalette::ButtonText));
+  const bool isEnabled = is(piece, QStyle::State_Enabled);
+  const QRect picture = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, piece.iconSize, piece.rect);
+  piece.icon.paint(&painter, picture, Qt::AlignCenter, isEnabled ? QIcon::Normal : QIcon::Disabled);
 }
 
 }  // namespace
@@ -52,7 +47,6 @@ bool drawSegment(QPainter& painter, const QStyleOption& option, const QWidget* w
   if (!piece || !place) return false;
   const QPalette& palette = option.palette;
   const QRectF rect = option.rect;
-  const bool isOn = option.state.testFlag(QStyle::State_On), isSunken = option.state.testFlag(QStyle::State_Sunken);
   painter.save();
   painter.setClipRect(option.rect, Qt::IntersectClip);
   drawPlate(painter, sharedPlate(rect, *place), metrics::controlRadius, palette.color(QPalette::Midlight),
@@ -61,12 +55,11 @@ bool drawSegment(QPainter& painter, const QStyleOption& option, const QWidget* w
     drawDivider(painter, rect, palette.color(QPalette::Mid));
   const QRectF raised = rect.adjusted(2, 2, -2, -2);
   const QColor accent = palette.color(QPalette::Highlight);
-  const QColor plate = mixed(palette.color(QPalette::Button), accent, isSunken ? 0.2 : 0.1);
-  if (isOn)
-    drawPlate(painter, raised, metrics::controlRadius - 2, plate, accent);
-  else if (isSunken || (option.state.testFlag(QStyle::State_MouseOver) && option.state.testFlag(QStyle::State_Enabled)))
-    drawPlate(painter, raised, metrics::controlRadius - 2,
-              mixed(palette.color(QPalette::Midlight), palette.color(QPalette::ButtonText), 0.08));
+  const QColor chosen = mixed(palette.color(QPalette::Button), accent, is(option, QStyle::State_Sunken) ? 0.2 : 0.1);
+  if (is(option, QStyle::State_On))
+    drawPlate(painter, raised, metrics::controlRadius - 2, chosen, accent);
+  else
+    drawPlate(painter, raised, metrics::controlRadius - 2, pushed(option, palette.color(QPalette::Midlight)));
   painter.restore();
   drawFace(painter, *piece);
   if (showsFocus(option)) drawFocusRing(painter, raised, metrics::controlRadius - 2, palette);

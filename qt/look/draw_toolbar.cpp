@@ -8,20 +8,6 @@
 #include "qt/look/plate.h"
 
 namespace tarvo {
-namespace {
-
-QColor itemPlate(const QStyleOption& option) {
-  const QColor pane = option.palette.color(QPalette::Window), ink = option.palette.color(QPalette::WindowText);
-  if (option.state.testFlag(QStyle::State_Sunken)) return mixed(pane, ink, 0.16);
-  if (option.state.testFlag(QStyle::State_On)) return mixed(pane, ink, 0.09);
-  return option.state.testFlag(QStyle::State_MouseOver) ? mixed(pane, ink, 0.04) : QColor();
-}
-
-QIcon::Mode iconMode(const QStyleOption& option) {
-  return option.state.testFlag(QStyle::State_Enabled) ? QIcon::Normal : QIcon::Disabled;
-}
-
-}  // namespace
 
 bool drawToolbar(QPainter& painter, const QStyleOption& option, const QWidget*) {
   painter.fillRect(option.rect, option.palette.color(QPalette::Window));
@@ -31,18 +17,17 @@ bool drawToolbar(QPainter& painter, const QStyleOption& option, const QWidget*) 
 
 bool drawToolbarItem(QPainter& painter, const QStyleOption& option, const QWidget*) {
   const auto* item = qstyleoption_cast<const QStyleOptionToolButton*>(&option);
-  if (!item) return false;
-  const bool isOn = option.state.testFlag(QStyle::State_On);
-  if (const QColor plate = itemPlate(option); plate.isValid())
-    drawPlate(painter, option.rect, metrics::cardRadius, plate);
+  if (!item || item->toolButtonStyle != Qt::ToolButtonTextUnderIcon) return false;
+  drawPlate(painter, option.rect, metrics::cardRadius, pushed(option, option.palette.color(QPalette::Window)));
   const QRect inner = option.rect.adjusted(metrics::grid, 6, -metrics::grid, -metrics::grid);
   QRect picture(QPoint(), item->iconSize);
   picture.moveCenter(QPoint(inner.center().x() + 1, inner.top() + item->iconSize.height() / 2));
-  item->icon.paint(&painter, picture, Qt::AlignCenter, iconMode(option));
+  item->icon.paint(&painter, picture, Qt::AlignCenter,
+                   is(option, QStyle::State_Enabled) ? QIcon::Normal : QIcon::Disabled);
   const QRect text = inner.adjusted(0, item->iconSize.height() + 2, 0, 0);
   painter.setFont(item->font);
   drawLabel(painter, text, Qt::AlignCenter, item->text,
-            option.palette.color(isOn ? QPalette::Link : QPalette::WindowText));
+            option.palette.color(is(option, QStyle::State_On) ? QPalette::Link : QPalette::WindowText));
   if (showsFocus(option)) drawFocusRing(painter, option.rect, metrics::cardRadius, option.palette);
   return true;
 }

@@ -15,7 +15,6 @@ inline constexpr int grid = 4;
 // Gaps, from the nearest relation to the farthest.
 inline constexpr int labelGap = 8;     // label to its control; button to button
 inline constexpr int rowGap = 8;       // row to row of a form
-inline constexpr int headingGap = 8;   // heading to its rows
 inline constexpr int sectionGap = 20;  // last row to the next heading
 inline constexpr int paneMargin = 20;  // edge of a pane, sheet or panel to its contents
 
@@ -31,7 +30,6 @@ inline constexpr int fieldWidth = 280;  // name fields of the sheets
 inline constexpr int minimumCheckBoxSize = 16;
 inline constexpr int checkBoxGap = 8;
 inline constexpr int scrollBarExtent = 12;
-inline constexpr int menuMark = 24;  // tick before a menu item, arrow behind it
 
 // Segments with an icon.
 inline constexpr int segmentIcon = 32;
@@ -44,9 +42,8 @@ inline constexpr int toolbarItemMinimumWidth = 76;
 inline constexpr int toolbarMargin = 8;
 inline constexpr int toolbarItemGap = 4;
 
-// Lists: icon 16 by 16 after a margin of 3, text after a further 3.
+// Lists.
 inline constexpr int cellIcon = 16;
-inline constexpr int cellMargin = 3;
 inline constexpr int minimumRowHeight = 28;
 inline constexpr int listPadding = 4;  // frame of a list to its rows
 
@@ -60,6 +57,5 @@ constexpr int onGrid(int length) { return (length + grid - 1) / grid * grid; }
 inline int controlHeight(const QFontMetrics& font) { return std::max(minimumControlHeight, onGrid(font.height() + 8)); }
 inline int checkBoxSize(const QFontMetrics& font) { return std::max(minimumCheckBoxSize, onGrid(font.ascent() - 2)); }
 inline int rowHeight(const QFontMetrics& font) { return std::max(minimumRowHeight, onGrid(font.height() + 8)); }
-inline int menuItemHeight(const QFontMetrics& font) { return onGrid(font.height() + 4); }
 
 }  // namespace tarvo::metrics

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "qt/look/plate.h"
 
-#include <QLineF>
-#include <QPolygonF>
 #include <QStyleOption>
 #include <QTransform>
 #include <algorithm>
@@ -12,31 +10,16 @@
 namespace tarvo {
 namespace {
 
-class Saved {
- public:
-  explicit Saved(QPainter& painter) : painter_(painter) {
-    painter_.save();
-    painter_.setRenderHint(QPainter::Antialiasing);
-  }
-  ~Saved() { painter_.restore(); }
-  Saved(const Saved&) = delete;
-  Saved& operator=(const Saved&) = delete;
-
- private:
-  QPainter& painter_;
-};
-
-double deviceScale(const QPainter& painter) {
-  const double scale = painter.deviceTransform().m11();
-  return scale > 0 ? scale : 1;
-}
-
-void strokePlate(QPainter& painter, const QRectF& edge, double radius, const QPen& pen, const QBrush& brush) {
+// A rounded rectangle whose outer edge is rect.
+void drawRounded(QPainter& painter, const QRectF& rect, double radius, const QPen& pen, const QBrush& brush) {
   const double inset = pen.style() == Qt::NoPen ? 0 : pen.widthF() / 2;
-  const QRectF rect = edge.adjusted(inset, inset, -inset, -inset);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(pen);
   painter.setBrush(brush);
-  painter.drawRoundedRect(rect, radius - inset, radius - inset);
+  painter.drawRoundedRect(snapped(painter, rect).adjusted(inset, inset, -inset, -inset), radius - inset,
+                          radius - inset);
+  painter.restore();
 }
 
 }  // namespace
@@ -44,6 +27,15 @@ void strokePlate(QPainter& painter, const QRectF& edge, double radius, const QPe
 QColor mixed(const QColor& a, const QColor& b, double share) {
   const auto part = [share](int from, int to) { return from + static_cast<int>(std::lround((to - from) * share)); };
   return {part(a.red(), b.red()), part(a.green(), b.green()), part(a.blue(), b.blue()), part(a.alpha(), b.alpha())};
+}
+
+QColor pushed(const QStyleOption& option, const QColor& plate) {
+  const double share = !is(option, QStyle::State_Enabled)    ? 0
+                       : is(option, QStyle::State_Sunken)    ? 0.12
+                       : is(option, QStyle::State_On)        ? 0.09
+                       : is(option, QStyle::State_MouseOver) ? 0.05
+                                                             : 0;
+  return mixed(plate, option.palette.color(QPalette::ButtonText), share);
 }
 
 bool isDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
@@ -58,24 +50,22 @@ QRectF snapped(const QPainter& painter, const QRectF& rect) {
 }
 
 double lineWidth(const QPainter& painter) {
-  const double scale = deviceScale(painter);
-  return std::max(1.0, std::floor(scale)) / scale;
+  const double scale = painter.deviceTransform().m11();
+  return scale > 0 ? std::max(1.0, std::floor(scale)) / scale : 1;
 }
 
 void drawPlate(QPainter& painter, const QRectF& rect, double radius, const QColor& fill, const QColor& border) {
-  const Saved saved(painter);
-  const QPen pen = border.isValid() ? QPen(border, lineWidth(painter)) : QPen(Qt::NoPen);
-  strokePlate(painter, snapped(painter, rect), radius, pen, fill);
+  drawRounded(painter, rect, radius, border.isValid() ? QPen(border, lineWidth(painter)) : QPen(Qt::NoPen), fill);
 }
 
 void drawFocusRing(QPainter& painter, const QRectF& rect, double radius, const QPalette& palette) {
-  const Saved saved(painter);
-  const QPen ring(palette.color(QPalette::Highlight), 2 * lineWidth(painter));
-  strokePlate(painter, snapped(painter, rect), radius, ring, Qt::NoBrush);
+  drawRounded(painter, rect, radius, QPen(palette.color(QPalette::Highlight), 2 * lineWidth(painter)), Qt::NoBrush);
 }
 
+bool is(const QStyleOption& option, QStyle::StateFlag flag) { return option.state.testFlag(flag); }
+
 bool showsFocus(const QStyleOption& option) {
-  return option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_KeyboardFocusChange);
+  return is(option, QStyle::State_HasFocus) && is(option, QStyle::State_KeyboardFocusChange);
 }
 
 void drawHorizontalLine(QPainter& painter, const QRectF& rect, const QColor& color) {
@@ -84,15 +74,12 @@ void drawHorizontalLine(QPainter& painter, const QRectF& rect, const QColor& col
   painter.fillRect(QRectF(whole.left(), whole.bottom() - width, whole.width(), width), color);
 }
 
-void drawChevron(QPainter& painter, QPointF centre, double halfWidth, Qt::ArrowType direction, const QColor& color) {
-  const double depth = halfWidth / 2;
-  QPolygonF line({QPointF(-halfWidth, -depth), QPointF(0, depth), QPointF(halfWidth, -depth)});
-  QTransform turn;
-  turn.rotate(direction == Qt::UpArrow ? 180 : direction == Qt::LeftArrow ? 90 : direction == Qt::RightArrow ? -90 : 0);
-  const Saved saved(painter);
-  painter.setPen(QPen(color, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawPolyline(turn.map(line).translated(centre));
+void drawStroke(QPainter& painter, const QPolygonF& line, double width, const QColor& color) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(line);
+  painter.restore();
 }
 
 void drawLabel(QPainter& painter, const QRect& rect, int alignment, const QString& text, const QColor& color) {

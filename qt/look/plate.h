@@ -5,7 +5,9 @@
 #include <QColor>
 #include <QPainter>
 #include <QPalette>
+#include <QPolygonF>
 #include <QRectF>
+#include <QStyle>
 
 class QStyleOption;
 
@@ -29,8 +31,11 @@ void drawPlate(QPainter& painter, const QRectF& rect, double radius, const QColo
 void drawFocusRing(QPainter& painter, const QRectF& rect, double radius, const QPalette& palette);
 bool showsFocus(const QStyleOption& option);
 
-void drawHorizontalLine(QPainter& painter, const QRectF& rect, const QColor& color);  // along the foot of rect
-void drawChevron(QPainter& painter, QPointF centre, double halfWidth, Qt::ArrowType direction, const QColor& color);
+bool is(const QStyleOption& option, QStyle::StateFlag flag);
+QColor pushed(const QStyleOption& option, const QColor& plate);  // the plate under the mouse or the finger
+
+void drawHorizontalLine(QPainter& painter, const QRectF& rect, const QColor& color);           // along the foot of rect
+void drawStroke(QPainter& painter, const QPolygonF& line, double width, const QColor& color);  // with round ends
 
 // The text within rect, shortened with an ellipsis when it does not fit; mnemonics are shown.
 void drawLabel(QPainter& painter, const QRect& rect, int alignment, const QString& text, const QColor& color);

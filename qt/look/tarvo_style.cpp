@@ -3,67 +3,48 @@
 #include "qt/look/tarvo_style.h"
 
 #include <QApplication>
+#include <QStyleOptionMenuItem>
 #include <QStyleOptionViewItem>
-#include <QTabBar>
 
 #include "qt/look/draw.h"
 #include "qt/look/fonts.h"
 #include "qt/look/panel_icons.h"
-#include "qt/look/style_metrics.h"
+#include "qt/look/plate.h"
 
 namespace tarvo {
 namespace {
 
 template <class Element>
-struct Drawing {
-  Element element;
-  Draw draw;
-};
+using Drawing = std::pair<Element, Draw>;
 
-template <Qt::ArrowType direction>
-bool drawArrowTo(QPainter& painter, const QStyleOption& option, const QWidget*) {
-  return drawArrow(painter, option, direction);
-}
+bool drawNothing(QPainter&, const QStyleOption&, const QWidget*) { return true; }
 
 constexpr Drawing<QStyle::PrimitiveElement> primitives[] = {
     {QStyle::PE_PanelButtonCommand, drawPushButtonPlate},
     {QStyle::PE_FrameDefaultButton, drawNothing},
-    {QStyle::PE_PanelButtonTool, drawToolButtonPlate},
     {QStyle::PE_IndicatorCheckBox, drawCheckMark},
     {QStyle::PE_IndicatorItemViewItemCheck, drawCheckMark},
-    {QStyle::PE_IndicatorArrowUp, drawArrowTo<Qt::UpArrow>},
-    {QStyle::PE_IndicatorArrowDown, drawArrowTo<Qt::DownArrow>},
-    {QStyle::PE_IndicatorArrowLeft, drawArrowTo<Qt::LeftArrow>},
-    {QStyle::PE_IndicatorArrowRight, drawArrowTo<Qt::RightArrow>},
-    {QStyle::PE_IndicatorHeaderArrow, drawSortMark},
     {QStyle::PE_FrameFocusRect, drawFocusFrame},
     {QStyle::PE_PanelLineEdit, drawField},
     {QStyle::PE_FrameLineEdit, drawNothing},
-    {QStyle::PE_Frame, drawFrame},
-    {QStyle::PE_FrameMenu, drawNothing},
-    {QStyle::PE_FrameGroupBox, drawNothing},
+    {QStyle::PE_Frame, drawCard},
     {QStyle::PE_FrameTabWidget, drawTabFoot},
     {QStyle::PE_FrameTabBarBase, drawNothing},
     {QStyle::PE_PanelItemViewRow, drawNothing},
     {QStyle::PE_IndicatorItemViewItemDrop, drawDropMark},
-    {QStyle::PE_PanelMenu, drawMenuPlate},
-    {QStyle::PE_PanelTipLabel, drawToolTip},
 };
 
 constexpr Drawing<QStyle::ControlElement> controls[] = {
     {QStyle::CE_PushButtonLabel, drawPushButtonLabel},
-    {QStyle::CE_ComboBoxLabel, drawComboLabel},
-    {QStyle::CE_ShapedFrame, drawLine},
-    {QStyle::CE_HeaderSection, drawHeaderSection},
-    {QStyle::CE_HeaderLabel, drawHeaderLabel},
-    {QStyle::CE_HeaderEmptyArea, drawHeaderRest},
+    {QStyle::CE_HeaderSection, drawHeader},
+    {QStyle::CE_HeaderEmptyArea, drawHeader},
     {QStyle::CE_TabBarTabShape, drawTab},
-    {QStyle::CE_TabBarTabLabel, drawTabLabel},
-    {QStyle::CE_MenuItem, drawMenuItem},
-    {QStyle::CE_MenuBarItem, drawMenuBarItem},
-    {QStyle::CE_MenuBarEmptyArea, drawMenuBar},
     {QStyle::CE_ToolBar, drawToolbar},
 };
+
+bool drawToolButton(QPainter& painter, const QStyleOption& option, const QWidget* widget) {
+  return drawSegment(painter, option, widget) || drawToolbarItem(painter, option, widget);
+}
 
 constexpr Drawing<QStyle::ComplexControl> complexControls[] = {
     {QStyle::CC_ComboBox, drawCombo},
@@ -76,6 +57,14 @@ bool drawn(const Table& table, Element element, const QStyleOption* option, QPai
   for (const auto& [known, draw] : table)
     if (known == element) return option && draw(*painter, *option, widget);
   return false;
+}
+
+// A chosen row is only tinted: text, pictures and boxes keep their colours. A list without the keyboard steps back.
+QColor rowTint(const QStyleOption& option, const QWidget* widget) {
+  const QPalette& palette = option.palette;
+  const bool isCalm = widget && widget->inherits("QAbstractItemView") && !widget->hasFocus();
+  return isCalm ? mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.1)
+                : mixed(palette.color(QPalette::Base), palette.color(QPalette::Highlight), 0.16);
 }
 
 }  // namespace
@@ -91,48 +80,25 @@ void TarvoStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 void TarvoStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const {
   if (drawn(controls, element, option, painter, widget)) return;
-  const auto* cell = qstyleoption_cast<const QStyleOptionViewItem*>(option);
-  if (element != CE_ItemViewItem || !cell) return QProxyStyle::drawControl(element, option, painter, widget);
-  // The plate of a chosen row is only a tint, so the base draws text, picture and check box as of any other row.
-  drawCellBackground(*painter, *option, widget);
-  QStyleOptionViewItem calm = *cell;
-  calm.state &= ~State_Selected;
-  calm.backgroundBrush = {};
-  QProxyStyle::drawControl(element, &calm, painter, widget);
+  if (const auto* cell = qstyleoption_cast<const QStyleOptionViewItem*>(option))
+    return drawRow(element, *cell, painter, widget);
+  if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+      item && element == CE_MenuItem && is(*item, State_Enabled))
+    return drawRow(element, *item, painter, widget);
+  QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+template <class Row>
+void TarvoStyle::drawRow(ControlElement element, Row row, QPainter* painter, const QWidget* widget) const {
+  if (is(row, State_Selected)) painter->fillRect(row.rect, rowTint(row, widget));
+  row.state &= ~State_Selected;
+  QProxyStyle::drawControl(element, &row, painter, widget);
 }
 
 void TarvoStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                     const QWidget* widget) const {
   if (!drawn(complexControls, control, option, painter, widget))
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-}
-
-QRect TarvoStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
-  if (const auto rect = elementRect(element, option, *this)) return *rect;
-  return QProxyStyle::subElementRect(element, option, widget);
-}
-
-QRect TarvoStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
-                                 const QWidget* widget) const {
-  if (const auto rect = partRect(control, option, part)) return *rect;
-  return QProxyStyle::subControlRect(control, option, part, widget);
-}
-
-QSize TarvoStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
-                                   const QWidget* widget) const {
-  if (const auto size = sizeOf(type, option, contents, widget)) return *size;
-  return QProxyStyle::sizeFromContents(type, option, contents, widget);
-}
-
-int TarvoStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
-  if (const auto value = styleMetric(metric, option, widget)) return *value;
-  return QProxyStyle::pixelMetric(metric, option, widget);
-}
-
-int TarvoStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                          QStyleHintReturn* returned) const {
-  if (const auto value = hintValue(hint)) return *value;
-  return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
 QIcon TarvoStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const {
@@ -143,11 +109,6 @@ QIcon TarvoStyle::standardIcon(StandardPixmap picture, const QStyleOption* optio
 }
 
 QPalette TarvoStyle::standardPalette() const { return makePalette(scheme_); }
-
-void TarvoStyle::polish(QWidget* widget) {
-  QProxyStyle::polish(widget);
-  if (qobject_cast<QTabBar*>(widget)) widget->setAttribute(Qt::WA_Hover);
-}
 
 void applyLook(QApplication& application, Scheme scheme, const std::string& language) {
   application.setStyle(new TarvoStyle(scheme));

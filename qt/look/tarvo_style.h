@@ -37,10 +37,12 @@ class TarvoStyle : public QProxyStyle {
   QIcon standardIcon(StandardPixmap picture, const QStyleOption* option = nullptr,
                      const QWidget* widget = nullptr) const override;
   QPalette standardPalette() const override;
-  using QProxyStyle::polish;
-  void polish(QWidget* widget) override;
 
  private:
+  // A row of a list or menu: the base draws it as one that is not chosen, over the tint of a chosen one.
+  template <class Row>
+  void drawRow(ControlElement element, Row row, QPainter* painter, const QWidget* widget) const;
+
   Scheme scheme_;
 };
 

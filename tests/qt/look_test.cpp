@@ -73,7 +73,8 @@ std::unique_ptr<QWidget> tabs(const QString& text) {
 
 std::unique_ptr<QWidget> menu(const QString& text) {
   auto shown = std::make_unique<QMenu>();
-  shown->addAction(text);
+  shown->addAction(text)->setShortcut(Qt::CTRL | Qt::Key_N);
+  shown->addAction(text)->setCheckable(true);
   return shown;
 }
 
@@ -94,18 +95,22 @@ TEST_P(TextRoom, aControlAsksForRoomForItsWholeText) {
   const auto& [kind, language, percent] = GetParam();
   const QString text =
       qstrcmp(language, "ja") == 0 ? QStringLiteral("専門辞書の読み込みjg…") : QStringLiteral("Åjgy Load…");
-  const std::unique_ptr<QWidget> control = kind.make(text);
   QFont font = applicationFont(language);
   font.setPointSizeF(font.pointSizeF() * percent / 100);
-  control->setFont(font);
   QPalette red = makePalette(Scheme::light);
   for (const auto role : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text}) red.setColor(role, Qt::red);
-  control->setPalette(red);
-  control->ensurePolished();
-  const QSize wanted = control->sizeHint();
-  const int ink = pixels(picture(*control, wanted), isRed);
+  const auto inkWith = [&, make = kind.make](QSize room) {
+    const std::unique_ptr<QWidget> control = make(text);
+    control->setFont(font);
+    control->setPalette(red);
+    control->ensurePolished();
+    const QSize wanted = control->sizeHint() + room;
+    if (!room.isNull()) control->setMinimumSize(wanted);
+    return pixels(picture(*control, wanted), isRed);
+  };
+  const int ink = inkWith({0, 0});
   EXPECT_GT(ink, 50);
-  EXPECT_EQ(pixels(picture(*control, wanted + QSize(80, 40)), isRed), ink);
+  EXPECT_EQ(inkWith({80, 40}), ink);
 }
 
 INSTANTIATE_TEST_SUITE_P(Controls, TextRoom,
