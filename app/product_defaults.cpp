@@ -66,6 +66,14 @@ std::string languageFromEnvironment() {
 
 std::string defaultResources() { return besideProgram("resources").value_or(TARVO_BUILD_RESOURCES); }
 
+std::string missingResource(const std::string& folder) {
+  for (const char* name : {"DefaultAddin.plist", "WordhavenPaths.plist"}) {
+    std::error_code error;
+    if (std::string path = joinPath(folder, name); !fs::is_regular_file(path, error)) return path;
+  }
+  return {};
+}
+
 Places findPlaces(const std::optional<std::string>& root, const std::optional<std::string>& home) {
   Places places;
   const std::string namedRoot = root ? *root : environment("TARVO_ROOT");

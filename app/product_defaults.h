@@ -18,6 +18,9 @@ std::string languageFromEnvironment();
 // from.
 std::string defaultResources();
 
+// The first file without which nothing works that this folder of resources lacks; "" when all are there.
+std::string missingResource(const std::string& folder);
+
 struct Places {
   std::string root, home;  // absolute, without a trailing slash ("/" for no root)
 };

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "console/command_line.h"
 
-#include <CLI/CLI.hpp>
+#include <algorithm>
 
 #include "console/verbs/addin_commands.h"
 #include "console/verbs/dictionary_commands.h"
@@ -17,190 +17,133 @@ namespace tarvo {
 
 namespace {
 
-// The options that the window program takes as well.
-std::vector<std::string> passedOn(const CommandLine& line) {
-  const ProductOptions& product = line.product;
-  std::vector<std::string> options;
-  const auto add = [&options](const char* name, const std::optional<std::string>& value) {
-    if (value) options.push_back(std::string(name) + '=' + *value);
-  };
-  add("--root", product.root);
-  add("--home", product.home);
-  add("--language", product.language);
-  for (const std::string& file : product.strings) add("--strings", file);
-  add("--paths", product.paths);
-  add("--resources", product.resources);
-  add("--engine", product.engine);
-  add("--bus-name", line.busName);
-  return options;
-}
-
-void addCommonOptions(CLI::App& app, CommandLine& line) {
-  ProductOptions& product = line.product;
-  app.add_option("--root", product.root, "prefix of the product's and the system's fixed paths");
-  app.add_option("--home", product.home, "the user's home folder");
-  app.add_option("--language", product.language, "text table")->check(CLI::IsMember({"en", "ja"}));
-  app.add_option("--strings", product.strings, "texts laid over the table; none drops those before it")
-      ->allow_extra_args(false);
-  app.add_option("--paths", product.paths, "a property list laid over the product's paths");
-  app.add_option("--resources", product.resources, "the resource folder");
-  app.add_option("--engine", product.engine, "style service; none is never reachable");
-  app.add_option("--bus-name", line.busName, "name of the manager on the session bus (under open)");
-  app.add_option("--clock", line.clock, "manual: timers fire only through advance (under run)")
-      ->check(CLI::IsMember({"manual", "real"}));
-  app.set_version_flag("--version", "tarvoctl " TARVO_VERSION);
-}
-
-struct Table {
-  CommandLine& line;
-  VerbWords& words = line.words;
-
-  // make answers a command by value.
-  template <class Make>
-  void add(CLI::App& verb, Make make) const {
-    verb.fallthrough()->callback([&to = line.makeCommand, make] {
-      to = [make]() -> std::unique_ptr<Command> { return std::make_unique<decltype(make())>(make()); };
-    });
-  }
-  CLI::App& group(CLI::App& app, const char* name, const char* purpose) const {
-    return *app.add_subcommand(name, purpose)->require_subcommand(1)->fallthrough();
-  }
+struct Verb {
+  const char* words;
+  const char* meaning;
+  const char* arguments = "";
+  std::unique_ptr<Command> (*make)(const CommandLine& line) = nullptr;  // null: a group, or a script to be run
+  bool lists = false;                                                   // answers as JSON when asked to
+  bool needsResources = true;
 };
 
-void addListing(CLI::App& verb, VerbWords& words) { verb.add_flag("--json", words.json, "one line of JSON"); }
-
-void addIndex(CLI::App& verb, VerbWords& words) { verb.add_option("N", words.index)->required(); }
-
-void addStyleVerbs(CLI::App& app, const Table& table) {
-  VerbWords& words = table.words;
-  CLI::App& styles = *app.add_subcommand("styles", "list the styles");
-  addListing(styles, words);
-  table.add(styles, [&] { return StylesCommand(words.json); });
-  CLI::App& style = table.group(app, "style", "one style");
-  CLI::App& show = *style.add_subcommand("show", "print it");
-  addIndex(show, words);
-  addListing(show, words);
-  table.add(show, [&] { return StyleShowCommand(words.index, words.json); });
-  CLI::App& set = *style.add_subcommand("set", "set options");
-  addIndex(set, words);
-  set.add_option("KEY=VALUE", words.pairs)->required();
-  table.add(set, [&] { return StyleSetCommand(words.index, words.pairs); });
-  CLI::App& rename = *style.add_subcommand("rename", "give it another name");
-  addIndex(rename, words);
-  rename.add_option("NAME", words.name)->required();
-  table.add(rename, [&] { return StyleRenameCommand(words.index, words.name); });
-  CLI::App& exported = *style.add_subcommand("export", "write it into a file of its own");
-  addIndex(exported, words);
-  exported.add_option("FILE", words.file)->required();
-  table.add(exported, [&] { return StyleExportCommand(words.index, words.file); });
-  CLI::App& imported = *style.add_subcommand("import", "put the style of a file in its place");
-  addIndex(imported, words);
-  imported.add_option("FILE", words.file)->required();
-  table.add(imported, [&] { return StyleImportCommand(words.index, words.file); });
+template <class C>
+std::unique_ptr<Command> make(auto... words) {
+  return std::make_unique<C>(std::move(words)...);
 }
 
-void addDirection(CLI::App& verb, VerbWords& words) {
-  verb.add_option("DIRECTION", words.direction)->required()->check(CLI::IsMember({"ej", "je"}));
+int directionOf(const CommandLine& line) { return line.words.direction == "ej" ? 0 : 1; }
+
+ListPlace placeOf(const CommandLine& line) { return {line.words.index, directionOf(line)}; }
+
+using Line = const CommandLine&;
+
+const std::vector<Verb>& verbs() {
+  static const std::vector<Verb> all{
+      {"styles", "Verb.styles", "", [](Line line) { return make<StylesCommand>(line.json); }, true},
+      {"style", "Verb.style"},
+      {"style show", "Verb.style show", "N",
+       [](Line line) { return make<StyleShowCommand>(line.words.index, line.json); }, true},
+      {"style set", "Verb.style set", "N KEY=VALUE...",
+       [](Line line) { return make<StyleSetCommand>(line.words.index, line.words.pairs); }},
+      {"style rename", "Verb.style rename", "N NAME",
+       [](Line line) { return make<StyleRenameCommand>(line.words.index, line.words.name); }},
+      {"style export", "Verb.style export", "N FILE",
+       [](Line line) { return make<StyleExportCommand>(line.words.index, line.words.file); }},
+      {"style import", "Verb.style import", "N FILE",
+       [](Line line) { return make<StyleImportCommand>(line.words.index, line.words.file); }},
+      {"dictionaries", "Verb.dictionaries", "N DIRECTION",
+       [](Line line) { return make<DictionariesCommand>(placeOf(line), line.json); }, true},
+      {"dictionary", "Verb.dictionary"},
+      {"dictionary add", "Verb.dictionary add", "N DIRECTION NAMES...",
+       [](Line line) { return make<AddDictionariesCommand>(placeOf(line), line.words.names); }},
+      {"dictionary remove", "Verb.dictionary remove", "N DIRECTION NAME",
+       [](Line line) { return make<RemoveDictionaryCommand>(placeOf(line), line.words.name); }},
+      {"dictionary move", "Verb.dictionary move", "N DIRECTION NAME POSITION",
+       [](Line line) { return make<MoveDictionaryCommand>(placeOf(line), line.words.name, line.words.position); }},
+      {"new", "Verb.new", "DIRECTION KIND NAME",
+       [](Line line) {
+         return make<NewDictionaryCommand>(directionOf(line), line.words.kind == "memory", line.words.name);
+       }},
+      {"addins", "Verb.addins", "", [](Line line) { return make<AddinsCommand>(line.json); }, true},
+      {"addin", "Verb.addin"},
+      {"addin install", "Verb.addin install", "NAME [VERSION]",
+       [](Line line) { return make<AddinTickCommand>(line.words.name, line.words.version, true); }},
+      {"addin remove", "Verb.addin remove", "NAME [VERSION]",
+       [](Line line) { return make<AddinTickCommand>(line.words.name, line.words.version, false); }},
+      {"addin search", "Verb.addin search", "FOLDER",
+       [](Line line) { return make<AddinSearchCommand>(line.words.folder); }},
+      {"tool-list", "Verb.tool-list", "[TOOL]", [](Line line) { return make<ToolListCommand>(line.words.tool); }},
+      {"open", "Verb.open", "CODE", [](Line line) { return make<OpenCommand>(wordsForWindow(line), line.words.code); }},
+      {"engine", "Verb.engine"},
+      {"engine status", "Verb.engine status", "", [](Line line) { return make<EngineStatusCommand>(line.json); }, true},
+      {"engine push", "Verb.engine push", "", [](Line) { return make<EnginePushCommand>(); }},
+      {"engine pull", "Verb.engine pull", "", [](Line) { return make<EnginePullCommand>(); }},
+      {"doctor", "Verb.doctor", "", [](Line line) { return make<DoctorCommand>(line.json); }, true, false},
+      {"run", "Verb.run", "[FILE]"},
+  };
+  return all;
 }
 
-void addPlace(CLI::App& verb, VerbWords& words) {
-  addIndex(verb, words);
-  addDirection(verb, words);
+CommandTable tableFor(CommandLine& line) {
+  VerbWords& words = line.words;
+  CommandTable table{"tarvoctl",
+                     "AboutText",
+                     commonOptions(line, Front::console),
+                     {{"N", &words.index, wholeNumber()},
+                      {"KEY=VALUE", &words.pairs},
+                      {"DIRECTION", &words.direction, {{"ej", "je"}}},
+                      {"KIND", &words.kind, {{"user", "memory"}}},
+                      {"NAME", &words.name},
+                      {"NAMES", &words.names},
+                      {"POSITION", &words.position, wholeNumber()},
+                      {"VERSION", &words.version},
+                      {"FILE", &words.file},
+                      {"FOLDER", &words.folder},
+                      {"TOOL", &words.tool},
+                      {"CODE", &words.code}},
+                     {}};
+  for (const Verb& verb : verbs()) table.verbs.push_back({verb.words, verb.meaning, verb.arguments});
+  return table;
 }
 
-void addListVerbs(CLI::App& app, const Table& table) {
-  VerbWords& words = table.words;
-  const auto place = [&words] { return ListPlace{words.index, words.direction == "ej" ? 0 : 1}; };
-  CLI::App& list = *app.add_subcommand("dictionaries", "list the technical dictionaries of a style");
-  addPlace(list, words);
-  addListing(list, words);
-  table.add(list, [&words, place] { return DictionariesCommand(place(), words.json); });
-  CLI::App& dictionary = table.group(app, "dictionary", "edit that list");
-  addPlace(dictionary, words);
-  CLI::App& add = *dictionary.add_subcommand("add", "load dictionaries behind those that are loaded");
-  add.add_option("NAME", words.names)->required();
-  table.add(add, [&words, place] { return AddDictionariesCommand(place(), words.names); });
-  CLI::App& remove = *dictionary.add_subcommand("remove", "take one out of the list");
-  remove.add_option("NAME", words.name)->required();
-  table.add(remove, [&words, place] { return RemoveDictionaryCommand(place(), words.name); });
-  CLI::App& move = *dictionary.add_subcommand("move", "put one in another place, counted from 1");
-  move.add_option("NAME", words.name)->required();
-  move.add_option("POSITION", words.position)->required();
-  table.add(move, [&words, place] { return MoveDictionaryCommand(place(), words.name, words.position); });
+// "dictionary N ej add NAME", the order of earlier versions, as "dictionary add N ej NAME".
+std::vector<std::string> inTodaysOrder(std::vector<std::string> words) {
+  const auto verb = std::ranges::find(words, "dictionary");
+  if (words.end() - verb < 4) return words;
+  const std::string& edit = verb[3];
+  if (edit == "add" || edit == "remove" || edit == "move") std::rotate(verb + 1, verb + 3, verb + 4);
+  return words;
 }
 
-void addNewVerb(CLI::App& app, const Table& table) {
-  VerbWords& words = table.words;
-  CLI::App& verb = *app.add_subcommand("new", "make an empty user dictionary or translation memory");
-  addDirection(verb, words);
-  verb.add_option("KIND", words.kind)->required()->check(CLI::IsMember({"user", "memory"}));
-  verb.add_option("NAME", words.name, "without extension")->required();
-  table.add(verb,
-            [&] { return NewDictionaryCommand(words.direction == "ej" ? 0 : 1, words.kind == "memory", words.name); });
-}
-
-void addEngineVerbs(CLI::App& app, const Table& table) {
-  VerbWords& words = table.words;
-  CLI::App& engine = table.group(app, "engine", "the style service");
-  CLI::App& status = *engine.add_subcommand("status", "what it is, and what it holds");
-  addListing(status, words);
-  table.add(status, [&] { return EngineStatusCommand(words.json); });
-  table.add(*engine.add_subcommand("push", "hand the styles over"), [] { return EnginePushCommand(); });
-  table.add(*engine.add_subcommand("pull", "take newer styles"), [] { return EnginePullCommand(); });
-}
-
-void addAddinVerbs(CLI::App& app, const Table& table) {
-  VerbWords& words = table.words;
-  CLI::App& addins = *app.add_subcommand("addins", "list the applications that take an Office macro or mail scripts");
-  addListing(addins, words);
-  table.add(addins, [&] { return AddinsCommand(words.json); });
-  CLI::App& addin = table.group(app, "addin", "one add-in");
-  for (const bool install : {true, false}) {
-    CLI::App& verb = *addin.add_subcommand(install ? "install" : "remove",
-                                           install ? "put it into its application" : "take it out again");
-    verb.add_option("NAME", words.name, "of the application, as listed, or its path")->required();
-    verb.add_option("VERSION", words.version, "where several have the name");
-    table.add(verb, [&words, install] { return AddinTickCommand(words.name, words.version, install); });
-  }
-  CLI::App& search = *addin.add_subcommand("search", "look for Office 2011 in a folder");
-  search.add_option("FOLDER", words.folder)->required();
-  table.add(search, [&] { return AddinSearchCommand(words.folder); });
-  CLI::App& list = *app.add_subcommand("tool-list", "write the file from which the macros learn their tool");
-  list.add_option("TOOL", words.tool, "code of the tool; else the one chosen before");
-  table.add(list, [&] { return ToolListCommand(words.tool); });
-}
-
-void addOtherVerbs(CLI::App& app, const Table& table) {
-  VerbWords& words = table.words;
-  CLI::App& open = *app.add_subcommand("open", "bring the window to a tool, by its caller code");
-  open.add_option("CODE", words.code)->required();
-  table.add(open, [&line = table.line] { return OpenCommand(passedOn(line), line.words.code); });
-  CLI::App& doctor = *app.add_subcommand("doctor", "every path looked at, and what is there");
-  addListing(doctor, words);
-  table.add(doctor, [&words] { return DoctorCommand(words.json); });
-  CLI::App& script = *app.add_subcommand("run", "run a script of the scenario language");
-  script.add_option("FILE", table.line.script, "the script; - reads it from the input");
+void choose(CommandLine& line, const Verb& verb) {
+  line.needsResources = verb.needsResources;
+  if (verb.make != nullptr) line.makeCommand = [&line, make = verb.make] { return make(line); };
+  if (verb.make == nullptr && !line.words.file.empty()) line.script = line.words.file;
 }
 
 }  // namespace
 
-std::optional<ExitStatus> readCommandLine(CommandLine& line, int count, const char* const* words, std::ostream& out,
+std::optional<ExitStatus> readCommandLine(CommandLine& line, const std::vector<std::string>& words, std::ostream& out,
                                           std::ostream& err) {
-  CLI::App app("Manages the translation styles of TarvoEiwa.", "tarvoctl");
-  app.require_subcommand(1)->fallthrough();
-  addCommonOptions(app, line);
-  const Table table{line};
-  addStyleVerbs(app, table);
-  addListVerbs(app, table);
-  addNewVerb(app, table);
-  addEngineVerbs(app, table);
-  addAddinVerbs(app, table);
-  addOtherVerbs(app, table);
-  try {
-    app.parse(count, words);
-  } catch (const CLI::ParseError& error) {
-    return app.exit(error, out, err) == 0 ? ExitStatus::done : ExitStatus::usage;
+  const CommandTable table = tableFor(line);
+  WordsRead read = readWords(table, inTodaysOrder(words));
+  if (line.version) {
+    out << "tarvoctl " TARVO_VERSION "\n";
+    return ExitStatus::done;
   }
+  if (line.help) {
+    out << helpText(table, read.verb, textsToTell(line));
+    return ExitStatus::done;
+  }
+  const auto verb = std::ranges::find(verbs(), read.verb, &Verb::words);
+  if (!read.error && line.json && !verb->lists) {
+    read.error = {UsageError::Kind::unexpected, "--json", {}, synopsis(table, read.verb), ""};
+  }
+  if (read.error) {
+    err << told(*read.error, table.program, textsToTell(line)) << '\n';
+    return ExitStatus::usage;
+  }
+  choose(line, *verb);
   return std::nullopt;
 }
 

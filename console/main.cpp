@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "app/product.h"
+#include "app/product_defaults.h"
 #include "console/command_line.h"
 #include "console/script/manual_run_loop.h"
 #include "console/verbs/run_script.h"
@@ -84,7 +85,15 @@ ExitStatus runScriptFile(const CommandLine& line) {
 
 ExitStatus main(int count, char** words) {
   CommandLine line;
-  if (const auto status = readCommandLine(line, count, words, std::cout, std::cerr)) return *status;
+  if (const auto status = readCommandLine(line, {words + 1, words + count}, std::cout, std::cerr)) return *status;
+  const auto& resources = line.product.resources;
+  const std::string missing = missingResource(resources ? absolutePath(*resources) : defaultResources());
+  if (line.needsResources && !missing.empty()) {
+    std::cerr << "tarvoctl: " << missing
+              << ": is not there; the folder holds no resources of the product; name another "
+              << "one with --resources, or install the product again\n";
+    return ExitStatus::refused;
+  }
   if (!line.makeCommand) return runScriptFile(line);
   return runVerb(line, *line.makeCommand());
 }

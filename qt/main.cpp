@@ -32,7 +32,7 @@ constexpr std::chrono::milliseconds betweenTries(20);
 
 BusIdentity identityOf(const CommandLine& line, const Locations& locations) {
   const auto real = [](const std::string& path) { return std::filesystem::weakly_canonical(path).string(); };
-  return {line.busName, real(locations.resolve(locations.home())), real(locations.root())};
+  return {line.busName.value_or(defaultBusName), real(locations.resolve(locations.home())), real(locations.root())};
 }
 
 // Takes the lock, or hands what this start is to do to the manager that has it: then the answer is the status to end
@@ -78,16 +78,26 @@ int runManager(const CommandLine& line, int& argc, char** argv) {
   return done;
 }
 
+// Help, the version, or words that cannot be understood.
+std::optional<int> answerAtOnce(const CommandLine& line) {
+  if (!line.help && !line.version && !line.error) return std::nullopt;
+  if (line.version) {
+    std::cout << "tarvo-manager " TARVO_VERSION "\n";
+  } else if (line.help) {
+    std::cout << helpOfCommandLine(textsToTell(line));
+  } else {
+    std::cerr << told(*line.error, "tarvo-manager", textsToTell(line)) << '\n';
+    return misused;
+  }
+  return done;
+}
+
 }  // namespace
 }  // namespace tarvo
 
 int main(int argc, char** argv) {
   const tarvo::CommandLine line = tarvo::readCommandLine({argv + 1, argv + argc});
-  if (!line.problem.empty()) return tarvo::tell(tarvo::misused, line.problem + "\n" + tarvo::usage());
-  if (line.help || line.version) {
-    std::cout << (line.help ? tarvo::usage() : std::string("tarvo-manager " TARVO_VERSION "\n"));
-    return tarvo::done;
-  }
+  if (const auto status = tarvo::answerAtOnce(line)) return *status;
   const int status = tarvo::runManager(line, argc, argv);
   std::cout.flush();
   std::_Exit(status);  // everything is stored; the bus library would still wait for a bus that never answers

@@ -98,7 +98,7 @@ TEST_F(AddinVerbs, listingIsWhatTheNextStartShows) {
 }
 
 TEST_F(AddinVerbs, listingWithoutAnyList) {
-  fs::remove(root_.root() + "/Bundle/DefaultAddin.plist");
+  root_.folder().write("root/Bundle/DefaultAddin.plist", "damaged");
   expectUntouched({"addins"}, 1, "there is no list of the applications that take add-ins\n");
   expectUntouched({"addin", "install", "Mail"}, 1, "there is no list of the applications that take add-ins\n");
   EXPECT_EQ(diagnosis("applications that take add-ins"), "problem: the manager cannot start without a list of them");
