@@ -4,7 +4,6 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <charconv>
 #include <sstream>
 
 #include "platform/services/texts.h"
@@ -16,48 +15,6 @@ namespace {
 using Kind = UsageError::Kind;
 
 constexpr int endless = CLI::detail::expected_max_vector_size;
-
-bool isWholeNumber(std::string_view word) {
-  int number = 0;
-  const char* end = word.data() + word.size();
-  const auto read = std::from_chars(word.data(), end, number);
-  return read.ec == std::errc{} && read.ptr == end;
-}
-
-struct Store {
-  const std::vector<std::string>& words;
-  void operator()(bool* to) const { *to = true; }
-  void operator()(int* to) const {
-    std::from_chars(words.back().data(), words.back().data() + words.back().size(), *to);
-  }
-  void operator()(std::vector<std::string>* to) const { *to = words; }
-  void operator()(auto* to) const { *to = words.back(); }
-};
-
-// One argument of a verb, as its row spells it.
-struct Argument {
-  const ArgumentRow& row;
-  bool isRequired, isList;
-};
-
-std::vector<Argument> argumentsOf(const CommandTable& table, const VerbRow& verb) {
-  std::vector<Argument> arguments;
-  std::istringstream words(verb.arguments);
-  for (std::string word; words >> word;) {
-    const bool isRequired = word.front() != '[';
-    if (!isRequired) word = word.substr(1, word.size() - 2);
-    const bool isList = word.ends_with("...");
-    if (isList) word.resize(word.size() - 3);
-    const auto row = std::ranges::find(table.arguments, word, &ArgumentRow::name);
-    if (row != table.arguments.end()) arguments.push_back({*row, isRequired, isList});
-  }
-  return arguments;
-}
-
-const VerbRow* verbOf(const CommandTable& table, const std::string& words) {
-  const auto row = std::ranges::find(table.verbs, words, &VerbRow::words);
-  return row != table.verbs.end() ? &*row : nullptr;
-}
 
 // The parser with a table's words in it. texts: for the help; null to read only.
 class Parser {
@@ -121,7 +78,7 @@ class Parser {
       app = below.empty() ? app->add_subcommand(word, text(verb.meaning)) : below.front();
     }
     if (texts_ != nullptr && app != &app_) app->group(text("Usage.Commands"));
-    for (const Argument& argument : argumentsOf(table_, verb)) {
+    for (const VerbArgument& argument : argumentsOf(table_, verb)) {
       CLI::Option* option = app->add_option(argument.row.name)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
       // A minimum that is never reached takes every word as it is; an open end would take "[a,b]" apart.
       if (argument.isList) option->expected(endless - 1, endless);
@@ -168,16 +125,6 @@ class Parser {
     return words;
   }
 
-  static std::optional<UsageError> wrongValue(const char* name, const WordForm& form,
-                                              const std::vector<std::string>& words) {
-    for (const std::string& word : words) {
-      const bool fits = form.words.empty() ? form.fits == nullptr || form.fits(word)
-                                           : std::ranges::find(form.words, word) != form.words.end();
-      if (!fits) return UsageError{Kind::wrongValue, word, form.words, form.key, name};
-    }
-    return std::nullopt;
-  }
-
   std::optional<UsageError> storeOptions() {
     std::optional<UsageError> error;
     for (std::size_t i = 0; i < options_.size(); ++i) {
@@ -186,7 +133,7 @@ class Parser {
       suffices_ = suffices_ || row.suffices;
       const bool isFlag = *row.value == '\0';
       std::optional<UsageError> wrong = isFlag ? std::nullopt : wrongValue(row.names, row.form, options_[i]->results());
-      if (!wrong) std::visit(Store{options_[i]->results()}, row.into);
+      if (!wrong) store(options_[i]->results(), row.into);
       if (!error) error = std::move(wrong);
     }
     return error;
@@ -211,7 +158,7 @@ class Parser {
       }
       if (words.empty()) continue;
       if (auto error = wrongValue(row.name, row.form, words)) return error;
-      std::visit(Store{words}, row.into);
+      store(words, row.into);
     }
     return std::nullopt;
   }
@@ -236,19 +183,8 @@ class Parser {
 
 }  // namespace
 
-WordForm wholeNumber() { return {{}, isWholeNumber, "Usage.Number"}; }
-
 WordsRead readWords(const CommandTable& table, const std::vector<std::string>& words) {
   return Parser(table, nullptr).read(words);
-}
-
-std::string synopsis(const CommandTable& table, const std::string& verb) {
-  const VerbRow* row = verbOf(table, verb);
-  std::string line = table.program;
-  for (const std::string& part : {verb, std::string(row != nullptr ? row->arguments : "")}) {
-    if (!part.empty()) line += " " + part;
-  }
-  return line;
 }
 
 std::string helpText(const CommandTable& table, const std::string& verb, const Texts& texts) {
