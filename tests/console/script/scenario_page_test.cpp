@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
+#include <regex>
 #include <set>
 #include <string>
 #include <vector>
@@ -52,6 +55,41 @@ TEST(ScenarioPage, namesEveryCommandAndWhenItMayStand) {
     for (const ScriptCommand& command : commands) known[std::string(command.word)].insert(letters(command.when));
   }
   EXPECT_EQ(told, known);
+}
+
+// What the parts of a text that fit the expression hold in their groups.
+std::set<std::string> found(const std::string& text, const std::string& expression) {
+  std::set<std::string> words;
+  const std::regex form(expression);
+  for (std::sregex_iterator hit(text.begin(), text.end(), form), end; hit != end; ++hit) {
+    for (std::size_t group = 1; group < hit->size(); ++group) words.insert((*hit)[group]);
+  }
+  words.erase("");
+  return words;
+}
+
+std::string sourcesOfTheLanguage() {
+  std::string all;
+  for (const auto& entry : std::filesystem::directory_iterator(TARVO_SOURCE_DIR "/console/script")) {
+    std::ifstream file(entry.path());
+    all.append(std::istreambuf_iterator<char>(file), {});
+  }
+  return all;
+}
+
+TEST(ScenarioPage, namesEveryEventOfTheLog) {
+  std::set<std::string> told;
+  for (const Row& row : rowsOf("What `log` prints")) told.merge(found(row.code, R"re((?:^|`)\{"(\w+)":)re"));
+  const std::set<std::string> known =
+      found(sourcesOfTheLanguage(), R"re(note\(\{\{(?:\w+ \? )?"(\w+)"(?: : "(\w+)")?)re");
+  EXPECT_EQ(told, known);
+}
+
+TEST(ScenarioPage, namesEveryKindOfControl) {
+  std::set<std::string> told;
+  for (const Row& row : rowsOf("What `show` prints")) told.merge(found(row.code, R"re((\w+))re"));
+  std::string names = *found(sourcesOfTheLanguage(), R"re(kindNames\{([^}]*)\})re").begin();
+  EXPECT_EQ(told, found(names, R"re("(\w+)")re"));
 }
 
 TEST(ScenarioPage, namesEveryOperationThatCanBeCalled) {
