@@ -9,6 +9,7 @@
 #include "app/style_menu.h"
 #include "platform/services/file_service.h"
 #include "platform/services/notification_center.h"
+#include "platform/services/notification_names.h"
 #include "platform/services/panels.h"
 #include "platform/services/product_paths.h"
 #include "platform/services/system_version.h"
@@ -50,16 +51,18 @@ bool AppController::awakeFromNib() {
 void AppController::showStyles() {
   fillStyleMenu(interface_.style.stylePopup, rooms_.store, services_.texts);
   restoreTool();
-  rooms_.lists.updateButton(0);
-  rooms_.lists.updateButton(1);
+  for (const Direction direction : bothDirections) rooms_.lists.updateButton(direction);
   rooms_.naming.updateStyleNameButton();
   showFirstPages();
 }
 
 void AppController::createDictControllers() {
   const ProductPaths& paths = services_.paths;
-  rooms_.lists.ejTDController.initializeDictController(0, paths.tarvoPathTechnicalDicEngFolderURL(), true);
-  rooms_.lists.jeTDController.initializeDictController(0, paths.tarvoPathTechnicalDicJpnFolderURL(), false);
+  constexpr DictionaryKind technical = DictionaryKind::technical;
+  rooms_.lists.ejTDController.initializeDictController(technical, paths.tarvoPathTechnicalDicEngFolderURL(),
+                                                       Direction::englishToJapanese);
+  rooms_.lists.jeTDController.initializeDictController(technical, paths.tarvoPathTechnicalDicJpnFolderURL(),
+                                                       Direction::japaneseToEnglish);
   interface_.lists.ejTDTable.registerForDraggedTypes({"row"});
   interface_.lists.jeTDTable.registerForDraggedTypes({"row"});
   if (!setsUpUserLists) return;
@@ -103,15 +106,15 @@ void AppController::tellThatNothingCanBeDone() {
 void AppController::restoreTool() {
   const std::vector<std::string> ids = toolIds(services_.texts);
   const std::string* stored = defaults_.string(SMSelectedTag);
-  int tool = 0;
+  int place = 0;
   rooms_.store.currentID = siblingTools[0].key;  // the key itself: no id has been chosen yet
   for (std::size_t i = 0; stored != nullptr && i < ids.size(); ++i) {
     if (ids[i] != *stored) continue;
     rooms_.store.currentID = ids[i];
-    tool = static_cast<int>(i);
+    place = static_cast<int>(i);
     break;
   }
-  rooms_.chooser.setSelectSeg(tool);
+  rooms_.chooser.setSelectSeg(place);
 }
 
 void AppController::showFirstPages() {
@@ -130,15 +133,13 @@ void AppController::changeStyle() {
   interface_.lists.ejTDTable.reloadData();
   interface_.lists.jeTDTable.reloadData();
   rooms_.store.setSelection(index);
-  rooms_.lists.updateButton(0);
-  rooms_.lists.updateButton(1);
+  for (const Direction direction : bothDirections) rooms_.lists.updateButton(direction);
   rooms_.naming.updateStyleNameButton();
 }
 
-void AppController::selectTableViewAction(int toolIndex) {
-  if (toolIndex < 0 || toolIndex >= static_cast<int>(siblingTools.size())) return;
-  interface_.style.toolIcon.setImage(std::string(siblingTools[static_cast<std::size_t>(toolIndex)].icon));
-  rooms_.store.currentID = toolIds(services_.texts)[static_cast<std::size_t>(toolIndex)];
+void AppController::selectTableViewAction(Tool tool) {
+  interface_.style.toolIcon.setImage(std::string(rowOf(tool).icon));
+  rooms_.store.currentID = toolId(tool, services_.texts);
   if (rooms_.store.getSelection() != nullptr) {
     interface_.style.stylePopup.selectItemAtIndex(rooms_.store.selectedStyle());
     changeStyle();

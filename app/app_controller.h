@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "app/services.h"
+#include "style/sibling_tools.h"
 
 // The controller of the style pane.
 // Duty: start the pane, and run the sequences that cross rooms: loading, choosing a style, choosing a tool, taking
@@ -36,7 +37,7 @@ class AppController {
   bool awakeFromNib();
   // Action of the style menu; also run by the choice of a tool.
   void changeStyle();
-  void selectTableViewAction(int toolIndex);
+  void selectTableViewAction(Tool tool);
   // Lets the user choose a style file and puts it in the place of the chosen style.
   void importStyle();
   // The same for a file that is known. False after an alert; nothing has changed.

@@ -4,6 +4,7 @@
 #include "app/interface.h"
 #include "app/rooms.h"
 #include "platform/services/notification_center.h"
+#include "platform/services/notification_names.h"
 #include "style/caller_requests.h"
 
 // What reaches the style pane from outside: style files, the engine's styles, requests of other tools.
@@ -34,8 +35,7 @@ bool AppController::readImportStyle(const std::string& path) {
   const int index = stylePopup.indexOfSelectedItem();
   if (!rooms_.exchange.install(path, index, stylePopup.titleOfSelectedItem())) return false;
   rooms_.display.setupStyleData2(index);
-  rooms_.lists.updateButton(0);
-  rooms_.lists.updateButton(1);
+  for (const Direction direction : bothDirections) rooms_.lists.updateButton(direction);
   return true;
 }
 
@@ -52,9 +52,9 @@ void AppController::handleAppleEvent(const std::optional<std::string>& bytes) {
 void AppController::handleCallerCode(std::string_view code) { answerCaller(callerRequestForCode(code)); }
 
 void AppController::answerCaller(const CallerRequest& request) {
-  if (!request.tool) return notifications_.post("ChangeOfficeToolbar", "style");
-  rooms_.chooser.setSelectSeg(*request.tool);
-  notifications_.post("ChangeToolbar", "style");
+  if (!request.tool) return notifications_.post(changeOfficeToolbarNotification, "style");
+  rooms_.chooser.setSelectSeg(placeOf(*request.tool));
+  notifications_.post(changeToolbarNotification, "style");
 }
 
 }  // namespace tarvo

@@ -12,20 +12,21 @@ void Interface::addinRows(Rooms& rooms, const Texts& texts) {
     view.setColumns(std::move(columns));
     view.setDataSource(&rooms.addinTable);
     view.setDelegate(&rooms.addinTable);
-    row({.control = view, .tag = tag, .tab = &manager.myTabView, .page = tag + 1});
+    row({.control = view, .tag = tag, .tab = &manager.myTabView, .page = tagOf(Pane::office) + tag});
   };
-  const auto onPage = [&](Control& control, int page, Control::Action action = {}) {
-    row({.control = control, .tab = &manager.myTabView, .page = page, .action = std::move(action)});
+  const auto onPage = [&](Control& control, Pane pane, Control::Action action = {}) {
+    row({.control = control, .tab = &manager.myTabView, .page = tagOf(pane), .action = std::move(action)});
   };
-  table(addins.officeTableView, {{.identifier = "Value", .checkBox = true}, {"AppName"}, {"Version"}}, 0);
-  onPage(addins.officeInfoField, 1);
-  onPage(addins.officeSearchButton, 1, to(rooms.officeSearch, &OfficeFolderSearch::SelectOfficeFolder));
-  onPage(addins.officePowerPointButton, 1, to(rooms.cautions, &CautionWindows::selectPowerPoint));
-  table(addins.mailTableView, {{.identifier = "Value", .checkBox = true}, {"AppName"}}, 1);
-  onPage(addins.mailinfoField, 2);
-  onPage(addins.mailCautionButton, 2, to(rooms.cautions, &CautionWindows::mailButtonAction));
-  onPage(addins.scriptEditorButton, 2, to(rooms.cautions, &CautionWindows::launchAppleScriptEditor));
-  onPage(addins.scriptUtilityButton, 2, to(rooms.cautions, &CautionWindows::launchAppleScriptUtil));
+  const TableView::Column check{.identifier = addin_columns::check, .checkBox = true};
+  table(addins.officeTableView, {check, {addin_columns::name}, {addin_columns::version}}, 0);
+  onPage(addins.officeInfoField, Pane::office);
+  onPage(addins.officeSearchButton, Pane::office, to(rooms.officeSearch, &OfficeFolderSearch::SelectOfficeFolder));
+  onPage(addins.officePowerPointButton, Pane::office, to(rooms.cautions, &CautionWindows::selectPowerPoint));
+  table(addins.mailTableView, {check, {addin_columns::name}}, 1);
+  onPage(addins.mailinfoField, Pane::mail);
+  onPage(addins.mailCautionButton, Pane::mail, to(rooms.cautions, &CautionWindows::mailButtonAction));
+  onPage(addins.scriptEditorButton, Pane::mail, to(rooms.cautions, &CautionWindows::launchAppleScriptEditor));
+  onPage(addins.scriptUtilityButton, Pane::mail, to(rooms.cautions, &CautionWindows::launchAppleScriptUtil));
 
   struct Caution {
     Window& window;

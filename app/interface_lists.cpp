@@ -32,7 +32,7 @@ void Interface::listRows(Rooms& rooms, const Texts& texts) {
                                 lists.jeRaiseDicButton, lists.jeDownDicButton, lists.jeRemoveDicButton}}) {
     half.list.setPages(pages(texts, {"TDTab", "UDTab", "UTMATab"}));
     row({.control = half.list, .tab = &half.edit});
-    half.table.setColumns({{.identifier = "name", .icon = true}});
+    half.table.setColumns({{.identifier = dictionaryColumn, .icon = true}});
     half.table.setAllowsMultipleSelection(true);
     half.table.setDataSource(&rooms.dictionaryTable);
     half.table.setDelegate(&rooms.dictionaryTable);
@@ -81,7 +81,7 @@ void Interface::userListRows(Rooms& rooms) {
   int tag = UserListRows::firstTag;
   for (const Page& page : userPages) {
     for (TableView* table : {&page.shown, &page.twin}) {
-      table->setColumns({{.identifier = "name"}});
+      table->setColumns({{.identifier = dictionaryColumn}});
       table->setDataSource(&rooms.userListRows);
     }
     page.twin.setHidden(true);

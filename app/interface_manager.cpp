@@ -5,6 +5,7 @@
 
 #include "app/app_controller.h"
 #include "app/interface.h"
+#include "app/panes.h"
 #include "app/rooms.h"
 #include "app/t_manager_controller.h"
 #include "platform/services/texts.h"
@@ -23,9 +24,9 @@ void Interface::managerRows(Rooms& rooms, const Texts& texts) {
   row({.control = manager.myWindow, .window = window});
   manager.myWindow.didMove = [&controller] { controller.windowDidMove(); };
   manager.myWindow.close = [&controller] { controller.closeWindow(); };
-  manager.myTabView.setPages({{"StyleManager", texts.localized("TransStyleTab")},
-                              {"OA", texts.localized("OfficeAddinTab")},
-                              {"MT", texts.localized("MailTranslationTab")}});
+  std::vector<TabView::Page> pages;
+  for (const PaneRow& pane : paneRows) pages.push_back({pane.identifier, texts.localized(pane.titleKey)});
+  manager.myTabView.setPages(std::move(pages));
   row({.control = manager.myTabView, .window = window});
   int tag = 0;
   for (View* pane : {&manager.styleManagerView, &manager.officeAddinView, &manager.mailTransView}) {
@@ -33,22 +34,22 @@ void Interface::managerRows(Rooms& rooms, const Texts& texts) {
     ++tag;
   }
   row({.control = manager.toolbar, .window = window});
-  const auto item = [&](Button& button, int pane, const char* label, const char* image) {
-    button.setImage(image);
+  const auto item = [&](Button& button, const PaneRow& pane) {
+    button.setImage(pane.image);
     row({.control = button,
-         .tag = pane,
+         .tag = tagOf(pane.pane),
          .window = window,
-         .label = label,
-         .tip = std::string(label) + " Tip",
+         .label = pane.label,
+         .tip = std::string(pane.label) + " Tip",
          .action = to(controller, &TManagerController::selectToolbarAction)});
   };
-  item(manager.StyleManager, 0, "StyleManager", "SM32");
-  item(manager.OA, 1, "OfficeAddin", "office32");
-  item(manager.MT, 2, "MailTranslation", "mail32");
+  item(manager.StyleManager, rowOf(Pane::style));
+  item(manager.OA, rowOf(Pane::office));
+  item(manager.MT, rowOf(Pane::mail));
 
   row({.control = tools.officeToolPopup,
        .tab = &manager.myTabView,
-       .page = 1,
+       .page = tagOf(Pane::office),
        .items =
            [&texts] {
              std::vector<PopUpButton::Item> items;
@@ -90,9 +91,9 @@ void Interface::menuRows(Rooms& rooms, const Texts&) {
   item(newDictionary.newJEUDMenu, 11, newUD);
   item(newDictionary.newEJTMAMenu, 12, newUD);
   item(newDictionary.newJETMAMenu, 13, newUD);
-  item(manager.styleManagerMenu, 0, to(controller, &TManagerController::selectToolbarActionforMenu));
-  item(manager.officeAddinMenu, 1, to(controller, &TManagerController::selectToolbarActionforMenu));
-  item(manager.mailMenu, 2, to(controller, &TManagerController::selectToolbarActionforMenu));
+  item(manager.styleManagerMenu, tagOf(Pane::style), to(controller, &TManagerController::selectToolbarActionforMenu));
+  item(manager.officeAddinMenu, tagOf(Pane::office), to(controller, &TManagerController::selectToolbarActionforMenu));
+  item(manager.mailMenu, tagOf(Pane::mail), to(controller, &TManagerController::selectToolbarActionforMenu));
   item(manager.toolbarMenu, 0, to(controller, &TManagerController::toggleToolbar));
   item(manager.customizeToolbarMenu, 0, [&controller](Control&) {
     if (controller.customizeToolbar) controller.customizeToolbar();

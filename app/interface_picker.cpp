@@ -26,11 +26,17 @@ void Interface::pickerRows(Rooms& rooms, const Texts& texts) {
   row({.control = picker.openTDFolderButton, .tab = page, .action = openFolder});
 
   row({.control = picker.UDTitleField, .window = window});
-  row({.control = picker.openUDFolderButton, .tag = 1, .window = window, .action = openFolder});
+  row({.control = picker.openUDFolderButton,
+       .tag = numberOf(DictionaryKind::user),
+       .window = window,
+       .action = openFolder});
   const auto newUD = to(controller, &TechDicController::newUD);
   row({.control = picker.newUDButton, .tag = 2, .window = window, .action = newUD});
   row({.control = picker.uTMATitleField, .window = window});
-  row({.control = picker.openTMAFolderButton, .tag = 2, .window = window, .action = openFolder});
+  row({.control = picker.openTMAFolderButton,
+       .tag = numberOf(DictionaryKind::memory),
+       .window = window,
+       .action = openFolder});
   row({.control = picker.newTMAButton, .tag = 3, .window = window, .action = newUD});
   picker.UDTitleField.setStringValue(texts.localized("UDTab"));
   picker.uTMATitleField.setStringValue(texts.localized("UTMATab"));
@@ -40,8 +46,8 @@ void Interface::pickerRows(Rooms& rooms, const Texts& texts) {
        .action = to(rooms.loading, &DictionaryLoading::dicWindowCancel)});
 
   // The user's own dictionaries are shown in the style pane; their lists here have no place in the window.
-  row({.control = picker.UserDicTable, .tag = 1, .window = window});
-  row({.control = picker.UserTMATable, .tag = 2, .window = window});
+  row({.control = picker.UserDicTable, .tag = numberOf(DictionaryKind::user), .window = window});
+  row({.control = picker.UserTMATable, .tag = numberOf(DictionaryKind::memory), .window = window});
   row({.control = picker.ejEditTDButton, .window = window});
   row({.control = picker.jeEditTDButton, .window = window});
   for (Control* control : std::initializer_list<Control*>{&picker.UserDicTable, &picker.UserTMATable,
@@ -49,7 +55,7 @@ void Interface::pickerRows(Rooms& rooms, const Texts& texts) {
     control->setHidden(true);
   }
   for (TableView* table : {&picker.techDicTable, &picker.UserDicTable, &picker.UserTMATable}) {
-    table->setColumns({{.identifier = "Value", .checkBox = true}, {.identifier = "dicName"}});
+    table->setColumns({{.identifier = picker_columns::check, .checkBox = true}, {.identifier = picker_columns::name}});
     table->setDataSource(&controller);
     table->setDelegate(&controller);
   }

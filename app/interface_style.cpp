@@ -26,19 +26,19 @@ void Interface::optionRows(Rooms& rooms, const Texts& texts) {
   const auto pageItems = [&texts]() -> std::vector<PopUpButton::Item> {
     return {{texts.localized("Page.Dict"), 0}, {texts.localized("Page.Option"), 1}};
   };
-  TabView* directions = &lists.directionTab;
+  TabView* bothPages = &lists.directionTab;
   row({.control = options.ejEditPopup,
-       .tab = directions,
+       .tab = bothPages,
        .items = pageItems,
        .action = to(rooms.options, &OptionEditing::selectEjEditPopup)});
   row({.control = options.jeEditPopup,
-       .tab = directions,
+       .tab = bothPages,
        .page = 1,
        .items = pageItems,
        .action = to(rooms.options, &OptionEditing::selectJeEditPopup)});
   for (TabView* tab : {&options.ejEditTab, &options.jeEditTab}) {
     tab->setPages({{"Dict", texts.localized("Page.Dict")}, {"Option", texts.localized("Page.Option")}});
-    row({.control = *tab, .tab = directions, .page = tab == &options.jeEditTab ? 1 : 0});
+    row({.control = *tab, .tab = bothPages, .page = tab == &options.jeEditTab ? 1 : 0});
   }
   row({.control = options.ejOptionView, .tab = &options.ejEditTab, .page = 1});
   row({.control = options.jeOptionView, .tab = &options.jeEditTab, .page = 1});
@@ -46,7 +46,7 @@ void Interface::optionRows(Rooms& rooms, const Texts& texts) {
     const IndexOption& option = indexOptions()[i];
     row({.control = options.indexPopups[i],
          .tag = option.popupTag,
-         .tab = option.direction == keyNameEJ ? &options.ejEditTab : &options.jeEditTab,
+         .tab = option.direction == Direction::englishToJapanese ? &options.ejEditTab : &options.jeEditTab,
          .page = 1,
          .label = "Label." + std::string(option.key),
          .items = [&option, &texts] { return itemsFor(option, texts); },

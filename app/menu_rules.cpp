@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/menu_rules.h"
 
+#include "app/panes.h"
 #include "platform/services/texts.h"
 #include "style/process_flags.h"
 
@@ -9,7 +10,7 @@ namespace tarvo {
 
 bool stylePaneAllows(std::string_view title, std::string_view selectedPane, const Texts& texts) {
   const bool travels = title == texts.localized("StyleExportMenu") || title == texts.localized("StyleInportMenu");
-  return !travels || selectedPane == "StyleManager";
+  return !travels || selectedPane == rowOf(Pane::style).identifier;
 }
 
 bool mainWindowAllows(std::string_view title, const ProcessFlags& flags, const Texts& texts) {

@@ -35,9 +35,17 @@ Operation answering(std::string_view name, Call call) {
           }};
 }
 
+Direction directionOf(int isEJ) { return isEJ != 0 ? Direction::englishToJapanese : Direction::japaneseToEnglish; }
+
+// Codes from 0 to 5: even ones mean the buttons of English to Japanese, but only 0 its table.
+void updateButton(Rooms& rooms, int code) {
+  if (code >= 0 && code <= 5) rooms.lists.updateButton(directionForTag(code % 2), directionForTag(code));
+}
+
 Result setNotSelectedArray(Program& program, Arguments arguments) {
   const Arguments names = arguments.first(arguments.size() - 1);
-  program.rooms().picker.setNotSelectedArray(Names(names.begin(), names.end()), leadingInteger(arguments.back()));
+  const auto kind = dictionaryKindForNumber(leadingInteger(arguments.back()));
+  if (kind) program.rooms().picker.setNotSelectedArray(Names(names.begin(), names.end()), *kind);
   return std::nullopt;
 }
 
@@ -56,19 +64,24 @@ std::vector<Operation> makeOperations() {
       withNumber("style.setupStyleData2", [](Rooms& rooms, int index) { rooms.display.setupStyleData2(index); }),
       withNumber("style.setSelection", [](Rooms& rooms, int index) { rooms.store.setSelection(index); }),
       withNumber("style.setSelectSeg", [](Rooms& rooms, int tool) { rooms.chooser.setSelectSeg(tool); }),
-      withNumber("style.doEnabledButtons", [](Rooms& rooms, int tool) { rooms.chooser.doEnabledButtons(tool); }),
+      withNumber("style.doEnabledButtons",
+                 [](Rooms& rooms, int tool) { rooms.chooser.doEnabledButtons(toolForPlace(tool)); }),
       withNumber("style.writeUpdateDicTarvoPlist",
-                 [](Rooms& rooms, int direction) { rooms.lists.writeUpdateDicTarvoPlist(direction); }),
-      withNumber("style.updateButton", [](Rooms& rooms, int code) { rooms.lists.updateButton(code); }),
-      withNumber("style.setSelectedDic", [](Rooms& rooms, int isEJ) { rooms.loading.setSelectedDic(isEJ != 0); }),
+                 [](Rooms& rooms, int direction) { rooms.lists.writeUpdateDicTarvoPlist(directionForTag(direction)); }),
+      withNumber("style.updateButton", updateButton),
+      withNumber("style.setSelectedDic",
+                 [](Rooms& rooms, int isEJ) { rooms.loading.setSelectedDic(directionOf(isEJ)); }),
       withNumber("style.setNonSelectionDic",
-                 [](Rooms& rooms, int isEJ) { rooms.loading.setNonSelectionDic(isEJ != 0); }),
+                 [](Rooms& rooms, int isEJ) { rooms.loading.setNonSelectionDic(directionOf(isEJ)); }),
       {"style.dicWindowOK2", 0,
        [](Program& program, Arguments) -> Result {
          program.rooms().loading.dicWindowOK2();
          return std::nullopt;
        }},
-      withNumber("style.openMaxOverAlert", [](Rooms& rooms, int kind) { rooms.alerts.openMaxOverAlert(kind); }),
+      withNumber("style.openMaxOverAlert",
+                 [](Rooms& rooms, int number) {
+                   if (const auto kind = dictionaryKindForNumber(number)) rooms.alerts.openMaxOverAlert(*kind);
+                 }),
       answering("style.isStartedApplication",
                 [](Rooms& rooms, int tool) { return rooms.guard.isStartedApplication(tool); }),
       withNumber("style.alertStartedApplication",
@@ -76,12 +89,14 @@ std::vector<Operation> makeOperations() {
       {"picker.setNotSelectedArray", 1, setNotSelectedArray, true},
       answering("picker.getCheckedArray",
                 [](Rooms& rooms, int tag) {
-                  const Names names = rooms.picker.getCheckedArray(tag);
+                  const auto kind = dictionaryKindForNumber(tag);
+                  const Names names = kind ? rooms.picker.getCheckedArray(*kind) : Names{};
                   return Array(names.begin(), names.end());
                 }),
       {"picker.setCreatedDictionary", 2,
        [](Program& program, Arguments arguments) -> Result {
-         program.rooms().picker.setCreatedDictionary(arguments[0], leadingInteger(arguments[1]));
+         const auto kind = dictionaryKindForNumber(leadingInteger(arguments[1]));
+         if (kind) program.rooms().picker.setCreatedDictionary(arguments[0], *kind);
          return std::nullopt;
        }},
       answering("picker.isStartedApplication",

@@ -44,7 +44,7 @@ Services withPanels(const Services& services, Panels& panels) {
 // The window of the interface: just large enough for the style pane, in the middle of the screen and a little above it.
 Rect firstFrame(WindowHost& host, const Window& window) {
   const WindowHeights heights = host.heights(window);
-  const Size pane = host.paneSize(0);
+  const Size pane = host.paneSize(Pane::style);
   const Rect screen = host.mainScreen();
   const float height = pane.height + titlebarHeight(heights) + toolbarHeight(heights);
   return {screen.x + std::floor((screen.width - pane.width) / 2),
@@ -93,7 +93,8 @@ Program::Program(const Services& given)
       exchange_({interface_.exchange, interface_.style.stylePopup, interface_.manager.myWindow, store_, services_.files,
                  services_.locations, panels_, alerts_, windows_, services_.texts}),
       display_(store_, options_, lists_, services_.texts),
-      chooser_(interface_.style, interface_.options, flags_, [this](int tool) { styles_.selectTableViewAction(tool); }),
+      chooser_(interface_.style, interface_.options, flags_,
+               [this](Tool tool) { styles_.selectTableViewAction(tool); }),
       toolList_(services_.files, defaults_, services_.gTarvoCommonModule, interface_.tools,
                 toolListPath(services_.locations)),
       mailScripts_(services_.files, services_.bundle, services_.locations.home()),

@@ -26,10 +26,9 @@ Array arrayOf(const Names& names) { return Array(names.begin(), names.end()); }
 
 }  // namespace
 
-void StyleDisplay::showList(int index, Dictionary& record, int direction) {
-  const std::string_view half = direction != 0 ? keyNameJE : keyNameEJ;
+void StyleDisplay::showList(int index, Dictionary& record, Direction direction) {
   DictController& controller = lists_.getActiveDictController(direction);
-  Dictionary* options = record.dictionary(half);
+  Dictionary* options = record.dictionary(halfKey(direction));
   const Array* stored = options != nullptr ? options->array(keyNameTD) : nullptr;
   if (stored != nullptr) {
     controller.updateDictionary(namesOf(*stored));
@@ -49,8 +48,7 @@ void StyleDisplay::setupStyleData2(int index) {
   if (isDivider(*record, texts_)) return;
   options_.showOptions(*record);
   options_.showDetailedOptions(*record);
-  showList(index, *record, 0);
-  showList(index, *record, 1);
+  for (const Direction direction : bothDirections) showList(index, *record, direction);
 }
 
 }  // namespace tarvo

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/plist/property_list.h"
+#include "style/direction.h"
 
 namespace tarvo {
 
@@ -24,7 +25,7 @@ class StyleDisplay {
   void setupStyleData2(int index);
 
  private:
-  void showList(int index, Dictionary& record, int direction);
+  void showList(int index, Dictionary& record, Direction direction);
   StyleStore& store_;
   OptionEditing& options_;
   DictionaryListEditing& lists_;

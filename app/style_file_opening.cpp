@@ -20,7 +20,7 @@ void StyleFileOpening::openStyleFile(const std::string& path) {
     if (with_.connection.isAsking()) kept_ = path;
     return with_.panels.beep();
   }
-  if (with_.interface.manager.myTabView.selectedPage() != 0) with_.manager.changeToolbar();
+  if (with_.interface.manager.myTabView.selectedPage() != tagOf(Pane::style)) with_.manager.changeToolbar();
   if (mayReplace(path)) with_.styles.readImportStyle(path);
 }
 

@@ -2,16 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "app/t_manager_controller.h"
 
-#include <array>
 #include <cstdlib>
 #include <utility>
 
 #include "app/interface.h"
 #include "app/menu_rules.h"
+#include "app/panes.h"
 #include "app/rooms.h"
 #include "app/window_geometry.h"
 #include "platform/services/common_module.h"
 #include "platform/services/notification_center.h"
+#include "platform/services/notification_names.h"
 #include "platform/services/panels.h"
 #include "platform/services/product_paths.h"
 #include "platform/services/style_module.h"
@@ -23,19 +24,10 @@ namespace tarvo {
 
 namespace {
 
-struct Pane {
-  const char* identifier;  // stored under "ToolbarTag"; the name of the toolbar's item
-  const char* titleKey;
-};
-constexpr std::array<Pane, 3> panes{
-    {{"StyleManager", "TransStyleTab"}, {"OA", "OfficeAddinTab"}, {"MT", "MailTranslationTab"}}};
-
 constexpr const char* myWindowFrame = "MyWindowFrame";
 constexpr const char* toolbarTag = "ToolbarTag";
 constexpr const char* toolbarConfiguration = "Toolbar tarvoToolbar";
 constexpr int oldestVersionWithScreenCheck = 104;
-
-bool isPane(int tag) { return tag >= 0 && tag < static_cast<int>(panes.size()); }
 
 }  // namespace
 
@@ -66,8 +58,9 @@ bool TManagerController::init() {
     terminate_();
     return false;
   }
-  notifications_.addObserver(this, "ChangeToolbar", [this](const Notification&) { changeToolbar(); });
-  notifications_.addObserver(this, "ChangeOfficeToolbar", [this](const Notification&) { changeOfficeToolbar(); });
+  notifications_.addObserver(this, changeToolbarNotification, [this](const Notification&) { changeToolbar(); });
+  notifications_.addObserver(this, changeOfficeToolbarNotification,
+                             [this](const Notification&) { changeOfficeToolbar(); });
   return true;
 }
 
@@ -107,9 +100,9 @@ void TManagerController::awakeFromNib() {
 void TManagerController::buildToolbar() {
   ManagerOutlets& outlets = interface_.manager;
   Toolbar& toolbar = outlets.toolbar;
-  toolbar.setAllowedItems({{panes[0].identifier, &outlets.StyleManager},
-                           {panes[1].identifier, &outlets.OA},
-                           {panes[2].identifier, &outlets.MT}});
+  toolbar.setAllowedItems({{rowOf(Pane::style).identifier, &outlets.StyleManager},
+                           {rowOf(Pane::office).identifier, &outlets.OA},
+                           {rowOf(Pane::mail).identifier, &outlets.MT}});
   const PropertyList* stored = defaults_.find(toolbarConfiguration);
   if (stored != nullptr && stored->dictionary() != nullptr) toolbar.applyConfiguration(*stored->dictionary());
   toolbar.didToggle = [this](bool) { adaptToToolbar(); };
@@ -124,7 +117,7 @@ void TManagerController::keepToolbar() {
 void TManagerController::adaptToToolbar() {
   Window& window = interface_.manager.myWindow;
   const WindowHeights heights = windows_.host().heights(window);
-  const Size pane = windows_.host().paneSize(interface_.manager.myTabView.selectedPage());
+  const Size pane = windows_.host().paneSize(shownPane());
   window.setFrameInPlace(paneFrame(window.frame(), pane, titlebarHeight(heights), toolbarHeight(heights)));
   windows_.host().applyFrame(window, false);
 }
@@ -144,38 +137,44 @@ void TManagerController::restoreFrame() {
 
 void TManagerController::restorePane() {
   const std::string* stored = defaults_.string(toolbarTag);
-  int tag = 0;
-  for (std::size_t i = 0; stored != nullptr && i < panes.size(); ++i) {
-    if (*stored == panes[i].identifier) tag = static_cast<int>(i);
+  Pane pane = Pane::style;
+  for (const PaneRow& row : paneRows) {
+    if (stored != nullptr && *stored == row.identifier) pane = row.pane;
   }
-  const std::string identifier = panes[static_cast<std::size_t>(tag)].identifier;
-  interface_.manager.toolbar.setSelectedItemIdentifier(identifier);
-  showPane(tag, identifier);
+  interface_.manager.toolbar.setSelectedItemIdentifier(rowOf(pane).identifier);
+  showPane(pane);
 }
 
 void TManagerController::selectToolbarAction(Control& item) {
-  if (!isPane(item.tag())) return;
-  const std::string identifier = panes[static_cast<std::size_t>(item.tag())].identifier;
-  interface_.manager.toolbar.setSelectedItemIdentifier(identifier);
-  showPane(item.tag(), identifier);
+  const std::optional<Pane> pane = paneForTag(item.tag());
+  if (!pane) return;
+  interface_.manager.toolbar.setSelectedItemIdentifier(rowOf(*pane).identifier);
+  showPane(*pane);
 }
 
 void TManagerController::selectToolbarActionforMenu(int tag) {
-  if (!isPane(tag)) return;
-  const std::string identifier = panes[static_cast<std::size_t>(tag)].identifier;
-  showPane(tag, identifier);
-  interface_.manager.toolbar.setSelectedItemIdentifier(identifier);
+  if (const std::optional<Pane> pane = paneForTag(tag)) bringForward(*pane);
 }
 
-void TManagerController::showPane(int tag, const std::string& identifier) {
+void TManagerController::bringForward(Pane pane) {
+  showPane(pane);
+  interface_.manager.toolbar.setSelectedItemIdentifier(rowOf(pane).identifier);
+}
+
+Pane TManagerController::shownPane() const {
+  return paneForTag(interface_.manager.myTabView.selectedPage()).value_or(Pane::style);
+}
+
+void TManagerController::showPane(Pane pane) {
   Window& window = interface_.manager.myWindow;
-  interface_.manager.myTabView.selectPage(tag);
-  window.setTitle(services_.texts.localized(panes[static_cast<std::size_t>(tag)].titleKey));
+  const PaneRow& row = rowOf(pane);
+  interface_.manager.myTabView.selectPage(tagOf(pane));
+  window.setTitle(services_.texts.localized(row.titleKey));
   const WindowHeights heights = windows_.host().heights(window);
-  const Size pane = windows_.host().paneSize(tag);
-  if (View* view = interface_.manager.toolbar.viewOf(identifier)) view->setFrame({0, 0, pane.width, pane.height});
-  windows_.setFrame(window, paneFrame(window.frame(), pane, titlebarHeight(heights), toolbarHeight(heights)));
-  defaults_.set(toolbarTag, identifier);
+  const Size size = windows_.host().paneSize(pane);
+  if (View* view = interface_.manager.toolbar.viewOf(row.identifier)) view->setFrame({0, 0, size.width, size.height});
+  windows_.setFrame(window, paneFrame(window.frame(), size, titlebarHeight(heights), toolbarHeight(heights)));
+  defaults_.set(toolbarTag, row.identifier);
   defaults_.synchronize();
 }
 

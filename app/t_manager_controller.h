@@ -8,6 +8,7 @@
 
 #include "app/screen_caution.h"
 #include "app/services.h"
+#include "platform/controls/pane.h"
 
 // The main controller: the window, its toolbar and panes.
 // Duty: start the product's modules, build the toolbar, restore and keep the window's place and pane, quit in order.
@@ -38,10 +39,10 @@ class TManagerController {
 
   // Shows the pane of a toolbar item, known by the item's tag.
   void selectToolbarAction(Control& item);
-  // Shows a pane by menu tag or notification, then marks its toolbar item. Only 0, 1 and 2 are panes.
+  // Shows a pane by menu tag or notification, then marks its toolbar item. Nothing for a tag that no pane has.
   void selectToolbarActionforMenu(int tag);
-  void changeToolbar() { selectToolbarActionforMenu(0); }
-  void changeOfficeToolbar() { selectToolbarActionforMenu(1); }
+  void changeToolbar() { bringForward(Pane::style); }
+  void changeOfficeToolbar() { bringForward(Pane::office); }
   void windowDidMove();
   void toggleToolbar();
   void showAbout();
@@ -60,7 +61,9 @@ class TManagerController {
   void keepToolbar();
   void restoreFrame();
   void restorePane();
-  void showPane(int tag, const std::string& identifier);
+  void showPane(Pane pane);
+  void bringForward(Pane pane);
+  Pane shownPane() const;
 
   Interface& interface_;
   Rooms& rooms_;

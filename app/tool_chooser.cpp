@@ -24,7 +24,7 @@ std::array<SegmentedControl*, 3> segmentedControls(StyleOutlets& outlets) {
 }  // namespace
 
 ToolChooser::ToolChooser(StyleOutlets& outlets, OptionOutlets& options, ProcessFlags& flags,
-                         std::function<void(int)> select)
+                         std::function<void(Tool)> select)
     : outlets_(outlets), options_(options), flags_(flags), select_(std::move(select)) {}
 
 void ToolChooser::setUpSegments(const Texts& texts) {
@@ -53,25 +53,28 @@ void ToolChooser::appSegChange(Control& sender) {
   const int segment = control.selectedSegment();
   deselectAll(control.segmentCount());
   control.setSelected(segment, true);
-  flags_.saveHit = segment + segmentsEach * control.tag();
-  select_(flags_.saveHit);
+  choose(segment + segmentsEach * control.tag());
   isSegChange_ = false;
 }
 
-void ToolChooser::setSelectSeg(int index) {
+void ToolChooser::choose(int place) {
+  flags_.saveHit = toolForPlace(place);
+  if (flags_.saveHit) select_(*flags_.saveHit);
+}
+
+void ToolChooser::setSelectSeg(int place) {
   isSegChange_ = true;
   deselectAll(segmentsEach);
-  if (index >= 0 && index < 3 * segmentsEach) {
-    segmentedControls(outlets_)[static_cast<std::size_t>(index / segmentsEach)]->setSelected(index % segmentsEach,
+  if (place >= 0 && place < 3 * segmentsEach) {
+    segmentedControls(outlets_)[static_cast<std::size_t>(place / segmentsEach)]->setSelected(place % segmentsEach,
                                                                                              true);
   }
-  flags_.saveHit = index;
-  select_(index);
+  choose(place);
   isSegChange_ = false;
 }
 
-void ToolChooser::doEnabledButtons(int index) {
-  const bool enabled = index != 5 && index != 6;
+void ToolChooser::doEnabledButtons(std::optional<Tool> tool) {
+  const bool enabled = tool != Tool::notepad && tool != Tool::officeAddins;
   for (PopUpButton& popup : options_.indexPopups) popup.setEnabled(enabled);
 }
 

@@ -2,15 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
-
 #include "platform/controls/windows.h"
 
 // The arithmetic of the main window's frame: pure functions in single precision, from left to right as written.
 namespace tarvo {
-
-// Pane sizes of the interface, by pane tag. A shell whose layout needs more answers more (WindowHost::paneSize).
-inline constexpr std::array<Size, 3> paneSizes{{{780, 620}, {780, 420}, {780, 420}}};
 
 float toolbarHeight(const WindowHeights& heights);   // 0 without a toolbar or with a hidden one
 float titlebarHeight(const WindowHeights& heights);  // negative for a window without a title bar

@@ -31,7 +31,13 @@ std::unique_ptr<Command> make(auto... words) {
   return std::make_unique<C>(std::move(words)...);
 }
 
-int directionOf(const CommandLine& line) { return line.words.direction == "ej" ? 0 : 1; }
+Direction directionOf(const CommandLine& line) {
+  return line.words.direction == "ej" ? Direction::englishToJapanese : Direction::japaneseToEnglish;
+}
+
+DictionaryKind kindOf(const CommandLine& line) {
+  return line.words.kind == "memory" ? DictionaryKind::memory : DictionaryKind::user;
+}
 
 ListPlace placeOf(const CommandLine& line) { return {line.words.index, directionOf(line)}; }
 
@@ -61,9 +67,7 @@ const std::vector<Verb>& verbs() {
       {"dictionary move", "Verb.dictionary move", "N DIRECTION NAME POSITION",
        [](Line line) { return make<MoveDictionaryCommand>(placeOf(line), line.words.name, line.words.position); }},
       {"new", "Verb.new", "DIRECTION KIND NAME",
-       [](Line line) {
-         return make<NewDictionaryCommand>(directionOf(line), line.words.kind == "memory", line.words.name);
-       }},
+       [](Line line) { return make<NewDictionaryCommand>(directionOf(line), kindOf(line), line.words.name); }},
       {"addins", "Verb.addins", "", [](Line line) { return make<AddinsCommand>(line.json); }, true},
       {"addin", "Verb.addin"},
       {"addin install", "Verb.addin install", "NAME [VERSION]",

@@ -18,22 +18,22 @@ namespace {
 // Text keys of the dictionaries that every user has.
 constexpr std::string_view commonNameKeys[] = {"EJCommonUD", "JECommonUD", "EJCommonUTMA", "JECommonUTMA"};
 
-int limitOf(int dicType) {
-  if (dicType == 0) return TDMax;
-  return dicType == 2 ? UTMAMax : UDMax;
+int limitOf(DictionaryKind kind) {
+  if (kind == DictionaryKind::technical) return TDMax;
+  return kind == DictionaryKind::memory ? UTMAMax : UDMax;
 }
 
 }  // namespace
 
-bool DictController::initializeDictController(int dicType, std::string dicPath, bool isEnglish) {
-  dicType_ = dicType;
+bool DictController::initializeDictController(DictionaryKind kind, std::string dicPath, Direction direction) {
+  kind_ = kind;
   dicFolderPath_ = std::move(dicPath);
-  isEnglish_ = isEnglish;
+  direction_ = direction;
   return initializeDictionary();
 }
 
 bool DictController::initializeDictionary() {
-  const DictionaryScan scan{services_.files, services_.texts, dicFolderPath_, dicType_, isEnglish_};
+  const DictionaryScan scan{services_.files, services_.texts, dicFolderPath_, kind_, direction_};
   entries_.emplace();
   positions_.clear();
   for (std::string& name : scan.names()) {
@@ -91,7 +91,7 @@ Names DictController::getAllDictionary() const {
   Names names;
   if (!entries_) return names;
   for (const DictionaryEntry& entry : *entries_) names.push_back(entry.name);
-  if (dicType_ == 2) {
+  if (kind_ == DictionaryKind::memory) {
     const std::string titles[] = {services_.paths.tarvoPathMemoryEtoJTitle(),
                                   services_.paths.tarvoPathMemoryJtoETitle()};
     std::erase_if(names, [&](const std::string& name) {
@@ -134,16 +134,17 @@ void DictController::clearInformation() {
 }
 
 bool DictController::checkMaxOver(const std::optional<Names>& names) const {
-  return names && loadedNames().size() + names->size() > static_cast<std::size_t>(limitOf(dicType_));
+  return names && loadedNames().size() + names->size() > static_cast<std::size_t>(limitOf(kind_));
 }
 
 std::string DictController::getDicPath(const std::optional<std::string>& name) const {
   if (!name) return {};
-  if (dicType_ == 2) {
+  if (kind_ == DictionaryKind::memory) {
     const ProductPaths& paths = services_.paths;
-    const std::string title = isEnglish_ ? paths.tarvoPathMemoryEtoJTitle() : paths.tarvoPathMemoryJtoETitle();
+    const bool isEnglish = direction_ == Direction::englishToJapanese;
+    const std::string title = isEnglish ? paths.tarvoPathMemoryEtoJTitle() : paths.tarvoPathMemoryJtoETitle();
     if (equalIgnoringCase(*name, title)) {
-      return isEnglish_ ? paths.tarvoPathMemoryEtoJURL() : paths.tarvoPathMemoryJtoEURL();
+      return isEnglish ? paths.tarvoPathMemoryEtoJURL() : paths.tarvoPathMemoryJtoEURL();
     }
   }
   return joinPath(dicFolderPath_, *name);
@@ -173,7 +174,7 @@ bool DictController::isExitsDic(const std::string& name) {
 bool DictController::createDictionary(const std::string& name, bool& isLoaded) {
   if (dicFolderPath_.empty()) return false;  // a list that was never set up
   if (isExitsDic2(name)) return false;
-  if (!makeDictionaryFile(services_.files, services_.bundle, getDicPath(name), dicType_, isEnglish_)) return false;
+  if (!makeDictionaryFile(services_.files, services_.bundle, getDicPath(name), kind_, direction_)) return false;
   // Loading the new name asks for it again; when there was no template, that must not create it once more.
   beingCreated_.push_back(name);
   isLoaded = addCreatedDictionary(name);

@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "style/dictionary_kind.h"
+
 // The model of one ordered dictionary list: a folder of dictionary files, and which of them are loaded, in which order.
 // Duty: scan the folder, mark what a style names, answer the loaded names in order, create dictionaries from the
 // bundle's templates. Not: holding style data, or any user interface. The caller hands in a style's names and reads
@@ -43,12 +45,12 @@ class DictController {
   };
   explicit DictController(Services services) : services_(services) {}
 
-  // dicType: 0 technical dictionaries, 1 user dictionaries, 2 translation memories; any other kind lists nothing.
-  bool initializeDictController(int dicType, std::string dicPath, bool isEnglish);
-  void setDicType(int dicType) { dicType_ = dicType; }
-  void setIsEJ(bool isEnglish) { isEnglish_ = isEnglish; }
+  bool initializeDictController(DictionaryKind kind, std::string dicPath, Direction direction);
+  void setKind(DictionaryKind kind) { kind_ = kind; }
+  void setDirection(Direction direction) { direction_ = direction; }
   void setDicFolderPath(std::string path) { dicFolderPath_ = std::move(path); }
-  int dicType() const { return dicType_; }
+  DictionaryKind kind() const { return kind_; }
+  Direction direction() const { return direction_; }
   const std::string& dicFolderPath() const { return dicFolderPath_; }
 
   bool initializeDictionary();  // rescan; true when an entry was found
@@ -81,9 +83,9 @@ class DictController {
   bool isCommonName(const std::string& name) const;
   bool isBeingCreated(const std::string& name) const;
   Services services_;
-  int dicType_ = 0;
+  DictionaryKind kind_ = DictionaryKind::technical;
   std::string dicFolderPath_;
-  bool isEnglish_ = false;
+  Direction direction_ = Direction::japaneseToEnglish;
   std::optional<std::vector<DictionaryEntry>> entries_;
   std::unordered_map<std::string, std::size_t> positions_;  // of the first entry under a folded name
   Names beingCreated_;

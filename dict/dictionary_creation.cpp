@@ -9,12 +9,13 @@
 
 namespace tarvo {
 
-bool makeDictionaryFile(FileService& files, const Bundle& bundle, const std::string& path, int dicType,
-                        bool isEnglish) {
-  const std::optional<std::string> stationery =
-      isEnglish ? bundle.resource("EJStationery", "eud2") : bundle.resource("JEStationery", "jud");
+bool makeDictionaryFile(FileService& files, const Bundle& bundle, const std::string& path, DictionaryKind kind,
+                        Direction direction) {
+  const bool isEnglish = direction == Direction::englishToJapanese;
+  const std::optional<std::string> stationery = bundle.resource(
+      isEnglish ? "EJStationery" : "JEStationery", std::string(extensionOf(DictionaryKind::user, direction)));
   if (stationery && !files.copy(*stationery, path)) return false;
-  if (dicType == 1) {
+  if (kind == DictionaryKind::user) {
     // Disks that keep no codes refuse; the dictionary works without them.
     files.setCodes(path, isEnglish ? fourCharCode("TReu") : fourCharCode("TRju"), fourCharCode("    "));
   }

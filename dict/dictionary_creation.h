@@ -4,14 +4,17 @@
 
 #include <string>
 
+#include "style/dictionary_kind.h"
+
 namespace tarvo {
 
 class Bundle;
 class FileService;
 
 // Makes the file of a new, empty dictionary from the bundle's template: "EJStationery.eud2" for English to Japanese,
-// else "JEStationery.jud", whatever the kind. User dictionaries (kind 1) get their type code and a blank creator.
+// else "JEStationery.jud", whatever the kind. User dictionaries get their type code and a blank creator.
 // A template that is missing is no failure: then no file is made. False: the copy failed, and nothing is there.
-bool makeDictionaryFile(FileService& files, const Bundle& bundle, const std::string& path, int dicType, bool isEnglish);
+bool makeDictionaryFile(FileService& files, const Bundle& bundle, const std::string& path, DictionaryKind kind,
+                        Direction direction);
 
 }  // namespace tarvo

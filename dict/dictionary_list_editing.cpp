@@ -30,13 +30,13 @@ DictionaryListEditing::DictionaryListEditing(StyleStore& store, const PopUpButto
       texts_(texts),
       guard_(guard) {}
 
-void DictionaryListEditing::raiseUpTD(int senderTag) { move(senderTag, -1); }
+void DictionaryListEditing::raiseUpTD(int senderTag) { move(directionForTag(senderTag), -1); }
 
-void DictionaryListEditing::raiseDownTD(int senderTag) { move(senderTag, 1); }
+void DictionaryListEditing::raiseDownTD(int senderTag) { move(directionForTag(senderTag), 1); }
 
-void DictionaryListEditing::move(int senderTag, int step) {
-  DictController& controller = getActiveDictController(senderTag);
-  TableView& table = getActiveTableView(senderTag);
+void DictionaryListEditing::move(Direction direction, int step) {
+  DictController& controller = getActiveDictController(direction);
+  TableView& table = getActiveTableView(direction);
   const std::optional<Names> loaded = controller.selectedDictionary();
   const int row = table.selectedRow();
   // The buttons see to this in a window; a script may move without a selection, or at the ends.
@@ -44,30 +44,31 @@ void DictionaryListEditing::move(int senderTag, int step) {
   controller.exchangeDictionary(row, row + step);
   table.reloadData();
   table.selectRows({row + step});
-  writeUpdateDicTarvoPlist(senderTag);
-  updateButton(senderTag);
+  writeUpdateDicTarvoPlist(direction);
+  updateButton(direction);
 }
 
 void DictionaryListEditing::removeTD(int senderTag) {
-  DictController& controller = getActiveDictController(senderTag);
-  TableView& table = getActiveTableView(senderTag);
+  const Direction direction = directionForTag(senderTag);
+  DictController& controller = getActiveDictController(direction);
+  TableView& table = getActiveTableView(direction);
   const std::optional<Names> loaded = controller.selectedDictionary();
   const int row = table.selectedRow();
   if (!isRowOf(loaded, row)) return;
   controller.unloadDictionary((*loaded)[static_cast<std::size_t>(row)]);
   table.reloadData();
-  writeUpdateDicTarvoPlist(senderTag);
-  updateButton(senderTag);
+  writeUpdateDicTarvoPlist(direction);
+  updateButton(direction);
   guard_.alertStartedApplication(2);
 }
 
-void DictionaryListEditing::writeUpdateDicTarvoPlist(int direction) {
+void DictionaryListEditing::writeUpdateDicTarvoPlist(Direction direction) {
   const int index = stylePopup_.indexOfSelectedItem();
   std::optional<Dictionary> record = store_.getStyleAtIndex(index);
   if (!record) return;
   const std::optional<Names> loaded = getActiveDictController(direction).selectedDictionary();
   // The divider, and a record without the direction's dictionary, get none; they are written back as they are.
-  Dictionary* half = record->dictionary(direction != 0 ? keyNameJE : keyNameEJ);
+  Dictionary* half = record->dictionary(halfKey(direction));
   if (half != nullptr && !isDivider(*record, texts_)) {
     if (loaded) {
       half->set(keyNameTD, Array(loaded->begin(), loaded->end()));
@@ -78,10 +79,9 @@ void DictionaryListEditing::writeUpdateDicTarvoPlist(int direction) {
   store_.setStyle(index, std::move(*record));
 }
 
-void DictionaryListEditing::updateButton(int code) {
-  if (code < 0 || code > 5) return;
-  const TableView& table = getActiveTableView(code);
-  const bool isEJ = code % 2 == 0;
+void DictionaryListEditing::updateButton(Direction buttons, Direction tableOf) {
+  const TableView& table = getActiveTableView(tableOf);
+  const bool isEJ = buttons == Direction::englishToJapanese;
   const int row = table.selectedRow();
   const bool isSelected = row >= 0;
   (isEJ ? outlets_.ejRaiseDicButton : outlets_.jeRaiseDicButton).setEnabled(row >= 1);
@@ -93,18 +93,11 @@ void DictionaryListEditing::updateButton(int code) {
 
 void DictionaryListEditing::didSelectTabViewItem(std::string_view label) {
   if (label == texts_.localized("EJTab")) {
-    baseTabKey_ = 0;
+    shownDirection_ = Direction::englishToJapanese;
   } else if (label == texts_.localized("JETab")) {
-    baseTabKey_ = 100;
+    shownDirection_ = Direction::japaneseToEnglish;
   }
-  constexpr std::string_view subTabKeys[] = {"TDTab", "UDTab", "UTMATab"};
-  int subTab = 0;
-  for (const std::string_view key : subTabKeys) {
-    ++subTab;
-    if (label == texts_.localized(key)) (baseTabKey_ == 0 ? currentEJKey_ : currentJEKey_) = subTab;
-  }
-  currentTabKey_ = baseTabKey_ == 0 ? currentEJKey_ : 100 + currentJEKey_;
-  updateButton(baseTabKey_ == 0 ? 0 : 1);
+  updateButton(shownDirection_);
 }
 
 }  // namespace tarvo

@@ -10,8 +10,7 @@
 #include "platform/controls/table_view.h"
 
 // Editing of the technical dictionary lists in the style pane. Every edit goes through the direction's list model and
-// is written into the shown style at once. A direction travels as an integer, the tag of its table and buttons: 0
-// English to Japanese, any other Japanese to English.
+// is written into the shown style at once. Tables and buttons bear their direction as their tag.
 namespace tarvo {
 
 class RunningApplicationGuard;
@@ -34,32 +33,32 @@ class DictionaryListEditing {
                         DictController::Services services, RunningApplicationGuard& guard);
 
   DictController ejTDController, jeTDController;
-  DictController& getActiveDictController(int direction) { return direction != 0 ? jeTDController : ejTDController; }
-  TableView& getActiveTableView(int direction) { return direction != 0 ? outlets_.jeTDTable : outlets_.ejTDTable; }
+  DictController& getActiveDictController(Direction direction) {
+    return direction == Direction::englishToJapanese ? ejTDController : jeTDController;
+  }
+  TableView& getActiveTableView(Direction direction) {
+    return direction == Direction::englishToJapanese ? outlets_.ejTDTable : outlets_.jeTDTable;
+  }
 
   void raiseUpTD(int senderTag);
   void raiseDownTD(int senderTag);
   void removeTD(int senderTag);
   // Stores the loaded list under "TD" of the style menu's style; an empty one removes the key.
-  void writeUpdateDicTarvoPlist(int direction);
-  // Enables the four buttons of a direction: codes 0 to 5, even ones English to Japanese.
-  void updateButton(int code);
-  // Keeps the tab state and the buttons in line with the tab that was chosen, known by its label.
+  void writeUpdateDicTarvoPlist(Direction direction);
+  void updateButton(Direction direction) { updateButton(direction, direction); }  // enables its four buttons
+  void updateButton(Direction buttons, Direction tableOf);                        // by the rows of this table
+  // Keeps the shown direction and the buttons in line with the tab that was chosen, known by its label.
   void didSelectTabViewItem(std::string_view label);
-
-  int baseTabKey() const { return baseTabKey_; }  // 0: the English-to-Japanese tab, 100: the other
-  int currentTabKey() const { return currentTabKey_; }
-  int currentEJKey() const { return currentEJKey_; }  // 1 technical, 2 user dictionaries, 3 memories
-  int currentJEKey() const { return currentJEKey_; }
+  Direction shownDirection() const { return shownDirection_; }  // of the tab
 
  private:
-  void move(int senderTag, int step);
+  void move(Direction direction, int step);
   StyleStore& store_;
   const PopUpButton& stylePopup_;
   ListOutlets& outlets_;
   const Texts& texts_;
   RunningApplicationGuard& guard_;
-  int baseTabKey_ = 0, currentTabKey_ = 1, currentEJKey_ = 1, currentJEKey_ = 1;
+  Direction shownDirection_ = Direction::englishToJapanese;
 };
 
 }  // namespace tarvo

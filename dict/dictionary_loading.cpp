@@ -14,9 +14,7 @@
 namespace tarvo {
 namespace {
 
-constexpr int technical = 0;  // the kind of every list that the picker serves
-
-int directionOf(bool isEJ) { return isEJ ? 0 : 1; }
+constexpr DictionaryKind technical = DictionaryKind::technical;  // of every list that the picker serves
 
 // Takes the names without a file out; answers the last of them.
 std::optional<std::string> removeMissing(Names& names, DictController& controller) {
@@ -37,12 +35,12 @@ DictionaryLoading::DictionaryLoading(DictionaryListEditing& lists, TechDicContro
     : lists_(lists), picker_(picker), request_(request), alerts_(alerts), guard_(guard), texts_(texts) {}
 
 void DictionaryLoading::loadTD(int senderTag) {
-  DictController& controller = lists_.getActiveDictController(senderTag);
+  request_.direction = directionForTag(senderTag);
+  DictController& controller = lists_.getActiveDictController(request_.direction);
   controller.updateAllDictionary();
-  request_.isEJ = senderTag == 0;
-  setNonSelectionDic(request_.isEJ);
+  setNonSelectionDic(request_.direction);
   picker_.setRoom(TDMax - static_cast<int>(controller.selectedDictionary().value_or(Names{}).size()));
-  if (request_.isEJ) {
+  if (request_.direction == Direction::englishToJapanese) {
     picker_.openEJList();
   } else {
     picker_.openJEList();
@@ -50,7 +48,7 @@ void DictionaryLoading::loadTD(int senderTag) {
 }
 
 void DictionaryLoading::dicWindowOK() {
-  const int direction = directionOf(request_.isEJ);
+  const Direction direction = request_.direction;
   DictController& controller = lists_.getActiveDictController(direction);
   Names names = picker_.getCheckedArray(technical);
   if (names.empty()) {
@@ -74,7 +72,7 @@ void DictionaryLoading::dicWindowOK() {
 }
 
 void DictionaryLoading::dicWindowOK2() {
-  const int direction = directionOf(request_.isEJ);
+  const Direction direction = request_.direction;
   DictController& controller = lists_.getActiveDictController(direction);
   const Names names = picker_.getCheckedArray(technical);
   if (controller.checkMaxOver(names)) {
@@ -90,12 +88,12 @@ void DictionaryLoading::dicWindowOK2() {
 
 void DictionaryLoading::dicWindowCancel() { picker_.CancelButtonAction(); }
 
-void DictionaryLoading::setSelectedDic(bool isEJ) {
-  lists_.getActiveDictController(directionOf(isEJ)).updateDictionary(picker_.getCheckedArray(technical));
+void DictionaryLoading::setSelectedDic(Direction direction) {
+  lists_.getActiveDictController(direction).updateDictionary(picker_.getCheckedArray(technical));
 }
 
-void DictionaryLoading::setNonSelectionDic(bool isEJ) {
-  picker_.setNotSelectedArray(lists_.getActiveDictController(directionOf(isEJ)).notSelectedDictionary(), technical);
+void DictionaryLoading::setNonSelectionDic(Direction direction) {
+  picker_.setNotSelectedArray(lists_.getActiveDictController(direction).notSelectedDictionary(), technical);
 }
 
 }  // namespace tarvo

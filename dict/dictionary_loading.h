@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "style/direction.h"
+
 namespace tarvo {
 
 class DictionaryListEditing;
@@ -26,8 +28,8 @@ class DictionaryLoading {
   // The same without looking for vanished files; closes the picker before it saves.
   void dicWindowOK2();
   void dicWindowCancel();
-  void setSelectedDic(bool isEJ);      // loads exactly what is ticked; nothing is saved
-  void setNonSelectionDic(bool isEJ);  // hands the picker what the list does not hold
+  void setSelectedDic(Direction direction);      // loads exactly what is ticked; nothing is saved
+  void setNonSelectionDic(Direction direction);  // hands the picker what the list does not hold
 
  private:
   DictionaryListEditing& lists_;

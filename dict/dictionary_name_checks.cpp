@@ -43,9 +43,9 @@ bool DictionaryNameChecks::checkDicNameEnough() {
   nameField_.setStringValue(trimmed(name()));
   if (!name().empty()) return true;
   // A memory shares the message with a dictionary, under a header of its own; only it beeps.
-  if (request_.dTypeNum == userDictionaryKind) {
+  if (request_.kind == DictionaryKind::user) {
     alert(services_.texts.localizedOrEmpty("NoUDNameHeader"), "NoUDNameMessage");
-  } else if (request_.dTypeNum == memoryKind) {
+  } else if (request_.kind == DictionaryKind::memory) {
     services_.panels.beep();
     alert(services_.texts.localizedOrEmpty("NoUTMNameHeader"), "NoUDNameMessage");
   }
@@ -61,20 +61,21 @@ bool DictionaryNameChecks::checkInvalidName() {
                   [this](std::string_view text) { return compareInvalidName(text); })) {
     return true;
   }
-  if (request_.dTypeNum == userDictionaryKind || request_.dTypeNum == memoryKind) {
+  if (request_.kind == DictionaryKind::user || request_.kind == DictionaryKind::memory) {
     services_.panels.beep();
     alert(services_.texts.localizedOrEmpty("invalidNameHeader"),
-          request_.dTypeNum == userDictionaryKind ? "invalidNameUDMessage" : "invalidNameUTMAMessage");
+          request_.kind == DictionaryKind::user ? "invalidNameUDMessage" : "invalidNameUTMAMessage");
   }
   return false;
 }
 
 bool DictionaryNameChecks::checkIsCommonDicName() {
+  const bool isEnglish = request_.direction == Direction::englishToJapanese;
   std::string_view key;
-  if (request_.dTypeNum == userDictionaryKind) {
-    key = request_.isEJ ? "EJCommonUD" : "JECommonUD";
-  } else if (request_.dTypeNum == memoryKind) {
-    key = request_.isEJ ? "EJCommonUTMA" : "JECommonUTMA";
+  if (request_.kind == DictionaryKind::user) {
+    key = isEnglish ? "EJCommonUD" : "JECommonUD";
+  } else if (request_.kind == DictionaryKind::memory) {
+    key = isEnglish ? "EJCommonUTMA" : "JECommonUTMA";
   } else {
     return true;
   }
@@ -85,10 +86,10 @@ bool DictionaryNameChecks::checkIsCommonDicName() {
 
 bool DictionaryNameChecks::checkIsOverCountName() {
   if (shiftJisFromUtf8(name()).size() <= longestName) return true;
-  const bool isKnown = request_.dTypeNum == userDictionaryKind || request_.dTypeNum == memoryKind;
+  const bool isKnown = request_.kind == DictionaryKind::user || request_.kind == DictionaryKind::memory;
   if (!isKnown && !rules_.tellsOverlongNamesOfOddKinds) return false;
   std::string_view message;  // odd kinds have none
-  if (isKnown) message = request_.dTypeNum == userDictionaryKind ? "tooLongNameUDMessage" : "tooLongNameUTMAMessage";
+  if (isKnown) message = request_.kind == DictionaryKind::user ? "tooLongNameUDMessage" : "tooLongNameUTMAMessage";
   services_.panels.beep();
   alert(services_.texts.localizedOrEmpty("tooLongNameHeader"), message);
   return false;
@@ -97,19 +98,17 @@ bool DictionaryNameChecks::checkIsOverCountName() {
 bool DictionaryNameChecks::checkExistsNewDic() {
   request_.fDictName.clear();
   std::string folder;
-  std::string_view message, extension;
-  if (request_.dTypeNum == userDictionaryKind) {
+  std::string_view message;
+  if (request_.kind == DictionaryKind::user) {
     folder = services_.paths.tarvoPathUserDicFolderURL();
     message = "existsUDMessage";
-    extension = request_.isEJ ? "eud2" : "jud";
-  } else if (request_.dTypeNum == memoryKind) {
+  } else if (request_.kind == DictionaryKind::memory) {
     folder = services_.paths.tarvoPathUserTmaFolderURL();
     message = "existsUTMAMessage";
-    extension = request_.isEJ ? "etm" : "jtm";
   } else {
     return true;
   }
-  request_.fDictName = name() + "." + std::string(extension);
+  request_.fDictName = name() + "." + std::string(extensionOf(*request_.kind, request_.direction));
   if (!existsIgnoringCase(services_.files, joinPath(folder, request_.fDictName))) return true;
   services_.panels.beep();
   alert("\"" + request_.fDictName + "\"" + services_.texts.localizedOrEmpty("existsDicHeader"), message);

@@ -43,13 +43,9 @@ class MedicalFilter {
 bool isOfKind(const DictionaryScan& scan, const std::string& name) {
   const std::string extension = pathExtension(name);
   const auto is = [&](std::string_view other) { return equalIgnoringCase(extension, other); };
-  switch (scan.dicType) {
-    case 0:  // the type code is asked for last: it costs a look at the disk
-      return is("TRet") || is("jtd") || scan.files.typeCode(joinPath(scan.folder, name)) == technicalType;
-    case 1: return is(scan.isEnglish ? "eud2" : "jud");
-    case 2: return is(scan.isEnglish ? "etm" : "jtm");
-    default: return false;
-  }
+  if (scan.kind != DictionaryKind::technical) return is(extensionOf(scan.kind, scan.direction));
+  // The type code is asked for last: it costs a look at the disk.
+  return is("TRet") || is("jtd") || scan.files.typeCode(joinPath(scan.folder, name)) == technicalType;
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "style/dictionary_kind.h"
+
 namespace tarvo {
 
 class FileService;
@@ -15,8 +17,8 @@ struct DictionaryScan {
   const FileService& files;
   const Texts& texts;
   std::string folder;  // absolute
-  int dicType = 0;     // as in DictController
-  bool isEnglish = false;
+  DictionaryKind kind = DictionaryKind::technical;
+  Direction direction = Direction::japaneseToEnglish;
 
   // The names in the folder that are dictionaries of the kind, in the order of the listing; none when the folder cannot
   // be listed. Folders and hidden names count like any other. Extensions are compared ignoring case; a technical

@@ -18,7 +18,7 @@ constexpr std::string_view rowType = "row";  // what a drag carries: an array of
 // The list that a table shows; nothing for an empty one and for a table of another tag.
 std::optional<Names> shownNames(DictionaryListEditing& editing, const TableView& table) {
   if (table.tag() != 0 && table.tag() != 1) return std::nullopt;
-  return editing.getActiveDictController(table.tag()).selectedDictionary();
+  return editing.getActiveDictController(directionForTag(table.tag())).selectedDictionary();
 }
 
 std::optional<std::vector<int>> draggedRows(const Pasteboard& pasteboard) {
@@ -48,11 +48,11 @@ CellValue DictionaryTable::objectValueForTableColumn(TableView& table, std::stri
 }
 
 bool DictionaryTable::shouldSelectRow(TableView& table, int) {
-  editing_.updateButton(table.tag());
+  editing_.updateButton(directionForTag(table.tag()));
   return true;
 }
 
-void DictionaryTable::selectionDidChange(TableView& table) { editing_.updateButton(table.tag()); }
+void DictionaryTable::selectionDidChange(TableView& table) { editing_.updateButton(directionForTag(table.tag())); }
 
 bool DictionaryTable::writeRows(TableView&, const std::vector<int>& rows, Pasteboard& pasteboard) {
   pasteboard.content.set(rowType, Array(rows.begin(), rows.end()));
@@ -64,7 +64,7 @@ bool DictionaryTable::validateDrop(TableView&, const Pasteboard& pasteboard, int
 }
 
 bool DictionaryTable::acceptDrop(TableView& table, const Pasteboard& pasteboard, int row, DropOperation operation) {
-  DictController& controller = editing_.getActiveDictController(table.tag());
+  DictController& controller = editing_.getActiveDictController(directionForTag(table.tag()));
   const std::optional<Names> loaded = controller.selectedDictionary();
   const std::optional<std::vector<int>> rows = draggedRows(pasteboard);
   if (!loaded || !rows || operation != DropOperation::above) return false;
@@ -77,9 +77,8 @@ bool DictionaryTable::acceptDrop(TableView& table, const Pasteboard& pasteboard,
   table.deselectAll();
   for (int i = 0; i < dropped->movedCount; ++i) table.selectRows({dropped->firstMoved + i}, true);
   // The tab that is shown decides what is saved, not the table.
-  const int direction = editing_.baseTabKey() != 0 ? 1 : 0;
-  editing_.writeUpdateDicTarvoPlist(direction);
-  editing_.updateButton(direction);
+  editing_.writeUpdateDicTarvoPlist(editing_.shownDirection());
+  editing_.updateButton(editing_.shownDirection());
   return true;
 }
 

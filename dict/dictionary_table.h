@@ -14,6 +14,8 @@ class Texts;
 
 // Data source and delegate of the two technical dictionary tables: what a row shows, and reordering by dragging.
 // Answers -1 rows for an empty list and for a table of another tag.
+inline constexpr const char* dictionaryColumn = "name";  // the one column of each list of dictionaries in the pane
+
 class DictionaryTable : public TableDataSource, public TableDelegate {
  public:
   DictionaryTable(DictionaryListEditing& editing, const Texts& texts) : editing_(editing), texts_(texts) {}

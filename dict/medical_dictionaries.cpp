@@ -59,35 +59,34 @@ bool MedicalDictionaries::insertInstalled() {
     inserted = true;
   };
   if (isDue("TechECorwell6", "Corwell1stE")) {
-    insertCorwell(keyNameEJ, "cwl.TRet", "cwla.TRet");
+    insertCorwell(Direction::englishToJapanese, "cwl.TRet", "cwla.TRet");
     done("Corwell1stE");
   }
   if (isDue("TechJCorwell6", "Corwell1stJ")) {
-    insertCorwell(keyNameJE, "cwl", "cwla");  // the files of this direction have no extension
+    insertCorwell(Direction::japaneseToEnglish, "cwl", "cwla");  // the files of this direction have no extension
     done("Corwell1stJ");
   }
   if (isDue("TechETekado", "Tekado1stE")) {
-    insertTekado(keyNameEJ, texts_.localized("NameETekado"));
+    insertTekado(Direction::englishToJapanese, texts_.localized("NameETekado"));
     done("Tekado1stE");
   }
   if (isDue("TechJTekado", "Tekado1stJ")) {
-    insertTekado(keyNameJE, texts_.localized("NameJTekado"));
+    insertTekado(Direction::japaneseToEnglish, texts_.localized("NameJTekado"));
     done("Tekado1stJ");
   }
   defaults_.synchronize();
   return inserted;
 }
 
-void MedicalDictionaries::insertCorwell(std::string_view direction, std::string_view techName,
-                                        std::string_view abbrevName) {
+void MedicalDictionaries::insertCorwell(Direction direction, std::string_view techName, std::string_view abbrevName) {
   insert(direction, "Corwell", texts_.localized(techName), texts_.localized(abbrevName));
 }
 
-void MedicalDictionaries::insertTekado(std::string_view direction, std::string_view techName) {
+void MedicalDictionaries::insertTekado(Direction direction, std::string_view techName) {
   insert(direction, "Tekado", texts_.localized(techName), std::nullopt);
 }
 
-void MedicalDictionaries::insert(std::string_view direction, std::string_view word, const std::string& name,
+void MedicalDictionaries::insert(Direction direction, std::string_view word, const std::string& name,
                                  const std::optional<std::string>& abbreviation) {
   const Array* present = store_.root().array(keyNameStyle);
   if (present == nullptr) return;  // no styles at all means something else than an empty list of them
@@ -97,7 +96,7 @@ void MedicalDictionaries::insert(std::string_view direction, std::string_view wo
   for (PropertyList& style : styles) {
     Dictionary* record = style.dictionary();
     if (record == nullptr) continue;
-    Dictionary half = copyOr(record->dictionary(direction));
+    Dictionary half = copyOr(record->dictionary(halfKey(direction)));
     Array list = copyOr(half.array(keyNameTD));
     const MedicalPlaces places = findMedical(list, general, clinical, wordText);
     if (places.hasGeneral && !places.hasDictionary) {
@@ -105,7 +104,7 @@ void MedicalDictionaries::insert(std::string_view direction, std::string_view wo
       if (abbreviation) list.push_back(*abbreviation);
     }
     half.set(keyNameTD, std::move(list));
-    record->set(direction, std::move(half));
+    record->set(halfKey(direction), std::move(half));
   }
   store_.replaceStyles(std::move(styles));
 }

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "style/direction.h"
+
 // Medical dictionaries that can be installed beside the engine: the first start after one has appeared adds it to the
 // styles.
 namespace tarvo {
@@ -21,13 +23,13 @@ class MedicalDictionaries {
   // Inserts those that are installed and were never inserted, sets their flags and flushes the settings. True: a list
   // may have changed and the style file has to be written.
   bool insertInstalled();
-  // direction: "EJ" or "JE". Names are looked up in the text table once more.
-  void insertCorwell(std::string_view direction, std::string_view techName, std::string_view abbrevName);
-  void insertTekado(std::string_view direction, std::string_view techName);
+  // Names are looked up in the text table once more.
+  void insertCorwell(Direction direction, std::string_view techName, std::string_view abbrevName);
+  void insertTekado(Direction direction, std::string_view techName);
 
  private:
   // word: text key of the word that tells the dictionary in a list.
-  void insert(std::string_view direction, std::string_view word, const std::string& name,
+  void insert(Direction direction, std::string_view word, const std::string& name,
               const std::optional<std::string>& abbreviation);
   FileService& files_;
   const Texts& texts_;

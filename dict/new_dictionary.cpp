@@ -7,6 +7,7 @@
 #include "dict/user_list_rows.h"
 #include "dict/user_lists.h"
 #include "platform/services/notification_center.h"
+#include "platform/services/notification_names.h"
 #include "style/pane_alerts.h"
 #include "style/process_flags.h"
 
@@ -14,18 +15,22 @@ namespace tarvo {
 namespace {
 
 // Two sibling tools show the user's lists themselves and store none of them in a style.
-constexpr int toolWithDictionaries = 5, toolWithMemories = 6;
+constexpr Tool toolWithDictionaries = Tool::notepad, toolWithMemories = Tool::officeAddins;
 
 struct Meaning {
-  int tag, kind;
-  bool isEJ;
+  int tag;
+  DictionaryKind kind;
+  Direction direction;
 };
-constexpr Meaning meanings[] = {
-    {10, userDictionaryKind, true}, {11, userDictionaryKind, false}, {12, memoryKind, true}, {13, memoryKind, false}};
+constexpr Meaning meanings[] = {{10, DictionaryKind::user, Direction::englishToJapanese},
+                                {11, DictionaryKind::user, Direction::japaneseToEnglish},
+                                {12, DictionaryKind::memory, Direction::englishToJapanese},
+                                {13, DictionaryKind::memory, Direction::japaneseToEnglish}};
 
 std::string_view promptKey(const NewDictionaryRequest& request) {
-  if (request.dTypeNum == userDictionaryKind) return request.isEJ ? "NewEJUDText" : "NewJEUDText";
-  return request.isEJ ? "NewEJTMAText" : "NewJETMAText";
+  const bool isEnglish = request.direction == Direction::englishToJapanese;
+  if (request.kind == DictionaryKind::user) return isEnglish ? "NewEJUDText" : "NewJEUDText";
+  return isEnglish ? "NewEJTMAText" : "NewJETMAText";
 }
 
 }  // namespace
@@ -39,12 +44,12 @@ NewDictionary::NewDictionary(const Collaborators& with, DictionaryNameChecks::Se
 
 void NewDictionary::newUD(int senderTag) {
   NewDictionaryRequest& request = with_.request;
-  request.isEJ = with_.lists.baseTabKey() == 0;
-  request.dTypeNum = senderTag;
+  request.direction = with_.lists.shownDirection();
+  request.kind = dictionaryKindForNumber(senderTag);
   for (const Meaning& meaning : meanings) {
     if (meaning.tag != senderTag) continue;
-    request.dTypeNum = meaning.kind;
-    request.isEJ = meaning.isEJ;
+    request.kind = meaning.kind;
+    request.direction = meaning.direction;
   }
   sheet_.begin(promptKey(request), with_.myWindow,
                [this](int returnCode) { sheetDidEnd(with_.outlets.NewDicWindow, returnCode); });
@@ -61,8 +66,8 @@ void NewDictionary::sheetDidEnd(const Window& sheet, int returnCode) {
 NewDictionary::Target NewDictionary::target() {
   UserLists& lists = with_.userLists;
   UserListOutlets& tables = with_.tables;
-  const bool isEJ = with_.request.isEJ;
-  if (with_.request.dTypeNum == userDictionaryKind) {
+  const bool isEJ = with_.request.direction == Direction::englishToJapanese;
+  if (with_.request.kind == DictionaryKind::user) {
     const bool inTool = with_.flags.saveHit == toolWithDictionaries;
     if (isEJ) return {lists.ejUDController, inTool ? tables.ejUDTableView : tables.ejUDTable};
     return {lists.jeUDController, inTool ? tables.jeUDTableView : tables.jeUDTable};
@@ -73,22 +78,21 @@ NewDictionary::Target NewDictionary::target() {
 }
 
 void NewDictionary::newDicWindowOKAction(const std::string& name) {
-  const int kind = with_.request.dTypeNum;
-  if (kind != userDictionaryKind && kind != memoryKind) return;
+  const std::optional<DictionaryKind> kind = with_.request.kind;
+  if (kind != DictionaryKind::user && kind != DictionaryKind::memory) return;
   const Target made = target();
   bool isLoaded = false;
   const bool isCreated = made.controller.createDictionary(name, isLoaded);
   made.table.reloadData();
   if (!isCreated) return;
   if (with_.flags.saveHit == toolWithDictionaries || with_.flags.saveHit == toolWithMemories) {
-    with_.guard.alertStartedApplication(kind);
+    with_.guard.alertStartedApplication(numberOf(*kind));
     return;
   }
-  const int direction = with_.request.isEJ ? 0 : 1;
-  with_.lists.writeUpdateDicTarvoPlist(direction);
-  with_.lists.updateButton(direction);
-  with_.guard.alertStartedApplication(kind);
-  if (!isLoaded) with_.alerts.openMaxOverAlert(kind);
+  with_.lists.writeUpdateDicTarvoPlist(with_.request.direction);
+  with_.lists.updateButton(with_.request.direction);
+  with_.guard.alertStartedApplication(numberOf(*kind));
+  if (!isLoaded) with_.alerts.openMaxOverAlert(*kind);
 }
 
 }  // namespace tarvo

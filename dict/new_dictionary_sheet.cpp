@@ -26,8 +26,8 @@ void NewDictionarySheet::begin(std::string_view promptKey, Window& host, std::fu
     controls_.folderName.setStringValue(texts_.localized(folderName));
     controls_.folderTitle.setStringValue(texts_.localized(folderTitle));
   };
-  if (request_.dTypeNum == userDictionaryKind) show("UDFolderName", "UDFolderNameTitle");
-  if (request_.dTypeNum == memoryKind) show("UserTMAFolderName", "UserTMAFolderNameTitle");
+  if (request_.kind == DictionaryKind::user) show("UDFolderName", "UDFolderNameTitle");
+  if (request_.kind == DictionaryKind::memory) show("UserTMAFolderName", "UserTMAFolderNameTitle");
   windows_.beginSheet(controls_.window, host, std::move(ended));
 }
 

@@ -19,8 +19,8 @@ class RunningApplicationGuard {
   static constexpr int userDictionaryTool = 4;
   // Whether the tool runs at this moment, from exactly the place that the product's paths name.
   bool isStartedApplication(int tool);
-  // Called after a list of that kind has changed. The manager's lists are read anew by the tools, so nobody needs to be
-  // told; who has to watch the changes derives.
+  // Called after a list has changed; 1 is that of user dictionaries, 2 any other. The manager's lists are read anew by
+  // the tools, so nobody needs to be told; who has to watch the changes derives.
   virtual void alertStartedApplication([[maybe_unused]] int kind) {}
 
  private:

@@ -8,6 +8,7 @@
 #include "dict/display_names.h"
 #include "dict/running_application_guard.h"
 #include "platform/services/notification_center.h"
+#include "platform/services/notification_names.h"
 #include "platform/services/product_paths.h"
 #include "platform/services/texts.h"
 #include "platform/services/workspace.h"
@@ -16,8 +17,6 @@
 
 namespace tarvo {
 namespace {
-
-constexpr std::string_view checkColumn = "Value", nameColumn = "dicName";
 
 bool isRow(int row, std::size_t count) {
   return std::in_range<std::size_t>(row) && static_cast<std::size_t>(row) < count;
@@ -33,13 +32,14 @@ TechDicController::TechDicController(const Collaborators& with, DictionaryNameCh
               with.outlets.newDicFolderNameField, with.outlets.newDicFolderTitleField},
              request_, {.forbidden = {".", ":", "/"}, .tellsOverlongNamesOfOddKinds = false}, services, with.windows) {}
 
-void TechDicController::open(bool isEJ) {
+void TechDicController::open(Direction direction) {
   PickerOutlets& outlets = with_.outlets;
+  const bool isEJ = direction == Direction::englishToJapanese;
   outlets.filterField.setStringValue("");
   outlets.myWindow.setTitle(texts_.localized(isEJ ? "EJ-TDEdit" : "JE-TDEdit"));
   outlets.TDTitleField.setStringValue(texts_.localized(isEJ ? "EJName" : "JEName"));
   outlets.techDicTable.scrollRowToVisible(0);
-  request_.isEJ = isEJ;
+  request_.direction = direction;
   with_.windows.runModalForWindow(outlets.myWindow);
   with_.windows.orderOut(outlets.myWindow);
 }
@@ -49,42 +49,36 @@ void TechDicController::close() {
   with_.windows.stopModal();
 }
 
-TechDicController::Entries* TechDicController::entries(int tag) {
-  switch (tag) {
-    case 0: return &techDicArray_;
-    case userDictionaryKind: return &UserDicArray_;
-    case memoryKind: return &UserTMAArray_;
-    default: return nullptr;
-  }
+TechDicController::Entries& TechDicController::entries(DictionaryKind kind) {
+  if (kind == DictionaryKind::technical) return techDicArray_;
+  return kind == DictionaryKind::user ? UserDicArray_ : UserTMAArray_;
 }
 
-TableView& TechDicController::table(int tag) {
-  if (tag == 0) return with_.outlets.techDicTable;
-  return tag == userDictionaryKind ? with_.outlets.UserDicTable : with_.outlets.UserTMATable;
+TableView& TechDicController::table(DictionaryKind kind) {
+  if (kind == DictionaryKind::technical) return with_.outlets.techDicTable;
+  return kind == DictionaryKind::user ? with_.outlets.UserDicTable : with_.outlets.UserTMATable;
 }
 
-Names TechDicController::getCheckedArray(int tag) {
+Names TechDicController::getCheckedArray(DictionaryKind kind) {
   Names names;
-  const Entries* list = entries(tag);
-  if (list == nullptr) return names;
-  for (const Entry& entry : *list) {
+  for (const Entry& entry : entries(kind)) {
     if (entry.check) names.push_back(entry.name);
   }
   return names;
 }
 
-void TechDicController::setNotSelectedArray(const std::optional<Names>& names, int tag) {
-  Entries* list = entries(tag);
-  if (list == nullptr) return;
+void TechDicController::setNotSelectedArray(const std::optional<Names>& names, DictionaryKind kind) {
+  const bool isTechnical = kind == DictionaryKind::technical;
   if (names) {
-    list->clear();
-    list->reserve(names->size());
+    Entries& list = entries(kind);
+    list.clear();
+    list.reserve(names->size());
     for (const std::string& name : *names) {
-      list->push_back({name, false, tag == 0 ? caseFolded(pickerDisplayName(name, texts_)) : ""});
+      list.push_back({name, false, isTechnical ? caseFolded(pickerDisplayName(name, texts_)) : ""});
     }
   }
-  table(tag).reloadData();
-  if (tag != 0) return;
+  table(kind).reloadData();
+  if (!isTechnical) return;
   filterDidChange();
   showRoom();
 }
@@ -131,14 +125,16 @@ void TechDicController::showRoom() {
 }
 
 void TechDicController::OpenFolder(int senderTag) {
+  const std::optional<DictionaryKind> kind = dictionaryKindForNumber(senderTag);
+  if (!kind) return;
   std::string folder;
-  switch (senderTag) {
-    case 0:
-      folder = request_.isEJ ? paths_.tarvoPathTechnicalDicEngFolderURL() : paths_.tarvoPathTechnicalDicJpnFolderURL();
+  switch (*kind) {
+    case DictionaryKind::technical:
+      folder = request_.direction == Direction::englishToJapanese ? paths_.tarvoPathTechnicalDicEngFolderURL()
+                                                                  : paths_.tarvoPathTechnicalDicJpnFolderURL();
       break;
-    case userDictionaryKind: folder = paths_.tarvoPathUserDicFolderURL(); break;
-    case memoryKind: folder = paths_.tarvoPathUserTmaFolderURL(); break;
-    default: break;
+    case DictionaryKind::user: folder = paths_.tarvoPathUserDicFolderURL(); break;
+    case DictionaryKind::memory: folder = paths_.tarvoPathUserTmaFolderURL(); break;
   }
   if (!folder.empty()) with_.workspace.openFile(folder);
 }
@@ -148,33 +144,33 @@ int TechDicController::numberOfRowsInTableView(TableView& table) {
 }
 
 CellValue TechDicController::objectValueForTableColumn(TableView& table, std::string_view column, int row) {
-  const Entries* list = entries(table.tag());
+  const std::optional<DictionaryKind> kind = dictionaryKindForNumber(table.tag());
   CellValue value;
-  if (list == nullptr || !isRow(row, list->size())) return value;
-  const Entry& entry = (*list)[static_cast<std::size_t>(row)];
-  if (column == checkColumn) value.checked = entry.check;
-  if (column == nameColumn) value.text = pickerDisplayName(entry.name, texts_);
+  if (!kind || !isRow(row, entries(*kind).size())) return value;
+  const Entry& entry = entries(*kind)[static_cast<std::size_t>(row)];
+  if (column == picker_columns::check) value.checked = entry.check;
+  if (column == picker_columns::name) value.text = pickerDisplayName(entry.name, texts_);
   return value;
 }
 
 void TechDicController::setObjectValue(TableView& table, bool value, std::string_view column, int row) {
-  if (table.tag() != 0 || column != checkColumn || !isRow(row, techDicArray_.size())) return;
+  if (table.tag() != 0 || column != picker_columns::check || !isRow(row, techDicArray_.size())) return;
   techDicArray_[static_cast<std::size_t>(row)].check = value;
   table.reloadData();
   showRoom();
 }
 
 void TechDicController::newUD(int senderTag) {
-  request_.dTypeNum = senderTag - 1;
-  sheet_.begin(request_.dTypeNum == userDictionaryKind ? "NewUDText" : "NewTMAText", with_.outlets.myWindow,
+  request_.kind = dictionaryKindForNumber(senderTag - 1);
+  sheet_.begin(request_.kind == DictionaryKind::user ? "NewUDText" : "NewTMAText", with_.outlets.myWindow,
                [this](int returnCode) {
                  if (returnCode == 1) with_.notifications.post(newDicNotification, request_.fDictName);
                });
 }
 
-void TechDicController::setCreatedDictionary(const std::string& name, int kind) {
-  if (kind != userDictionaryKind && kind != memoryKind) return;
-  Entries& list = *entries(kind);
+void TechDicController::setCreatedDictionary(const std::string& name, DictionaryKind kind) {
+  if (kind == DictionaryKind::technical) return;
+  Entries& list = entries(kind);
   const auto found =
       std::find_if(list.begin(), list.end(), [&](const Entry& entry) { return equalIgnoringCase(entry.name, name); });
   if (found != list.end()) {
@@ -184,7 +180,7 @@ void TechDicController::setCreatedDictionary(const std::string& name, int kind) 
   }
   std::stable_sort(list.begin(), list.end(), [](const Entry& a, const Entry& b) { return a.name < b.name; });
   table(kind).reloadData();
-  if (kind == userDictionaryKind && isStartedApplication(RunningApplicationGuard::userDictionaryTool)) {
+  if (kind == DictionaryKind::user && isStartedApplication(RunningApplicationGuard::userDictionaryTool)) {
     with_.alerts.beepAndAlert("isLaunchingUDAlertHeader", "isLaunchingUDAlertContents");
   }
 }

@@ -13,17 +13,22 @@
 #include "platform/controls/controls.h"
 #include "platform/controls/table_view.h"
 #include "platform/controls/windows.h"
+#include "style/dictionary_kind.h"
 
 // The picker: a modal window that lists the technical dictionaries of one direction that a style does not use, with
 // check boxes. Duty: the lists and their ticks, the filter, its copy of the new-dictionary sheet. Not: adding anything
-// to a style, which the style pane does when it has read the ticks. Lists are known by tag: 0 technical dictionaries,
-// 1 user dictionaries, 2 translation memories. They keep their content until the next setNotSelectedArray.
+// to a style, which the style pane does when it has read the ticks. Tables and folder buttons bear the
+// number of their kind as their tag. Lists keep their content until the next setNotSelectedArray.
 namespace tarvo {
 
 class NotificationCenter;
 class PaneAlerts;
 class RunningApplicationGuard;
 class Workspace;
+
+namespace picker_columns {
+inline constexpr const char *check = "Value", *name = "dicName";
+}  // namespace picker_columns
 
 struct PickerOutlets : Outlets {
   Window myWindow{*this, "myWindow"};
@@ -64,14 +69,14 @@ class TechDicController : public TableDataSource, public TableDelegate {
   TechDicController(const Collaborators& with, DictionaryNameChecks::Services services);
 
   // Shows the picker for a direction and returns when it was closed.
-  void openEJList() { open(true); }
-  void openJEList() { open(false); }
+  void openEJList() { open(Direction::englishToJapanese); }
+  void openJEList() { open(Direction::japaneseToEnglish); }
   // Both close the window and end its run; who closed it is not recorded.
   void OKButtonAction() { close(); }
   void CancelButtonAction() { close(); }
-  Names getCheckedArray(int tag);  // file names of the ticked rows, in list order
+  Names getCheckedArray(DictionaryKind kind);  // file names of the ticked rows, in list order
   // No names: the list stays as it is, and is read anew.
-  void setNotSelectedArray(const std::optional<Names>& names, int tag);
+  void setNotSelectedArray(const std::optional<Names>& names, DictionaryKind kind);
   void OpenFolder(int senderTag);
   // How many dictionaries the style's list can still take; the text beside the list counts the ticks off.
   void setRoom(int room);
@@ -83,11 +88,11 @@ class TechDicController : public TableDataSource, public TableDelegate {
   void newUD(int senderTag);
   void newDicOKButtonAction() { sheet_.newDicOKButtonAction(); }
   void newDicCancelButtonAction() { sheet_.newDicCancelButtonAction(); }
-  // Puts a new dictionary, ticked, into the list of its kind (1 or 2), in place of one of that name.
-  void setCreatedDictionary(const std::string& name, int kind);
+  // Puts a new dictionary, ticked, into the list of its kind, in place of one of that name; nothing for technical ones.
+  void setCreatedDictionary(const std::string& name, DictionaryKind kind);
   bool isStartedApplication(int tool);
 
-  bool isEJ() const { return request_.isEJ; }
+  Direction direction() const { return request_.direction; }
   const NewDictionaryRequest& request() const { return request_; }
   DictionaryNameChecks& checks() { return sheet_.checks(); }
 
@@ -102,10 +107,10 @@ class TechDicController : public TableDataSource, public TableDelegate {
     std::string folded = {};  // what the filter looks into, for the list that has one
   };
   using Entries = std::vector<Entry>;
-  void open(bool isEJ);
+  void open(Direction direction);
   void close();
-  Entries* entries(int tag);  // null for another tag
-  TableView& table(int tag);  // of a list that there is
+  Entries& entries(DictionaryKind kind);
+  TableView& table(DictionaryKind kind);
   void showRoom();
   Collaborators with_;
   const Texts& texts_;

@@ -19,7 +19,7 @@ int UserListRows::numberOfRowsInTableView(TableView& table) {
     // A model of its own, so that looking does not touch what the lists have loaded.
     DictController folder(services_);
     const std::string& path = lists_[pair]->dicFolderPath();
-    if (!path.empty()) folder.initializeDictController(lists_[pair]->dicType(), path, pair < pairs / 2);
+    if (!path.empty()) folder.initializeDictController(lists_[pair]->kind(), path, lists_[pair]->direction());
     rows_[pair] = folder.getAllDictionary();
   } else {
     shown_[pair]->reloadData();

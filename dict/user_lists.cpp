@@ -20,10 +20,10 @@ void UserLists::setUp() {
   for (const std::string& folder : {dictionaries, memories}) {
     if (!services_.files.exists(folder)) services_.files.makeFolder(folder);
   }
-  ejUDController.initializeDictController(1, dictionaries, true);
-  jeUDController.initializeDictController(1, dictionaries, false);
-  ejUTMAController.initializeDictController(2, memories, true);
-  jeUTMAController.initializeDictController(2, memories, false);
+  ejUDController.initializeDictController(DictionaryKind::user, dictionaries, Direction::englishToJapanese);
+  jeUDController.initializeDictController(DictionaryKind::user, dictionaries, Direction::japaneseToEnglish);
+  ejUTMAController.initializeDictController(DictionaryKind::memory, memories, Direction::englishToJapanese);
+  jeUTMAController.initializeDictController(DictionaryKind::memory, memories, Direction::japaneseToEnglish);
 }
 
 }  // namespace tarvo

@@ -8,12 +8,16 @@
 
 namespace tarvo {
 
+namespace addin_columns {
+inline constexpr const char *check = "Value", *name = "AppName", *version = "Version";
+}  // namespace addin_columns
+
 // The Office pane, the mail pane and the cautions that their buttons bring up. The tool's pop-up is ToolListOutlets'.
 struct AddinOutlets : Outlets {
-  TableView officeTableView{*this, "officeTableView"};  // tag 0: "Value" (check box), "AppName", "Version"
+  TableView officeTableView{*this, "officeTableView"};  // tag 0: all three columns
   TextField officeInfoField{*this, "officeInfoField", Control::Kind::text};
   Button officeSearchButton{*this, "officeSearchButton"}, officePowerPointButton{*this, "officePowerPointButton"};
-  TableView mailTableView{*this, "mailTableView"};  // tag 1: "Value" (check box), "AppName"
+  TableView mailTableView{*this, "mailTableView"};  // tag 1: no versions
   TextField mailinfoField{*this, "mailinfoField", Control::Kind::text};
   Button mailCautionButton{*this, "mailCautionButton"};
   Button scriptEditorButton{*this, "scriptEditorButton"}, scriptUtilityButton{*this, "scriptUtilityButton"};

@@ -47,16 +47,16 @@ CellValue AddinTable::objectValueForTableColumn(TableView& table, std::string_vi
   const AddinEntry* entry = entryAt(table.tag(), row);
   CellValue cell;
   if (entry == nullptr) return cell;
-  if (column == "Value") cell.checked = isMarkedInstalled(*entry);
-  if (column == "AppName") cell.text = addinText(*entry, appName);
-  if (column == "Version" && table.tag() == officeTag) cell.text = addinText(*entry, appVersion);
+  if (column == addin_columns::check) cell.checked = isMarkedInstalled(*entry);
+  if (column == addin_columns::name) cell.text = addinText(*entry, appName);
+  if (column == addin_columns::version && table.tag() == officeTag) cell.text = addinText(*entry, appVersion);
   return cell;
 }
 
 void AddinTable::setObjectValue(TableView& table, bool value, std::string_view column, int row) {
   fIsInstalled = true;
   AddinEntry* entry = entryAt(table.tag(), row);
-  if (entry == nullptr || column != "Value") return;
+  if (entry == nullptr || column != addin_columns::check) return;
   const Change changed = change(*entry, table.tag(), value);
   if (changed.failed) services_.panels.beep();
   entry->set(installStatus, changed.isInstalled);
@@ -83,7 +83,7 @@ TextField& AddinTable::infoField(int tag) {
 
 void AddinTable::selectionDidChange(TableView&) {
   if (std::exchange(fIsInstalled, false)) return;
-  const int tag = panes_.selectedPage() - 1;  // the pages of the add-ins are the second and the third
+  const int tag = panes_.selectedPage() - tagOf(Pane::office);  // the pages of the add-ins follow each other
   if (tag != officeTag && tag != mailTag) return;
   const TableView& table = tag == officeTag ? outlets_.officeTableView : outlets_.mailTableView;
   const AddinEntry* entry = entryAt(tag, table.selectedRow());

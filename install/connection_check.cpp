@@ -4,6 +4,7 @@
 
 #include "platform/services/engine.h"
 #include "platform/services/notification_center.h"
+#include "platform/services/notification_names.h"
 #include "platform/services/panels.h"
 #include "platform/services/texts.h"
 #include "platform/services/user_defaults.h"

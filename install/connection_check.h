@@ -18,8 +18,6 @@ class Panels;
 class Texts;
 class UserDefaults;
 
-inline constexpr const char* sendPlistNoti = "SendPlistNoti";  // the styles and the engine's are to be made one
-
 struct ConnectionOutlets : Outlets {
   Window sslPanel{*this, "sslPanel"};
   TextField sslText{*this, "sslText", Control::Kind::text};

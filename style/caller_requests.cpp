@@ -13,11 +13,22 @@ constexpr std::string_view bomData{"\xFF\xFE", 2};
 
 struct Code {
   std::string_view text;
-  std::optional<int> tool;
+  std::optional<Tool> tool;
 };
-constexpr Code codes[] = {{"tMG8", 0}, {"tQB8", 1},        {"tTX8", 2}, {"tGD8", 3},           {"tTM8", 4},
-                          {"tNP8", 5}, {"OfficeAddin", 6}, {"MSWD", 6}, {"XCEL", 6},           {"PPT3", 6},
-                          {"Mail", 7}, {"emal", 7},        {"OPIM", 7}, {"offi", std::nullopt}};
+constexpr Code codes[] = {{"tMG8", Tool::manager},
+                          {"tQB8", Tool::quickTranslation},
+                          {"tTX8", Tool::textTranslation},
+                          {"tGD8", Tool::readingGuide},
+                          {"tTM8", Tool::translationMemory},
+                          {"tNP8", Tool::notepad},
+                          {"OfficeAddin", Tool::officeAddins},
+                          {"MSWD", Tool::officeAddins},
+                          {"XCEL", Tool::officeAddins},
+                          {"PPT3", Tool::officeAddins},
+                          {"Mail", Tool::mail},
+                          {"emal", Tool::mail},
+                          {"OPIM", Tool::mail},
+                          {"offi", std::nullopt}};
 
 // Callers send their text without a mark, in little-endian order. A mark of their own gets a second one in front, and
 // the text then matches no code: every tool of the product reads requests this way.
@@ -34,7 +45,7 @@ CallerRequest callerRequestForCode(std::string_view code) {
   for (const Code& known : codes) {
     if (known.text == code) return {known.tool};
   }
-  return {0};
+  return {Tool::manager};
 }
 
 std::optional<CallerRequest> decodeCallerRequest(const std::optional<std::string>& bytes, int version) {

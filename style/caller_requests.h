@@ -6,12 +6,14 @@
 #include <string>
 #include <string_view>
 
+#include "style/sibling_tools.h"
+
 // What the product's other tools ask for: a short code that names the caller.
 // Duty: read the code. Not: receiving or carrying out a request.
 namespace tarvo {
 
 struct CallerRequest {
-  std::optional<int> tool;  // index of the sibling tool; nothing: the Office add-in pane is asked for
+  std::optional<Tool> tool;  // nothing: the Office add-in pane is asked for
   friend bool operator==(const CallerRequest&, const CallerRequest&) = default;
 };
 

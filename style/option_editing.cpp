@@ -28,7 +28,7 @@ OptionOutlets::OptionOutlets() : Outlets("style") {
 void OptionEditing::showOptions(const Dictionary& record) {
   for (std::size_t i = 0; i < indexOptions().size(); ++i) {
     const IndexOption& option = indexOptions()[i];
-    const Dictionary* half = record.dictionary(option.direction);
+    const Dictionary* half = record.dictionary(halfKey(option.direction));
     outlets_.indexPopups[i].selectItemAtIndex(half != nullptr ? half->integerValue(option.key) : 0);
   }
 }
@@ -42,12 +42,12 @@ void OptionEditing::showDetailedOptions(const Dictionary& record) {
   }
 }
 
-void OptionEditing::setValue(std::string_view direction, std::string_view key, PropertyList value) {
+void OptionEditing::setValue(Direction direction, std::string_view key, PropertyList value) {
   const int index = store_.selectedStyle();
   std::optional<Dictionary> record = store_.getStyleAtIndex(index);
   if (!record) return;
   // A record without that half gets none, and the divider no options; it is written back as it is.
-  Dictionary* half = record->dictionary(direction);
+  Dictionary* half = record->dictionary(halfKey(direction));
   if (half != nullptr && !isDivider(*record, texts_)) half->set(key, std::move(value));
   store_.setStyle(index, std::move(*record));
 }
@@ -67,7 +67,7 @@ void OptionEditing::selectJeOptionPopup(Control& sender) {
   for (std::size_t i = 0; i < outlets_.detailPopups.size(); ++i) {
     if (&outlets_.detailPopups[i] != &sender) continue;
     const DetailOption& option = detailOptions()[i];
-    setValue(keyNameJE, option.key, option.valueForTag(outlets_.detailPopups[i].selectedTag()));
+    setValue(Direction::japaneseToEnglish, option.key, option.valueForTag(outlets_.detailPopups[i].selectedTag()));
     return;
   }
 }

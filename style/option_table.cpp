@@ -12,13 +12,16 @@ namespace tarvo {
 
 namespace {
 
-constexpr std::array<IndexOption, 7> indexTable{{{keyNameEJOpt1, keyNameEJ, "ejOption1Popup", 0, 3},
-                                                 {keyNameEJOpt2, keyNameEJ, "ejOption2Popup", 1, 3},
-                                                 {keyNameEJOpt3, keyNameEJ, "ejOption3Popup", 2, 3},
-                                                 {keyNameJEOpt1, keyNameJE, "jeOption1Popup", 3, 5},
-                                                 {keyNameJEOpt2, keyNameJE, "jeOption2Popup", 4, 5},
-                                                 {keyNameJEOpt3, keyNameJE, "jeOption3Popup", 5, 4},
-                                                 {keyNameJEOpt5, keyNameJE, "jeOption5Popup", 7, 2}}};
+constexpr Direction ej = Direction::englishToJapanese, je = Direction::japaneseToEnglish;
+
+constexpr std::array<IndexOption, 8> indexTable{{{keyNameEJOpt1, ej, "ejOption1Popup", 0, 3},
+                                                 {keyNameEJOpt2, ej, "ejOption2Popup", 1, 3},
+                                                 {keyNameEJOpt3, ej, "ejOption3Popup", 2, 3},
+                                                 {keyNameJEOpt1, je, "jeOption1Popup", 3, 5},
+                                                 {keyNameJEOpt2, je, "jeOption2Popup", 4, 5},
+                                                 {keyNameJEOpt3, je, "jeOption3Popup", 5, 4},
+                                                 {keyNameJEOpt5, je, "jeOption5Popup", 7, 2, true},
+                                                 {keyNameJEOpt4, je, "", 6, 2, true}}};
 
 constexpr std::array<DetailOption, 36> detailTable{{
     {"PARS_SAHEN", "parsSahenPopup", {"present", "past"}, 2, 0, "Group.1"},
@@ -66,12 +69,15 @@ constexpr std::array<DetailOption, 36> detailTable{{
 
 }  // namespace
 
-std::span<const IndexOption> indexOptions() { return indexTable; }
+std::span<const IndexOption> indexOptions() { return std::span(indexTable).first<7>(); }
+
+std::span<const IndexOption> storedOptions() { return indexTable; }
 
 const IndexOption* indexOptionForTag(int popupTag) {
-  const auto* option = std::find_if(indexTable.begin(), indexTable.end(),
-                                    [popupTag](const IndexOption& row) { return row.popupTag == popupTag; });
-  return option != indexTable.end() ? option : nullptr;
+  const auto options = indexOptions();
+  const auto option = std::find_if(options.begin(), options.end(),
+                                   [popupTag](const IndexOption& row) { return row.popupTag == popupTag; });
+  return option != options.end() ? &*option : nullptr;
 }
 
 const std::vector<std::pair<std::string_view, PropertyList>>& jeOptionDefaults() {

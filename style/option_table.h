@@ -10,6 +10,7 @@
 
 #include "platform/controls/controls.h"
 #include "platform/plist/property_list.h"
+#include "style/direction.h"
 
 // The vocabulary of a style's translation options: every key, the values it may take, and the pop-up that edits it.
 // The engine reads keys and values in these spellings; what they mean is the engine's.
@@ -19,12 +20,15 @@ class Texts;
 
 // An option whose value is the index of the chosen item.
 struct IndexOption {
-  std::string_view key, direction;  // direction: the record's half, "EJ" or "JE"
-  std::string_view outlet;
+  std::string_view key;
+  Direction direction;      // the record's half that holds it
+  std::string_view outlet;  // "" for one that no control edits
   int popupTag;
   int itemCount;
+  bool mayBeAbsent = false;  // in a style that comes from a file
 };
 std::span<const IndexOption> indexOptions();         // in the order of their tags
+std::span<const IndexOption> storedOptions();        // the same and, at the end, those that no control edits
 const IndexOption* indexOptionForTag(int popupTag);  // null for a tag that no pop-up has
 // What a "JE" record that lacks one of these keys gets when the style file is loaded.
 const std::vector<std::pair<std::string_view, PropertyList>>& jeOptionDefaults();

@@ -23,13 +23,12 @@ void PaneAlerts::beepAndAlertWithText(const std::string& header, const std::stri
   runAlertWithText(header, message);
 }
 
-void PaneAlerts::openMaxOverAlert(int kind) {
+void PaneAlerts::openMaxOverAlert(DictionaryKind kind) {
   constexpr std::array<std::pair<std::string_view, std::string_view>, 3> keys{
       {{"MaxOverTDAlertHeader", "MaxOverTDAlertContents"},
        {"MaxOverUDAlertHeader", "MaxOverUDAlertContents"},
        {"MaxOverUTMAAlertHeader", "MaxOverUTMAAlertContents"}}};
-  if (kind < 0 || kind >= static_cast<int>(keys.size())) return;
-  const auto& [header, message] = keys[static_cast<std::size_t>(kind)];
+  const auto& [header, message] = keys[static_cast<std::size_t>(numberOf(kind))];
   beepAndAlert(header, message);
 }
 

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "style/dictionary_kind.h"
+
 // The alerts of the style pane that have one button, the text of "AlertClose". They return when the user has closed
 // them. Texts are given as they are, or as keys of the text table (a key without a text shows itself).
 namespace tarvo {
@@ -19,8 +21,8 @@ class PaneAlerts {
   void runAlertWithText(const std::string& header, const std::string& message);
   void beepAndAlert(std::string_view headerKey, std::string_view messageKey);
   void beepAndAlertWithText(const std::string& header, const std::string& message);
-  // A list is full. kind: 0 technical dictionaries, 1 user dictionaries, 2 translation memories; others tell nothing.
-  void openMaxOverAlert(int kind);
+  // A list of that kind is full.
+  void openMaxOverAlert(DictionaryKind kind);
 
  private:
   Panels& panels_;

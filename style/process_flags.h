@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+
+#include "style/sibling_tools.h"
+
 namespace tarvo {
 
 // What rooms of the style pane and the main window share beyond the style store.
 struct ProcessFlags {
   bool gMenuControllFlag = false;  // a sheet of the style pane is open: menus leave only the help entries enabled
-  int saveHit = 0;                 // index of the chosen sibling tool
+  std::optional<Tool> saveHit = Tool::manager;  // the chosen tool; nothing for a place of the chooser without one
 };
 
 }  // namespace tarvo

@@ -6,6 +6,8 @@
 
 namespace tarvo {
 
+std::string toolId(Tool tool, const Texts& texts) { return texts.localized(rowOf(tool).key); }
+
 std::vector<std::string> toolIds(const Texts& texts) {
   std::vector<std::string> ids;
   for (const SiblingTool& tool : siblingTools) ids.push_back(texts.localized(tool.key));

@@ -3,15 +3,26 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-// The product's tools in the order of the tool chooser. The index is the same in the chooser, in callers' requests and
-// here.
 namespace tarvo {
 
 class Texts;
+
+// The product's tools in the order of the tool chooser; operations know them by their places in it.
+enum class Tool {
+  manager,
+  quickTranslation,
+  textTranslation,
+  readingGuide,
+  translationMemory,
+  notepad,
+  officeAddins,
+  mail,
+};
 
 struct SiblingTool {
   std::string_view key;   // text key of the tool's id in "Selection"
@@ -27,7 +38,16 @@ inline constexpr std::array<SiblingTool, 8> siblingTools{{{"MG", "MG.tif"},
                                                           {"ADD", "office32.tif"},
                                                           {"MAIL", "mail32.tif"}}};
 
-// The localized ids, by tool index.
+constexpr const SiblingTool& rowOf(Tool tool) { return siblingTools[static_cast<std::size_t>(tool)]; }
+// Nothing for a place without a tool.
+constexpr std::optional<Tool> toolForPlace(int place) {
+  if (place < 0 || place >= static_cast<int>(siblingTools.size())) return std::nullopt;
+  return static_cast<Tool>(place);
+}
+constexpr int placeOf(Tool tool) { return static_cast<int>(tool); }
+
+// The localized id of a tool, and those of all in their order.
+std::string toolId(Tool tool, const Texts& texts);
 std::vector<std::string> toolIds(const Texts& texts);
 
 }  // namespace tarvo

@@ -12,6 +12,7 @@
 #include "platform/services/panels.h"
 #include "platform/services/plist_file.h"
 #include "platform/services/texts.h"
+#include "style/option_table.h"
 #include "style/pane_alerts.h"
 #include "style/style_file.h"
 #include "style/style_keys.h"
@@ -24,27 +25,18 @@ namespace {
 constexpr const char* extension = "whstyle";
 
 // What a style file has to hold. The other keys, lists of dictionaries among them, are taken as they are.
-struct ImportRule {
-  std::string_view direction, key;
-  int highest;
-  bool mayBeAbsent = false;
-};
-constexpr ImportRule importRules[] = {{keyNameEJ, keyNameEJOpt1, 2},       {keyNameEJ, keyNameEJOpt2, 2},
-                                      {keyNameEJ, keyNameEJOpt3, 2},       {keyNameJE, keyNameJEOpt1, 4},
-                                      {keyNameJE, keyNameJEOpt2, 4},       {keyNameJE, keyNameJEOpt3, 3},
-                                      {keyNameJE, keyNameJEOpt4, 1, true}, {keyNameJE, keyNameJEOpt5, 1, true}};
-
-bool isMet(const ImportRule& rule, const Dictionary& record) {
-  const Dictionary* half = record.dictionary(rule.direction);
+bool holds(const Dictionary& record, const IndexOption& option) {
+  const Dictionary* half = record.dictionary(halfKey(option.direction));
   if (half == nullptr) return false;
-  const PropertyList* value = half->find(rule.key);
-  if (value == nullptr) return rule.mayBeAbsent;
-  return value->hasIntegerValue() && value->integerValue() >= 0 && value->integerValue() <= rule.highest;
+  const PropertyList* value = half->find(option.key);
+  if (value == nullptr) return option.mayBeAbsent;
+  return value->hasIntegerValue() && value->integerValue() >= 0 && value->integerValue() < option.itemCount;
 }
 
 bool isStyle(const Dictionary& record) {
-  return std::all_of(std::begin(importRules), std::end(importRules),
-                     [&record](const ImportRule& rule) { return isMet(rule, record); });
+  const auto options = storedOptions();
+  return std::all_of(options.begin(), options.end(),
+                     [&record](const IndexOption& option) { return holds(record, option); });
 }
 
 std::string nameOf(const Dictionary* record) {

@@ -23,7 +23,7 @@ class MemoryWindows : public WindowHost {
   void runModal(Window& window) override;
   void stopModal(Window& window) override { stopped_.insert(&window); }
   WindowHeights heights(const Window& window) override;
-  Size paneSize(int pane) override { return ScenarioScreen::paneSize(pane); }
+  Size paneSize(Pane pane) override { return ScenarioScreen::paneSize(pane); }
   Rect mainScreen() override { return screen_.mainScreen; }
 
  private:

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "app/window_geometry.h"
+#include "app/panes.h"
 #include "platform/controls/windows.h"
 #include "platform/services/panels.h"
 
@@ -18,7 +18,7 @@ class Program;
 struct ScenarioScreen {
   Rect mainScreen{0, 0, 1440, 900};  // the line "screen W H" changes it
   static WindowHeights heights(const Window& window, bool toolbarHidden);
-  static Size paneSize(int pane) { return paneSizes.at(static_cast<std::size_t>(pane)); }
+  static Size paneSize(Pane pane) { return rowOf(pane).size; }
 };
 
 // What a scenario needs of a shell: a window host, a hand, and somebody who answers alerts. File panels, the engine,

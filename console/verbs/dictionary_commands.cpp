@@ -23,13 +23,14 @@ struct ListControls {
   Button &load, &remove;
 };
 
-ListControls controlsOf(Program& program, int direction) {
+ListControls controlsOf(Program& program, Direction direction) {
   ListOutlets& lists = program.interface().lists;
-  if (direction == 0) return {lists.ejTDTable, lists.ejLoadDicButton, lists.ejRemoveDicButton};
+  if (direction == Direction::englishToJapanese)
+    return {lists.ejTDTable, lists.ejLoadDicButton, lists.ejRemoveDicButton};
   return {lists.jeTDTable, lists.jeLoadDicButton, lists.jeRemoveDicButton};
 }
 
-DictionaryLists listsIn(Program& program, int direction) {
+DictionaryLists listsIn(Program& program, Direction direction) {
   const DictController& list = program.rooms().lists.getActiveDictController(direction);
   return {list.selectedDictionary().value_or(Names{}), list.notSelectedDictionary()};
 }
@@ -60,7 +61,7 @@ ExitStatus ListEditCommand::run(Console& console) {
   const std::optional<Dictionary> styles = readStyles(console);
   const Dictionary* record = styles ? findStyle(console, *styles, place_.style) : nullptr;
   if (record == nullptr) return ExitStatus::usage;
-  if (record->dictionary(halfOf(place_.direction)) == nullptr) {
+  if (record->dictionary(halfKey(place_.direction)) == nullptr) {
     console.err << "style " << place_.style << " is damaged: it lacks the direction of this list\n";
     return ExitStatus::refused;
   }
@@ -74,7 +75,7 @@ ExitStatus ListEditCommand::actOn(Console& console) {
   VerbProgram verb(console);
   return verb.run([&](Program& program, Hand& hand) {
     const StyleChoice choice(program, hand, place_.style);
-    hand.selectPage(program.interface().lists.directionTab, place_.direction);
+    hand.selectPage(program.interface().lists.directionTab, tagOf(place_.direction));
     // The start may have changed the list: a medical dictionary was installed, say.
     const DictionaryLists lists = listsIn(program, place_.direction);
     if (const std::string reason = problem(lists); !reason.empty()) {
@@ -96,7 +97,7 @@ std::string AddDictionariesCommand::problem(const DictionaryLists& lists) const 
 void AddDictionariesCommand::act(VerbProgram& verb, Program& program, Hand& hand, const DictionaryLists&) {
   Button& load = controlsOf(program, place_.direction).load;
   if (!load.isEnabled()) {
-    PaneAlerts(program.services().panels, program.services().texts).openMaxOverAlert(0);
+    PaneAlerts(program.services().panels, program.services().texts).openMaxOverAlert(DictionaryKind::technical);
     return;
   }
   PickerOutlets& picker = program.interface().picker;

@@ -16,9 +16,10 @@ class Program;
 class VerbProgram;
 struct DictionaryLists;
 
-// One list: a style and a direction, 0 English to Japanese, 1 the other.
+// One list: a style and a direction.
 struct ListPlace {
-  int style = 0, direction = 0;
+  int style = 0;
+  Direction direction = Direction::englishToJapanese;
 };
 
 // dictionaries N ej|je: what is loaded, in order, then what else could be.

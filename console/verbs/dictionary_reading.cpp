@@ -13,8 +13,8 @@ namespace tarvo {
 
 namespace {
 
-Names storedNames(const Dictionary& record, int direction) {
-  const Dictionary* half = record.dictionary(halfOf(direction));
+Names storedNames(const Dictionary& record, Direction direction) {
+  const Dictionary* half = record.dictionary(halfKey(direction));
   const Array* list = half != nullptr ? half->array(keyNameTD) : nullptr;
   Names names;
   for (const PropertyList& element : list != nullptr ? *list : Array()) {
@@ -25,20 +25,19 @@ Names storedNames(const Dictionary& record, int direction) {
 
 }  // namespace
 
-std::string_view halfOf(int direction) { return direction == 0 ? keyNameEJ : keyNameJE; }
-
 int positionOf(const Names& names, const std::string& name) {
   const auto found = std::find_if(names.begin(), names.end(),
                                   [&](const std::string& other) { return equalIgnoringCase(other, name); });
   return found != names.end() ? static_cast<int>(found - names.begin()) : -1;
 }
 
-DictionaryLists readDictionaryLists(Product& product, const Dictionary& record, int direction) {
+DictionaryLists readDictionaryLists(Product& product, const Dictionary& record, Direction direction) {
   DictController lists({product.files(), product.texts(), product.bundle(), product.paths()});
   const ProductPaths& paths = product.paths();
-  lists.initializeDictController(
-      0, direction == 0 ? paths.tarvoPathTechnicalDicEngFolderURL() : paths.tarvoPathTechnicalDicJpnFolderURL(),
-      direction == 0);
+  lists.initializeDictController(DictionaryKind::technical,
+                                 direction == Direction::englishToJapanese ? paths.tarvoPathTechnicalDicEngFolderURL()
+                                                                           : paths.tarvoPathTechnicalDicJpnFolderURL(),
+                                 direction);
   Names names = storedNames(record, direction);
   // Loading a common dictionary that is missing would make it.
   std::erase_if(names, [&lists](const std::string& name) { return !lists.isExitsDic2(name); });

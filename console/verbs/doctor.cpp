@@ -108,24 +108,28 @@ class Examination {
     }
   }
 
-  void dictionaryFolder(const std::string& path, const char* what, int kind, bool english) {
+  void dictionaryFolder(const std::string& path, const char* what, DictionaryKind kind, Direction direction) {
     const auto names = product_.files().list(path);
     if (!names) return folder(path, what);
     DictController list({product_.files(), product_.texts(), product_.bundle(), product_.paths()});
-    list.initializeDictController(kind, path, english);
+    list.initializeDictController(kind, path, direction);
     const std::size_t usable = list.getAllDictionary().size();
     add(path, what, "ok", std::to_string(usable) + " usable, " + std::to_string(names->size()) + " entries");
   }
 
   void dictionaries() {
     const ProductPaths& paths = product_.paths();
-    dictionaryFolder(paths.tarvoPathTechnicalDicEngFolderURL(), "dictionaries English to Japanese", 0, true);
-    dictionaryFolder(paths.tarvoPathTechnicalDicJpnFolderURL(), "dictionaries Japanese to English", 0, false);
-    for (const bool english : {true, false}) {
+    using enum Direction;
+    dictionaryFolder(paths.tarvoPathTechnicalDicEngFolderURL(), "dictionaries English to Japanese",
+                     DictionaryKind::technical, englishToJapanese);
+    dictionaryFolder(paths.tarvoPathTechnicalDicJpnFolderURL(), "dictionaries Japanese to English",
+                     DictionaryKind::technical, japaneseToEnglish);
+    for (const Direction direction : bothDirections) {
+      const bool english = direction == englishToJapanese;
       const char* user = english ? "user dictionaries English to Japanese" : "user dictionaries Japanese to English";
       const char* memory = english ? "memories English to Japanese" : "memories Japanese to English";
-      dictionaryFolder(paths.tarvoPathUserDicFolderURL(), user, 1, english);
-      dictionaryFolder(paths.tarvoPathUserTmaFolderURL(), memory, 2, english);
+      dictionaryFolder(paths.tarvoPathUserDicFolderURL(), user, DictionaryKind::user, direction);
+      dictionaryFolder(paths.tarvoPathUserTmaFolderURL(), memory, DictionaryKind::memory, direction);
     }
   }
 

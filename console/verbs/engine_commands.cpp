@@ -8,6 +8,7 @@
 #include "console/verbs/verb_program.h"
 #include "platform/plist/json.h"
 #include "platform/services/engine.h"
+#include "platform/services/notification_names.h"
 #include "platform/services/user_defaults.h"
 #include "style/style_keys.h"
 

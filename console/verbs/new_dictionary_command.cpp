@@ -6,6 +6,7 @@
 #include "app/program.h"
 #include "console/verbs/verb_program.h"
 #include "platform/services/file_service.h"
+#include "platform/services/notification_names.h"
 
 namespace tarvo {
 
@@ -16,19 +17,20 @@ struct Kind {
   const DictController& list;
 };
 
-Kind kindOf(Program& program, int direction, bool memory) {
+Kind kindOf(Program& program, Direction direction, DictionaryKind kind) {
+  const bool memory = kind == DictionaryKind::memory;
   NewDictionaryOutlets& sheet = program.interface().newDictionary;
   UserLists& lists = program.rooms().userLists;
-  if (direction == 0) {
+  if (direction == Direction::englishToJapanese) {
     return memory ? Kind{sheet.newEJTMAMenu, lists.ejUTMAController} : Kind{sheet.newEJUDMenu, lists.ejUDController};
   }
   return memory ? Kind{sheet.newJETMAMenu, lists.jeUTMAController} : Kind{sheet.newJEUDMenu, lists.jeUDController};
 }
 
 // Why there is no file although the name was good.
-std::string reasonFor(Product& product, int direction, const std::string& path) {
-  const char* name = direction == 0 ? "EJStationery" : "JEStationery";
-  const char* type = direction == 0 ? "eud2" : "jud";
+std::string reasonFor(Product& product, Direction direction, const std::string& path) {
+  const std::string name = direction == Direction::englishToJapanese ? "EJStationery" : "JEStationery";
+  const std::string type(extensionOf(DictionaryKind::user, direction));
   const std::string made = "no file was made: ";
   if (!product.bundle().resource(name, type)) return made + "the template " + name + "." + type + " is missing";
   return made + product.locations().resolve(path) + " cannot be written";
@@ -40,7 +42,7 @@ ExitStatus NewDictionaryCommand::run(Console& console) {
   VerbProgram verb(console);
   return verb.run([&](Program& program, Hand& hand) {
     NewDictionaryOutlets& sheet = program.interface().newDictionary;
-    const Kind kind = kindOf(program, direction_, memory_);
+    const Kind kind = kindOf(program, direction_, kind_);
     std::string fileName;
     program.notifications().onPost = [&fileName](const Notification& posted) {
       if (posted.name == newDicNotification) fileName = posted.object;

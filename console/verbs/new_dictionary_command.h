@@ -5,6 +5,7 @@
 #include <string>
 
 #include "console/verbs/command.h"
+#include "style/dictionary_kind.h"
 
 namespace tarvo {
 
@@ -12,14 +13,14 @@ namespace tarvo {
 // sheet alone decides about the name. A file that was not made is told with the reason, where the window keeps silent.
 class NewDictionaryCommand : public Command {
  public:
-  // direction: 0 English to Japanese, 1 the other. name: without extension.
-  NewDictionaryCommand(int direction, bool memory, std::string name)
-      : direction_(direction), memory_(memory), name_(std::move(name)) {}
+  // name: without extension.
+  NewDictionaryCommand(Direction direction, DictionaryKind kind, std::string name)
+      : direction_(direction), kind_(kind), name_(std::move(name)) {}
   ExitStatus run(Console& console) override;
 
  private:
-  int direction_;
-  bool memory_;
+  Direction direction_;
+  DictionaryKind kind_;
   std::string name_;
 };
 

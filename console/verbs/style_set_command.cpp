@@ -76,7 +76,8 @@ ExitStatus checkStyle(Console& console, int index) {
 // Whether the record holds every half that is to be changed: a missing one is not made, and nobody would notice.
 bool canTake(const std::optional<Dictionary>& record, const std::vector<Edit>& edits) {
   return record && std::all_of(edits.begin(), edits.end(), [&record](const Edit& edit) {
-           return record->dictionary(edit.detailed ? keyNameJE : indexOptions()[edit.popup].direction) != nullptr;
+           return record->dictionary(halfKey(edit.detailed ? Direction::japaneseToEnglish
+                                                           : indexOptions()[edit.popup].direction)) != nullptr;
          });
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/controls/controls.h"
+#include "platform/controls/pane.h"
 #include "platform/services/geometry.h"
 
 // Windows, sheets and panels as state, and the rules of who may be reached. Frames are in points, y upwards, with
@@ -57,7 +58,7 @@ class WindowHost {
   virtual void runModal(Window& window) = 0;  // blocks until stopModal(window); events, timers and posted calls go on
   virtual void stopModal(Window& window) = 0;
   virtual WindowHeights heights(const Window& window) = 0;
-  virtual Size paneSize(int pane) = 0;
+  virtual Size paneSize(Pane pane) = 0;
   virtual Rect mainScreen() = 0;
 };
 

@@ -14,12 +14,11 @@
 #include "qt/panes/detail_options.h"
 #include "qt/panes/option_rows.h"
 #include "style/option_table.h"
-#include "style/style_keys.h"
 
 namespace tarvo {
 namespace {
 
-std::vector<PopUpButton*> indexPopups(OptionOutlets& outlets, std::string_view direction) {
+std::vector<PopUpButton*> indexPopups(OptionOutlets& outlets, Direction direction) {
   std::vector<PopUpButton*> popups;
   for (std::size_t i = 0; i < indexOptions().size(); ++i) {
     if (indexOptions()[i].direction == direction) popups.push_back(&outlets.indexPopups[i]);
@@ -37,7 +36,7 @@ QWidget* buildOptionPage(Interface& interface, Binder& binder, Direction directi
   auto* page = new QWidget(area);
   Form form(binder, *page);
   OptionRows rows(form, *page);
-  const std::vector<PopUpButton*> popups = indexPopups(options, isToJapanese ? keyNameEJ : keyNameJE);
+  const std::vector<PopUpButton*> popups = indexPopups(options, direction);
   for (const PopUpButton* popup : popups) rows.measure(*popup);
   if (!isToJapanese) {
     for (const PopUpButton& popup : options.detailPopups) rows.measure(popup);

@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "app/window_geometry.h"
+#include "app/panes.h"
 #include "platform/controls/controls.h"
 #include "qt/bind/binder.h"
 #include "qt/bind/form.h"
@@ -18,7 +18,8 @@
 namespace tarvo {
 namespace {
 
-constexpr int room = static_cast<int>(paneSizes[0].width) - 2 * metrics::paneMargin - 2 * metrics::scrollBarExtent;
+constexpr int room =
+    static_cast<int>(rowOf(Pane::style).size.width) - 2 * metrics::paneMargin - 2 * metrics::scrollBarExtent;
 
 }  // namespace
 

@@ -17,7 +17,7 @@
 #include <utility>
 
 #include "app/interface.h"
-#include "app/window_geometry.h"
+#include "app/panes.h"
 #include "qt/bind/control_view.h"
 #include "qt/look/metrics.h"
 #include "qt/look/plate.h"
@@ -106,13 +106,13 @@ void MainWindow::buildPanes() {
   fitPane();
 }
 
-QSize MainWindow::minimumOfPane(int pane) {
+QSize MainWindow::minimumOfPane(Pane pane) {
   buildPanes();
-  const QWidget* page = panes_->widget(pane);
+  const QWidget* page = panes_->widget(tagOf(pane));
   if (page == nullptr) return {};
   QSize least = page->minimumSizeHint();
   // Sentences take more lines in larger letters.
-  const int width = std::max(least.width(), static_cast<int>(paneSizes[static_cast<std::size_t>(pane)].width));
+  const int width = std::max(least.width(), static_cast<int>(rowOf(pane).size.width));
   const QLayout* layout = page->layout();
   if (layout != nullptr && layout->hasHeightForWidth()) {
     least.setHeight(std::max(least.height(), layout->minimumHeightForWidth(width)));

@@ -6,6 +6,7 @@
 #include <functional>
 #include <vector>
 
+#include "platform/controls/pane.h"
 #include "qt/bind/binder.h"
 #include "qt/window/menu_bar.h"
 
@@ -28,7 +29,7 @@ class MainWindow : public QWidget {
 
   int menuHeight() const;
   int toolbarHeight() const;  // as high as it is when it is shown
-  QSize minimumOfPane(int pane);
+  QSize minimumOfPane(Pane pane);
   void resizeTo(QSize client, bool animate);
   void buildPanes();  // the shown one
   // A line at the foot; "" takes it away.

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "app/interface.h"
+#include "app/panes.h"
 #include "app/window_geometry.h"
 #include "qt/bind/window_frame.h"
 #include "qt/window/frame_animation.h"
@@ -143,8 +144,8 @@ WindowHeights QtWindows::heights(const Window& window) {
   return heights;
 }
 
-Size QtWindows::paneSize(int pane) {
-  const Size least = paneSizes[static_cast<std::size_t>(pane)];
+Size QtWindows::paneSize(Pane pane) {
+  const Size least = rowOf(pane).size;
   if (figures_ == Figures::fixed || main_ == nullptr) return least;
   const QSize needed = main_->minimumOfPane(pane);
   return {std::max(least.width, static_cast<float>(needed.width())),
@@ -159,7 +160,7 @@ void QtWindows::makeRoomForBars() {
   Window& window = interface_->manager.myWindow;
   const WindowHeights now = heights(window);
   Rect frame = window.frame();
-  const float height = paneSizes[0].height + titlebarHeight(now) + tarvo::toolbarHeight(now);
+  const float height = rowOf(Pane::style).size.height + titlebarHeight(now) + tarvo::toolbarHeight(now);
   frame.y = std::floor(frame.y - (height - frame.height) * 2 / 3);
   frame.height = height;
   window.setFrameInPlace(frame);
@@ -169,7 +170,7 @@ void QtWindows::makeRoomForBars() {
 void QtWindows::fitToToolbar() {
   Window& window = interface_->manager.myWindow;
   const WindowHeights now = heights(window);
-  const Size pane = paneSize(interface_->manager.myTabView.selectedPage());
+  const Size pane = paneSize(paneForTag(interface_->manager.myTabView.selectedPage()).value_or(Pane::style));
   window.setFrameInPlace(paneFrame(window.frame(), pane, titlebarHeight(now), tarvo::toolbarHeight(now)));
   applyFrame(window, false);
 }

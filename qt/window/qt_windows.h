@@ -47,7 +47,7 @@ class QtWindows : public WindowHost {
   void runModal(Window& window) override;
   void stopModal(Window& window) override;
   WindowHeights heights(const Window& window) override;
-  Size paneSize(int pane) override;
+  Size paneSize(Pane pane) override;
   Rect mainScreen() override;
 
  private:

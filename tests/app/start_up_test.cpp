@@ -23,8 +23,7 @@ TEST(StartUp, beginsWithNoToolNoStylesAndTheRegistrationOff) {
   EXPECT_TRUE(test.program().rooms().store.awakeFlag);
   EXPECT_EQ(test.program().rooms().store.currentID, "");
   EXPECT_TRUE(test.program().rooms().store.root().empty());
-  EXPECT_EQ(test.program().rooms().lists.baseTabKey(), 0);
-  EXPECT_EQ(test.program().rooms().lists.currentTabKey(), 1);
+  EXPECT_EQ(test.program().rooms().lists.shownDirection(), Direction::englishToJapanese);
   EXPECT_FALSE(test.root.exists(test.inHome("Library")));
 }
 
@@ -115,8 +114,8 @@ TEST(StartUp, opensTheWindowJustAsLargeAsTheStylePaneOnAFirstStart) {
   test.writeStyles(sampleRoot());
   ASSERT_TRUE(test.program().start());
   const Rect& frame = test.interface().manager.myWindow.frame();
-  EXPECT_EQ(frame.width, paneSizes[0].width);
-  EXPECT_EQ(frame.height, paneSizes[0].height + FakeHost::titleBar + FakeHost::toolbar);
+  EXPECT_EQ(frame.width, rowOf(Pane::style).size.width);
+  EXPECT_EQ(frame.height, rowOf(Pane::style).size.height + FakeHost::titleBar + FakeHost::toolbar);
   EXPECT_EQ(test.defaultsOnDisk().find("MyWindowFrame"), nullptr);
 }
 
@@ -171,7 +170,7 @@ TEST(Toolbar, givesAnItemsOwnViewTheSizeOfItsPane) {
   manager.StyleManager.userPress();
   EXPECT_EQ(extra.view.frame(), Rect());
   manager.OA.userPress();
-  EXPECT_EQ(extra.view.frame(), (Rect{0, 0, paneSizes[1].width, paneSizes[1].height}));
+  EXPECT_EQ(extra.view.frame(), (Rect{0, 0, rowOf(Pane::office).size.width, rowOf(Pane::office).size.height}));
 }
 
 TEST(Toolbar, isNoMoveWhenItIsHiddenAndKeepsTheTopEdge) {

@@ -26,7 +26,7 @@ class ToolChooserTest : public testing::Test {
     return {outlets().TEAppSeg1.selectedSegment(), outlets().TEAppSeg2.selectedSegment(),
             outlets().TEAppSeg3.selectedSegment()};
   }
-  int saveHit() { return test_.program().rooms().flags.saveHit; }
+  std::optional<Tool> saveHit() { return test_.program().rooms().flags.saveHit; }
   TestProgram test_;
 };
 
@@ -40,7 +40,7 @@ TEST_F(ToolChooserTest, aClickChoosesTheToolOfSegmentAndControl) {
   EXPECT_TRUE(wasChanging);
   EXPECT_FALSE(chooser().isSegChange());
   EXPECT_EQ(selected(), (Segments{-1, 2, -1}));
-  EXPECT_EQ(saveHit(), 5);
+  EXPECT_EQ(saveHit(), Tool::notepad);
   EXPECT_EQ(outlets().toolIcon.image(), "NP.tif");
   EXPECT_EQ(test_.program().rooms().store.currentID, "NP");
   EXPECT_EQ(outlets().stylePopup.indexOfSelectedItem(), 0);
@@ -60,7 +60,7 @@ TEST_F(ToolChooserTest, aProgramSelectsTheSegmentOfATool) {
     test_.program().rooms().store.didWrite = [&] { wasChanging = chooser().isSegChange(); };
     chooser().setSelectSeg(choice.tool);
     EXPECT_EQ(selected(), choice.selected) << choice.tool;
-    EXPECT_EQ(saveHit(), choice.tool);
+    EXPECT_EQ(saveHit(), toolForPlace(choice.tool));
     EXPECT_EQ(wasChanging, choice.tool != 8) << "no tool has that number";
     EXPECT_FALSE(chooser().isSegChange());
   }
@@ -77,7 +77,7 @@ TEST(ToolChooser, leavesNoSegmentSelectedBeyondTheToolsAndKeepsTheTool) {
     test.program().rooms().chooser.setSelectSeg(tool);
     EXPECT_EQ(style.TEAppSeg1.selectedSegment(), -1);
     EXPECT_EQ(style.TEAppSeg3.selectedSegment(), -1);
-    EXPECT_EQ(test.program().rooms().flags.saveHit, tool);
+    EXPECT_EQ(test.program().rooms().flags.saveHit, std::nullopt);
   }
   test.program().rooms().chooser.setSelectSeg(8);
   EXPECT_EQ(style.TEAppSeg3.selectedSegment(), 2);
@@ -90,7 +90,7 @@ TEST_F(ToolChooserTest, disablesTheOptionPopUpsOfTheToolsWithoutOptions) {
   for (const bool detailsEnabled : {true, false}) {
     for (PopUpButton& popup : options.detailPopups) popup.setEnabled(detailsEnabled);
     for (const int tool : {5, 0, 6, 7, 5, 99, 6, -1, 1, 2, 3, 4, 8}) {
-      chooser().doEnabledButtons(tool);
+      chooser().doEnabledButtons(toolForPlace(tool));
       for (const PopUpButton& popup : options.indexPopups) {
         EXPECT_EQ(popup.isEnabled(), tool != 5 && tool != 6) << tool;
       }

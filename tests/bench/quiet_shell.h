@@ -20,7 +20,7 @@ class QuietWindows : public WindowHost {
   void runModal(Window&) override { throw std::logic_error("a modal window came up"); }
   void stopModal(Window&) override {}
   WindowHeights heights(const Window&) override { return {}; }
-  Size paneSize(int) override { return {}; }
+  Size paneSize(Pane) override { return {}; }
   Rect mainScreen() override { return {0, 0, 1440, 900}; }
 };
 

@@ -49,7 +49,8 @@ class ScanBench {
     std::vector<double> scans, floors;
     for (int i = 0; i < count; ++i) {
       DictController list(services());
-      scans.push_back(milliseconds([&] { list.initializeDictController(0, folder_, true); }));
+      scans.push_back(milliseconds(
+          [&] { list.initializeDictController(DictionaryKind::technical, folder_, Direction::englishToJapanese); }));
       floors.push_back(milliseconds([&] { entries_ = listBarely(bare_); }));
       if (list.getAllDictionary().size() != entries_) throw std::runtime_error("the scan missed an entry");
     }
@@ -71,7 +72,7 @@ class ScanBench {
     entries_ = listBarely(bare_);
     const std::size_t before = mallinfo2().uordblks;
     DictController list(services());
-    list.initializeDictController(0, folder_, true);
+    list.initializeDictController(DictionaryKind::technical, folder_, Direction::englishToJapanese);
     const Names offered = list.notSelectedDictionary();
     if (offered.size() != entries_) throw std::runtime_error("the scan missed an entry");
     bytes_ = mallinfo2().uordblks - before;

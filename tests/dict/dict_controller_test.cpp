@@ -32,8 +32,8 @@ TEST(DictController, aListThatWasNeverScannedStaysWithoutEntries) {
   DictionaryWorld world;
   world.put({"a"});
   DictController controller(world.services());
-  controller.setDicType(0);
-  controller.setIsEJ(true);
+  controller.setKind(technical);
+  controller.setDirection(EJ);
   controller.setDicFolderPath(world.dictionaryFolder());
   controller.updateDictionary({"a"});
   controller.loadDictionary({"a"});
@@ -237,8 +237,8 @@ TEST(DictController, clearingKeepsTheEntries) {
 }
 
 struct LimitCase {
-  int dicType;
-  bool isEnglish;
+  DictionaryKind kind;
+  Direction direction;
   const char* extension;
   int limit;
 };
@@ -250,7 +250,7 @@ TEST_P(Limits, mayBeReachedButNotPassed) {
   DictionaryWorld world;
   const Names names = numbered(limit.limit + 1, limit.extension);
   putAll(world, names);
-  DictController controller = world.list(limit.dicType, limit.isEnglish);
+  DictController controller = world.list(limit.kind, limit.direction);
   const auto load = [&](int count) { controller.updateDictionary({names.begin(), names.begin() + count}); };
   EXPECT_FALSE(controller.checkMaxOver(std::nullopt));
   load(limit.limit - 1);
@@ -265,18 +265,9 @@ TEST_P(Limits, mayBeReachedButNotPassed) {
 }
 
 INSTANTIATE_TEST_SUITE_P(DictController, Limits,
-                         testing::Values(LimitCase{0, true, ".TRet", TDMax}, LimitCase{1, true, ".eud2", UDMax},
-                                         LimitCase{1, false, ".jud", UDMax}, LimitCase{2, true, ".etm", UTMAMax},
-                                         LimitCase{2, false, ".jtm", UTMAMax}));
-
-TEST(DictController, aKindThatListsNothingHasTheLowerLimit) {
-  DictionaryWorld world;
-  for (const int kind : {-1, 3, 7}) {
-    const DictController controller = world.list(kind);
-    EXPECT_FALSE(controller.checkMaxOver(numbered(5))) << kind;
-    EXPECT_TRUE(controller.checkMaxOver(numbered(6))) << kind;
-  }
-}
+                         testing::Values(LimitCase{technical, EJ, ".TRet", TDMax}, LimitCase{user, EJ, ".eud2", UDMax},
+                                         LimitCase{user, JE, ".jud", UDMax}, LimitCase{memory, EJ, ".etm", UTMAMax},
+                                         LimitCase{memory, JE, ".jtm", UTMAMax}));
 
 TEST(DictController, theLimitsAreEightAndFive) {
   EXPECT_EQ(TDMax, 8);
@@ -292,16 +283,16 @@ TEST(DictController, theBuiltInMemoriesAreLeftOutOfAllNamesOnly) {
   const ProductPaths paths(world.locations, titles);
   world.put({"main.etm", "mainj.etm", "own.etm"});
   DictController controller({world.files, world.texts, world.bundle, paths});
-  controller.initializeDictController(2, world.dictionaryFolder(), true);
+  controller.initializeDictController(memory, world.dictionaryFolder(), EJ);
   EXPECT_EQ(controller.getAllDictionary(), Names{"own.etm"});
   EXPECT_EQ(controller.notSelectedDictionary(), (Names{"main.etm", "mainj.etm", "own.etm"}));
-  controller.setDicType(1);
+  controller.setKind(user);
   EXPECT_EQ(controller.getAllDictionary().size(), 3U) << "of memories only";
 }
 
 struct PathCase {
-  int dicType;
-  bool isEnglish;
+  DictionaryKind kind;
+  Direction direction;
   std::optional<std::string> name;
   std::string path;  // beginning with "/": as it is; else below the folder of dictionaries
 };
@@ -310,17 +301,18 @@ class DictionaryPaths : public testing::TestWithParam<PathCase> {};
 
 TEST_P(DictionaryPaths, areBelowTheFolderButForTheOwnBuiltInMemory) {
   DictionaryWorld world;
-  const DictController controller = world.list(GetParam().dicType, GetParam().isEnglish);
+  const DictController controller = world.list(GetParam().kind, GetParam().direction);
   const std::string& expected = GetParam().path;
   const bool isWhole = expected.empty() || expected.front() == '/';
   EXPECT_EQ(controller.getDicPath(GetParam().name), isWhole ? expected : world.path(expected));
 }
 
 INSTANTIATE_TEST_SUITE_P(DictController, DictionaryPaths,
-                         testing::Values(PathCase{2, true, std::nullopt, ""}, PathCase{2, true, "a.etm", "a.etm"},
-                                         PathCase{2, true, "MAIN", "/x/e"}, PathCase{2, false, "MAIN", "MAIN"},
-                                         PathCase{2, false, "Mainj", "/x/j"}, PathCase{2, true, "Mainj", "Mainj"},
-                                         PathCase{0, true, "main", "main"}, PathCase{1, false, "Mainj", "Mainj"}));
+                         testing::Values(PathCase{memory, EJ, std::nullopt, ""}, PathCase{memory, EJ, "a.etm", "a.etm"},
+                                         PathCase{memory, EJ, "MAIN", "/x/e"}, PathCase{memory, JE, "MAIN", "MAIN"},
+                                         PathCase{memory, JE, "Mainj", "/x/j"}, PathCase{memory, EJ, "Mainj", "Mainj"},
+                                         PathCase{technical, EJ, "main", "main"},
+                                         PathCase{user, JE, "Mainj", "Mainj"}));
 
 TEST(DictController, ofAThousandDictionariesAllCanBeLoadedInAnyOrder) {
   DictionaryWorld world;

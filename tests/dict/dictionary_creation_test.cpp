@@ -42,25 +42,25 @@ class CountingFiles : public PosixFiles {
 
 struct CreationCase {
   const char* description;
-  int dicType;
-  bool isEnglish;
+  DictionaryKind kind;
+  Direction direction;
   const char* name;
   const char* content;
   const char* codes;
 };
 
 const CreationCase creationCases[] = {
-    {"anEnglishDictionary", 1, true, "n.eud2", DictionaryWorld::englishTemplate, "TReu    "},
-    {"aJapaneseDictionary", 1, false, "n.jud", DictionaryWorld::japaneseTemplate, "TRju    "},
-    {"anEnglishMemory", 2, true, "n.etm", DictionaryWorld::englishTemplate, ""},
-    {"aJapaneseMemory", 2, false, "n.jtm", DictionaryWorld::japaneseTemplate, ""},
-    {"aTechnicalDictionary", 0, true, "n.TRet", DictionaryWorld::englishTemplate, ""}};
+    {"anEnglishDictionary", user, EJ, "n.eud2", DictionaryWorld::englishTemplate, "TReu    "},
+    {"aJapaneseDictionary", user, JE, "n.jud", DictionaryWorld::japaneseTemplate, "TRju    "},
+    {"anEnglishMemory", memory, EJ, "n.etm", DictionaryWorld::englishTemplate, ""},
+    {"aJapaneseMemory", memory, JE, "n.jtm", DictionaryWorld::japaneseTemplate, ""},
+    {"aTechnicalDictionary", technical, EJ, "n.TRet", DictionaryWorld::englishTemplate, ""}};
 
 class Creation : public testing::TestWithParam<CreationCase> {};
 
 TEST_P(Creation, copiesTheTemplateOfTheDirectionAndLoadsTheNewName) {
   DictionaryWorld world;
-  DictController controller = world.list(GetParam().dicType, GetParam().isEnglish);
+  DictController controller = world.list(GetParam().kind, GetParam().direction);
   bool isLoaded = false;
   EXPECT_TRUE(controller.createDictionary(GetParam().name, isLoaded));
   EXPECT_TRUE(isLoaded);
@@ -71,7 +71,7 @@ TEST_P(Creation, copiesTheTemplateOfTheDirectionAndLoadsTheNewName) {
 TEST_P(Creation, givesCodesToUserDictionariesOnly) {
   if (placeForAttributes().empty()) GTEST_SKIP() << "needs type codes: no disk here keeps extended attributes";
   DictionaryWorld world(placeForAttributes());
-  DictController controller = world.list(GetParam().dicType, GetParam().isEnglish);
+  DictController controller = world.list(GetParam().kind, GetParam().direction);
   bool isLoaded = false;
   ASSERT_TRUE(controller.createDictionary(GetParam().name, isLoaded));
   EXPECT_EQ(codesOn(world.path(GetParam().name)), GetParam().codes);
@@ -85,7 +85,7 @@ TEST(DictionaryCreation, anExistingNameIsRefusedAndTheAnswerLeftAlone) {
   world.put({"x.eud2"});
   CountingFiles files(world.locations);
   DictController controller(world.servicesOver(files));
-  controller.initializeDictController(1, world.dictionaryFolder(), true);
+  controller.initializeDictController(user, world.dictionaryFolder(), EJ);
   const int listings = files.listings;
   for (const bool preset : {true, false}) {
     bool isLoaded = preset;
@@ -99,7 +99,7 @@ TEST(DictionaryCreation, anExistingNameIsRefusedAndTheAnswerLeftAlone) {
 TEST(DictionaryCreation, anExistingNameInAnotherLetterCaseIsRefused) {
   DictionaryWorld world;
   world.put({"x.eud2"});
-  DictController controller = world.list(1);
+  DictController controller = world.list(user);
   bool isLoaded = false;
   EXPECT_FALSE(controller.createDictionary("X.EUD2", isLoaded));
   EXPECT_EQ(world.folder.names("dictionaries"), Names{"x.eud2"});
@@ -108,7 +108,7 @@ TEST(DictionaryCreation, anExistingNameInAnotherLetterCaseIsRefused) {
 TEST(DictionaryCreation, aMissingFolderIsAFailureThatChangesNothing) {
   DictionaryWorld world;
   world.put({"a.eud2"});
-  DictController controller = world.list(1);
+  DictController controller = world.list(user);
   std::filesystem::remove_all(world.dictionaryFolder());
   bool isLoaded = true;
   EXPECT_FALSE(controller.createDictionary("n.eud2", isLoaded));
@@ -131,7 +131,7 @@ TEST(DictionaryCreation, aNewNameBeyondTheLimitIsMadeAndListedButNotLoaded) {
   DictionaryWorld world;
   const Names five{"a.eud2", "b.eud2", "c.eud2", "d.eud2", "e.eud2"};
   for (const std::string& name : five) world.put({name.c_str()});
-  DictController controller = world.list(1);
+  DictController controller = world.list(user);
   controller.updateDictionary(five);
   bool isLoaded = true;
   EXPECT_TRUE(controller.createDictionary("six.eud2", isLoaded));
@@ -144,7 +144,7 @@ TEST(DictionaryCreation, aNewNameBeyondTheLimitIsMadeAndListedButNotLoaded) {
 
 TEST(DictionaryCreation, roomCountsAsLoadedEvenWhenTheScanDropsTheFile) {
   DictionaryWorld world;
-  DictController controller = world.list(2);
+  DictController controller = world.list(memory);
   bool isLoaded = false;
   EXPECT_TRUE(controller.createDictionary("Terms.eud2", isLoaded));
   EXPECT_TRUE(isLoaded);
@@ -155,7 +155,7 @@ TEST(DictionaryCreation, aDiskThatKeepsNoCodesIsNoFailure) {
   DictionaryWorld world;
   CountingFiles files(world.locations);
   DictController controller(world.servicesOver(files));
-  controller.initializeDictController(1, world.dictionaryFolder(), true);
+  controller.initializeDictController(user, world.dictionaryFolder(), EJ);
   bool isLoaded = false;
   EXPECT_TRUE(controller.createDictionary("n.eud2", isLoaded));
   EXPECT_TRUE(isLoaded);
@@ -168,16 +168,18 @@ TEST(DictionaryCreation, scanningAsksForAttributesOnlyWhereTheExtensionDoesNotDe
   world.put({"a.TRet", "b.jtd", "c.dat", "d.eud2", "e.jud", "f.etm", "g.jtm"});
   CountingFiles files(world.locations);
   DictController controller(world.servicesOver(files));
-  for (const int kind : {1, 2, 3}) controller.initializeDictController(kind, world.dictionaryFolder(), true);
+  for (const DictionaryKind kind : {user, memory}) {
+    controller.initializeDictController(kind, world.dictionaryFolder(), EJ);
+  }
   EXPECT_EQ(files.attributeReads, 0);
-  controller.initializeDictController(0, world.dictionaryFolder(), true);
+  controller.initializeDictController(technical, world.dictionaryFolder(), EJ);
   EXPECT_EQ(files.attributeReads, 5);
 }
 
 TEST(DictionaryCreation, withoutATemplateNothingIsCopiedAndCreationCountsAsDone) {
   DictionaryWorld world;
   std::filesystem::remove_all(world.folder / "resources");
-  DictController controller = world.list(1);
+  DictController controller = world.list(user);
   bool isLoaded = false;
   EXPECT_TRUE(controller.createDictionary("n.eud2", isLoaded));
   EXPECT_TRUE(isLoaded);
@@ -189,14 +191,14 @@ const char* const commonKeys[] = {"EJCommonUD", "JECommonUD", "EJCommonUTMA", "J
 
 TEST(CommonDictionaries, aMissingOneComesBackEmptyWhenAListNamesIt) {
   for (const char* key : commonKeys) {
-    for (const bool isEnglish : {true, false}) {
+    for (const Direction direction : bothDirections) {
       DictionaryWorld world;
       world.setText(key, "Common.TRet");
       world.put({"a.TRet"});
-      DictController controller = world.list(0, isEnglish);
+      DictController controller = world.list(technical, direction);
       controller.updateDictionary({"COMMON.TRet", "a.TRet"});
       EXPECT_EQ(contentOf(world, "COMMON.TRet"),
-                isEnglish ? DictionaryWorld::englishTemplate : DictionaryWorld::japaneseTemplate)
+                direction == EJ ? DictionaryWorld::englishTemplate : DictionaryWorld::japaneseTemplate)
           << key;
       EXPECT_EQ(loadedOf(controller), (Names{"COMMON.TRet", "a.TRet"})) << key;
       EXPECT_EQ(entryOf(controller, "a.TRet").order, 1) << key;
@@ -248,7 +250,7 @@ TEST(CommonDictionaries, withTheTemplateMissingTooTheNameIsSkippedAndTheLookEnds
 TEST(CommonDictionaries, aTextWithoutExtensionMakesAFileThatIsNoEntry) {
   DictionaryWorld world;
   world.setText("EJCommonUD", "Common Dictionary");
-  DictController controller = world.list(1);
+  DictController controller = world.list(user);
   controller.updateDictionary({"Common Dictionary"});
   EXPECT_EQ(contentOf(world, "Common Dictionary"), DictionaryWorld::englishTemplate);
   EXPECT_TRUE(entryNames(controller).empty());

@@ -18,14 +18,12 @@ Names numbered(int count) {
   return names;
 }
 
-TEST(DictionaryListEditing, everyDirectionButZeroIsJapaneseToEnglish) {
+TEST(DictionaryListEditing, eachDirectionHasItsListAndItsTable) {
   StylePaneWorld world;
-  EXPECT_EQ(&world.editing.getActiveDictController(0), &world.editing.ejTDController);
-  EXPECT_EQ(&world.editing.getActiveTableView(0), &world.outlets.ejTDTable);
-  for (const int direction : {1, 2, 100, -1}) {
-    EXPECT_EQ(&world.editing.getActiveDictController(direction), &world.editing.jeTDController) << direction;
-    EXPECT_EQ(&world.editing.getActiveTableView(direction), &world.outlets.jeTDTable) << direction;
-  }
+  EXPECT_EQ(&world.editing.getActiveDictController(EJ), &world.editing.ejTDController);
+  EXPECT_EQ(&world.editing.getActiveTableView(EJ), &world.outlets.ejTDTable);
+  EXPECT_EQ(&world.editing.getActiveDictController(JE), &world.editing.jeTDController);
+  EXPECT_EQ(&world.editing.getActiveTableView(JE), &world.outlets.jeTDTable);
 }
 
 TEST(SavingAList, changesNothingButTheDirectionsDictionaries) {
@@ -33,19 +31,19 @@ TEST(SavingAList, changesNothingButTheDirectionsDictionaries) {
   world.openWithLists({"b.TRet", "a.TRet"}, {"j.TRet"});
   const Dictionary before = world.styleOnDisk();
   world.editing.ejTDController.updateDictionary({"a.TRet", "b.TRet"});
-  world.editing.writeUpdateDicTarvoPlist(0);
+  world.editing.writeUpdateDicTarvoPlist(EJ);
   EXPECT_EQ(world.writes, 1);
   Dictionary expected = before;
   expected.dictionary(keyNameEJ)->set(keyNameTD, Array{"a.TRet", "b.TRet"});
   EXPECT_EQ(world.styleOnDisk(), expected);
 }
 
-TEST(SavingAList, ofTheOtherDirectionTakesAnyCodeButZero) {
+TEST(SavingAList, ofTheOtherDirectionLeavesThisOneAlone) {
   StylePaneWorld world;
   world.openWithLists(abc, {"p.TRet", "q.TRet"});
   world.editing.jeTDController.updateDictionary({"q.TRet"});
   world.editing.ejTDController.clearInformation();
-  world.editing.writeUpdateDicTarvoPlist(7);
+  world.editing.writeUpdateDicTarvoPlist(JE);
   EXPECT_EQ(world.listOnDisk(keyNameJE), Array{"q.TRet"});
   EXPECT_EQ(world.listOnDisk(keyNameEJ), arrayOf(abc));
 }
@@ -54,7 +52,7 @@ TEST(SavingAList, thatIsEmptyRemovesTheKey) {
   StylePaneWorld world;
   world.openWithLists(abc, {});
   world.editing.ejTDController.clearInformation();
-  world.editing.writeUpdateDicTarvoPlist(0);
+  world.editing.writeUpdateDicTarvoPlist(EJ);
   EXPECT_EQ(world.writes, 1);
   EXPECT_EQ(world.listOnDisk(keyNameEJ), Array{"(absent)"});
   EXPECT_EQ(world.halfOnDisk(keyNameEJ).integerValue("Opt1"), 1);
@@ -67,7 +65,7 @@ TEST(SavingAList, intoARecordWithoutTheDirectionWritesItBackAsItIs) {
   world.open({divider});
   world.put({"a.TRet"});
   world.showLists({"a.TRet"}, {});
-  world.editing.writeUpdateDicTarvoPlist(0);
+  world.editing.writeUpdateDicTarvoPlist(EJ);
   EXPECT_EQ(world.writes, 1);
   EXPECT_EQ(world.styleOnDisk(), divider);
 }
@@ -81,7 +79,7 @@ TEST(SavingAList, intoTheDividerWritesItBackAsItIsEvenWhereItHasHalves) {
   world.open({divider});
   world.put({"a.TRet"});
   world.showLists({"a.TRet"}, {});
-  world.editing.writeUpdateDicTarvoPlist(0);
+  world.editing.writeUpdateDicTarvoPlist(EJ);
   EXPECT_EQ(world.writes, 1);
   EXPECT_EQ(world.styleOnDisk(), divider);
 }
@@ -93,7 +91,7 @@ TEST(SavingAList, withoutAShownStyleChangesAndWritesNothing) {
   for (const int index : {-1, 1}) {
     world.menu.stylePopup.setItems(std::vector<PopUpButton::Item>(2));
     world.menu.stylePopup.selectItemAtIndex(index);
-    world.editing.writeUpdateDicTarvoPlist(0);
+    world.editing.writeUpdateDicTarvoPlist(EJ);
   }
   EXPECT_EQ(world.writes, 0);
   EXPECT_EQ(world.listOnDisk(keyNameEJ), arrayOf(abc));
@@ -108,7 +106,7 @@ TEST(SavingAList, goesToTheStyleOfTheMenu) {
   world.menu.stylePopup.selectItemAtIndex(1);
   world.put({"a.TRet"});
   world.showLists({"a.TRet"}, {});
-  world.editing.writeUpdateDicTarvoPlist(0);
+  world.editing.writeUpdateDicTarvoPlist(EJ);
   EXPECT_EQ(world.store.getStyleAtIndex(0), first);
   EXPECT_NE(world.store.getStyleAtIndex(1), second);
 }
@@ -121,14 +119,14 @@ struct ButtonCase {
 class ButtonStates : public testing::TestWithParam<ButtonCase> {};
 
 TEST_P(ButtonStates, followTheSelectedRowAndTheNumberOfRows) {
-  for (const int direction : {0, 1}) {
+  for (const Direction direction : bothDirections) {
     StylePaneWorld world;
     world.openWithLists(numbered(GetParam().rows), numbered(GetParam().rows));
     world.editing.getActiveTableView(direction).selectRows({GetParam().selected});
     muddle(world.outlets);
     world.editing.updateButton(direction);
-    EXPECT_EQ(direction == 0 ? ejButtons(world.outlets) : jeButtons(world.outlets), GetParam().buttons);
-    EXPECT_EQ(direction == 0 ? jeButtons(world.outlets) : ejButtons(world.outlets), muddled);
+    EXPECT_EQ(direction == EJ ? ejButtons(world.outlets) : jeButtons(world.outlets), GetParam().buttons);
+    EXPECT_EQ(direction == EJ ? jeButtons(world.outlets) : ejButtons(world.outlets), muddled);
   }
 }
 
@@ -140,24 +138,13 @@ INSTANTIATE_TEST_SUITE_P(
                     ButtonCase{7, -1, {true, false, false, false}}, ButtonCase{8, -1, {false, false, false, false}},
                     ButtonCase{9, 4, {false, true, true, true}}));
 
-TEST(UpdatingButtons, takesTheTableByCodeAndTheButtonsByParity) {
+TEST(UpdatingButtons, ofOneDirectionByTheTableOfTheOther) {
   StylePaneWorld world;
   world.openWithLists(abc, {"j.TRet"});
   world.outlets.jeTDTable.selectRows({0});
   muddle(world.outlets);
-  world.editing.updateButton(2);
+  world.editing.updateButton(EJ, JE);
   EXPECT_EQ(ejButtons(world.outlets), (Buttons{true, false, false, true})) << "of the Japanese table's one row";
-  EXPECT_EQ(jeButtons(world.outlets), muddled);
-  world.editing.updateButton(3);
-  EXPECT_EQ(jeButtons(world.outlets), (Buttons{true, false, false, true}));
-}
-
-TEST(UpdatingButtons, ofAnotherCodeDoesNothing) {
-  StylePaneWorld world;
-  world.openWithLists(abc, abc);
-  muddle(world.outlets);
-  for (const int code : {-1, 6, 20, 100}) world.editing.updateButton(code);
-  EXPECT_EQ(ejButtons(world.outlets), muddled);
   EXPECT_EQ(jeButtons(world.outlets), muddled);
 }
 
@@ -272,31 +259,19 @@ TEST(RemovingARow, dropsOthersWhoseFilesWentAway) {
   EXPECT_EQ(world.listOnDisk(keyNameEJ), Array{"b.TRet"});
 }
 
-TEST(ChoosingATab, keepsTheStateOfBothDirections) {
+TEST(ChoosingATab, ofADirectionShowsItAndOfAKindKeepsIt) {
   StylePaneWorld world;
   world.openWithLists(abc, abc);
   const auto choose = [&](const char* key) { world.editing.didSelectTabViewItem(world.texts.localized(key)); };
-  EXPECT_EQ(world.editing.baseTabKey(), 0);
-  EXPECT_EQ(world.editing.currentTabKey(), 1);
-  EXPECT_EQ(world.editing.currentEJKey(), 1);
-  EXPECT_EQ(world.editing.currentJEKey(), 1);
-
+  EXPECT_EQ(world.editing.shownDirection(), EJ);
   choose("JETab");
-  EXPECT_EQ(world.editing.baseTabKey(), 100);
-  EXPECT_EQ(world.editing.currentTabKey(), 101);
-  choose("UDTab");
-  EXPECT_EQ(world.editing.currentJEKey(), 2);
-  EXPECT_EQ(world.editing.currentEJKey(), 1);
-  EXPECT_EQ(world.editing.currentTabKey(), 102);
+  EXPECT_EQ(world.editing.shownDirection(), JE);
+  for (const char* kind : {"UDTab", "UTMATab", "TDTab"}) {
+    choose(kind);
+    EXPECT_EQ(world.editing.shownDirection(), JE) << kind;
+  }
   choose("EJTab");
-  EXPECT_EQ(world.editing.baseTabKey(), 0);
-  EXPECT_EQ(world.editing.currentTabKey(), 1);
-  choose("UTMATab");
-  EXPECT_EQ(world.editing.currentTabKey(), 3);
-  choose("TDTab");
-  EXPECT_EQ(world.editing.currentTabKey(), 1);
-  choose("JETab");
-  EXPECT_EQ(world.editing.currentTabKey(), 102);
+  EXPECT_EQ(world.editing.shownDirection(), EJ);
 }
 
 TEST(ChoosingATab, updatesTheButtonsOfItsDirection) {
@@ -314,9 +289,9 @@ TEST(ChoosingATab, knowsItByItsTextAndNotByItsKey) {
   StylePaneWorld world;
   world.openWithLists(abc, abc);
   world.editing.didSelectTabViewItem("JETab");
-  EXPECT_EQ(world.editing.baseTabKey(), 0);
+  EXPECT_EQ(world.editing.shownDirection(), EJ);
   world.editing.didSelectTabViewItem("something else");
-  EXPECT_EQ(world.editing.currentTabKey(), 1);
+  EXPECT_EQ(world.editing.shownDirection(), EJ);
 }
 
 }  // namespace

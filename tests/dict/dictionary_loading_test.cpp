@@ -35,15 +35,15 @@ TEST(DictionaryLoading, opensThePickerOnWhatTheListDoesNotHoldAfterANewScan) {
   LoadingWorld world({"b.TRet"}, {"a.TRet", "c.TRet", "d.TRet"});
   world.withPicker([&] {
     EXPECT_EQ(world.pickerNames(), (Names{"a.TRet", "c.TRet", "d.TRet"}));
-    EXPECT_EQ(world.controller.getCheckedArray(0), Names{});
-    EXPECT_TRUE(world.request.isEJ);
+    EXPECT_EQ(world.controller.getCheckedArray(technical), Names{});
+    EXPECT_EQ(world.request.direction, EJ);
     EXPECT_EQ(world.picker.myWindow.title(), "EJ-TDEdit");
     EXPECT_EQ(world.picker.roomText.stringValue(), "PickerRoom7");
   });
   world.withPicker(
       [&] {
         EXPECT_EQ(world.pickerNames(), Names{});
-        EXPECT_FALSE(world.request.isEJ);
+        EXPECT_EQ(world.request.direction, JE);
         EXPECT_EQ(world.picker.myWindow.title(), "JE-TDEdit");
       },
       1);
@@ -64,7 +64,7 @@ TEST(DictionaryLoading, theScanNeitherSavesNorReadsTheTable) {
 TEST(DictionaryLoading, ticksAreGoneWhenThePickerIsOpenedAgain) {
   LoadingWorld world({}, {"a.TRet"});
   world.withPicker([&] { world.tick({0}); });
-  world.withPicker([&] { EXPECT_EQ(world.controller.getCheckedArray(0), Names{}); });
+  world.withPicker([&] { EXPECT_EQ(world.controller.getCheckedArray(technical), Names{}); });
 }
 
 TEST(DictionaryLoading, addsWhatIsTickedAtTheEndAndSavesBeforeItCloses) {
@@ -120,7 +120,7 @@ TEST(DictionaryLoading, aListFillsUpToTheLimit) {
       world.loading.dicWindowOK();
       const bool fits = loaded + 2 <= TDMax;
       EXPECT_EQ(world.picker.myWindow.isShown(), !fits) << loaded;
-      EXPECT_EQ(world.controller.getCheckedArray(0).size(), 2U) << "ticks stay";
+      EXPECT_EQ(world.controller.getCheckedArray(technical).size(), 2U) << "ticks stay";
       if (!fits) {
         EXPECT_EQ(world.takeLog(), (Log{"beep", "alert MaxOverTDAlertHeader / MaxOverTDAlertContents"}));
       }
@@ -255,7 +255,7 @@ TEST(DictionaryLoading, theTicksMayReplaceAListWithoutSaving) {
   LoadingWorld world({"a.TRet", "b.TRet"}, {"c.TRet"});
   world.withPicker([&] { world.tick({0}); });
   world.takeLog();
-  world.loading.setSelectedDic(true);
+  world.loading.setSelectedDic(EJ);
   EXPECT_EQ(loadedOf(world.editing.ejTDController), Names{"c.TRet"});
   EXPECT_EQ(world.takeLog(), Log{});
 }
@@ -264,7 +264,7 @@ TEST(DictionaryLoading, aSheetOpenedMeanwhileDecidesWhereTheTicksGo) {
   LoadingWorld world({"a.TRet"}, {"b.TRet"});
   world.withPicker([&] {
     world.tick({0});
-    world.request.isEJ = false;
+    world.request.direction = JE;
     world.loading.dicWindowOK();
   });
   EXPECT_EQ(world.listOnDisk(keyNameEJ), Array{"a.TRet"});

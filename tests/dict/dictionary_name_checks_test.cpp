@@ -31,9 +31,9 @@ struct Checks : DictionaryWorld {
       setText(key, "«" + std::string(key) + "»");
     }
   }
-  bool passes(int kind, bool isEJ, const std::string& name) {
-    request.dTypeNum = kind;
-    request.isEJ = isEJ;
+  bool passes(std::optional<DictionaryKind> kind, Direction direction, const std::string& name) {
+    request.kind = kind;
+    request.direction = direction;
     outlets.name.setStringValue(name);
     log.clear();
     return checks.passAll();
@@ -51,9 +51,11 @@ struct Checks : DictionaryWorld {
   DictionaryNameChecks checks;
 };
 
+constexpr std::optional<DictionaryKind> unknown;
+
 struct Refused {
-  int kind;
-  bool isEJ;
+  std::optional<DictionaryKind> kind;
+  Direction direction;
   std::string name;
   Log log;
 };
@@ -65,7 +67,7 @@ TEST_P(RefusedName, isToldInTheWayOfItsKind) {
   Checks world;
   world.setText("EJCommonUD", "Common");
   world.setText("EJCommonUTMA", "Mem");
-  EXPECT_FALSE(world.passes(example.kind, example.isEJ, example.name));
+  EXPECT_FALSE(world.passes(example.kind, example.direction, example.name));
   EXPECT_EQ(world.log, example.log);
   for (const Alert& alert : world.panels.alerts) EXPECT_EQ(alert.buttons, std::vector<std::string>{"«AlertClose»"});
 }
@@ -80,23 +82,22 @@ const Log tooLongMemory{"beep", "alert «tooLongNameHeader» / «tooLongNameUTMA
 
 INSTANTIATE_TEST_SUITE_P(
     ByCheck, RefusedName,
-    testing::Values(Refused{1, true, "", noName}, Refused{1, true, "  \t\n", noName},
-                    Refused{1, false, "　\u00a0", noName}, Refused{2, true, "", noMemoryName}, Refused{0, true, "", {}},
-                    Refused{7, false, " ", {}}, Refused{1, true, "Release 1.0", invalid},
-                    Refused{1, true, "A:B", invalid}, Refused{1, true, "A/B", invalid}, Refused{1, true, ".x", invalid},
-                    Refused{1, true, "x.", invalid}, Refused{1, true, "A\\B", invalid},
-                    Refused{2, false, "A.B", invalidMemory}, Refused{7, true, "A.B", {}},
-                    Refused{1, true, "COMMON", reserved}, Refused{2, true, "mem", reserved},
-                    Refused{1, true, std::string(31, 'a'), tooLong},
-                    Refused{2, true, std::string(31, 'a'), tooLongMemory},
-                    Refused{7, true, std::string(31, 'a'), {"beep", "alert «tooLongNameHeader» / "}},
-                    Refused{1, true, std::string(40, 'a') + "/", invalid}));
+    testing::Values(
+        Refused{user, EJ, "", noName}, Refused{user, EJ, "  \t\n", noName}, Refused{user, JE, "　\u00a0", noName},
+        Refused{memory, EJ, "", noMemoryName}, Refused{technical, EJ, "", {}}, Refused{unknown, JE, " ", {}},
+        Refused{user, EJ, "Release 1.0", invalid}, Refused{user, EJ, "A:B", invalid}, Refused{user, EJ, "A/B", invalid},
+        Refused{user, EJ, ".x", invalid}, Refused{user, EJ, "x.", invalid}, Refused{user, EJ, "A\\B", invalid},
+        Refused{memory, JE, "A.B", invalidMemory}, Refused{unknown, EJ, "A.B", {}},
+        Refused{user, EJ, "COMMON", reserved}, Refused{memory, EJ, "mem", reserved},
+        Refused{user, EJ, std::string(31, 'a'), tooLong}, Refused{memory, EJ, std::string(31, 'a'), tooLongMemory},
+        Refused{unknown, EJ, std::string(31, 'a'), {"beep", "alert «tooLongNameHeader» / "}},
+        Refused{user, EJ, std::string(40, 'a') + "/", invalid}));
 
 TEST(DictionaryNameChecks, theReservedNameIsTestedBeforeTheLength) {
   Checks world;
   const std::string name = std::string(40, 'c');
   world.setText("EJCommonUD", name);
-  EXPECT_FALSE(world.passes(1, true, name));
+  EXPECT_FALSE(world.passes(user, EJ, name));
   EXPECT_EQ(world.log, reserved);
 }
 
@@ -104,11 +105,11 @@ TEST(DictionaryNameChecks, onlyTheReservedNameOfTheKindAndDirectionIsRefused) {
   for (const char* other : {"JECommonUD", "EJCommonUTMA", "JECommonUTMA"}) {
     Checks world;
     world.setText(other, "Common");
-    EXPECT_TRUE(world.passes(1, true, "Common")) << other;
+    EXPECT_TRUE(world.passes(user, EJ, "Common")) << other;
   }
   Checks world;
   world.setText("EJCommonUD", "Common");
-  world.request.dTypeNum = 7;
+  world.request.kind = unknown;
   world.outlets.name.setStringValue("Common");
   EXPECT_TRUE(world.checks.checkIsCommonDicName());
 }
@@ -116,28 +117,28 @@ TEST(DictionaryNameChecks, onlyTheReservedNameOfTheKindAndDirectionIsRefused) {
 TEST(DictionaryNameChecks, lettersThatLookLikeForbiddenOnesAreAllowed) {
   for (const char* name : {"A．B", "A：B", "A／B", "A＼B", "A¥B", "a b"}) {
     Checks world;
-    EXPECT_TRUE(world.passes(1, true, name)) << name;
+    EXPECT_TRUE(world.passes(user, EJ, name)) << name;
   }
 }
 
 TEST(DictionaryNameChecks, thePickerAllowsABackslashAndKeepsSilentAboutLongNamesOfOddKinds) {
   Checks world(pickerRules);
-  EXPECT_TRUE(world.passes(1, true, "A\\B"));
-  EXPECT_FALSE(world.passes(1, true, "A.B"));
-  EXPECT_FALSE(world.passes(4, true, std::string(31, 'a')));
+  EXPECT_TRUE(world.passes(user, EJ, "A\\B"));
+  EXPECT_FALSE(world.passes(user, EJ, "A.B"));
+  EXPECT_FALSE(world.passes(unknown, EJ, std::string(31, 'a')));
   EXPECT_EQ(world.log, Log{});
 }
 
 TEST(DictionaryNameChecks, oddKindsAreRefusedInSilenceBySheetsOfBothOwners) {
   for (const DictionaryNameChecks::Rules& rules : {paneRules, pickerRules}) {
     Checks world(rules);
-    for (const int kind : {-1, 0, 3, 4, 7}) {
+    for (const std::optional<DictionaryKind> kind : {unknown, std::optional(technical)}) {
       for (const char* name : {"", " \u3000\n", "A.B", "A/B"}) {
-        EXPECT_FALSE(world.passes(kind, true, name)) << kind << " " << name;
+        EXPECT_FALSE(world.passes(kind, EJ, name)) << name;
         EXPECT_EQ(world.log, Log{});
       }
     }
-    world.passes(4, true, "  A.B ");
+    world.passes(unknown, EJ, "  A.B ");
     EXPECT_EQ(world.outlets.name.stringValue(), "A.B");
   }
 }
@@ -170,25 +171,25 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(DictionaryNameChecks, theFieldKeepsTheTrimmedNameWhetherOrNotItPasses) {
   Checks world;
-  EXPECT_TRUE(world.passes(1, true, " My Dict\n"));
+  EXPECT_TRUE(world.passes(user, EJ, " My Dict\n"));
   EXPECT_EQ(world.outlets.name.stringValue(), "My Dict");
   EXPECT_EQ(world.request.fDictName, "My Dict.eud2");
-  EXPECT_FALSE(world.passes(1, true, "  A/B  "));
+  EXPECT_FALSE(world.passes(user, EJ, "  A/B  "));
   EXPECT_EQ(world.outlets.name.stringValue(), "A/B");
   EXPECT_EQ(world.request.fDictName, "My Dict.eud2") << "only the last check touches the file name";
 }
 
 TEST(DictionaryNameChecks, kindAndDirectionGiveTheExtension) {
   Checks world;
-  EXPECT_TRUE(world.passes(1, true, "~x"));
+  EXPECT_TRUE(world.passes(user, EJ, "~x"));
   EXPECT_EQ(world.request.fDictName, "~x.eud2");
-  EXPECT_TRUE(world.passes(1, false, "N"));
+  EXPECT_TRUE(world.passes(user, JE, "N"));
   EXPECT_EQ(world.request.fDictName, "N.jud");
-  EXPECT_TRUE(world.passes(2, true, "N"));
+  EXPECT_TRUE(world.passes(memory, EJ, "N"));
   EXPECT_EQ(world.request.fDictName, "N.etm");
-  EXPECT_TRUE(world.passes(2, false, "a b"));
+  EXPECT_TRUE(world.passes(memory, JE, "a b"));
   EXPECT_EQ(world.request.fDictName, "a b.jtm");
-  EXPECT_TRUE(world.passes(7, true, "N"));
+  EXPECT_TRUE(world.passes(unknown, EJ, "N"));
   EXPECT_EQ(world.request.fDictName, "");
   EXPECT_EQ(world.log, Log{});
 }
@@ -196,26 +197,26 @@ TEST(DictionaryNameChecks, kindAndDirectionGiveTheExtension) {
 TEST(DictionaryNameChecks, aNameWhoseFileIsThereIsRefusedAndTold) {
   Checks world;
   world.folder.write(world.memoryFolder + "Terms.jtm", "");
-  EXPECT_FALSE(world.passes(2, false, "Terms"));
+  EXPECT_FALSE(world.passes(memory, JE, "Terms"));
   EXPECT_EQ(world.log, (Log{"beep", "alert \"Terms.jtm\"«existsDicHeader» / «existsUTMAMessage»"}));
   EXPECT_EQ(world.request.fDictName, "Terms.jtm");
-  EXPECT_TRUE(world.passes(2, true, "Terms")) << "the other direction has another file name";
-  EXPECT_FALSE(world.passes(2, false, "TERMS")) << "names are equal whatever their letter case";
+  EXPECT_TRUE(world.passes(memory, EJ, "Terms")) << "the other direction has another file name";
+  EXPECT_FALSE(world.passes(memory, JE, "TERMS")) << "names are equal whatever their letter case";
 
   world.folder.write(world.userFolder + "Terms.eud2", "");
   world.folder.makeFolder(world.userFolder + "Dir.eud2");
-  EXPECT_FALSE(world.passes(1, true, "Terms"));
+  EXPECT_FALSE(world.passes(user, EJ, "Terms"));
   EXPECT_EQ(world.log, (Log{"beep", "alert \"Terms.eud2\"«existsDicHeader» / «existsUDMessage»"}));
-  EXPECT_FALSE(world.passes(1, true, "Dir")) << "a folder is in the way too";
+  EXPECT_FALSE(world.passes(user, EJ, "Dir")) << "a folder is in the way too";
 }
 
 TEST(DictionaryNameChecks, aKeyWithoutATextShowsAsNothing) {
   Checks world;
   world.texts.clear();
-  EXPECT_FALSE(world.passes(1, true, "A.B"));
+  EXPECT_FALSE(world.passes(user, EJ, "A.B"));
   EXPECT_EQ(world.log, (Log{"beep", "alert  / "}));
   EXPECT_EQ(world.panels.alerts.back().buttons, std::vector<std::string>{""});
-  EXPECT_TRUE(world.passes(1, true, "EJCommonUD")) << "a key is no reserved name";
+  EXPECT_TRUE(world.passes(user, EJ, "EJCommonUD")) << "a key is no reserved name";
 }
 
 TEST(DictionaryNameChecks, oneForbiddenTextIsLookedForExactly) {
@@ -231,7 +232,7 @@ TEST(DictionaryNameChecks, oneForbiddenTextIsLookedForExactly) {
 TEST(DictionaryNameChecks, nothingIsWrittenToTheDisk) {
   Checks world;
   const std::vector<std::string> before = world.folder.names();
-  for (const char* name : {"Good", "A/B", ""}) world.passes(1, true, name);
+  for (const char* name : {"Good", "A/B", ""}) world.passes(user, EJ, name);
   EXPECT_EQ(world.folder.names(), before);
 }
 

@@ -13,7 +13,7 @@ TEST(DictionaryScan, entriesStandInTheOrderOfTheListingAndNoneIsLoaded) {
   DictionaryWorld world;
   world.put({"b.TRet", "a.TRet", "Z.TRet", "あ.TRet"});
   DictController controller(world.services());
-  EXPECT_TRUE(controller.initializeDictController(0, world.dictionaryFolder(), true));
+  EXPECT_TRUE(controller.initializeDictController(technical, world.dictionaryFolder(), EJ));
   EXPECT_EQ(entryNames(controller), (Names{"Z.TRet", "a.TRet", "b.TRet", "あ.TRet"}));
   for (const DictionaryEntry& entry : *controller.allDictionaries()) {
     EXPECT_FALSE(entry.check);
@@ -25,7 +25,7 @@ TEST(DictionaryScan, entriesStandInTheOrderOfTheListingAndNoneIsLoaded) {
 TEST(DictionaryScan, anEmptyFolderGivesNoLoadedListButEmptyOtherLists) {
   DictionaryWorld world;
   DictController controller(world.services());
-  EXPECT_FALSE(controller.initializeDictController(0, world.dictionaryFolder(), true));
+  EXPECT_FALSE(controller.initializeDictController(technical, world.dictionaryFolder(), EJ));
   EXPECT_FALSE(controller.selectedDictionary());
   EXPECT_EQ(controller.notSelectedDictionary(), Names{});
   EXPECT_EQ(controller.getAllDictionary(), Names{});
@@ -48,28 +48,28 @@ TEST(DictionaryScan, aFolderThatIsNoAbsolutePathListsNothing) {
   DictionaryWorld world;
   DictController controller(world.services());
   for (const char* folder : {"", ".", "dictionaries"}) {
-    EXPECT_FALSE(controller.initializeDictController(0, folder, true)) << folder;
+    EXPECT_FALSE(controller.initializeDictController(technical, folder, EJ)) << folder;
   }
 }
 
 TEST(DictionaryScan, technicalDictionariesAreKnownByTheirExtensionIgnoringCase) {
   DictionaryWorld world;
   world.put({"a.TRet", "b.tret", "c.TRET", "x.jtd", "y.JTD", "z.dat", "w.TRet.bak", "noext", "q.eud2"});
-  EXPECT_EQ(entryNames(world.list(0)), (Names{"a.TRet", "b.tret", "c.TRET", "x.jtd", "y.JTD"}));
+  EXPECT_EQ(entryNames(world.list()), (Names{"a.TRet", "b.tret", "c.TRET", "x.jtd", "y.JTD"}));
 }
 
 TEST(DictionaryScan, foldersAndHiddenNamesCountLikeAnyOtherName) {
   DictionaryWorld world;
   world.put({".hidden.TRet", ".TRet", "._a.TRet"});
   std::filesystem::create_directory(world.path("folder.TRet"));
-  EXPECT_EQ(entryNames(world.list(0)), (Names{"._a.TRet", ".hidden.TRet", "folder.TRet"}))
+  EXPECT_EQ(entryNames(world.list()), (Names{"._a.TRet", ".hidden.TRet", "folder.TRet"}))
       << "a name that is nothing but a suffix has no extension";
 }
 
 struct KindCase {
   const char* description;
-  int dicType;
-  bool isEnglish;
+  DictionaryKind kind;
+  Direction direction;
   Names found;
 };
 
@@ -79,30 +79,28 @@ TEST_P(UserDictionaryKinds, areKnownByDirectionAndExtensionIgnoringCase) {
   DictionaryWorld world;
   world.put({"a.eud2", "b.EUD2", "c.jud", "d.JUD", "e.etm", "f.ETM", "g.jtm", "h.JTM", "i.TRet", "j"});
   DictController controller(world.services());
-  EXPECT_EQ(controller.initializeDictController(GetParam().dicType, world.dictionaryFolder(), GetParam().isEnglish),
+  EXPECT_EQ(controller.initializeDictController(GetParam().kind, world.dictionaryFolder(), GetParam().direction),
             !GetParam().found.empty());
   EXPECT_EQ(entryNames(controller), GetParam().found);
 }
 
 INSTANTIATE_TEST_SUITE_P(DictionaryScan, UserDictionaryKinds,
-                         testing::Values(KindCase{"englishDictionaries", 1, true, {"a.eud2", "b.EUD2"}},
-                                         KindCase{"japaneseDictionaries", 1, false, {"c.jud", "d.JUD"}},
-                                         KindCase{"englishMemories", 2, true, {"e.etm", "f.ETM"}},
-                                         KindCase{"japaneseMemories", 2, false, {"g.jtm", "h.JTM"}},
-                                         KindCase{"anUnknownKind", 3, true, {}},
-                                         KindCase{"aNegativeKind", -1, true, {}}),
+                         testing::Values(KindCase{"englishDictionaries", user, EJ, {"a.eud2", "b.EUD2"}},
+                                         KindCase{"japaneseDictionaries", user, JE, {"c.jud", "d.JUD"}},
+                                         KindCase{"englishMemories", memory, EJ, {"e.etm", "f.ETM"}},
+                                         KindCase{"japaneseMemories", memory, JE, {"g.jtm", "h.JTM"}}),
                          [](const auto& test) { return test.param.description; });
 
 TEST(DictionaryScan, changingTheKindTakesEffectAtTheNextScan) {
   DictionaryWorld world;
   world.put({"a.etm", "b.jtm"});
-  DictController controller = world.list(2, true);
+  DictController controller = world.list(memory, EJ);
   EXPECT_EQ(entryNames(controller), Names{"a.etm"});
-  controller.setIsEJ(false);
+  controller.setDirection(JE);
   EXPECT_EQ(entryNames(controller), Names{"a.etm"});
   EXPECT_TRUE(controller.initializeDictionary());
   EXPECT_EQ(entryNames(controller), Names{"b.jtm"});
-  controller.setDicType(3);
+  controller.setKind(user);
   EXPECT_FALSE(controller.initializeDictionary());
   EXPECT_TRUE(entryNames(controller).empty());
 }
@@ -125,15 +123,15 @@ TEST_F(TypeCodes, admitATechnicalDictionaryWithoutItsExtension) {
   putWithType(world, "noext", fourCharCode("TRjt"));
   putWithType(world, "y.dat", fourCharCode("TRJT"));
   putWithType(world, "z.dat", fourCharCode("TReu"));
-  EXPECT_EQ(entryNames(world.list(0)), (Names{"noext", "x.dat"}));
+  EXPECT_EQ(entryNames(world.list()), (Names{"noext", "x.dat"}));
 }
 
 TEST_F(TypeCodes, admitNoUserDictionaryAndNoMemory) {
   DictionaryWorld world(placeForAttributes());
   putWithType(world, "f.dat", fourCharCode("TReu"));
   putWithType(world, "g.dat", fourCharCode("TRjt"));
-  for (const int kind : {1, 2}) {
-    for (const bool isEnglish : {true, false}) EXPECT_TRUE(entryNames(world.list(kind, isEnglish)).empty()) << kind;
+  for (const DictionaryKind kind : {user, memory}) {
+    for (const Direction direction : bothDirections) EXPECT_TRUE(entryNames(world.list(kind, direction)).empty());
   }
 }
 
@@ -143,7 +141,7 @@ TEST_F(TypeCodes, areWhatBringsTheJapaneseMedicalFilesIntoTheList) {
   world.folder.write("data", "");
   world.put({"cwl"});
   putWithType(world, "cwla", fourCharCode("TRjt"));
-  EXPECT_EQ(entryNames(world.list(0, false)), Names{"cwla"}) << "passing the medical filter is not enough";
+  EXPECT_EQ(entryNames(world.list(technical, JE)), Names{"cwla"}) << "passing the medical filter is not enough";
 }
 
 TEST_F(TypeCodes, doNotReplaceTheMedicalDataOfTheJapaneseFiles) {
@@ -151,7 +149,7 @@ TEST_F(TypeCodes, doNotReplaceTheMedicalDataOfTheJapaneseFiles) {
   world.setText("TechECorwell6", world.folder / "data");
   world.folder.write("data", "");
   putWithType(world, "cwl", fourCharCode("TRjt"));
-  EXPECT_TRUE(entryNames(world.list(0, false)).empty()) << "the English data is not the Japanese one";
+  EXPECT_TRUE(entryNames(world.list(technical, JE)).empty()) << "the English data is not the Japanese one";
 }
 
 TEST(MedicalFiles, areListedOnlyWhileTheirDataIsInstalled) {
@@ -178,7 +176,7 @@ TEST(MedicalFiles, theNameAndNotTheDirectionChoosesTheData) {
   world.setText("TechECorwell6", world.folder / "data");
   world.folder.write("data", "");
   world.put({"cwl.TRet"});
-  EXPECT_EQ(entryNames(world.list(0, false)), Names{"cwl.TRet"});
+  EXPECT_EQ(entryNames(world.list(technical, JE)), Names{"cwl.TRet"});
 }
 
 TEST(MedicalFiles, aFolderInThePlaceOfTheDataCounts) {
@@ -215,7 +213,7 @@ TEST(MedicalFiles, theFilterHoldsForEveryKind) {
   DictionaryWorld world;
   world.setText("NameJCorwell6", "a.eud2");
   world.put({"A.eud2", "b.eud2"});
-  EXPECT_EQ(entryNames(world.list(1)), Names{"b.eud2"});
+  EXPECT_EQ(entryNames(world.list(user)), Names{"b.eud2"});
 }
 
 }  // namespace

@@ -20,6 +20,10 @@
 
 namespace tarvo::test {
 
+inline constexpr DictionaryKind technical = DictionaryKind::technical, user = DictionaryKind::user,
+                                memory = DictionaryKind::memory;
+inline constexpr Direction EJ = Direction::englishToJapanese, JE = Direction::japaneseToEnglish;
+
 // A folder of dictionaries on the real disk and what a list model needs beside it. Every text that the model looks up
 // differs from its key.
 struct DictionaryWorld {
@@ -47,9 +51,9 @@ struct DictionaryWorld {
   std::string dictionaryFolder() const { return folder / "dictionaries"; }
   DictController::Services services() { return servicesOver(files); }
   DictController::Services servicesOver(FileService& other) { return {other, texts, bundle, paths}; }
-  DictController list(int dicType = 0, bool isEnglish = true) {
+  DictController list(DictionaryKind kind = technical, Direction direction = EJ) {
     DictController controller(services());
-    controller.initializeDictController(dicType, dictionaryFolder(), isEnglish);
+    controller.initializeDictController(kind, dictionaryFolder(), direction);
     return controller;
   }
 

@@ -56,11 +56,12 @@ class Tekado : public testing::TestWithParam<InsertionCase> {};
 
 TEST_P(Tekado, goesBehindTheLastClinicalDictionary) {
   MedicalWorld world;
-  for (const char* direction : {"EJ", "JE"}) {
+  for (const Direction direction : bothDirections) {
     world.openLists(GetParam().before, GetParam().before);
     world.medical.insertTekado(direction, "TekE.TRet");
-    EXPECT_EQ(world.list(direction), GetParam().after) << direction;
-    EXPECT_EQ(world.list(std::string_view(direction) == "EJ" ? "JE" : "EJ"), GetParam().before) << direction;
+    const bool isEnglish = direction == Direction::englishToJapanese;
+    EXPECT_EQ(world.list(isEnglish ? "EJ" : "JE"), GetParam().after) << isEnglish;
+    EXPECT_EQ(world.list(isEnglish ? "JE" : "EJ"), GetParam().before) << isEnglish;
   }
   EXPECT_EQ(world.writes, 0) << "the caller writes once";
 }
@@ -85,7 +86,7 @@ class Corwell : public testing::TestWithParam<InsertionCase> {};
 TEST_P(Corwell, goesBehindTheLastClinicalDictionaryAndItsAbbreviationsToTheEnd) {
   MedicalWorld world;
   world.openLists(GetParam().before, {});
-  world.medical.insertCorwell("EJ", "cwl.TRet", "cwla.TRet");
+  world.medical.insertCorwell(Direction::englishToJapanese, "cwl.TRet", "cwla.TRet");
   EXPECT_EQ(world.list("EJ"), GetParam().after);
 }
 
@@ -105,9 +106,9 @@ TEST(MedicalDictionaries, theNamesAreLookedUpInTheTextTable) {
   world.setText("cwl.TRet", "Corwell 6");
   world.setText("TekE.TRet", "Tekado 7");
   world.openLists({G}, {G});
-  world.medical.insertCorwell("EJ", "cwl.TRet", "cwla.TRet");
+  world.medical.insertCorwell(Direction::englishToJapanese, "cwl.TRet", "cwla.TRet");
   EXPECT_EQ(world.list("EJ"), (Array{"Corwell 6", G, "cwla.TRet"}));
-  world.medical.insertTekado("JE", "TekE.TRet");
+  world.medical.insertTekado(Direction::japaneseToEnglish, "TekE.TRet");
   EXPECT_EQ(world.list("JE"), (Array{"Tekado 7", G}));
 }
 
@@ -116,11 +117,11 @@ TEST(MedicalDictionaries, aSearchWordWithoutTextMatchesNothing) {
   world.setText("Shinryouka", "");
   world.setText("Tekado", "");
   world.openLists({X, G}, {});
-  world.medical.insertTekado("EJ", "TekE.TRet");
+  world.medical.insertTekado(Direction::englishToJapanese, "TekE.TRet");
   EXPECT_EQ(world.list("EJ"), (Array{"TekE.TRet", X, G}));
   world.setText("IgakuSougou", "");
   world.openLists({X, G}, {});
-  world.medical.insertTekado("EJ", "TekE.TRet");
+  world.medical.insertTekado(Direction::englishToJapanese, "TekE.TRet");
   EXPECT_EQ(world.list("EJ"), (Array{X, G}));
 }
 
@@ -131,7 +132,7 @@ TEST(MedicalDictionaries, everyRecordGetsAListEvenTheDivider) {
   divider.set(keyNameName, "keyNameSeparator");
   wrongTypes.set(keyNameEJ, "no dictionary");
   world.open({withoutList, divider, 5, wrongTypes});
-  world.medical.insertTekado("EJ", "TekE.TRet");
+  world.medical.insertTekado(Direction::englishToJapanese, "TekE.TRet");
   for (const int index : {0, 1, 3}) EXPECT_EQ(world.list("EJ", index), Array{}) << index;
   const Array& styles = *world.store.getAllStyle();
   EXPECT_EQ(styles[2], PropertyList(5)) << "what is no record stays";
@@ -144,7 +145,7 @@ TEST(MedicalDictionaries, aListMayPassTheLimitOfTheListModel) {
   Array list{G};
   for (int i = 0; i < 7; ++i) list.push_back("d" + std::to_string(i));
   world.openLists(list, {});
-  world.medical.insertCorwell("EJ", "cwl.TRet", "cwla.TRet");
+  world.medical.insertCorwell(Direction::englishToJapanese, "cwl.TRet", "cwla.TRet");
   EXPECT_EQ(world.list("EJ").size(), 10U);
 }
 

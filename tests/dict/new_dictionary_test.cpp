@@ -13,8 +13,10 @@ namespace tarvo::test {
 namespace {
 
 struct Chosen {
-  int tag, base, kind;
-  bool isEJ;
+  int tag;
+  Direction shown;
+  DictionaryKind kind;
+  Direction direction;
   std::string prompt;
 };
 
@@ -37,14 +39,14 @@ class NewDictionaryTest : public testing::Test {
 
 TEST_F(NewDictionaryTest, theTagChoosesKindAndDirectionWhateverTheTab) {
   const Chosen cases[] = {
-      {10, 0, 1, true, "NewEJUDText"},   {11, 0, 1, false, "NewJEUDText"},  {12, 0, 2, true, "NewEJTMAText"},
-      {13, 0, 2, false, "NewJETMAText"}, {10, 100, 1, true, "NewEJUDText"}, {12, 100, 2, true, "NewEJTMAText"},
-      {1, 0, 1, true, "NewEJUDText"},    {1, 100, 1, false, "NewJEUDText"}, {2, 100, 2, false, "NewJETMAText"}};
+      {10, EJ, user, EJ, "NewEJUDText"},    {11, EJ, user, JE, "NewJEUDText"}, {12, EJ, memory, EJ, "NewEJTMAText"},
+      {13, EJ, memory, JE, "NewJETMAText"}, {10, JE, user, EJ, "NewEJUDText"}, {12, JE, memory, EJ, "NewEJTMAText"},
+      {1, EJ, user, EJ, "NewEJUDText"},     {1, JE, user, JE, "NewJEUDText"},  {2, JE, memory, JE, "NewJETMAText"}};
   for (const Chosen& chosen : cases) {
-    world_.editing.didSelectTabViewItem(world_.texts.localized(chosen.base == 0 ? "EJTab" : "JETab"));
+    world_.editing.didSelectTabViewItem(world_.texts.localized(chosen.shown == EJ ? "EJTab" : "JETab"));
     world_.newDictionary.newUD(chosen.tag);
-    EXPECT_EQ(world_.request.dTypeNum, chosen.kind);
-    EXPECT_EQ(world_.request.isEJ, chosen.isEJ) << chosen.tag << " on " << chosen.base;
+    EXPECT_EQ(world_.request.kind, chosen.kind);
+    EXPECT_EQ(world_.request.direction, chosen.direction) << chosen.tag;
     EXPECT_EQ(world_.sheet.NewDicText.stringValue(), chosen.prompt);
     world_.newDictionary.newDicCancelButtonAction();
   }
@@ -65,11 +67,11 @@ TEST_F(NewDictionaryTest, theSheetStandsOverTheMainWindowAndRestrictsTheMenus) {
   EXPECT_EQ(world_.sheet.NewDicFolderTitleField.stringValue(), "UserTMAFolderNameTitle");
 }
 
-TEST_F(NewDictionaryTest, anotherTagIsTheKindItselfAndMakesNothing) {
+TEST_F(NewDictionaryTest, anotherTagIsNoKindAndMakesNothing) {
   world_.newDictionary.newUD(10);
   world_.newDictionary.newDicCancelButtonAction();
   create(7, "N");
-  EXPECT_EQ(world_.request.dTypeNum, 7);
+  EXPECT_EQ(world_.request.kind, std::nullopt);
   EXPECT_EQ(world_.sheet.NewDicText.stringValue(), "NewEJUDText") << "the texts of the last kind stay";
   EXPECT_EQ(world_.takeLog(), (Log{"sheet ended 1", "posted "}));
   EXPECT_FALSE(world_.flags.gMenuControllFlag);
@@ -165,17 +167,20 @@ TEST_F(NewDictionaryTest, theSixthOfAListIsMadeAndToldToBeTooMany) {
 }
 
 TEST_F(NewDictionaryTest, inTheToolsWithListsOfTheirOwnTheStyleIsNotTouched) {
-  struct Tool {
-    int saveHit, tag;
+  struct Case {
+    Tool chosen;
+    int tag;
     std::string table;
   };
-  for (const Tool& tool : {Tool{5, 10, "ejUDTableView"}, Tool{5, 12, "ejTMATable"}, Tool{6, 10, "ejUDTable"},
-                           Tool{6, 12, "ejUTMATableView"}, Tool{5, 11, "jeUDTableView"}, Tool{5, 13, "jeTMATable"},
-                           Tool{6, 11, "jeUDTable"}, Tool{6, 13, "jeUTMATableView"}}) {
-    world_.flags.saveHit = tool.saveHit;
+  constexpr Tool notepad = Tool::notepad, addins = Tool::officeAddins;
+  for (const Case& tool :
+       {Case{notepad, 10, "ejUDTableView"}, Case{notepad, 12, "ejTMATable"}, Case{addins, 10, "ejUDTable"},
+        Case{addins, 12, "ejUTMATableView"}, Case{notepad, 11, "jeUDTableView"}, Case{notepad, 13, "jeTMATable"},
+        Case{addins, 11, "jeUDTable"}, Case{addins, 13, "jeUTMATableView"}}) {
+    world_.flags.saveHit = tool.chosen;
     world_.guard.changedKinds.clear();
     muddle(world_.outlets);
-    create(tool.tag, "T" + std::to_string(tool.saveHit));
+    create(tool.tag, "T" + std::to_string(placeOf(tool.chosen)));
     const Log log = world_.takeLog();
     EXPECT_EQ(log.back(), "reload style." + tool.table);
     EXPECT_EQ(std::count(log.begin(), log.end(), "wrote"), 0);
@@ -186,22 +191,22 @@ TEST_F(NewDictionaryTest, inTheToolsWithListsOfTheirOwnTheStyleIsNotTouched) {
 }
 
 TEST_F(NewDictionaryTest, inThoseToolsAFullListIsNotTold) {
-  for (const int saveHit : {5, 6}) {
-    world_.flags.saveHit = saveHit;
-    const std::string prefix = std::to_string(saveHit) + "-";
+  for (const Tool tool : {Tool::notepad, Tool::officeAddins}) {
+    world_.flags.saveHit = tool;
+    const std::string prefix = std::to_string(placeOf(tool)) + "-";
     for (const char* name : {"1", "2", "3", "4", "5", "6"}) {
       create(10, prefix + name);
       create(13, prefix + name);
     }
     EXPECT_TRUE(isThere(world_.userFolder() + "/" + prefix + "6.eud2"));
     EXPECT_TRUE(isThere(world_.memoryFolder() + "/" + prefix + "6.jtm"));
-    EXPECT_TRUE(world_.panels.alerts.empty()) << saveHit;
+    EXPECT_TRUE(world_.panels.alerts.empty()) << prefix;
   }
 }
 
 TEST_F(NewDictionaryTest, aFileThatCameBeforeIsLeftAloneInSilence) {
   world_.folder.write("Library/Application Support/Wordhaven/UserDic/N.eud2", "theirs");
-  world_.request = {1, true, ""};
+  world_.request = {};
   world_.notifications.post(newDicNotification, "N.eud2");
   EXPECT_EQ(world_.takeLog(), (Log{"posted N.eud2", "reload style.ejUDTableView", "reload style.ejUDTable"}));
   EXPECT_EQ(world_.folder.read("Library/Application Support/Wordhaven/UserDic/N.eud2"), "theirs");
@@ -217,7 +222,7 @@ TEST_F(NewDictionaryTest, aMissingFolderMakesNothingInSilence) {
 }
 
 TEST_F(NewDictionaryTest, aNotificationForAnotherKindIsIgnored) {
-  world_.request.dTypeNum = 3;
+  world_.request.kind = std::nullopt;
   world_.notifications.post(newDicNotification, "Q.eud2");
   EXPECT_EQ(world_.takeLog(), Log{"posted Q.eud2"});
 }

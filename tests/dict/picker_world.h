@@ -11,6 +11,7 @@
 #include "dict/user_list_rows.h"
 #include "dict/user_lists.h"
 #include "platform/services/notification_center.h"
+#include "platform/services/notification_names.h"
 #include "style/pane_alerts.h"
 #include "style/process_flags.h"
 #include "tests/dict/style_pane_world.h"

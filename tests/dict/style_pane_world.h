@@ -58,7 +58,7 @@ struct StylePaneWorld : DictionaryWorld {
     std::vector<PopUpButton::Item> items(styles.size());
     menu.stylePopup.setItems(items);
   }
-  // One style with both directions, the given dictionaries on disk and loaded.
+  // One style with both bothDirections, the given dictionaries on disk and loaded.
   void openWithLists(const Names& english, const Names& japanese) {
     for (const std::string& name : english) folder.write("dictionaries/" + name, "");
     for (const std::string& name : japanese) folder.write("japanese/" + name, "");
@@ -75,14 +75,13 @@ struct StylePaneWorld : DictionaryWorld {
     showLists(english, japanese);
   }
   void showLists(const Names& english, const Names& japanese) {
-    editing.ejTDController.initializeDictController(0, dictionaryFolder(), true);
-    editing.jeTDController.initializeDictController(0, folder / "japanese", false);
+    editing.ejTDController.initializeDictController(technical, dictionaryFolder(), EJ);
+    editing.jeTDController.initializeDictController(technical, folder / "japanese", JE);
     editing.ejTDController.updateDictionary(english);
     editing.jeTDController.updateDictionary(japanese);
     outlets.ejTDTable.reloadData();
     outlets.jeTDTable.reloadData();
-    editing.updateButton(0);
-    editing.updateButton(1);
+    for (const Direction direction : bothDirections) editing.updateButton(direction);
     writes = 0;
   }
 

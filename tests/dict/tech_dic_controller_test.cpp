@@ -11,39 +11,39 @@ namespace {
 
 TEST(TechDicController, beginsWithThreeEmptyListsForEnglish) {
   PickerWorld world;
-  EXPECT_TRUE(world.controller.isEJ());
-  EXPECT_EQ(world.controller.request().dTypeNum, 1);
+  EXPECT_EQ(world.controller.direction(), EJ);
+  EXPECT_EQ(world.controller.request().kind, user);
   EXPECT_EQ(world.controller.request().fDictName, "");
-  for (const int tag : {0, 1, 2}) EXPECT_EQ(world.controller.getCheckedArray(tag), Names{});
+  for (const DictionaryKind kind : {technical, user, memory})
+    EXPECT_EQ(world.controller.getCheckedArray(kind), Names{});
   EXPECT_EQ(world.controller.numberOfRowsInTableView(world.picker.techDicTable), 0);
 }
 
 TEST(TechDicController, listsTheGivenNamesUntickedAndReadsTheTableOnce) {
   PickerWorld world;
-  world.controller.setNotSelectedArray(Names{"x.TRet", "y.TRet"}, 0);
+  world.controller.setNotSelectedArray(Names{"x.TRet", "y.TRet"}, technical);
   EXPECT_EQ(world.takeLog(), Log{"reload picker.techDicTable"});
   EXPECT_EQ(world.pickerNames(), (Names{"x.TRet", "y.TRet"}));
-  EXPECT_EQ(world.controller.getCheckedArray(0), Names{});
+  EXPECT_EQ(world.controller.getCheckedArray(technical), Names{});
 }
 
 TEST(TechDicController, noNamesKeepTheListAndAnEmptyListEmptiesIt) {
   PickerWorld world;
-  world.controller.setNotSelectedArray(Names{"x.TRet"}, 0);
+  world.controller.setNotSelectedArray(Names{"x.TRet"}, technical);
   world.tick({0});
   world.takeLog();
-  world.controller.setNotSelectedArray(std::nullopt, 0);
+  world.controller.setNotSelectedArray(std::nullopt, technical);
   EXPECT_EQ(world.takeLog(), Log{"reload picker.techDicTable"});
-  EXPECT_EQ(world.controller.getCheckedArray(0), Names{"x.TRet"});
-  world.controller.setNotSelectedArray(Names{}, 0);
+  EXPECT_EQ(world.controller.getCheckedArray(technical), Names{"x.TRet"});
+  world.controller.setNotSelectedArray(Names{}, technical);
   EXPECT_EQ(world.picker.techDicTable.reportedRows(), 0);
-  EXPECT_EQ(world.controller.getCheckedArray(0), Names{});
+  EXPECT_EQ(world.controller.getCheckedArray(technical), Names{});
 }
 
 TEST(TechDicController, eachKindHasItsOwnListAndTable) {
   PickerWorld world;
-  world.controller.setNotSelectedArray(Names{"m"}, 1);
-  world.controller.setNotSelectedArray(Names{"n"}, 2);
-  world.controller.setNotSelectedArray(Names{"o"}, 3);
+  world.controller.setNotSelectedArray(Names{"m"}, user);
+  world.controller.setNotSelectedArray(Names{"n"}, memory);
   EXPECT_EQ(world.takeLog(), (Log{"reload picker.UserDicTable", "reload picker.UserTMATable"}));
   const auto nameIn = [&](TableView& table) { return world.controller.objectValueForTableColumn(table, "dicName", 0); };
   EXPECT_EQ(nameIn(world.picker.UserDicTable).text, "m");
@@ -53,11 +53,12 @@ TEST(TechDicController, eachKindHasItsOwnListAndTable) {
 
 TEST(TechDicController, answersTheCellsOfEachListByItsTableAndNothingElsewhere) {
   PickerWorld world;
-  for (const auto& [tag, name] : {std::pair{0, "t.TRet"}, std::pair{1, "u.eud2"}, std::pair{2, "m.etm"}}) {
-    world.controller.setNotSelectedArray(Names{name}, tag);
+  for (const auto& [kind, name] :
+       {std::pair{technical, "t.TRet"}, std::pair{user, "u.eud2"}, std::pair{memory, "m.etm"}}) {
+    world.controller.setNotSelectedArray(Names{name}, kind);
   }
   world.tick({0});
-  world.controller.setCreatedDictionary("v.eud2", 1);
+  world.controller.setCreatedDictionary("v.eud2", user);
   struct Cell {
     TableView& table;
     int row;
@@ -82,7 +83,8 @@ TEST(TechDicController, answersTheCellsOfEachListByItsTableAndNothingElsewhere) 
 
 TEST(TechDicController, onlyTheTechnicalTableCountsRows) {
   PickerWorld world;
-  for (const int tag : {0, 1, 2}) world.controller.setNotSelectedArray(Names{"a", "b"}, tag);
+  for (const DictionaryKind kind : {technical, user, memory})
+    world.controller.setNotSelectedArray(Names{"a", "b"}, kind);
   EXPECT_EQ(world.picker.techDicTable.reportedRows(), 2);
   EXPECT_EQ(world.picker.UserDicTable.reportedRows(), -1);
   EXPECT_EQ(world.picker.UserTMATable.reportedRows(), -1);
@@ -90,7 +92,8 @@ TEST(TechDicController, onlyTheTechnicalTableCountsRows) {
 
 TEST(TechDicController, showsMedicalFilesByTheirNamesAndOthersAsTheyStand) {
   PickerWorld world;
-  world.controller.setNotSelectedArray(Names{"cwl.TRet", "cwla.TRet", "cwl", "cwla", "CWL.TRet", "a.b.TRet"}, 0);
+  world.controller.setNotSelectedArray(Names{"cwl.TRet", "cwla.TRet", "cwl", "cwla", "CWL.TRet", "a.b.TRet"},
+                                       technical);
   EXPECT_EQ(world.pickerNames(), (Names{"«NameECorwell6»", "«NameECorwellAbbrev»", "«NameJCorwell6»",
                                         "«NameJCorwellAbbrev»", "CWL.TRet", "a.b.TRet"}));
   TableView& table = world.picker.techDicTable;
@@ -102,7 +105,7 @@ TEST(TechDicController, showsMedicalFilesByTheirNamesAndOthersAsTheyStand) {
 
 TEST(TechDicController, ticksOnlyInTheTechnicalTablesCheckBoxes) {
   PickerWorld world;
-  for (const int tag : {0, 1}) world.controller.setNotSelectedArray(Names{"a", "b"}, tag);
+  for (const DictionaryKind kind : {technical, user}) world.controller.setNotSelectedArray(Names{"a", "b"}, kind);
   world.takeLog();
   TableView& table = world.picker.techDicTable;
   world.controller.setObjectValue(table, true, "Value", 1);
@@ -111,44 +114,43 @@ TEST(TechDicController, ticksOnlyInTheTechnicalTablesCheckBoxes) {
   world.controller.setObjectValue(world.picker.UserDicTable, true, "Value", 0);
   world.controller.setObjectValue(table, true, "Value", 2);
   EXPECT_EQ(world.takeLog(), Log{});
-  EXPECT_EQ(world.controller.getCheckedArray(0), Names{"b"});
-  EXPECT_EQ(world.controller.getCheckedArray(1), Names{});
+  EXPECT_EQ(world.controller.getCheckedArray(technical), Names{"b"});
+  EXPECT_EQ(world.controller.getCheckedArray(user), Names{});
 }
 
 TEST(TechDicController, answersTickedFileNamesInListOrder) {
   PickerWorld world;
-  world.controller.setNotSelectedArray(Names{"a.TRet", "cwl.TRet", "b.TRet"}, 0);
+  world.controller.setNotSelectedArray(Names{"a.TRet", "cwl.TRet", "b.TRet"}, technical);
   world.tick({2, 1});
-  EXPECT_EQ(world.controller.getCheckedArray(0), (Names{"cwl.TRet", "b.TRet"}));
-  EXPECT_EQ(world.controller.getCheckedArray(1), Names{});
-  EXPECT_EQ(world.controller.getCheckedArray(5), Names{});
-  world.controller.getCheckedArray(0).clear();
-  EXPECT_EQ(world.controller.getCheckedArray(0).size(), 2U);
+  EXPECT_EQ(world.controller.getCheckedArray(technical), (Names{"cwl.TRet", "b.TRet"}));
+  EXPECT_EQ(world.controller.getCheckedArray(user), Names{});
+  world.controller.getCheckedArray(technical).clear();
+  EXPECT_EQ(world.controller.getCheckedArray(technical).size(), 2U);
 }
 
 struct Opening {
-  bool isEJ;
+  Direction direction;
   std::string title, heading;
 };
 
 TEST(TechDicController, runsModallyForADirectionAndKeepsItsLists) {
   PickerWorld world;
   for (const char* key : {"EJ-TDEdit", "JE-TDEdit", "EJName", "JEName"}) world.setText(key, "«" + std::string(key));
-  world.controller.setNotSelectedArray(Names{"a", "b"}, 0);
+  world.controller.setNotSelectedArray(Names{"a", "b"}, technical);
   world.tick({1});
-  for (const Opening& opening : {Opening{true, "«EJ-TDEdit", "«EJName"}, Opening{false, "«JE-TDEdit", "«JEName"}}) {
+  for (const Opening& opening : {Opening{EJ, "«EJ-TDEdit", "«EJName"}, Opening{JE, "«JE-TDEdit", "«JEName"}}) {
     world.takeLog();
     world.host.whileModal = [&](Window& window) {
       EXPECT_EQ(window.title(), opening.title);
       EXPECT_EQ(world.picker.TDTitleField.stringValue(), opening.heading);
-      EXPECT_EQ(world.controller.isEJ(), opening.isEJ);
-      opening.isEJ ? world.controller.OKButtonAction() : world.controller.CancelButtonAction();
+      EXPECT_EQ(world.controller.direction(), opening.direction);
+      opening.direction == EJ ? world.controller.OKButtonAction() : world.controller.CancelButtonAction();
     };
-    opening.isEJ ? world.controller.openEJList() : world.controller.openJEList();
+    opening.direction == EJ ? world.controller.openEJList() : world.controller.openJEList();
     EXPECT_EQ(world.takeLog(),
               (Log{"scroll picker.techDicTable 0", "modal picker.myWindow", "hidden picker.myWindow", "modal ended"}));
     EXPECT_FALSE(world.picker.myWindow.isShown());
-    EXPECT_EQ(world.controller.getCheckedArray(0), Names{"b"});
+    EXPECT_EQ(world.controller.getCheckedArray(technical), Names{"b"});
   }
   EXPECT_EQ(world.host.stops, 2);
 }
@@ -168,7 +170,7 @@ TEST(TechDicController, opensTheFolderOfAKindInTheDirectionItWasOpenedFor) {
 
 TEST(TechDicController, theFilterHidesRowsAndChangesNoTick) {
   PickerWorld world;
-  world.controller.setNotSelectedArray(Names{"Law.TRet", "cwl", "Medical LAW.TRet", "Physics.TRet"}, 0);
+  world.controller.setNotSelectedArray(Names{"Law.TRet", "cwl", "Medical LAW.TRet", "Physics.TRet"}, technical);
   world.tick({0, 3});
   TableView& table = world.picker.techDicTable;
   const auto shown = [&] {
@@ -182,16 +184,16 @@ TEST(TechDicController, theFilterHidesRowsAndChangesNoTick) {
   EXPECT_EQ(shown(), (std::vector<int>{0, 2}));
   world.picker.filterField.userType("corwell");
   EXPECT_EQ(shown(), std::vector<int>{1}) << "names are looked into as they are shown";
-  EXPECT_EQ(world.controller.getCheckedArray(0), (Names{"Law.TRet", "Physics.TRet"}));
+  EXPECT_EQ(world.controller.getCheckedArray(technical), (Names{"Law.TRet", "Physics.TRet"}));
   table.userTick(0, false);
-  EXPECT_EQ(world.controller.getCheckedArray(0).size(), 2U) << "a hidden row is out of reach";
+  EXPECT_EQ(world.controller.getCheckedArray(technical).size(), 2U) << "a hidden row is out of reach";
   world.picker.filterField.userType("");
   EXPECT_EQ(shown().size(), 4U);
 }
 
 TEST(TechDicController, opensWithoutAFilter) {
   PickerWorld world;
-  world.controller.setNotSelectedArray(Names{"a", "b"}, 0);
+  world.controller.setNotSelectedArray(Names{"a", "b"}, technical);
   world.picker.filterField.userType("a");
   world.controller.openEJList();
   EXPECT_EQ(world.picker.filterField.stringValue(), "");
@@ -200,13 +202,13 @@ TEST(TechDicController, opensWithoutAFilter) {
 
 TEST(TechDicController, selectsAllThatIsShownAndUnselectsAll) {
   PickerWorld world;
-  world.controller.setNotSelectedArray(Names{"aa", "b", "ab", "c"}, 0);
+  world.controller.setNotSelectedArray(Names{"aa", "b", "ab", "c"}, technical);
   world.tick({3});
   world.picker.filterField.userType("A");
   world.controller.selectShown();
-  EXPECT_EQ(world.controller.getCheckedArray(0), (Names{"aa", "ab", "c"}));
+  EXPECT_EQ(world.controller.getCheckedArray(technical), (Names{"aa", "ab", "c"}));
   world.controller.selectNone();
-  EXPECT_EQ(world.controller.getCheckedArray(0), Names{});
+  EXPECT_EQ(world.controller.getCheckedArray(technical), Names{});
 }
 
 TEST(TechDicController, tellsHowManyStillFit) {
@@ -214,7 +216,7 @@ TEST(TechDicController, tellsHowManyStillFit) {
   world.setText("PickerRoom", "room ");
   world.setText("PickerRoomOver", "over ");
   const auto text = [&] { return world.picker.roomText.stringValue(); };
-  world.controller.setNotSelectedArray(Names{"a", "b", "c"}, 0);
+  world.controller.setNotSelectedArray(Names{"a", "b", "c"}, technical);
   world.controller.setRoom(2);
   EXPECT_EQ(text(), "room 2");
   world.tick({0, 1});
@@ -241,7 +243,7 @@ TEST(TechDicController, showsTheTextsOfTheKindOnItsSheet) {
       world.controller.newUD(tag);
       EXPECT_EQ(world.windows.sheetOver(world.picker.myWindow), &world.picker.newDicWindow);
       EXPECT_EQ(world.picker.newDicNameField.stringValue(), "");
-      EXPECT_FALSE(world.controller.isEJ());
+      EXPECT_EQ(world.controller.direction(), JE);
       EXPECT_FALSE(world.flags.gMenuControllFlag);
       world.controller.newDicCancelButtonAction();
     };
@@ -252,7 +254,7 @@ TEST(TechDicController, showsTheTextsOfTheKindOnItsSheet) {
     EXPECT_EQ(texts(), memory);
     open(5);
     EXPECT_EQ(texts(), memory) << "another kind leaves the texts";
-    EXPECT_EQ(world.controller.request().dTypeNum, 4);
+    EXPECT_EQ(world.controller.request().kind, std::nullopt);
   };
   world.controller.openJEList();
 }
@@ -281,11 +283,11 @@ TEST(TechDicController, cancellingItsSheetChecksAndPostsNothing) {
 
 TEST(TechDicController, aCreatedDictionaryReplacesTheFirstOfItsNameAndIsSortedByLetterCase) {
   PickerWorld world;
-  world.controller.setNotSelectedArray(Names{"b", "A"}, 1);
+  world.controller.setNotSelectedArray(Names{"b", "A"}, user);
   world.takeLog();
-  world.controller.setCreatedDictionary("B", 1);
+  world.controller.setCreatedDictionary("B", user);
   EXPECT_EQ(world.takeLog(), Log{"reload picker.UserDicTable"});
-  EXPECT_EQ(world.controller.getCheckedArray(1), Names{"B"});
+  EXPECT_EQ(world.controller.getCheckedArray(user), Names{"B"});
   const auto names = [&](TableView& table, int count) {
     Names all;
     for (int row = 0; row < count; ++row) {
@@ -295,19 +297,20 @@ TEST(TechDicController, aCreatedDictionaryReplacesTheFirstOfItsNameAndIsSortedBy
   };
   EXPECT_EQ(names(world.picker.UserDicTable, 3), (Names{"A", "B", ""}));
 
-  world.controller.setNotSelectedArray(Names{"b", "B"}, 2);
-  world.controller.setCreatedDictionary("b", 2);
+  world.controller.setNotSelectedArray(Names{"b", "B"}, memory);
+  world.controller.setCreatedDictionary("b", memory);
   EXPECT_EQ(names(world.picker.UserTMATable, 2), (Names{"B", "b"}));
-  EXPECT_EQ(world.controller.getCheckedArray(2), Names{"b"}) << "the second of the name stays unticked";
-  world.controller.setCreatedDictionary("a", 2);
+  EXPECT_EQ(world.controller.getCheckedArray(memory), Names{"b"}) << "the second of the name stays unticked";
+  world.controller.setCreatedDictionary("a", memory);
   EXPECT_EQ(names(world.picker.UserTMATable, 3), (Names{"B", "a", "b"}));
 }
 
 TEST(TechDicController, aCreatedDictionaryOfAnotherKindIsLost) {
   PickerWorld world;
-  for (const int kind : {0, 3, -1}) world.controller.setCreatedDictionary("m", kind);
+  world.controller.setCreatedDictionary("m", technical);
   EXPECT_EQ(world.takeLog(), Log{});
-  for (const int tag : {0, 1, 2}) EXPECT_EQ(world.controller.getCheckedArray(tag), Names{});
+  for (const DictionaryKind kind : {technical, user, memory})
+    EXPECT_EQ(world.controller.getCheckedArray(kind), Names{});
 }
 
 TEST(TechDicController, aRunningDictionaryToolIsToldAfterTheListHasChanged) {
@@ -315,14 +318,14 @@ TEST(TechDicController, aRunningDictionaryToolIsToldAfterTheListHasChanged) {
   world.workspace.running = {world.paths.tarvoPathGetAppleyPath(4)};
   ASSERT_FALSE(world.workspace.running.front().empty());
   EXPECT_TRUE(world.controller.isStartedApplication(4));
-  world.controller.setCreatedDictionary("m", 1);
+  world.controller.setCreatedDictionary("m", user);
   EXPECT_EQ(world.takeLog(),
             (Log{"reload picker.UserDicTable", "beep", "alert isLaunchingUDAlertHeader / isLaunchingUDAlertContents"}));
-  EXPECT_EQ(world.controller.getCheckedArray(1), Names{"m"});
-  world.controller.setCreatedDictionary("m", 2);
+  EXPECT_EQ(world.controller.getCheckedArray(user), Names{"m"});
+  world.controller.setCreatedDictionary("m", memory);
   EXPECT_EQ(world.takeLog(), Log{"reload picker.UserTMATable"});
   world.workspace.running.clear();
-  world.controller.setCreatedDictionary("n", 1);
+  world.controller.setCreatedDictionary("n", user);
   EXPECT_EQ(world.takeLog(), Log{"reload picker.UserDicTable"});
 }
 

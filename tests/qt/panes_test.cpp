@@ -16,7 +16,7 @@
 #include <set>
 #include <tuple>
 
-#include "app/window_geometry.h"
+#include "app/panes.h"
 #include "qt/look/fonts.h"
 #include "tests/qt/test_window.h"
 
@@ -219,7 +219,8 @@ TEST_P(Panes, onlyTheDetailedOptionsScroll) {
 
 TEST_P(Panes, aPaneIsLargerThanItsSizeForLargerTextsOnly) {
   onEachPage([this](const Page& page) {
-    const Size size = shell->windows().paneSize(page.pane), least = paneSizes[static_cast<std::size_t>(page.pane)];
+    const PaneRow& pane = paneRows.at(static_cast<std::size_t>(page.pane));
+    const Size size = shell->windows().paneSize(pane.pane), least = pane.size;
     EXPECT_GE(size.width, least.width);
     EXPECT_GE(size.height, least.height);
     if (GetParam().percent == 100) {

@@ -76,7 +76,7 @@ TEST_F(MainWindowTest, thePaneHasItsSizeAtTheEndOfAnAnimation) {
   widget<QAbstractButton>("manager.OA").click();
   settle(400);
   EXPECT_TRUE(pane().isVisible());
-  EXPECT_EQ(pane().height(), qRound(shell->windows().paneSize(1).height));
+  EXPECT_EQ(pane().height(), qRound(shell->windows().paneSize(Pane::office).height));
   EXPECT_EQ(inStep(), "");
 }
 

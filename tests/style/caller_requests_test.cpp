@@ -21,8 +21,9 @@ std::string bigEndian(std::string_view ascii) {
   return bytes;
 }
 
-const std::optional<CallerRequest> ignored, officePane = CallerRequest{std::nullopt}, thisManager = CallerRequest{0};
-std::optional<CallerRequest> tool(int index) { return CallerRequest{index}; }
+const std::optional<CallerRequest> ignored, officePane = CallerRequest{std::nullopt},
+                                            thisManager = CallerRequest{Tool::manager};
+std::optional<CallerRequest> tool(int place) { return CallerRequest{toolForPlace(place)}; }
 
 struct Known {
   const char* code;

@@ -124,7 +124,7 @@ TEST(OptionTable, knowsTheOptionOfEachPopUpTag) {
                                                         {7, "JE", "TOpt5"}}) {
     const IndexOption* option = indexOptionForTag(expected.tag);
     ASSERT_NE(option, nullptr) << expected.tag;
-    EXPECT_EQ(option->direction, expected.direction);
+    EXPECT_EQ(halfKey(option->direction), expected.direction);
     EXPECT_EQ(option->key, expected.key);
   }
   for (const int tag : {-1, 6, 8, 100}) EXPECT_EQ(indexOptionForTag(tag), nullptr) << tag;
@@ -155,8 +155,15 @@ TEST(OptionTable, titlesItemsByTheTranslation) {
   EXPECT_EQ(items[0].title, "TOpt3.0");
 }
 
+TEST(OptionTable, keepsTheOptionThatNoControlEditsBehindTheOthers) {
+  ASSERT_EQ(storedOptions().size(), indexOptions().size() + 1);
+  EXPECT_EQ(storedOptions().back().key, "TOpt4");
+  EXPECT_EQ(storedOptions().back().outlet, "");
+}
+
 TEST(OptionTable, offersAsManyItemsAsAnImportAccepts) {
   const std::vector<int> counts{3, 3, 3, 5, 5, 4, 2};
+  ASSERT_EQ(indexOptions().size(), counts.size());
   for (std::size_t i = 0; i < counts.size(); ++i) EXPECT_EQ(indexOptions()[i].itemCount, counts[i]) << i;
 }
 

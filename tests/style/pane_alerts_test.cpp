@@ -33,18 +33,13 @@ TEST_F(PaneAlertsTest, aGivenTextIsShownAsItIsWithoutABeep) {
 }
 
 TEST_F(PaneAlertsTest, aFullListIsToldByItsKindAfterABeep) {
-  alerts_.openMaxOverAlert(0);
-  alerts_.openMaxOverAlert(1);
-  alerts_.openMaxOverAlert(2);
+  alerts_.openMaxOverAlert(DictionaryKind::technical);
+  alerts_.openMaxOverAlert(DictionaryKind::user);
+  alerts_.openMaxOverAlert(DictionaryKind::memory);
   EXPECT_EQ(log_, (Log{"beep", "alert «MaxOverTDAlertHeader» / «MaxOverTDAlertContents»", "beep",
                        "alert «MaxOverUDAlertHeader» / «MaxOverUDAlertContents»", "beep",
                        "alert «MaxOverUTMAAlertHeader» / MaxOverUTMAAlertContents"}));
   for (const Alert& alert : panels_.alerts) EXPECT_EQ(alert.buttons, std::vector<std::string>{"«AlertClose»"});
-}
-
-TEST_F(PaneAlertsTest, otherKindsOfListsTellNothing) {
-  for (const int kind : {3, -1, 100}) alerts_.openMaxOverAlert(kind);
-  EXPECT_EQ(log_, Log{});
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "app/window_geometry.h"
+#include "app/panes.h"
 #include "platform/controls/windows.h"
 #include "platform/services/engine.h"
 #include "platform/services/panels.h"
@@ -88,7 +88,7 @@ class FakeHost : public WindowHost {
     const float content = window.frame().height - titleBar;
     return {true, toolbarHidden, content, content + titleBar, content - (toolbarHidden ? 0.0F : toolbar)};
   }
-  Size paneSize(int pane) override { return paneSizes[static_cast<std::size_t>(pane)]; }
+  Size paneSize(Pane pane) override { return rowOf(pane).size; }
   Rect mainScreen() override { return screen; }
 
   static constexpr float titleBar = 22, toolbar = 56;
