@@ -35,6 +35,12 @@ TEST(WindowGeometry, roundsToSinglePrecisionAfterEachStep) {
   EXPECT_EQ(paneFrame(frame, {700, 400.5F}, 22.25F, 56.125F).y, expected);
 }
 
+// Numbers of which each other order of the sums makes another frame.
+TEST(WindowGeometry, addsInOneOrder) {
+  EXPECT_EQ(paneFrame({0, 16777216.0F, 600, 3}, {600, 400.5F}, 0.5F, 0.5F).y, 16776819.0F);
+  EXPECT_EQ(paneFrame({}, {600, 16777216.0F}, 1, 2).height, 16777218.0F);
+}
+
 TEST(WindowGeometry, returnsToTheSameFrameAfterTwoSwitches) {
   std::mt19937 random(5);
   const auto number = [&] { return static_cast<float>(random() % 2000) - 500; };
