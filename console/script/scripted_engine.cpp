@@ -24,7 +24,9 @@ bool ScriptedEngine::checkConnectionWithCurl() {
 }
 
 void ScriptedEngine::sendRegistStyle(const StyleSet& styles, std::string& updateString) {
-  hold(styles.records, "U" + std::to_string(++registrations_));
+  std::string stamp(1, 'U');
+  stamp += std::to_string(++registrations_);
+  hold(styles.records, std::move(stamp));
   updateString = stamp_;
 }
 

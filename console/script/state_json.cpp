@@ -20,8 +20,11 @@ Json list(const auto& values) { return Json::List(values.begin(), values.end());
 void addPopup(Json::Object& state, const PopUpButton& popup) {
   Json::List items, tags;
   for (const PopUpButton::Item& item : popup.items()) {
-    items.push_back(item.separator ? Json() : Json(item.title));
-    tags.push_back(item.tag);
+    if (item.separator)
+      items.emplace_back();
+    else
+      items.emplace_back(item.title);
+    tags.emplace_back(item.tag);
   }
   state.emplace("items", std::move(items));
   state.emplace("tags", std::move(tags));

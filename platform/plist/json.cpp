@@ -55,7 +55,10 @@ struct Writer {
   void write(const Json& value) { std::visit(*this, value.value()); }
   void operator()(std::nullptr_t) { out += "null"; }
   void operator()(bool value) { out += value ? "true" : "false"; }
-  void operator()(const Integer& value) { out += (value.negative ? "-" : "") + std::to_string(value.magnitude); }
+  void operator()(const Integer& value) {
+    if (value.negative) out += '-';
+    out += std::to_string(value.magnitude);
+  }
   void operator()(const Real& value) { out += realText(value); }
   void operator()(const std::string& value) { appendText(out, value); }
   void operator()(const Json::List& list) {

@@ -48,7 +48,8 @@ bool keepUnreadableFile(const std::string& path) {
   if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
   std::string kept;
   for (int number = 1; number <= maximumKept; ++number) {
-    kept = path + ".unreadable" + (number == 1 ? "" : "." + std::to_string(number));
+    kept = path + ".unreadable";
+    if (number > 1) kept.append(1, '.').append(std::to_string(number));
     if (isSameFile(kept, status)) return true;
     const Outcome outcome = keepAs(path, kept);
     if (outcome != Outcome::taken) return outcome == Outcome::kept;
