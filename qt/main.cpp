@@ -64,7 +64,7 @@ int runManager(const CommandLine& line, int& argc, char** argv) {
   QApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
   QGuiApplication::setDesktopFileName(QStringLiteral("com.wordhaven.TarvoManager"));
   QGuiApplication::setApplicationDisplayName(toQString(product.texts().localized("ApplicationName")));
-  applyLook(application, schemeFromEnvironment(), product.language());
+  applyLook(schemeFromEnvironment(), product.language());
   Shell shell(product, application, [&product] { return runningApplications(product.locations()); });
   if (line.open) shell.program().requests().eventText(*line.open);
   shell.openFiles(line.files);

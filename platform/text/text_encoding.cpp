@@ -26,7 +26,7 @@ class Converter {
   ~Converter() {
     if (isOpen()) ::iconv_close(handle_);
   }
-  bool isOpen() const { return handle_ != iconv_t(-1); }
+  bool isOpen() const { return handle_ != iconv_t(-1); }  // NOLINT(performance-no-int-to-ptr): so the C library says it
 
   // Converts all of the input; nothing when any of it has no counterpart.
   std::optional<std::string> convert(std::string_view input) {

@@ -99,7 +99,7 @@ double leadingNumber(std::string_view text) {
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (error == std::errc::result_out_of_range) {
-    const std::string_view number(text.data(), static_cast<std::size_t>(end - text.data()));
+    const std::string_view number = text.substr(0, static_cast<std::size_t>(end - text.data()));
     const bool tiny = number[0] == '0' || number[0] == '.' || number.find("e-") != std::string_view::npos ||
                       number.find("E-") != std::string_view::npos;
     value = tiny ? 0 : std::numeric_limits<double>::max();

@@ -181,7 +181,7 @@ std::string outOfStep(const Registry& registry) {
   for (const auto& [name, entry] : registry.entries()) {
     std::string found = commonDifference(entry);
     if (found.empty()) found = ofItsKind(entry);
-    if (!found.empty()) return name + ": " + found;
+    if (!found.empty()) return found.insert(0, name + ": ");
   }
   return {};
 }

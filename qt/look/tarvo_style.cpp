@@ -110,10 +110,10 @@ QIcon TarvoStyle::standardIcon(StandardPixmap picture, const QStyleOption* optio
 
 QPalette TarvoStyle::standardPalette() const { return makePalette(scheme_); }
 
-void applyLook(QApplication& application, Scheme scheme, const std::string& language) {
-  application.setStyle(new TarvoStyle(scheme));
-  application.setPalette(makePalette(scheme));
-  application.setFont(applicationFont(language));
+void applyLook(Scheme scheme, const std::string& language) {
+  QApplication::setStyle(new TarvoStyle(scheme));
+  QApplication::setPalette(makePalette(scheme));
+  QApplication::setFont(applicationFont(language));
 }
 
 }  // namespace tarvo

@@ -7,8 +7,6 @@
 
 #include "qt/look/palette.h"
 
-class QApplication;
-
 // The look of the window.
 // Duty: metrics and hints, and the dispatch of each element to its drawing (draw.h); everything else is the Fusion
 // style's. Not: colours (palette.h), fonts (fonts.h).
@@ -46,8 +44,8 @@ class TarvoStyle : public QProxyStyle {
   Scheme scheme_;
 };
 
-// Gives the application style, palette and font; to be called once, before the first widget. The style belongs to the
-// application.
-void applyLook(QApplication& application, Scheme scheme, const std::string& language);
+// Gives the application style, palette and font; to be called once, when the application object exists and before the
+// first widget. The style belongs to the application.
+void applyLook(Scheme scheme, const std::string& language);
 
 }  // namespace tarvo

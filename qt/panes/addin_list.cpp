@@ -21,6 +21,7 @@ constexpr int infoLines = 3;    // a path, a gap, a state
 
 QTableView* buildTable(const AddinList& list, Binder& binder, QWidget* pane) {
   std::vector<QString> headers;
+  headers.reserve(list.headers.size());
   for (const std::string_view key : list.headers) headers.push_back(binder.localized(key));
   QTableView* table = binder.table(list.table, pane, headers);
   dynamic_cast<TableWidget&>(*table).setEmptyText(binder.localized(list.whenEmpty));

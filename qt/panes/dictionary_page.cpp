@@ -101,7 +101,7 @@ QWidget* buildDictionaryPage(Interface& interface, Binder& binder, Direction dir
   TabView& tab = direction == Direction::englishToJapanese ? lists.ejListTab : lists.jeListTab;
   std::vector<PageBuilder> builders;
   for (const List& list : listsOf(interface, direction)) {
-    builders.push_back([list, &binder](QWidget* place) { return buildList(list, binder, place); });
+    builders.emplace_back([list, &binder](QWidget* place) { return buildList(list, binder, place); });
   }
   QTabWidget* tabs = binder.tabs(tab, std::move(builders), parent);
   tabs->tabBar()->setAccessibleName(tabs->accessibleName());

@@ -62,7 +62,7 @@ QWidget* buildStylePane(Interface& interface, Binder& binder, QWidget* parent) {
   column->addLayout(buildHead(interface, binder, pane));
   std::vector<PageBuilder> pages;
   for (const Direction direction : {Direction::englishToJapanese, Direction::japaneseToEnglish}) {
-    pages.push_back([&interface, &binder, direction](QWidget* page) {
+    pages.emplace_back([&interface, &binder, direction](QWidget* page) {
       return buildDirectionPage(interface, binder, direction, page);
     });
   }

@@ -202,7 +202,7 @@ class HangBench {
 int main(int argc, char** argv) {
   if (argc != 3) return 2;
   QApplication application(argc, argv);
-  applyLook(application, Scheme::light, "en");
+  applyLook(Scheme::light, "en");
   try {
     HangBench bench(application, ProductOptions{.root = argv[1], .home = argv[2], .language = "en"});
     for (const Stage& stage : hangs) {

@@ -92,7 +92,7 @@ int main(int argc, char** argv) {
   }
   Product product(ProductOptions{.root = argv[1], .home = argv[2], .language = "en"});
   QApplication application(argc, argv);
-  applyLook(application, Scheme::light, product.language());
+  applyLook(Scheme::light, product.language());
   Shell shell(product, application, [] { return std::vector<std::string>(); });
   if (!shell.start()) return 1;
   QTimer::singleShot(0, &application, [&] {

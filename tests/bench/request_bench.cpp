@@ -100,7 +100,7 @@ int main(int argc, char** argv) {
   if (argc != 5) return 2;
   Product product(ProductOptions{.root = argv[1], .home = argv[2], .language = "en", .engine = "none"});
   QApplication application(argc, argv);
-  applyLook(application, Scheme::light, product.language());
+  applyLook(Scheme::light, product.language());
   Shell shell(product, application, [] { return std::vector<std::string>(); });
   shell.listen({name, argv[2], argv[1]});
   if (!shell.start()) return 1;

@@ -17,7 +17,7 @@ class QtEnvironment : public testing::Environment {
     qunsetenv("TARVO_FONT_SCALE");
     qunsetenv("QT_SCALE_FACTOR");
     application_ = std::make_unique<QApplication>(count_, arguments_);
-    tarvo::applyLook(*application_, tarvo::Scheme::light, "en");
+    tarvo::applyLook(tarvo::Scheme::light, "en");
   }
   void TearDown() override { application_.reset(); }
 
