@@ -14,7 +14,7 @@
 #include "qt/panes/mail_pane.h"
 #include "qt/panes/office_pane.h"
 #include "qt/panes/style_pane.h"
-#include "qt/services/first_paint_probe.h"
+#include "qt/services/first_paint.h"
 #include "qt/window/main_window.h"
 #include "qt/window/toolbar_customise.h"
 
@@ -61,7 +61,6 @@ bool Shell::start() {
     buildToolbarCustomise(program_.interface().manager.toolbar, binder_, windows_.mainWindow())->open();
   };
   if (!program_.load()) return false;
-  probeFirstPaint(*windows_.mainWindow(), [this] { program_.quit(); });
   afterFirstPaint(*windows_.mainWindow(), [this] { finishLater(); });
   program_.didShow = [this] { waitForFirstPaint(*windows_.mainWindow()); };
   program_.launch();

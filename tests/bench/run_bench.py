@@ -23,6 +23,7 @@ TOP = pathlib.Path(__file__).resolve().parent.parent.parent
 BUILD = TOP / "build/bench"
 WORK = BUILD / "work"
 MANAGER = BUILD / "qt/tarvo-manager"
+PROBED_MANAGER = BUILD / "tests/probe/probed_manager"  # the same, and it tells of its first paint
 FLOOR_WINDOW = BUILD / "tests/bench/floor_window"
 START_WRITES = BUILD / "tests/bench/start_writes"
 EDIT_BENCH = BUILD / "tests/bench/edit_bench"
@@ -125,7 +126,7 @@ def start_both(language, writes):
     """A start of the manager on a fresh product, then one of the floor with the same writes."""
     root, floor = fresh_root("root"), WORK / "floor"
     before = identities(root)
-    manager = Start([MANAGER, "--root", root, "--home", home_of(root), "--language", language])
+    manager = Start([PROBED_MANAGER, "--root", root, "--home", home_of(root), "--language", language])
     written = {path.relative_to(root) for path in written_until(root, before, manager.painted_at)}
     if written != {target for _, target in writes}:
         raise SystemExit("the start wrote other files than its floor does")

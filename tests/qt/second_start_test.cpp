@@ -172,7 +172,7 @@ class StartWithHangingBus : public testing::TestWithParam<bool> {
 TEST_P(StartWithHangingBus, comesUpAndQuits) {
   qputenv("TARVO_PAINT_PROBE_FD", "1");
   qputenv("TARVO_PAINT_PROBE_QUIT", "1");
-  const test::Ran run = test::runProgram(TARVO_MANAGER, product.options());
+  const test::Ran run = test::runProgram(TARVO_PROBED_MANAGER, product.options());
   qunsetenv("TARVO_PAINT_PROBE_FD");
   qunsetenv("TARVO_PAINT_PROBE_QUIT");
   EXPECT_EQ(run.out, "first-paint\n");

@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "qt/services/first_paint_probe.h"
-
-#include <unistd.h>
+#include "qt/services/first_paint.h"
 
 #include <QEvent>
 #include <QEventLoop>
@@ -10,7 +8,6 @@
 #include <QTimer>
 #include <QWidget>
 #include <chrono>
-#include <string_view>
 #include <utility>
 
 namespace tarvo {
@@ -52,17 +49,6 @@ void waitForFirstPaint(QWidget& window) {
   });
   QTimer::singleShot(longest, &loop, &QEventLoop::quit);
   loop.exec(QEventLoop::ExcludeUserInputEvents);
-}
-
-void probeFirstPaint(QWidget& window, std::function<void()> quit) {
-  bool isNumber = false;
-  const int descriptor = qEnvironmentVariableIntValue("TARVO_PAINT_PROBE_FD", &isNumber);
-  if (!isNumber) return;
-  afterFirstPaint(window, [descriptor, quit = std::move(quit)] {
-    constexpr std::string_view line = "first-paint\n";
-    const auto written = write(descriptor, line.data(), line.size());
-    if (written < 0 || qEnvironmentVariableIsSet("TARVO_PAINT_PROBE_QUIT")) quit();
-  });
 }
 
 }  // namespace tarvo

@@ -15,8 +15,4 @@ void afterFirstPaint(QWidget& window, std::function<void()> call);
 // the desktop does not show the window.
 void waitForFirstPaint(QWidget& window);
 
-// For measuring the start: writes "first-paint\n" to the descriptor whose number TARVO_PAINT_PROBE_FD holds after the
-// first paint, and calls quit then when TARVO_PAINT_PROBE_QUIT is set. Nothing without the first variable.
-void probeFirstPaint(QWidget& window, std::function<void()> quit);
-
 }  // namespace tarvo
