@@ -42,7 +42,7 @@ std::optional<int> enter(std::optional<InstanceLock>& lock, const CommandLine& l
   for (int i = 0; i < tries; ++i) {
     lock.emplace(lockFile);
     if (lock->state() == InstanceLock::State::held) return std::nullopt;
-    const Handover handover = line.tour ? Handover::noBus : handOver(identity, {line.open, line.files});
+    const Handover handover = line.tour ? Handover::noBus : handOverInTime(identity, {line.open, line.files});
     if (handover == Handover::done) return done;
     if (lock->state() == InstanceLock::State::unavailable) return std::nullopt;
     if (handover != Handover::nobody) break;

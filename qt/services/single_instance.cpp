@@ -2,14 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "qt/services/single_instance.h"
 
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QVariant>
-#include <chrono>
-#include <future>
-#include <thread>
 #include <utility>
 
 namespace tarvo {
@@ -82,7 +85,10 @@ bool sendAll(RunningManager& manager, const StartRequest& request) {
   return isTaken;
 }
 
-Handover ask(const BusIdentity& identity, const StartRequest& request) {
+}  // namespace
+
+Handover handOver(const BusIdentity& identity, const StartRequest& request) {
+  if (identity.name == "none" || !hasSessionBus()) return Handover::noBus;
   RunningManager manager(identity.name);
   if (!manager.isConnected()) return Handover::noBus;
   const std::optional<std::string> home = manager.property("Home"), root = manager.property("Root");
@@ -91,21 +97,30 @@ Handover ask(const BusIdentity& identity, const StartRequest& request) {
   return sendAll(manager, request) ? Handover::done : Handover::nobody;
 }
 
-}  // namespace
-
-// A bus that does not answer would be waited for without end while the connection is made, so a thread does it.
-Handover handOver(const BusIdentity& identity, const StartRequest& request) {
-  if (identity.name == "none" || !hasSessionBus()) return Handover::noBus;
-  int none = 0;
-  std::optional<QCoreApplication> application;
-  if (QCoreApplication::instance() == nullptr) application.emplace(none, nullptr);
-  std::promise<Handover> promise;
-  std::future<Handover> answer = promise.get_future();
-  std::thread([identity, request, promise = std::move(promise)]() mutable {
-    promise.set_value_at_thread_exit(ask(identity, request));
-  }).detach();
-  const bool isAnswered = answer.wait_for(std::chrono::milliseconds(patience)) == std::future_status::ready;
-  return isAnswered ? answer.get() : Handover::noBus;
+// The child takes everything that it uses along and is gone before this call returns.
+Handover handOverInTime(const BusIdentity& identity, const StartRequest& request) {
+  int ends[2];
+  if (pipe2(ends, O_CLOEXEC) != 0) return Handover::noBus;
+  const pid_t child = fork();
+  if (child == 0) {
+    int none = 0;
+    const QCoreApplication application(none, nullptr);
+    const Handover answer = handOver(identity, request);
+    _exit(write(ends[1], &answer, sizeof answer) == sizeof answer ? 0 : 1);
+  }
+  close(ends[1]);
+  Handover answer = Handover::noBus;  // also of a bus that does not answer
+  pollfd answered{ends[0], POLLIN, 0};
+  if (child > 0 && poll(&answered, 1, patience) > 0) {
+    Handover told{};
+    if (read(ends[0], &told, sizeof told) == sizeof told) answer = told;
+  }
+  close(ends[0]);
+  if (child > 0) {
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+  }
+  return answer;
 }
 
 }  // namespace tarvo

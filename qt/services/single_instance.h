@@ -23,8 +23,11 @@ enum class Handover {
   stranger,  // the one that has it works on another home or product
 };
 
-// Hands the request to the manager that runs with this identity. Takes some milliseconds and needs no application
-// object: nothing of the window is loaded yet.
+// Hands the request to the manager that runs with this identity. Takes some milliseconds; a bus that takes connections
+// and says nothing is waited for without end.
 Handover handOver(const BusIdentity& identity, const StartRequest& request);
+// The same by a child of this process, which is given two seconds. To be called before there is an application object
+// or a second thread.
+Handover handOverInTime(const BusIdentity& identity, const StartRequest& request);
 
 }  // namespace tarvo
