@@ -87,6 +87,9 @@ class RecordedEngine : public Engine {
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override;
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
+  std::string form() const override { return engine_.form(); }
+  bool didRegister() const override { return engine_.didRegister(); }
+  bool couldRead() const override { return engine_.couldRead(); }
 
  private:
   Engine& engine_;
