@@ -164,6 +164,21 @@ TEST_F(RequestsTest, oneThatAsksTheUserEndsBeforeTheNextBegins) {
   EXPECT_EQ(currentTool(), "QB");
 }
 
+TEST_F(RequestsTest, thatComeWhileOneAsksTheUserWaitForItsEnd) {
+  start();
+  requests().openStyleFile("/missing.whstyle");
+  std::string toolWhileUp;
+  test_.panels.whileUp = [&] {
+    test_.panels.whileUp = nullptr;
+    requests().eventText("tQB8");
+    test_.runLoop.run();
+    toolWhileUp = currentTool();
+  };
+  test_.runLoop.run();
+  EXPECT_EQ(toolWhileUp, "MG");
+  EXPECT_EQ(currentTool(), "QB");
+}
+
 TEST_F(RequestsTest, bringTheWindowForwardInTheirTurn) {
   start();
   std::vector<std::string> tools;
