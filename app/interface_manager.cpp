@@ -28,6 +28,7 @@ void Interface::managerRows(Rooms& rooms, const Texts& texts) {
   for (const PaneRow& pane : paneRows) pages.push_back({pane.identifier, texts.localized(pane.titleKey)});
   manager.myTabView.setPages(std::move(pages));
   row({.control = manager.myTabView, .window = window});
+  manager.myWindow.setPages(manager.myTabView);
   int tag = 0;
   for (View* pane : {&manager.styleManagerView, &manager.officeAddinView, &manager.mailTransView}) {
     row({.control = *pane, .tag = tag, .tab = &manager.myTabView, .page = tag});

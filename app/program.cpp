@@ -66,10 +66,10 @@ std::string toolListPath(const Locations& locations) {
 }
 
 Program::Program(const Services& given)
-    : panels_(given.panels),
-      services_(withPanels(given, panels_)),  // nobody past this line knows the panels that are not counted
+    : windows_(given.windowHost, given.runLoop),
+      panels_(given.panels, windows_.covers()),
+      services_(withPanels(given, panels_)),  // nobody past this line knows the panels of the shell
       defaults_(services_.files, userDefaultsPath(services_.locations)),
-      windows_(services_.windowHost),
       store_(services_.files, services_.engine, defaults_, services_.locations.inHome(std::string(gStylePath)),
              std::string(gAppSupportStylePlist)),
       options_(store_, interface_.options, services_.texts),
@@ -109,11 +109,7 @@ Program::Program(const Services& given)
       oldScripts_({services_.files, panels_, services_.texts}, addins_, mailScripts_, services_.locations.home()),
       cautions_(interface_.addins, windows_, services_.files, services_.workspace),
       connection_({interface_.connection, interface_.manager.myWindow, services_.engine, defaults_, notifications_,
-                   panels_, services_.runLoop, windows_, services_.texts,
-                   [this] {
-                     const Window& window = interface_.manager.myWindow;
-                     return windows_.sheetOver(window) != nullptr || panels_.isSheetOver(window);
-                   }}),
+                   panels_, services_.runLoop, windows_, services_.texts}),
       help_(services_.bundle, services_.paths, services_.texts, services_.workspace),
       rooms_{.store = store_,
              .options = options_,
@@ -188,6 +184,7 @@ bool Program::start() {
 void Program::quit() {
   if (std::exchange(terminated_, true)) return;
   requests_.close();
+  windows_.covers().close();
   if (managerAwake_) manager_.applicationWillTerminate();
   if (didTerminate) didTerminate();
 }

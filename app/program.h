@@ -7,7 +7,7 @@
 #include <string>
 
 #include "app/app_controller.h"
-#include "app/counted_panels.h"
+#include "app/covering_panels.h"
 #include "app/interface.h"
 #include "app/request_queue.h"
 #include "app/rooms.h"
@@ -51,11 +51,11 @@ class Program {
   const Services& services() const { return services_; }
 
  private:
-  CountedPanels panels_;
+  Windows windows_;
+  CoveringPanels panels_;
   Services services_;
   UserDefaults defaults_;
   NotificationCenter notifications_;
-  Windows windows_;
   Interface interface_;
   ProcessFlags flags_;
   StyleStore store_;

@@ -5,18 +5,18 @@
 #include <utility>
 
 #include "app/app_controller.h"
-#include "app/counted_panels.h"
 #include "app/interface.h"
 #include "app/t_manager_controller.h"
 #include "install/connection_check.h"
+#include "platform/controls/windows.h"
+#include "platform/services/panels.h"
 #include "platform/services/texts.h"
 #include "platform/text/text_rules.h"
 
 namespace tarvo {
 
 void StyleFileOpening::openStyleFile(const std::string& path) {
-  const bool isBusy = with_.windows.modalWindow() != nullptr || with_.windows.hasSheet() || with_.panels.isAnyUp();
-  if (isBusy) {
+  if (with_.windows.covers().isAnythingUp()) {
     if (with_.connection.isAsking()) kept_ = path;
     return with_.panels.beep();
   }

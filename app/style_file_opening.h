@@ -9,8 +9,8 @@ namespace tarvo {
 
 class AppController;
 class ConnectionCheck;
-class CountedPanels;
 class Interface;
+class Panels;
 class TManagerController;
 class Texts;
 class Windows;
@@ -24,7 +24,7 @@ class StyleFileOpening {
     Interface& interface;
     AppController& styles;
     TManagerController& manager;
-    CountedPanels& panels;
+    Panels& panels;
     const ConnectionCheck& connection;
     Windows& windows;
     const Texts& texts;

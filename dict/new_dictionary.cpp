@@ -43,6 +43,10 @@ NewDictionary::NewDictionary(const Collaborators& with, DictionaryNameChecks::Se
              with.windows) {}
 
 void NewDictionary::newUD(int senderTag) {
+  with_.windows.covers().whenFree(with_.myWindow, [this, senderTag] { openSheet(senderTag); });
+}
+
+void NewDictionary::openSheet(int senderTag) {
   NewDictionaryRequest& request = with_.request;
   request.direction = with_.lists.shownDirection();
   request.kind = dictionaryKindForNumber(senderTag);
@@ -51,16 +55,13 @@ void NewDictionary::newUD(int senderTag) {
     request.kind = meaning.kind;
     request.direction = meaning.direction;
   }
-  sheet_.begin(promptKey(request), with_.myWindow,
-               [this](int returnCode) { sheetDidEnd(with_.outlets.NewDicWindow, returnCode); });
-  with_.flags.gMenuControllFlag = true;
+  const bool isUp = sheet_.begin(promptKey(request), with_.myWindow, [this](int code) { sheetDidEnd(code); });
+  if (isUp) with_.flags.gMenuControllFlag = true;
 }
 
-void NewDictionary::sheetDidEnd(const Window& sheet, int returnCode) {
+void NewDictionary::sheetDidEnd(int returnCode) {
   with_.flags.gMenuControllFlag = false;
-  if (&sheet == &with_.outlets.NewDicWindow && returnCode == 1) {
-    with_.notifications.post(newDicNotification, with_.request.fDictName);
-  }
+  if (returnCode == 1) with_.notifications.post(newDicNotification, with_.request.fDictName);
 }
 
 NewDictionary::Target NewDictionary::target() {
@@ -82,7 +83,7 @@ void NewDictionary::newDicWindowOKAction(const std::string& name) {
   if (kind != DictionaryKind::user && kind != DictionaryKind::memory) return;
   const Target made = target();
   bool isLoaded = false;
-  const bool isCreated = made.controller.createDictionary(name, isLoaded);
+  const bool isCreated = !name.empty() && made.controller.createDictionary(name, isLoaded);
   made.table.reloadData();
   if (!isCreated) return;
   if (with_.flags.saveHit == toolWithDictionaries || with_.flags.saveHit == toolWithMemories) {

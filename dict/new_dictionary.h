@@ -58,14 +58,13 @@ class NewDictionary {
   };
   NewDictionary(const Collaborators& with, DictionaryNameChecks::Services services);
 
-  // Opens the sheet. The tag of the menu item or button chooses kind and direction; an unknown one is the kind itself,
-  // in the direction of the shown tab.
+  // Opens the sheet, once the window is free; menus leave only the help entries while it is up. The tag of the menu
+  // item or button chooses kind and direction; an unknown one is the kind itself, in the direction of the shown tab.
   void newUD(int senderTag);
   void newDicOKButtonAction() { sheet_.newDicOKButtonAction(); }
   void newDicCancelButtonAction() { sheet_.newDicCancelButtonAction(); }
-  // The end of any sheet of the style pane lifts the menus' restriction; its own posts the name after OK.
-  void sheetDidEnd(const Window& sheet, int returnCode);
-  // Makes the dictionary of that file name, of the kind and direction of the pane's own request, whoever posted it.
+  // Makes the dictionary of that file name, of the kind and direction of the pane's own request, whoever posted it;
+  // none for an empty name.
   void newDicWindowOKAction(const std::string& name);
   DictionaryNameChecks& checks() { return sheet_.checks(); }
 
@@ -75,6 +74,8 @@ class NewDictionary {
     TableView& table;  // shows the list while the chosen tool is the shown one
   };
   Target target();
+  void openSheet(int senderTag);
+  void sheetDidEnd(int returnCode);
   Collaborators with_;
   NewDictionarySheet sheet_;
 };

@@ -19,7 +19,7 @@ NewDictionarySheet::NewDictionarySheet(Controls controls, NewDictionaryRequest& 
       windows_(windows),
       checks_(controls.name, request, std::move(rules), services) {}
 
-void NewDictionarySheet::begin(std::string_view promptKey, Window& host, std::function<void(int returnCode)> ended) {
+bool NewDictionarySheet::begin(std::string_view promptKey, Window& host, std::function<void(int returnCode)> ended) {
   controls_.name.setStringValue("");
   const auto show = [&](std::string_view folderName, std::string_view folderTitle) {
     controls_.prompt.setStringValue(texts_.localized(promptKey));
@@ -28,7 +28,7 @@ void NewDictionarySheet::begin(std::string_view promptKey, Window& host, std::fu
   };
   if (request_.kind == DictionaryKind::user) show("UDFolderName", "UDFolderNameTitle");
   if (request_.kind == DictionaryKind::memory) show("UserTMAFolderName", "UserTMAFolderNameTitle");
-  windows_.beginSheet(controls_.window, host, std::move(ended));
+  return windows_.beginSheet(controls_.window, host, std::move(ended));
 }
 
 void NewDictionarySheet::newDicOKButtonAction() {

@@ -24,8 +24,9 @@ class NewDictionarySheet {
                      DictionaryNameChecks::Services services, Windows& windows);
 
   // Empties the name, shows the texts of the request's kind (other kinds than 1 and 2 leave the texts as they were) and
-  // comes up over the host. ended: told the return code, 1 for OK, 0 for Cancel, when the sheet is gone.
-  void begin(std::string_view promptKey, Window& host, std::function<void(int returnCode)> ended);
+  // comes up over the host. False: it could not, the host has a sheet. ended: told the return code, 1 for OK, 0 for
+  // Cancel, when the sheet is gone.
+  bool begin(std::string_view promptKey, Window& host, std::function<void(int returnCode)> ended);
   void newDicOKButtonAction();
   void newDicCancelButtonAction();
   DictionaryNameChecks& checks() { return checks_; }

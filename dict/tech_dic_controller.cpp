@@ -161,6 +161,10 @@ void TechDicController::setObjectValue(TableView& table, bool value, std::string
 }
 
 void TechDicController::newUD(int senderTag) {
+  with_.windows.covers().whenFree(with_.outlets.myWindow, [this, senderTag] { openSheet(senderTag); });
+}
+
+void TechDicController::openSheet(int senderTag) {
   request_.kind = dictionaryKindForNumber(senderTag - 1);
   sheet_.begin(request_.kind == DictionaryKind::user ? "NewUDText" : "NewTMAText", with_.outlets.myWindow,
                [this](int returnCode) {

@@ -109,6 +109,7 @@ class TechDicController : public TableDataSource, public TableDelegate {
   using Entries = std::vector<Entry>;
   void open(Direction direction);
   void close();
+  void openSheet(int senderTag);
   Entries& entries(DictionaryKind kind);
   TableView& table(DictionaryKind kind);
   void showRoom();

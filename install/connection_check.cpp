@@ -13,7 +13,7 @@ namespace tarvo {
 
 namespace {
 constexpr const char* connectServer = "ConnectServer";
-constexpr double secondsUntilConfirmation = 2.0;
+constexpr double secondsUntilNextStep = 2.0;
 constexpr int defaultButton = 1;
 constexpr int confirmed = 1000;
 }  // namespace
@@ -21,6 +21,7 @@ constexpr int confirmed = 1000;
 ConnectionCheck::~ConnectionCheck() { with_.runLoop.cancel(timer_); }
 
 void ConnectionCheck::checkConnection() {
+  if (!isWindowFree()) return later(&ConnectionCheck::checkConnection);
   if (!with_.engine.checkConnectionWithCurl()) {
     asking_ = true;
     const Texts& texts = with_.texts;
@@ -38,15 +39,19 @@ void ConnectionCheck::checkConnection() {
   confirmView();
 }
 
-void ConnectionCheck::connectSheetDidEnd(int returnCode) { returnCode == defaultButton ? confirmLater() : endAsking(); }
+void ConnectionCheck::connectSheetDidEnd(int returnCode) {
+  returnCode == defaultButton ? later(&ConnectionCheck::confirmView) : endAsking();
+}
 
-void ConnectionCheck::confirmLater() {
-  timer_ = with_.runLoop.after(secondsUntilConfirmation, [this] { confirmView(); });
+bool ConnectionCheck::isWindowFree() const { return with_.windows.covers().isFree(with_.myWindow); }
+
+void ConnectionCheck::later(void (ConnectionCheck::*step)()) {
+  timer_ = with_.runLoop.after(secondsUntilNextStep, [this, step] { (this->*step)(); });
 }
 
 void ConnectionCheck::confirmView() {
   asking_ = true;
-  if (with_.isWindowCovered()) return confirmLater();
+  if (!isWindowFree()) return later(&ConnectionCheck::confirmView);
   with_.windows.beginSheet(with_.outlets.sslPanel, with_.myWindow,
                            [this](int returnCode) { sslSheetDidEnd(returnCode); });
 }

@@ -39,14 +39,13 @@ class ConnectionCheck {
     RunLoop& runLoop;
     Windows& windows;
     const Texts& texts;
-    std::function<bool()> isWindowCovered;  // by any sheet or panel
   };
   explicit ConnectionCheck(const Collaborators& with) : with_(with) {}
   ~ConnectionCheck();
   ConnectionCheck(const ConnectionCheck&) = delete;
   ConnectionCheck& operator=(const ConnectionCheck&) = delete;
 
-  // The whole check: the last step of the launch.
+  // The whole check: the last step of the launch. While a sheet is up over the window it begins a little later.
   void checkConnection();
   // Asks for the confirmation in a sheet; while another sheet is up it asks a little later.
   void confirmView();
@@ -59,7 +58,8 @@ class ConnectionCheck {
  private:
   void connectSheetDidEnd(int returnCode);
   void sslSheetDidEnd(int returnCode);
-  void confirmLater();
+  bool isWindowFree() const;
+  void later(void (ConnectionCheck::*step)());
   void endAsking();
   Collaborators with_;
   RunLoop::Timer timer_ = 0;

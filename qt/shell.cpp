@@ -33,8 +33,8 @@ Shell::Shell(Product& product, QApplication& application, std::function<std::vec
     : product_(product),
       application_(application),
       engine_(product.makeEngine(product.files())),
-      panels_({[this](Window* window) { return windows_.widgetOf(*window); },
-               [this](Window* window) { return windows_.sheetTop(*window); },
+      panels_({[this](Window& window) { return windows_.widgetOf(window); },
+               [this](QDialog& sheet, Window& host) { windows_.hang(sheet, host); },
                [&product](const std::string& path) { return product.locations().resolve(path); }}),
       workspace_({product.locations(), product.files(), product.paths()}, std::move(running)),
       program_(product.services(product.files(), *engine_, runLoop_, panels_, windows_, workspace_)),
@@ -58,7 +58,7 @@ bool Shell::start() {
   program_.requests().bringForward = [this] { windows_.bringForward(); };
   tellUnsavedStyles();
   program_.manager().customizeToolbar = [this] {
-    buildToolbarCustomise(program_.interface().manager.toolbar, binder_, windows_.mainWindow())->open();
+    program_.windows().covers().whenFree(program_.interface().manager.myWindow, [this] { customizeToolbar(); });
   };
   if (!program_.load()) return false;
   afterFirstPaint(*windows_.mainWindow(), [this] { finishLater(); });
@@ -88,6 +88,15 @@ void Shell::run() {
   if (program_.isTerminated()) return;
   program_.didTerminate = [] { QApplication::exit(); };
   QApplication::exec();
+}
+
+void Shell::customizeToolbar() {
+  Window& host = program_.interface().manager.myWindow;
+  Covers& covers = program_.windows().covers();
+  QDialog* dialog = buildToolbarCustomise(program_.interface().manager.toolbar, binder_, windows_.mainWindow());
+  covers.beginSheet(host, nullptr);
+  QObject::connect(dialog, &QDialog::finished, dialog, [&covers, &host] { covers.endSheet(host, nullptr, [] {}); });
+  dialog->open();
 }
 
 void Shell::tellUnsavedStyles() {

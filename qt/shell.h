@@ -49,6 +49,7 @@ class Shell {
   Registry& registry() { return binder_.registry(); }
 
  private:
+  void customizeToolbar();
   void tellUnsavedStyles();
   void finishLater();
   Product& product_;

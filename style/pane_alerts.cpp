@@ -10,6 +10,8 @@
 
 namespace tarvo {
 
+void PaneAlerts::tell(std::string_view key) { panels_.tell(texts_.localized(key)); }
+
 void PaneAlerts::runAlertWithText(const std::string& header, const std::string& message) {
   panels_.runAlertPanel({.title = header, .message = message, .buttons = {texts_.localized("AlertClose")}});
 }

@@ -18,6 +18,8 @@ class PaneAlerts {
  public:
   PaneAlerts(Panels& panels, const Texts& texts) : panels_(panels), texts_(texts) {}
 
+  // No alert: a line that tells why nothing happened.
+  void tell(std::string_view key);
   void runAlertWithText(const std::string& header, const std::string& message);
   void beepAndAlert(std::string_view headerKey, std::string_view messageKey);
   void beepAndAlertWithText(const std::string& header, const std::string& message);

@@ -10,7 +10,7 @@ namespace tarvo {
 
 // What rooms of the style pane and the main window share beyond the style store.
 struct ProcessFlags {
-  bool gMenuControllFlag = false;  // a sheet of the style pane is open: menus leave only the help entries enabled
+  bool gMenuControllFlag = false;  // the naming or new-dictionary sheet of the pane is up: menus leave only help
   std::optional<Tool> saveHit = Tool::manager;  // the chosen tool; nothing for a place of the chooser without one
 };
 

@@ -72,7 +72,10 @@ bool StyleExchange::install(const std::string& path, int index, const std::strin
   return true;
 }
 
-void StyleExchange::exportStyle() { askWhereToExport(with_.stylePopup.indexOfSelectedItem(), with_.myWindow); }
+void StyleExchange::exportStyle() {
+  with_.windows.covers().whenFree(with_.myWindow,
+                                  [this] { askWhereToExport(with_.stylePopup.indexOfSelectedItem(), with_.myWindow); });
+}
 
 void StyleExchange::exportStyle2() {
   std::vector<PopUpButton::Item> items;
@@ -87,7 +90,9 @@ void StyleExchange::exportStyle2() {
 }
 
 void StyleExchange::exportButtonAction() {
-  askWhereToExport(with_.outlets.exportStylePopup.indexOfSelectedItem(), with_.outlets.exportWindow);
+  with_.windows.covers().whenFree(with_.outlets.exportWindow, [this] {
+    askWhereToExport(with_.outlets.exportStylePopup.indexOfSelectedItem(), with_.outlets.exportWindow);
+  });
 }
 
 void StyleExchange::closeExportWindow() { with_.windows.stopModal(); }

@@ -52,7 +52,7 @@ class StyleExchange {
   // alert: the file is no style, or its options are out of range, or no style stands there, and nothing has changed.
   bool install(const std::string& path, int index, const std::string& title);
 
-  // Asks where to export the chosen style.
+  // Asks where to export the chosen style, once the window is free.
   void exportStyle();
   // Runs the export window, whose menu lists every record, dividers too, as an ordinary item.
   void exportStyle2();

@@ -30,11 +30,16 @@ void StyleNaming::updateStyleNameButton() {
 }
 
 void StyleNaming::editStyleName() {
+  with_.windows.covers().whenFree(with_.myWindow, [this] { openSheet(); });
+}
+
+void StyleNaming::openSheet() {
   const std::optional<Dictionary> record = with_.store.getStyleAtIndex(with_.stylePopup.indexOfSelectedItem());
-  if (!record) return;
+  if (!record) return with_.alerts.tell("NoStyleToRename");
   with_.outlets.styleNameField.setStringValue(nameOf(*record));
-  with_.windows.beginSheet(with_.outlets.styleNameWindow, with_.myWindow, [this](int) { sheetDidEnd(); });
-  with_.flags.gMenuControllFlag = true;
+  const bool isUp =
+      with_.windows.beginSheet(with_.outlets.styleNameWindow, with_.myWindow, [this](int) { sheetDidEnd(); });
+  if (isUp) with_.flags.gMenuControllFlag = true;
 }
 
 void StyleNaming::snOKButtonAction() {

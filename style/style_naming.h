@@ -43,7 +43,7 @@ class StyleNaming {
   // The standard style, index 0, is never renamed.
   void updateStyleNameButton();
 
-  // Opens the sheet with the name of the chosen style; without a record nothing happens.
+  // Opens the sheet with the name of the chosen style, once the window is free; without a style that is only told.
   void editStyleName();
   // Renames the style that is chosen now, which a caller may have changed since the sheet came up. A refused name is
   // told and leaves the sheet open; where nothing may be renamed any more the sheet ends like a cancelled one.
@@ -55,6 +55,7 @@ class StyleNaming {
   bool checkStyleName(const Array* styles, int nonTargetIndex, const std::string& newName) const;
 
  private:
+  void openSheet();
   void sheetDidEnd();
   Collaborators with_;
   std::string styleNamePublic_;

@@ -84,17 +84,13 @@ void Interpreter::finish() {
   const int line = static_cast<int>(lines_.size());
   if (session_.panels().hasAnswers()) fail(line, "an answer is left over");
   if (session_.phase() != ScenarioSession::Phase::running) return;  // its windows went with it
-  if (const Window* host = session_.panels().savePanelHost()) {
-    fail(line, "the script ends with a save panel over " + host->name());
-  }
-  Program& program = session_.program();
-  if (const Window* modal = program.windows().modalWindow()) {
+  const Covers& covers = session_.program().windows().covers();
+  if (const Window* modal = covers.modalWindow()) {
     fail(line, "the script ends inside the modal run of " + modal->name());
   }
-  for (const Control* control : program.interface().controls()) {
-    if (control->kind() != Control::Kind::window) continue;
-    if (program.windows().hostOf(static_cast<const Window&>(*control)) == nullptr) continue;
-    fail(line, "the script ends with the sheet " + control->name() + " up");
+  for (const Covers::Sheet& sheet : covers.sheets()) {
+    fail(line, sheet.window != nullptr ? "the script ends with the sheet " + sheet.window->name() + " up"
+                                       : "the script ends with a save panel over " + sheet.host->name());
   }
 }
 
@@ -111,9 +107,7 @@ Control& Interpreter::control(const std::string& name) const {
 
 Control& Interpreter::reachable(const std::string& name) const {
   Control& found = control(name);
-  const Window* covered = session_.panels().savePanelHost();
-  const bool isCovered = covered != nullptr && found.window() == covered;
-  if (isCovered || !session_.program().windows().isReachable(found)) throw NotReachable(name + " is not reachable");
+  if (!session_.program().windows().isReachable(found)) throw NotReachable(name + " is not reachable");
   return found;
 }
 

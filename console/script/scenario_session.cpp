@@ -58,7 +58,7 @@ void ScenarioSession::start() {
   recorder_.observe(*program_);
   program_->didTerminate = [this] {
     recorder_.note({{"terminated", true}});
-    panels_.dropSavePanel();
+    panels_.dropSavePanels();
     phase_ = Phase::terminated;
   };
   shell_.programMade(*program_);
@@ -70,7 +70,7 @@ void ScenarioSession::start() {
 
 void ScenarioSession::drop() {
   if (!program_) return;
-  panels_.dropSavePanel();
+  panels_.dropSavePanels();
   shell_.programEnds(*program_);
   constructed_ = false;
   program_.reset();

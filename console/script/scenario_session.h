@@ -47,7 +47,6 @@ class ScenarioSession {
   void kill();  // drops the program without quitting
   // The running or terminated one. Throws ScriptError when there is none.
   Program& program();
-  bool hasProgram() const { return program_ != nullptr; }
   // Views can be worked: the program got as far as its interface.
   bool hasHand() const { return constructed_; }
 

@@ -3,6 +3,7 @@
 #include "console/script/scripted_panels.h"
 
 #include <algorithm>
+#include <iostream>
 #include <utility>
 
 #include "console/script/recorder.h"
@@ -12,6 +13,8 @@
 namespace tarvo {
 
 void ScriptedPanels::beep() { recorder_.note({{"beep", true}}); }
+
+void ScriptedPanels::tell(const std::string& text) { std::cerr << "tarvoctl: " << text << '\n'; }
 
 void ScriptedPanels::fail(std::string reason) {
   if (failure_.empty()) failure_ = std::move(reason);
@@ -56,12 +59,12 @@ void ScriptedPanels::beginAlertSheet(Window& host, const Alert& alert, std::func
 void ScriptedPanels::answerOpen(std::string path) { files_.push_back({Kind::open, std::move(path)}); }
 
 void ScriptedPanels::answerSave(std::string path) {
-  if (up_) return endSavePanel(std::move(path));
+  if (!up_.empty()) return endSavePanel(std::move(path));
   files_.push_back({Kind::save, std::move(path)});
 }
 
 void ScriptedPanels::answerCancel() {
-  if (up_) return endSavePanel(std::nullopt);
+  if (!up_.empty()) return endSavePanel(std::nullopt);
   files_.push_back({std::nullopt, std::nullopt});
 }
 
@@ -93,7 +96,6 @@ std::optional<std::string> ScriptedPanels::runOpenPanel(const OpenPanel& panel) 
 
 void ScriptedPanels::beginSavePanel(Window& host, const SavePanel& panel,
                                     std::function<void(int code, const std::string& path)> handler) {
-  if (up_ && up_->host == &host) return handler(0, "");  // a window has one sheet
   std::optional<FileAnswer> answer = takeAnswer(Kind::save);
   if (answer && answer->path) answer->path = withPathExtension(std::move(*answer->path), panel.requiredType);
   Json::Object event{{"kind", "save"}, {"over", host.name()}};
@@ -104,11 +106,12 @@ void ScriptedPanels::beginSavePanel(Window& host, const SavePanel& panel,
   if (!panel.name.empty()) event.emplace("name", panel.name);
   recorder_.note({{"panel", std::move(event)}});
   if (answer) return handler(answer->path ? 1 : 0, answer->path.value_or(""));
-  up_ = UpPanel{&host, panel.requiredType, std::move(handler)};
+  up_.push_back({panel.requiredType, std::move(handler)});
 }
 
 void ScriptedPanels::endSavePanel(std::optional<std::string> path) {
-  const UpPanel ended = *std::exchange(up_, std::nullopt);
+  const UpPanel ended = std::move(up_.back());
+  up_.pop_back();
   if (path) path = withPathExtension(std::move(*path), ended.requiredType);
   recorder_.note({{"panelEnded", "save"}, {"answer", shown(path)}});
   ended.handler(path ? 1 : 0, path.value_or(""));

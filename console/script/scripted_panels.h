@@ -5,6 +5,7 @@
 #include <deque>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/plist/json.h"
 #include "platform/services/panels.h"
@@ -15,25 +16,24 @@ class Recorder;
 class ScenarioShell;
 
 // Alerts and panels whose answers the script has queued. An alert without an answer is answered by its default button.
-// A save panel takes a queued answer at once, else it stays up as a sheet until the script answers it; its window is
-// covered so long. An open panel that no line answers, and an answer that names no button, fail the script: see
-// failure().
+// A save panel takes a queued answer at once, else it stays up as a sheet until the script answers it. An open panel
+// that no line answers, and an answer that names no button, fail the script: see failure().
 class ScriptedPanels : public Panels {
  public:
   ScriptedPanels(Recorder& recorder, ScenarioShell& shell) : recorder_(recorder), shell_(shell) {}
   void answerAlert(int button) { alerts_.push_back(button); }  // 0 the first
   void answerOpen(std::string path);
-  // For the save panel that is up, else for the next one. The panel adds its type to a path that lacks it.
+  // For the save panel that came up last, else for the next one. The panel adds its type to a path that lacks it.
   void answerSave(std::string path);
-  // For the save panel that is up, else for the next open or save panel.
+  // For the save panel that came up last, else for the next open or save panel.
   void answerCancel();
   bool hasAnswers() const { return !alerts_.empty() || !files_.empty(); }
   bool isAlertUp() const { return alertsUp_ > 0; }
-  const Window* savePanelHost() const { return up_ ? up_->host : nullptr; }  // null when none stays up
-  void dropSavePanel() { up_.reset(); }                                      // its program is gone
-  const std::string& failure() const { return failure_; }                    // the first one, "" without
+  void dropSavePanels() { up_.clear(); }                   // their program is gone
+  const std::string& failure() const { return failure_; }  // the first one, "" without
 
   void beep() override;
+  void tell(const std::string& text) override;
   int runAlertPanel(const Alert& alert) override;
   void beginAlertSheet(Window& host, const Alert& alert, std::function<void(int button)> handler) override;
   std::optional<std::string> runOpenPanel(const OpenPanel& panel) override;
@@ -47,7 +47,6 @@ class ScriptedPanels : public Panels {
     std::optional<std::string> path;  // nothing: cancelled
   };
   struct UpPanel {
-    const Window* host;
     std::string requiredType;
     std::function<void(int code, const std::string& path)> handler;
   };
@@ -60,7 +59,7 @@ class ScriptedPanels : public Panels {
   ScenarioShell& shell_;
   std::deque<int> alerts_;
   std::deque<FileAnswer> files_;
-  std::optional<UpPanel> up_;
+  std::vector<UpPanel> up_;  // in the order in which they came up
   std::string failure_;
   int alertsUp_ = 0;
 };

@@ -17,6 +17,7 @@ class VerbProgram::ToldPanels : public Panels {
   }
   void answer(const std::string& path) { path_ = path; }
   void beep() override {}
+  void tell(const std::string& text) override { err_ << text << '\n'; }
   int runAlertPanel(const Alert& alert) override {
     refuse((alert.title.empty() ? "" : alert.title + ": ") + alert.message);
     return 0;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/controls/windows.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace tarvo {
@@ -52,52 +51,57 @@ void Windows::setFrame(Window& window, const Rect& frame) {
   if (moved && window.didMove) window.didMove();
 }
 
-void Windows::beginSheet(Window& sheet, Window& host, EndHandler handler) {
-  if (sheetOver(host) != nullptr) return;
-  sheets_.push_back({&sheet, &host, std::move(handler)});
+bool Windows::beginSheet(Window& sheet, Window& host, EndHandler handler) {
+  if (covers_.hasSheet(host)) return false;
+  covers_.beginSheet(host, &sheet);
+  handlers_[&sheet] = std::move(handler);
   sheet.shown_ = true;
   host_.show(sheet);
   tell(Event::sheet, sheet);
+  return true;
 }
 
 void Windows::endSheet(Window& sheet, int returnCode) {
-  const auto entry =
-      std::find_if(sheets_.begin(), sheets_.end(), [&](const Sheet& candidate) { return candidate.window == &sheet; });
-  if (entry == sheets_.end()) return;
-  const EndHandler handler = std::move(entry->handler);
+  const Window* host = hostOf(sheet);
+  if (host == nullptr) return;
+  const EndHandler handler = std::move(handlers_.extract(&sheet).mapped());
   sheet.shown_ = false;
   host_.hide(sheet);
-  sheets_.erase(entry);
-  tell(Event::sheetEnded, sheet, returnCode);
-  if (handler) handler(returnCode);
+  covers_.endSheet(*host, &sheet, [&] {
+    tell(Event::sheetEnded, sheet, returnCode);
+    if (handler) handler(returnCode);
+  });
 }
 
 int Windows::runModalForWindow(Window& window) {
-  modal_.push_back({&window, 0});
+  returnCodes_.push_back(0);
   window.shown_ = true;
-  tell(Event::modal, window);
-  host_.runModal(window);
-  const int code = modal_.back().code;
-  modal_.pop_back();
+  {
+    const Covers::ModalRun run(covers_, &window);
+    tell(Event::modal, window);
+    host_.runModal(window);
+  }
+  const int code = returnCodes_.back();
+  returnCodes_.pop_back();
   tell(Event::modalEnded, window, code);
   return code;
 }
 
 void Windows::stopModal(int code) {
-  if (modal_.empty()) return;
-  modal_.back().code = code;
-  host_.stopModal(*modal_.back().window);
+  if (returnCodes_.empty()) return;
+  returnCodes_.back() = code;
+  host_.stopModal(*modalWindow());
 }
 
 Window* Windows::hostOf(const Window& sheet) const {
-  for (const Sheet& entry : sheets_) {
+  for (const Covers::Sheet& entry : covers_.sheets()) {
     if (entry.window == &sheet) return entry.host;
   }
   return nullptr;
 }
 
 Window* Windows::sheetOver(const Window& host) const {
-  for (const Sheet& entry : sheets_) {
+  for (const Covers::Sheet& entry : covers_.sheets()) {
     if (entry.host == &host) return entry.window;
   }
   return nullptr;
@@ -111,7 +115,7 @@ bool Windows::isReachable(const Control& control) const {
   }
   const Window* window = control.window();
   if (window == nullptr || !window->isShown() || !control.isOnShownPage()) return false;
-  if (sheetOver(*window) != nullptr) return false;
+  if (covers_.hasSheet(*window)) return false;
   const Window* host = hostOf(*window);
   return modal == nullptr || window == modal || host == modal;
 }

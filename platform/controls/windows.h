@@ -3,10 +3,12 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "platform/controls/controls.h"
+#include "platform/controls/covers.h"
 #include "platform/controls/pane.h"
 #include "platform/services/geometry.h"
 
@@ -26,6 +28,9 @@ class Window : public Control {
   // the origin changed all the same.
   bool setFrameInPlace(const Rect& frame);
   bool isShown() const { return shown_; }
+  // For a window that shows one page at a time: the tab view that turns it. The tab view lives as long.
+  void setPages(const TabView& pages) { pages_ = &pages; }
+  int shownPage() const { return pages_ != nullptr ? pages_->selectedPage() : 0; }
 
   std::function<void()> didMove;  // the origin changed, by whomever
   std::function<void()> close;    // what the close box and Escape do; empty: there is none
@@ -36,6 +41,7 @@ class Window : public Control {
   friend class Windows;
   std::string title_;
   Rect frame_;
+  const TabView* pages_ = nullptr;
   bool shown_ = false;
 };
 
@@ -51,7 +57,9 @@ struct WindowHeights {
 class WindowHost {
  public:
   virtual ~WindowHost() = default;
-  virtual void show(Window& window) = 0;  // a sheet when Windows::hostOf names its host
+  // As a sheet when Windows::hostOf names its host. Any other window comes to the front and has the keyboard, also when
+  // it is shown already.
+  virtual void show(Window& window) = 0;
   virtual void hide(Window& window) = 0;
   // The window's frame was set by the program: animate it there when it is shown.
   virtual void applyFrame(Window& window, bool animate) = 0;
@@ -67,45 +75,39 @@ class Windows {
   using EndHandler = std::function<void(int returnCode)>;
   enum class Event { shown, hidden, sheet, sheetEnded, modal, modalEnded, framed };
 
-  explicit Windows(WindowHost& host) : host_(host) {}
+  // The run loop is the one from which operations that waited for a window begin.
+  Windows(WindowHost& host, RunLoop& runLoop) : host_(host), covers_(runLoop) {}
   WindowHost& host() const { return host_; }
+  Covers& covers() { return covers_; }
 
+  // Shows the window in front of the others, as the one that has the keyboard; also one that is shown already.
   void orderFront(Window& window);
   void orderOut(Window& window);
   // A new frame with redisplay and animation, as a pane switch sets it. A move is told last.
   void setFrame(Window& window, const Rect& frame);
-  // Returns at once; a host has one sheet.
-  void beginSheet(Window& sheet, Window& host, EndHandler handler);
-  // The sheet is hidden, then the handler runs inside this call.
+  // Returns at once. False: the host has a sheet (see Covers::whenFree), and nothing has come up.
+  bool beginSheet(Window& sheet, Window& host, EndHandler handler);
+  // The sheet is hidden, then the handler runs inside this call; then those who wait for the host have their turn.
   void endSheet(Window& sheet, int returnCode);
   int runModalForWindow(Window& window);  // blocks; runs nest, the innermost ends first
   void stopModal(int code = 0);           // ends the innermost run
-  Window* modalWindow() const { return modal_.empty() ? nullptr : modal_.back().window; }
+  Window* modalWindow() const { return covers_.modalWindow(); }
 
   // Enabled, on the shown page of a shown window that no sheet covers and no modal window shuts out. Menu items stand
   // in no window: a modal window shuts them out, and they must be valid.
   bool isReachable(const Control& control) const;
-  Window* hostOf(const Window& sheet) const;
-  Window* sheetOver(const Window& host) const;
-  bool hasSheet() const { return !sheets_.empty(); }
+  Window* hostOf(const Window& sheet) const;    // null unless it is up as a sheet
+  Window* sheetOver(const Window& host) const;  // null for none, and for a panel
 
   // Told after it happened; code: the sheet's or the modal run's return code.
   std::function<void(Event, Window&, int code)> observer;
 
  private:
-  struct Sheet {
-    Window* window;
-    Window* host;
-    EndHandler handler;
-  };
-  struct Modal {
-    Window* window;
-    int code;
-  };
   void tell(Event event, Window& window, int code = 0);
   WindowHost& host_;
-  std::vector<Sheet> sheets_;
-  std::vector<Modal> modal_;
+  Covers covers_;
+  std::map<const Window*, EndHandler> handlers_;  // of the sheets that are up
+  std::vector<int> returnCodes_;                  // of the modal runs, the innermost last
 };
 
 }  // namespace tarvo

@@ -27,11 +27,13 @@ struct SavePanel {
 };
 
 // Alerts, file panels and the beep. Paths are answered as the user picked them (see Locations::picked). What begins as
-// a sheet returns at once; its handler is told once, a save panel that could not come up being cancelled (code 0).
+// a sheet returns at once; its handler is told once. The host has no other sheet: who opens one has asked Covers.
 class Panels {
  public:
   virtual ~Panels() = default;
   virtual void beep() = 0;
+  // A line for whoever wants to know why nothing happened; it asks for no answer. On standard error in both shells.
+  virtual void tell(const std::string& text) = 0;
   virtual int runAlertPanel(const Alert&) = 0;  // blocks; index of the button
   virtual void beginAlertSheet(Window& host, const Alert&, std::function<void(int button)>) = 0;
   virtual std::optional<std::string> runOpenPanel(const OpenPanel&) = 0;  // blocks; nothing: cancelled

@@ -4,13 +4,13 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <iostream>
 #include <utility>
 
 #include "qt/bind/binder.h"
 #include "qt/window/alert_dialog.h"
 #include "qt/window/file_panel.h"
 #include "qt/window/save_sheet.h"
-#include "qt/window/sheet.h"
 
 namespace tarvo {
 namespace {
@@ -26,17 +26,18 @@ QtPanels::QtPanels(Surroundings surroundings) : surroundings_(std::move(surround
 
 void QtPanels::beep() { QApplication::beep(); }
 
+void QtPanels::tell(const std::string& text) { std::cerr << "tarvo-manager: " << text << '\n'; }
+
 int QtPanels::runAlertPanel(const Alert& alert) {
   AlertDialog dialog(alert, QApplication::activeWindow());
   return dialog.exec();
 }
 
 void QtPanels::beginAlertSheet(Window& host, const Alert& alert, std::function<void(int button)> ended) {
-  QWidget* below = surroundings_.host(&host);
-  auto* dialog = new AlertDialog(alert, below);
+  auto* dialog = new AlertDialog(alert, surroundings_.host(host));
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   QObject::connect(dialog, &QDialog::finished, dialog, [ended = std::move(ended)](int button) { ended(button); });
-  below != nullptr ? openSheet(*dialog, *below, surroundings_.sheetTop(&host)) : dialog->open();
+  surroundings_.hang(*dialog, host);
 }
 
 std::optional<std::string> QtPanels::runOpenPanel(const OpenPanel& panel) {
@@ -51,15 +52,14 @@ std::optional<std::string> QtPanels::runOpenPanel(const OpenPanel& panel) {
 
 void QtPanels::beginSavePanel(Window& host, const SavePanel& panel,
                               std::function<void(int code, const std::string& path)> ended) {
-  QWidget* below = surroundings_.host(&host);
   SavePanel real = panel;
   real.folder = surroundings_.realPath(panel.folder);
-  auto* dialog = new SaveSheet(real, below);
+  auto* dialog = new SaveSheet(real, surroundings_.host(host));
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   QObject::connect(dialog, &QDialog::finished, dialog, [dialog, ended = std::move(ended)](int code) {
     ended(code == QDialog::Accepted ? 1 : 0, code == QDialog::Accepted ? dialog->path() : std::string());
   });
-  below != nullptr ? openSheet(*dialog, *below, surroundings_.sheetTop(&host)) : dialog->open();
+  surroundings_.hang(*dialog, host);
 }
 
 }  // namespace tarvo

@@ -6,6 +6,7 @@
 
 #include "platform/services/panels.h"
 
+class QDialog;
 class QWidget;
 
 namespace tarvo {
@@ -15,12 +16,13 @@ class QtPanels : public Panels {
  public:
   // How panels find their surroundings.
   struct Surroundings {
-    std::function<QWidget*(Window*)> host;                    // the widget of a window, null when it has none (yet)
-    std::function<int(Window*)> sheetTop;                     // where sheets hang in it
+    std::function<QWidget*(Window&)> host;                    // the widget of a window, null when it has none (yet)
+    std::function<void(QDialog&, Window& host)> hang;         // opens a dialog as a sheet over it
     std::function<std::string(const std::string&)> realPath;  // of a path in the core's spelling
   };
   explicit QtPanels(Surroundings surroundings);
   void beep() override;
+  void tell(const std::string& text) override;
   int runAlertPanel(const Alert& alert) override;
   void beginAlertSheet(Window& host, const Alert& alert, std::function<void(int button)> ended) override;
   std::optional<std::string> runOpenPanel(const OpenPanel& panel) override;

@@ -32,6 +32,12 @@ QWidget* firstWithKeyboard(QDialog& dialog) {
   return first == &dialog ? nullptr : first;
 }
 
+void bringToFront(QWidget& window) {
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.raise();
+  window.activateWindow();
+}
+
 }  // namespace
 
 QtWindows::QtWindows(Figures figures) : figures_(figures) {}
@@ -56,12 +62,8 @@ void QtWindows::close() {
 
 void QtWindows::bringForward() {
   if (main_ == nullptr) return;
-  main_->setWindowState(main_->windowState() & ~Qt::WindowMinimized);
-  for (QWidget* window : {static_cast<QWidget*>(main_.get()), QApplication::activeModalWidget()}) {
-    if (window == nullptr) continue;
-    window->raise();
-    window->activateWindow();
-  }
+  bringToFront(*main_);
+  if (QWidget* waiting = QApplication::activeModalWidget()) bringToFront(*waiting);
 }
 
 void QtWindows::addDialog(Window& window, DialogBuilder builder) { builders_[&window] = std::move(builder); }
@@ -103,9 +105,13 @@ void QtWindows::show(Window& window) {
   }
   QDialog* shown = opening(window);
   if (shown == nullptr) return;
-  const Window* host = windows_->hostOf(window);
-  QWidget* below = host != nullptr ? widgetOf(*host) : nullptr;
-  below != nullptr ? openSheet(*shown, *below, sheetTop(*host)) : shown->show();
+  if (const Window* host = windows_->hostOf(window)) return hang(*shown, *host);
+  shown->isVisible() ? bringToFront(*shown) : shown->show();
+}
+
+void QtWindows::hang(QDialog& sheet, const Window& host) {
+  QWidget* below = widgetOf(host);
+  below != nullptr ? openSheet(sheet, *below, sheetTop(host)) : sheet.open();
 }
 
 void QtWindows::hide(Window& window) {

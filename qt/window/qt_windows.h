@@ -39,7 +39,7 @@ class QtWindows : public WindowHost {
   void addDialog(Window& window, DialogBuilder builder);
   MainWindow* mainWindow() const { return main_.get(); }  // null unless open
   QWidget* widgetOf(const Window& window) const;          // null when it is not built
-  int sheetTop(const Window& host) const;                 // where sheets hang in it
+  void hang(QDialog& sheet, const Window& host);          // opens it over a window of the core, as sheets do
 
   void show(Window& window) override;
   void hide(Window& window) override;
@@ -53,6 +53,7 @@ class QtWindows : public WindowHost {
  private:
   bool isMain(const Window& window) const;
   QDialog* opening(Window& window);
+  int sheetTop(const Window& host) const;
   void makeRoomForBars();
   void fitToToolbar();
   Figures figures_;

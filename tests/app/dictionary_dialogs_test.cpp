@@ -80,6 +80,7 @@ TEST_F(DictionaryDialogs, thePickerShutsOutTheMainWindowAndTheMenus) {
 }
 
 TEST_F(DictionaryDialogs, theSheetOfThePaneLeavesOnlyHelpInTheMenus) {
+  test_.engine.probes = {true, false};  // the launch asks nothing
   ASSERT_TRUE(test_.program().start());
   Interface& interface = test_.interface();
   EXPECT_TRUE(interface.newDictionary.newJETMAMenu.userChoose());
@@ -91,7 +92,21 @@ TEST_F(DictionaryDialogs, theSheetOfThePaneLeavesOnlyHelpInTheMenus) {
   EXPECT_TRUE(interface.style.quitMenu.isValid());
 }
 
+TEST_F(DictionaryDialogs, theSheetOfThePaneComesAfterTheLaunchsQuestion) {
+  ASSERT_TRUE(test_.program().start());
+  Interface& interface = test_.interface();
+  EXPECT_TRUE(interface.newDictionary.newEJUDMenu.userChoose());
+  EXPECT_FALSE(interface.newDictionary.NewDicWindow.isShown());
+  EXPECT_TRUE(interface.style.quitMenu.isValid()) << "nothing of the pane is up";
+  test_.panels.endAlertSheet(1);
+  EXPECT_TRUE(interface.newDictionary.NewDicWindow.isShown());
+  EXPECT_FALSE(interface.style.quitMenu.isValid());
+  interface.newDictionary.NewDicCancelButton.userPress();
+  EXPECT_TRUE(interface.style.quitMenu.isValid());
+}
+
 TEST_F(DictionaryDialogs, menusAndButtonsAskForTheSameKinds) {
+  test_.engine.probes = {true, false};  // the launch asks nothing
   ASSERT_TRUE(test_.program().start());
   NewDictionaryOutlets& sheet = test_.interface().newDictionary;
   struct Way {

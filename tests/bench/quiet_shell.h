@@ -27,6 +27,7 @@ class QuietWindows : public WindowHost {
 class QuietPanels : public Panels {
  public:
   void beep() override {}
+  void tell(const std::string&) override {}
   int runAlertPanel(const Alert& alert) override { throw std::logic_error(alert.title + " " + alert.message); }
   void beginAlertSheet(Window&, const Alert& alert, std::function<void(int)>) override { runAlertPanel(alert); }
   std::optional<std::string> runOpenPanel(const OpenPanel&) override { return std::nullopt; }

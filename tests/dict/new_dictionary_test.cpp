@@ -97,11 +97,20 @@ TEST_F(NewDictionaryTest, cancellingMakesAndPostsNothing) {
   EXPECT_EQ(world_.sheet.NewDicNameField.stringValue(), " a/b");
 }
 
-TEST_F(NewDictionaryTest, theEndOfAnotherSheetOnlyFreesTheMenus) {
-  world_.flags.gMenuControllFlag = true;
-  world_.newDictionary.sheetDidEnd(world_.picker.newDicWindow, 1);
+TEST_F(NewDictionaryTest, theSheetWaitsForAnotherOneAndRestrictsTheMenusOnlyWhenItIsUp) {
+  world_.windows.orderFront(world_.manager.myWindow);
+  world_.windows.beginSheet(world_.picker.newDicWindow, world_.manager.myWindow, nullptr);
+  world_.newDictionary.newUD(10);
+  world_.newDictionary.newUD(13);
   EXPECT_FALSE(world_.flags.gMenuControllFlag);
-  EXPECT_EQ(world_.takeLog(), Log{});
+  world_.windows.endSheet(world_.picker.newDicWindow, 0);
+  EXPECT_TRUE(world_.flags.gMenuControllFlag);
+  EXPECT_EQ(world_.sheet.NewDicText.stringValue(), "NewEJUDText") << "first come, first served";
+  world_.newDictionary.newDicCancelButtonAction();
+  EXPECT_TRUE(world_.flags.gMenuControllFlag);
+  EXPECT_EQ(world_.sheet.NewDicText.stringValue(), "NewJETMAText");
+  world_.newDictionary.newDicCancelButtonAction();
+  EXPECT_FALSE(world_.flags.gMenuControllFlag);
 }
 
 TEST_F(NewDictionaryTest, aRefusedNameLeavesTheSheetUp) {
@@ -230,6 +239,9 @@ TEST_F(NewDictionaryTest, aNotificationForAnotherKindIsIgnored) {
 TEST_F(NewDictionaryTest, anEmptyNameIsNoDictionary) {
   world_.notifications.post(newDicNotification);
   EXPECT_EQ(world_.takeLog(), (Log{"posted ", "reload style.ejUDTableView", "reload style.ejUDTable"}));
+  std::filesystem::remove_all(world_.userFolder());
+  world_.notifications.post(newDicNotification);
+  EXPECT_FALSE(isThere(world_.userFolder())) << "nor a file in the place of the folder";
 }
 
 TEST_F(NewDictionaryTest, thePickersNameIsMadeInThePanesKindAndDirection) {

@@ -77,7 +77,8 @@ struct PickerWorld : StylePaneWorld {
   Log log;
   FakePanels panels{log};
   FakeHost host;
-  Windows windows{host};
+  FakeRunLoop runLoop;
+  Windows windows{host, runLoop};
   NotificationCenter notifications;
   PaneAlerts alerts{panels, texts};
   ProcessFlags flags;

@@ -20,7 +20,8 @@ class Cautions : public testing::Test {
   MemoryFiles files;
   AddinOutlets outlets;
   FakeHost host;
-  Windows windows{host};
+  FakeRunLoop runLoop;
+  Windows windows{host, runLoop};
   FakeWorkspace workspace;
   CautionWindows cautions{outlets, windows, files, workspace};
 };

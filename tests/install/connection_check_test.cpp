@@ -55,11 +55,11 @@ class ConnectionCheckTest : public testing::Test {
   Texts texts_;
   UserDefaults defaults_{files_, "/defaults.plist"};
   NotificationCenter notifications_;
-  Windows windows_{host_};
+  Windows windows_{host_, runLoop_};
   Main main_;
   ConnectionOutlets outlets_;
-  ConnectionCheck check_{{outlets_, main_.myWindow, engine_, defaults_, notifications_, panels_, runLoop_, windows_,
-                          texts_, [this] { return windows_.sheetOver(main_.myWindow) != nullptr; }}};
+  ConnectionCheck check_{
+      {outlets_, main_.myWindow, engine_, defaults_, notifications_, panels_, runLoop_, windows_, texts_}};
 };
 
 TEST_F(ConnectionCheckTest, asksTwiceAndThenForTheConsent) {
@@ -155,10 +155,36 @@ TEST_F(ConnectionCheckTest, waitsUntilAnotherSheetIsGone) {
   EXPECT_EQ(log_, Log{"sheet manager.sslPanel"});
 }
 
+TEST_F(ConnectionCheckTest, beginsOnceTheSheetOfSomebodyElseIsGone) {
+  windows_.beginSheet(main_.other, main_.myWindow, nullptr);
+  EXPECT_EQ(launch({true, true}), Log{}) << "not even a probe";
+  windows_.endSheet(main_.other, 0);
+  log_.clear();
+  runLoop_.advance(2);
+  EXPECT_EQ(log_, (Log{"reachable", "reachable", "sheet manager.sslPanel"}));
+}
+
+TEST_F(ConnectionCheckTest, letsThoseGoFirstWhoWaitForTheWindow) {
+  runLoop_.holds = true;
+  launch({false});
+  panels_.endAlertSheet(0);
+  windows_.orderFront(main_.myWindow);
+  windows_.beginSheet(main_.other, main_.myWindow, nullptr);
+  windows_.covers().whenFree(main_.myWindow, [this] { windows_.beginSheet(main_.other, main_.myWindow, nullptr); });
+  windows_.endSheet(main_.other, 0);
+  runLoop_.advance(2);
+  EXPECT_FALSE(outlets_.sslPanel.isShown());
+  runLoop_.run();
+  EXPECT_EQ(windows_.sheetOver(main_.myWindow), &main_.other);
+  windows_.endSheet(main_.other, 0);
+  runLoop_.advance(2);
+  EXPECT_TRUE(outlets_.sslPanel.isShown());
+}
+
 TEST_F(ConnectionCheckTest, leavesNoTimerBehind) {
   {
-    ConnectionCheck other({outlets_, main_.myWindow, engine_, defaults_, notifications_, panels_, runLoop_, windows_,
-                           texts_, [] { return false; }});
+    ConnectionCheck other(
+        {outlets_, main_.myWindow, engine_, defaults_, notifications_, panels_, runLoop_, windows_, texts_});
     engine_.probes = {false};
     other.checkConnection();
     panels_.endAlertSheet(0);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
@@ -114,6 +115,11 @@ TEST_F(AddinPanes, cautionsStandBesideTheWindowUntilTheyAreClosed) {
       EXPECT_GE(text->height(), text->heightForWidth(text->width()));
     }
     EXPECT_TRUE(widget<QPushButton>(caution.close).isDefault());
+    window().activateWindow();
+    settle();
+    ASSERT_EQ(QApplication::activeWindow(), &window());
+    open();
+    EXPECT_EQ(QApplication::activeWindow(), &dialog) << "one that is open comes to the front";
     QTest::mouseClick(&widget<QPushButton>(caution.close), Qt::LeftButton);
     EXPECT_FALSE(dialog.isVisible());
     open();

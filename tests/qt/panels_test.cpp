@@ -31,7 +31,7 @@ struct PanelsTest : testing::Test {
   AlertDialog& alert() { return *dynamic_cast<AlertDialog*>(QApplication::activeModalWidget()); }
   SomeOutlets outlets;
   QWidget host;
-  QtPanels panels{{[this](Window*) { return &host; }, [](Window*) { return 30; },
+  QtPanels panels{{[this](Window&) { return &host; }, [this](QDialog& sheet, Window&) { openSheet(sheet, host, 30); },
                    [this](const std::string& path) { return folder / path; }}};
   test::TemporaryFolder folder;
   const Alert question{"Replace?", "The style is replaced.", {"Cancel", "Replace"}, ""};

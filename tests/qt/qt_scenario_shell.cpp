@@ -47,8 +47,8 @@ void pressLater(int button) {
 
 QtScenarioShell::QtScenarioShell()
     : windows_(screen),
-      panels_({[this](Window* window) { return windows_.widgetOf(*window); },
-               [this](Window* window) { return windows_.sheetTop(*window); },
+      panels_({[this](Window& window) { return windows_.widgetOf(window); },
+               [this](QDialog& sheet, Window& host) { windows_.hang(sheet, host); },
                [](const std::string& path) { return path; }}) {}
 
 void QtScenarioShell::programConstructed(Program& program) {

@@ -31,7 +31,8 @@ class TestWindow {
     product.emplace(ProductOptions{.root = root(),
                                    .home = root() + "/Users/taro",
                                    .language = language,
-                                   .resources = TARVO_SOURCE_DIR "/resources"});
+                                   .resources = TARVO_SOURCE_DIR "/resources",
+                                   .engine = engine});
     if (!asksAboutTheService && !folder.exists(settings)) {
       Dictionary answered;
       answered.set("ConnectServer", true);
@@ -70,7 +71,8 @@ class TestWindow {
   TemporaryFolder folder;
   std::optional<Product> product;
   std::optional<Shell> shell;
-  std::function<void()> prepare;  // called before the start, when the shell is there
+  std::function<void()> prepare;      // called before the start, when the shell is there
+  std::optional<std::string> engine;  // what the command line says of the style service
   bool started = false, asksAboutTheService = false;
 };
 

@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QScreen>
 #include <QTest>
 #include <QToolBar>
@@ -18,6 +19,7 @@
 
 #include "qt/bind/window_frame.h"
 #include "qt/guided_tour.h"
+#include "qt/window/sheet.h"
 #include "tests/qt/test_window.h"
 
 namespace tarvo {
@@ -171,6 +173,36 @@ TEST_F(MainWindowTest, theToolbarIsCustomisedAndKeptBetweenRuns) {
   start();
   EXPECT_EQ(interface().manager.toolbar.order(), (std::vector<std::string>{"OA", "StyleManager"}));
   EXPECT_EQ(widget<QToolBar>("manager.toolbar").actions().size(), 2);
+}
+
+TEST_F(MainWindowTest, aSheetWaitsWhileTheToolbarIsCustomised) {
+  start();
+  widget<QAction>("manager.customizeToolbarMenu").trigger();
+  auto* dialog = window().findChild<QDialog*>("toolbarCustomise");
+  ASSERT_NE(dialog, nullptr);
+  widget<QAction>("style.newEJUDMenu").trigger();
+  EXPECT_FALSE(interface().newDictionary.NewDicWindow.isShown());
+  EXPECT_TRUE(interface().style.quitMenu.isValid());
+  dialog->close();
+  settle();
+  EXPECT_TRUE(interface().newDictionary.NewDicWindow.isShown());
+  EXPECT_EQ(sheetOver(window()), shell->windows().widgetOf(interface().newDictionary.NewDicWindow));
+}
+
+TEST_F(MainWindowTest, aNewDictionaryAskedForUnderTheLaunchsQuestionComesAfterIt) {
+  asksAboutTheService = true;
+  engine = "none";
+  start();
+  const QDialog* question = sheetOver(window());
+  ASSERT_NE(question, nullptr);
+  widget<QAction>("style.newEJUDMenu").trigger();
+  EXPECT_TRUE(interface().style.quitMenu.isValid());
+  QTest::mouseClick(question->findChild<QPushButton*>("alert.1"), Qt::LeftButton);
+  settle();
+  EXPECT_TRUE(interface().newDictionary.NewDicWindow.isShown());
+  EXPECT_FALSE(interface().style.quitMenu.isValid());
+  QTest::mouseClick(&widget<QPushButton>("style.NewDicCancelButton"), Qt::LeftButton);
+  EXPECT_TRUE(interface().style.quitMenu.isValid());
 }
 
 TEST_F(MainWindowTest, theLastToolbarItemStays) {

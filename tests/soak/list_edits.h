@@ -27,6 +27,9 @@ inline int shellEditCount() { return editCount() / 20; }
 const std::vector<unsigned>& seeds();
 std::string seedName(std::size_t index);  // "fixed0", "fixed1", "fresh"
 
+// In memory where the system has a place for that: a hundred thousand synced writes would only wear a disk.
+std::string placeOfSoaks();
+
 // A product of its own with dictionaries of both directions and styles without any. A home lies at Users/taro.
 class SoakRoot {
  public:
@@ -40,7 +43,6 @@ class SoakRoot {
 
  private:
   static constexpr const char* styleFileBelow = "Users/taro/Library/Preferences/Wordhaven/TarvoStyle2009.plist";
-  // In memory where the system has a place for that: a hundred thousand synced writes would only wear a disk.
   TemporaryFolder folder_;
 };
 

@@ -29,12 +29,12 @@ Dictionary emptyStyle(int number) {
   return style;
 }
 
+}  // namespace
+
 std::string placeOfSoaks() {
   const std::filesystem::path memory = "/dev/shm";
   return std::filesystem::is_directory(memory) ? memory : std::filesystem::temp_directory_path();
 }
-
-}  // namespace
 
 int editCount() {
   const char* count = std::getenv("TARVO_EDITS");

@@ -56,6 +56,7 @@ struct ExchangeWorld {
   FakeEngine engine{log};
   FakePanels panels{log};
   FakeHost host;
+  FakeRunLoop runLoop;
   Texts texts;
   Locations locations{"/product", "/product/Users/taro"};
   UserDefaults defaults{files, "/defaults.plist"};
@@ -63,7 +64,7 @@ struct ExchangeWorld {
   PaneOutlets pane;
   ExportOutlets outlets;
   PaneAlerts alerts{panels, texts};
-  Windows windows{host};
+  Windows windows{host, runLoop};
   StyleExchange exchange{
       {outlets, pane.stylePopup, pane.myWindow, store, files, locations, panels, alerts, windows, texts}};
 };

@@ -56,6 +56,7 @@ class StyleNamingTest : public testing::Test {
   FakeEngine engine_{log_};
   FakePanels panels_{log_};
   FakeHost host_;
+  FakeRunLoop runLoop_;
   Texts texts_;
   UserDefaults defaults_{files_, "/defaults.plist"};
   StyleStore store_{files_, engine_, defaults_, "/styles.plist", "/seed.plist"};
@@ -63,7 +64,7 @@ class StyleNamingTest : public testing::Test {
   NamingOutlets outlets_;
   ProcessFlags flags_;
   PaneAlerts alerts_{panels_, texts_};
-  Windows windows_{host_};
+  Windows windows_{host_, runLoop_};
   StyleNaming naming_{{outlets_, pane_.stylePopup, pane_.myWindow, store_, flags_, alerts_, windows_}, "NomalStyle"};
 };
 
@@ -85,10 +86,32 @@ TEST_F(StyleNamingTest, opensWithThePresentName) {
   EXPECT_EQ(files_.writes(), 0);
 }
 
-TEST_F(StyleNamingTest, doesNotOpenWithoutARecord) {
+TEST_F(StyleNamingTest, doesNotOpenWithoutARecordAndSaysSo) {
   pane_.stylePopup.selectItemAtIndex(-1);
+  log_.clear();
   naming_.editStyleName();
   EXPECT_FALSE(isOpen());
+  EXPECT_FALSE(flags_.gMenuControllFlag);
+  EXPECT_EQ(log_, Log{"tell NoStyleToRename"});
+}
+
+TEST_F(StyleNamingTest, waitsForAnotherSheetAndShowsTheStyleThatIsChosenThen) {
+  struct Others : Outlets {
+    Others() : Outlets("other") {}
+    Window sheet{*this, "sheet"};
+  } others;
+  windows_.orderFront(pane_.myWindow);
+  windows_.beginSheet(others.sheet, pane_.myWindow, nullptr);
+  pane_.stylePopup.selectItemAtIndex(1);
+  naming_.editStyleName();
+  EXPECT_FALSE(isOpen());
+  EXPECT_FALSE(flags_.gMenuControllFlag) << "nothing is up that restricts the menus";
+  pane_.stylePopup.selectItemAtIndex(3);
+  windows_.endSheet(others.sheet, 0);
+  EXPECT_TRUE(isOpen());
+  EXPECT_EQ(field(), "Beta");
+  EXPECT_TRUE(flags_.gMenuControllFlag);
+  naming_.snCancelButtonAction();
   EXPECT_FALSE(flags_.gMenuControllFlag);
 }
 

@@ -29,6 +29,7 @@ class FakePanels : public Panels {
  public:
   explicit FakePanels(Log& log) : log_(log) {}
   void beep() override { log_.push_back("beep"); }
+  void tell(const std::string& text) override { log_.push_back("tell " + text); }
   int runAlertPanel(const Alert& alert) override {
     alerts.push_back(alert);
     log_.push_back("alert " + alert.title + " / " + alert.message);

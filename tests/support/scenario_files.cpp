@@ -47,6 +47,7 @@ ScenarioFile readScenario(const std::string& path) {
     if (key == "options") file.options = wordsOf(value);
     if (key == "root") file.root = value;
     if (key == "resources") file.resources = value;
+    if (key == "tells") file.tells += value + "\n";
     if (key == "needs") file.needsAttributes = value == "attributes";
   }
   return file;
@@ -61,7 +62,8 @@ std::vector<ScenarioFile> scenarioFiles() {
   return files;
 }
 
-ScenarioRoot::ScenarioRoot(const std::string& fixture) {
+ScenarioRoot::ScenarioRoot(const std::string& fixture, const std::string& above)
+    : folder_(above.empty() ? fs::temp_directory_path().string() : above) {
   fs::copy(scenarioFolder() + "/fixtures/" + fixture, root(), fs::copy_options::recursive);
   fs::create_directories(home());
 }

@@ -13,6 +13,7 @@
 //   # options: --strings none …   command-line options; relative files start in tests/scenarios
 //   # root: NAME                  a copy of fixtures/NAME is the product's root ("plain" when nothing is said)
 //   # resources: NAME           the folder NAME of that copy is the resource folder, so that a script can change it
+//   # tells: LINE                 a line that the console tool prints on standard error, where nothing else may stand
 //   # needs: attributes           only where the disk keeps extended attributes
 namespace tarvo::test {
 
@@ -20,7 +21,7 @@ struct ScenarioFile {
   std::string path, folder;  // folder: that of the file, where relative paths of its lines start
   std::string name;          // room and file as one word, "tools_two_tools_with_one_id": a name for a test
   std::vector<std::string> options;
-  std::string root = "plain", resources = {};
+  std::string root = "plain", resources = {}, tells = {};
   bool needsAttributes = false;
 };
 
@@ -31,7 +32,8 @@ ScenarioFile readScenario(const std::string& path);
 // A private copy of the file's root, with a home "Users/taro" below it, gone with this object.
 class ScenarioRoot {
  public:
-  explicit ScenarioRoot(const std::string& fixture);
+  // above: the folder in which it lies; "" for the system's own place.
+  explicit ScenarioRoot(const std::string& fixture, const std::string& above = "");
   std::string root() const { return folder_ / "root"; }
   std::string home() const { return folder_ / "root/Users/taro"; }
   const TemporaryFolder& folder() const { return folder_; }

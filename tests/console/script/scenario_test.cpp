@@ -18,7 +18,7 @@ TEST_P(Scenario, runs) {
   std::vector<std::string> arguments = scenarioArguments(file, root);
   arguments.insert(arguments.end(), {"run", file.path});
   const ToolResult result = runTool(arguments, scenarioFolder());
-  EXPECT_EQ(result.err, "");
+  EXPECT_EQ(result.err, file.tells);
   EXPECT_EQ(result.status, 0) << result.out;
 }
 

@@ -32,7 +32,8 @@ class WindowsTest : public testing::Test {
   }
   SomeWindows some_;
   FakeHost host_;
-  Windows windows_{host_};
+  FakeRunLoop runLoop_;
+  Windows windows_{host_, runLoop_};
   Log log_;
 };
 

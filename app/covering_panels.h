@@ -2,19 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <set>
-
 #include "platform/services/panels.h"
 
 namespace tarvo {
 
-// The shell's panels, counted while they are up: a request from outside must not come upon a question to the user.
-class CountedPanels : public Panels {
+class Covers;
+
+// The shell's panels, entered in the record of what covers the windows while they are up. Everything of the program
+// works with these.
+class CoveringPanels : public Panels {
  public:
-  explicit CountedPanels(Panels& panels) : panels_(panels) {}
-  bool isAnyUp() const { return running_ > 0 || !hosts_.empty(); }
-  bool isSheetOver(const Window& host) const { return hosts_.contains(&host); }
+  CoveringPanels(Panels& panels, Covers& covers) : panels_(panels), covers_(covers) {}
   void beep() override;
+  void tell(const std::string& text) override;
   int runAlertPanel(const Alert& alert) override;
   void beginAlertSheet(Window& host, const Alert& alert, std::function<void(int button)> handler) override;
   std::optional<std::string> runOpenPanel(const OpenPanel& panel) override;
@@ -23,8 +23,7 @@ class CountedPanels : public Panels {
 
  private:
   Panels& panels_;
-  int running_ = 0;
-  std::multiset<const Window*> hosts_;
+  Covers& covers_;
 };
 
 }  // namespace tarvo
