@@ -44,7 +44,7 @@ bool AppController::awakeFromNib() {
   showStyles();
   interface_.options.ejOptionView.scrollToTop();
   interface_.options.jeOptionView.scrollToTop();
-  rooms_.store.awakeFlag = false;
+  rooms_.store.setAwakening(false);
   return true;
 }
 
@@ -59,13 +59,12 @@ void AppController::showStyles() {
 void AppController::createDictControllers() {
   const ProductPaths& paths = services_.paths;
   constexpr DictionaryKind technical = DictionaryKind::technical;
-  rooms_.lists.ejTDController.initializeDictController(technical, paths.tarvoPathTechnicalDicEngFolderURL(),
-                                                       Direction::englishToJapanese);
-  rooms_.lists.jeTDController.initializeDictController(technical, paths.tarvoPathTechnicalDicJpnFolderURL(),
-                                                       Direction::japaneseToEnglish);
+  rooms_.lists.ejTDController().initializeDictController(technical, paths.tarvoPathTechnicalDicEngFolderURL(),
+                                                         Direction::englishToJapanese);
+  rooms_.lists.jeTDController().initializeDictController(technical, paths.tarvoPathTechnicalDicJpnFolderURL(),
+                                                         Direction::japaneseToEnglish);
   interface_.lists.ejTDTable.registerForDraggedTypes({"row"});
   interface_.lists.jeTDTable.registerForDraggedTypes({"row"});
-  if (!setsUpUserLists) return;
   rooms_.userLists.setUp();
   UserListOutlets& tables = interface_.userLists;
   for (TableView* table :
@@ -107,10 +106,10 @@ void AppController::restoreTool() {
   const std::vector<std::string> ids = toolIds(services_.texts);
   const std::string* stored = defaults_.string(SMSelectedTag);
   int place = 0;
-  rooms_.store.currentID = siblingTools[0].key;  // the key itself: no id has been chosen yet
+  rooms_.store.setCurrentID(std::string(siblingTools[0].key));  // the key itself: no id has been chosen yet
   for (std::size_t i = 0; stored != nullptr && i < ids.size(); ++i) {
     if (ids[i] != *stored) continue;
-    rooms_.store.currentID = ids[i];
+    rooms_.store.setCurrentID(ids[i]);
     place = static_cast<int>(i);
     break;
   }
@@ -127,8 +126,8 @@ void AppController::showFirstPages() {
 
 void AppController::changeStyle() {
   const int index = interface_.style.stylePopup.indexOfSelectedItem();
-  rooms_.lists.ejTDController.clearInformation();
-  rooms_.lists.jeTDController.clearInformation();
+  rooms_.lists.ejTDController().clearInformation();
+  rooms_.lists.jeTDController().clearInformation();
   rooms_.display.setupStyleData2(index);
   interface_.lists.ejTDTable.reloadData();
   interface_.lists.jeTDTable.reloadData();
@@ -139,12 +138,12 @@ void AppController::changeStyle() {
 
 void AppController::selectTableViewAction(Tool tool) {
   interface_.style.toolIcon.setImage(std::string(rowOf(tool).icon));
-  rooms_.store.currentID = toolId(tool, services_.texts);
+  rooms_.store.setCurrentID(toolId(tool, services_.texts));
   if (rooms_.store.getSelection() != nullptr) {
     interface_.style.stylePopup.selectItemAtIndex(rooms_.store.selectedStyle());
     changeStyle();
   }
-  defaults_.set(SMSelectedTag, rooms_.store.currentID);
+  defaults_.set(SMSelectedTag, rooms_.store.currentID());
   defaults_.synchronize();
 }
 

@@ -50,8 +50,6 @@ class AppController {
   void handleCallerCode(std::string_view code);
   int getOSVersion() const;
   void quitAction() { terminate_(); }
-  // Makes the lists of user dictionaries and memories; a caller may leave it out before awakeFromNib.
-  bool setsUpUserLists = true;
 
  private:
   bool loadUserInfor();
@@ -65,7 +63,7 @@ class AppController {
 
   Interface& interface_;
   Rooms& rooms_;
-  Services services_;
+  const Services& services_;
   UserDefaults& defaults_;
   NotificationCenter& notifications_;
   std::function<void()> terminate_;

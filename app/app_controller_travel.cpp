@@ -15,8 +15,8 @@ namespace {
 // The engine is not told of writes while its own styles are shown.
 class Awakening {
  public:
-  explicit Awakening(StyleStore& store) : store_(store) { store_.awakeFlag = true; }
-  ~Awakening() { store_.awakeFlag = false; }
+  explicit Awakening(StyleStore& store) : store_(store) { store_.setAwakening(true); }
+  ~Awakening() { store_.setAwakening(false); }
   Awakening(const Awakening&) = delete;
   Awakening& operator=(const Awakening&) = delete;
 

@@ -18,18 +18,19 @@ std::string_view outletOf(const Control& control) {
 
 }  // namespace
 
-void Interface::connect(Rooms& rooms, const Texts& texts) {
-  styleRows(rooms, texts);
+void Interface::connect(const Actors& actors, const Texts& texts) {
+  Rooms& rooms = actors.rooms;
+  styleRows(actors, texts);
   optionRows(rooms, texts);
   listRows(rooms, texts);
   userListRows(rooms);
-  managerRows(rooms, texts);
+  managerRows(actors, texts);
   addinRows(rooms, texts);
-  menuRows(rooms, texts);
+  menuRows(actors);
   pickerRows(rooms, texts);
   sheetRows(rooms, texts);
-  travelRows(rooms, texts);
-  connectionRows(rooms, texts);
+  travelRows(actors, texts);
+  connectionRows(actors, texts);
   apply(texts);
   for (PopUpButton& popup : options.detailPopups) popup.selectItemAtIndex(-1);  // no style is shown yet
 }

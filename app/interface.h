@@ -25,8 +25,17 @@
 // control; the table is the only place where an action is connected.
 namespace tarvo {
 
+class AppController;
+class TManagerController;
 class Texts;
 struct Rooms;
+
+// Whose operations the controls are connected to. Not owned.
+struct Actors {
+  Rooms& rooms;
+  AppController& styles;
+  TManagerController& manager;
+};
 
 struct StyleOutlets : Outlets {
   PopUpButton stylePopup{*this, "stylePopup"};
@@ -88,7 +97,7 @@ class Interface {
   Interface& operator=(const Interface&) = delete;
 
   // Fills the rows and applies them: tags, places, labels, items, actions.
-  void connect(Rooms& rooms, const Texts& texts);
+  void connect(const Actors& actors, const Texts& texts);
   const std::vector<Row>& rows() const { return rows_; }
   std::vector<Control*> controls() const;  // of every outlet struct
   // "style.stylePopup", or "stylePopup" without the owner; case-sensitive. Null when there is none. Names that the
@@ -96,19 +105,19 @@ class Interface {
   Control* find(std::string_view name) const;
 
  private:
-  void styleRows(Rooms& rooms, const Texts& texts);
+  void styleRows(const Actors& actors, const Texts& texts);
   void optionRows(Rooms& rooms, const Texts& texts);
   void listRows(Rooms& rooms, const Texts& texts);
   void userListRows(Rooms& rooms);
   void pickerRows(Rooms& rooms, const Texts& texts);
-  void travelRows(Rooms& rooms, const Texts& texts);
-  void connectionRows(Rooms& rooms, const Texts& texts);
+  void travelRows(const Actors& actors, const Texts& texts);
+  void connectionRows(const Actors& actors, const Texts& texts);
   void sheetRows(Rooms& rooms, const Texts& texts);
-  void managerRows(Rooms& rooms, const Texts& texts);
+  void managerRows(const Actors& actors, const Texts& texts);
   void addinRows(Rooms& rooms, const Texts& texts);
-  void menuRows(Rooms& rooms, const Texts& texts);
+  void menuRows(const Actors& actors);
   // A menu command, which both controllers must allow.
-  void menuItem(Rooms& rooms, MenuItem& menu, int tag, std::string label, Control::Action action);
+  void menuItem(const Actors& actors, MenuItem& menu, int tag, std::string label, Control::Action action);
   void row(Row row) { rows_.push_back(std::move(row)); }
   void apply(const Texts& texts);
   std::vector<Row> rows_;

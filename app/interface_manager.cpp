@@ -18,8 +18,8 @@ namespace {
 constexpr std::array<const char*, gAppCreatorArray.size()> officeToolImages{"MG", "TX", "UD", "TMA", "TL", "NP", "QB"};
 }  // namespace
 
-void Interface::managerRows(Rooms& rooms, const Texts& texts) {
-  TManagerController& controller = *rooms.manager;
+void Interface::managerRows(const Actors& actors, const Texts& texts) {
+  TManagerController& controller = actors.manager;
   Window* window = &manager.myWindow;
   row({.control = manager.myWindow, .window = window});
   manager.myWindow.didMove = [&controller] { controller.windowDidMove(); };
@@ -61,7 +61,7 @@ void Interface::managerRows(Rooms& rooms, const Texts& texts) {
              }
              return items;
            },
-       .action = to(rooms.toolList, &ToolListFile::changeOfficeTool)});
+       .action = to(actors.rooms.toolList, &ToolListFile::changeOfficeTool)});
 
   Window* caution = &manager.displayAlertWindow;
   row({.control = *caution, .window = caution});
@@ -75,19 +75,19 @@ void Interface::managerRows(Rooms& rooms, const Texts& texts) {
        .action = to(controller.screenCaution(), &ScreenCaution::closeCautionDisplayWindow)});
 }
 
-void Interface::menuItem(Rooms& rooms, MenuItem& menu, int tag, std::string label, Control::Action action) {
-  TManagerController& controller = *rooms.manager;
+void Interface::menuItem(const Actors& actors, MenuItem& menu, int tag, std::string label, Control::Action action) {
+  TManagerController& controller = actors.manager;
   menu.validate = [&controller](const MenuItem& asked) { return controller.allowsMenuItem(asked.title()); };
   row({.control = menu, .tag = tag, .label = std::move(label), .action = std::move(action)});
 }
 
-void Interface::menuRows(Rooms& rooms, const Texts&) {
-  TManagerController& controller = *rooms.manager;
+void Interface::menuRows(const Actors& actors) {
+  TManagerController& controller = actors.manager;
   const auto item = [&](MenuItem& menu, int tag, Control::Action action) {
-    menuItem(rooms, menu, tag, "", std::move(action));
+    menuItem(actors, menu, tag, "", std::move(action));
   };
-  item(style.quitMenu, 0, to(*rooms.styles, &AppController::quitAction));
-  const auto newUD = to(rooms.newDictionary, &NewDictionary::newUD);
+  item(style.quitMenu, 0, to(actors.styles, &AppController::quitAction));
+  const auto newUD = to(actors.rooms.newDictionary, &NewDictionary::newUD);
   item(newDictionary.newEJUDMenu, 10, newUD);
   item(newDictionary.newJEUDMenu, 11, newUD);
   item(newDictionary.newEJTMAMenu, 12, newUD);

@@ -10,9 +10,10 @@
 // The style pane's menu, tool chooser and options.
 namespace tarvo {
 
-void Interface::styleRows(Rooms& rooms, const Texts& texts) {
+void Interface::styleRows(const Actors& actors, const Texts& texts) {
+  Rooms& rooms = actors.rooms;
   TabView* pane = &manager.myTabView;
-  row({.control = style.stylePopup, .tab = pane, .action = to(*rooms.styles, &AppController::changeStyle)});
+  row({.control = style.stylePopup, .tab = pane, .action = to(actors.styles, &AppController::changeStyle)});
   row({.control = naming.StyleNameEditButton, .tab = pane, .action = to(rooms.naming, &StyleNaming::editStyleName)});
   rooms.chooser.setUpSegments(texts);
   int tag = 0;

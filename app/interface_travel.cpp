@@ -8,7 +8,8 @@
 // How styles travel: the naming sheet, import and export, the connection sheet, and the help beside them.
 namespace tarvo {
 
-void Interface::travelRows(Rooms& rooms, const Texts& texts) {
+void Interface::travelRows(const Actors& actors, const Texts& texts) {
+  Rooms& rooms = actors.rooms;
   Window* sheet = &naming.styleNameWindow;
   sheet->setTitle(texts.localized("Label.styleNameWindow"));
   sheet->close = [&rooms] { rooms.naming.snCancelButtonAction(); };
@@ -30,12 +31,13 @@ void Interface::travelRows(Rooms& rooms, const Texts& texts) {
   row({.control = exchange.exportCloseButton,
        .window = window,
        .action = to(rooms.exchange, &StyleExchange::closeExportWindow)});
-  menuItem(rooms, exchange.importMenu, 0, "StyleInportMenu", to(*rooms.styles, &AppController::importStyle));
-  menuItem(rooms, exchange.exportMenu, 0, "StyleExportMenu", to(rooms.exchange, &StyleExchange::exportStyle));
-  menuItem(rooms, exchange.exportWindowMenu, 0, "", to(rooms.exchange, &StyleExchange::exportStyle2));
+  menuItem(actors, exchange.importMenu, 0, "StyleInportMenu", to(actors.styles, &AppController::importStyle));
+  menuItem(actors, exchange.exportMenu, 0, "StyleExportMenu", to(rooms.exchange, &StyleExchange::exportStyle));
+  menuItem(actors, exchange.exportWindowMenu, 0, "", to(rooms.exchange, &StyleExchange::exportStyle2));
 }
 
-void Interface::connectionRows(Rooms& rooms, const Texts& texts) {
+void Interface::connectionRows(const Actors& actors, const Texts& texts) {
+  Rooms& rooms = actors.rooms;
   Window* sheet = &connection.sslPanel;
   sheet->setTitle(texts.localized("Label.sslPanel"));
   row({.control = *sheet, .window = sheet});
@@ -46,10 +48,10 @@ void Interface::connectionRows(Rooms& rooms, const Texts& texts) {
        .window = sheet,
        .action = to(rooms.connection, &ConnectionCheck::actionPanel)});
 
-  menuItem(rooms, help.helpMenu, 0, "appHelp", to(rooms.help, &HelpPages::showHelp));
-  menuItem(rooms, help.homepageMenu, 0, "whHelp", to(rooms.help, &HelpPages::GotoWordhavenPage));
-  menuItem(rooms, help.supportMenu, 0, "supportHelp", to(rooms.help, &HelpPages::GotoRegiandSupportPage));
-  menuItem(rooms, help.oldTechMenu, 0, "oldEJTechMenu", to(rooms.help, &HelpPages::aboutOldEtoJTech));
+  menuItem(actors, help.helpMenu, 0, "appHelp", to(rooms.help, &HelpPages::showHelp));
+  menuItem(actors, help.homepageMenu, 0, "whHelp", to(rooms.help, &HelpPages::GotoWordhavenPage));
+  menuItem(actors, help.supportMenu, 0, "supportHelp", to(rooms.help, &HelpPages::GotoRegiandSupportPage));
+  menuItem(actors, help.oldTechMenu, 0, "oldEJTechMenu", to(rooms.help, &HelpPages::aboutOldEtoJTech));
 }
 
 }  // namespace tarvo

@@ -9,7 +9,6 @@
 #include "platform/engine/local_style_module.h"
 #include "platform/posix/bundle_script_runner.h"
 #include "platform/posix/posix_files.h"
-#include "platform/services/common_module.h"
 #include "platform/services/engine.h"
 #include "platform/services/plist_file.h"
 #include "platform/text/text_rules.h"
@@ -89,19 +88,9 @@ std::unique_ptr<Engine> Product::makeEngine(FileService& files) {
 
 Services Product::services(FileService& files, Engine& engine, RunLoop& runLoop, Panels& panels, WindowHost& windowHost,
                            Workspace& workspace, ScriptRunner* scripts) {
-  return {locations_,
-          files,
-          *bundle_,
-          texts_,
-          *paths_,
-          engine,
-          *styleModule_,
-          gTarvoCommonModule_,
-          runLoop,
-          panels,
-          windowHost,
-          workspace,
-          scripts != nullptr ? *scripts : *scripts_};
+  return {{locations_, files, *bundle_, texts_, *paths_, engine, *styleModule_, runLoop, windowHost, workspace,
+           scripts != nullptr ? *scripts : *scripts_},
+          panels};
 }
 
 }  // namespace tarvo

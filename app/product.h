@@ -71,7 +71,6 @@ class Product {
   std::unique_ptr<ProductPaths> paths_;
   std::unique_ptr<LocalStyleModule> styleModule_;
   std::unique_ptr<ScriptRunner> scripts_;
-  std::unique_ptr<TarvoCommonModule> gTarvoCommonModule_;
 };
 
 }  // namespace tarvo

@@ -3,8 +3,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
-#include <string>
 
 #include "app/app_controller.h"
 #include "app/covering_panels.h"
@@ -14,6 +12,7 @@
 #include "app/services.h"
 #include "app/style_file_opening.h"
 #include "app/t_manager_controller.h"
+#include "app/user_files.h"
 #include "platform/controls/windows.h"
 #include "platform/services/notification_center.h"
 #include "platform/services/user_defaults.h"
@@ -57,34 +56,6 @@ class Program {
   UserDefaults defaults_;
   NotificationCenter notifications_;
   Interface interface_;
-  ProcessFlags flags_;
-  StyleStore store_;
-  OptionEditing options_;
-  PaneAlerts alerts_;
-  RunningApplicationGuard guard_;
-  DictionaryListEditing lists_;
-  DictionaryTable dictionaryTable_;
-  MedicalDictionaries medical_;
-  UserLists userLists_;
-  UserListRows userListRows_;
-  NewDictionaryRequest request_;
-  TechDicController picker_;
-  DictionaryLoading loading_;
-  NewDictionary newDictionary_;
-  StyleNaming naming_;
-  StyleExchange exchange_;
-  StyleDisplay display_;
-  ToolChooser chooser_;
-  ToolListFile toolList_;
-  MailScriptInstaller mailScripts_;
-  MacroInstaller macros_;
-  AddinLists addins_;
-  AddinTable addinTable_;
-  OfficeFolderSearch officeSearch_;
-  OldScripts oldScripts_;
-  CautionWindows cautions_;
-  ConnectionCheck connection_;
-  HelpPages help_;
   Rooms rooms_;
   TManagerController manager_;
   AppController styles_;
@@ -92,10 +63,5 @@ class Program {
   RequestQueue requests_;
   bool managerAwake_ = false, terminated_ = false;
 };
-
-// Where the settings, the lock and the tool list of a user lie, in the core's spelling.
-std::string userDefaultsPath(const Locations& locations);
-std::string lockPath(const Locations& locations);
-std::string toolListPath(const Locations& locations);
 
 }  // namespace tarvo

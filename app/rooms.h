@@ -2,8 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+#include <string>
+
+#include "app/interface.h"
+#include "app/services.h"
 #include "app/style_display.h"
 #include "app/tool_chooser.h"
+#include "app/user_files.h"
 #include "dict/dictionary_list_editing.h"
 #include "dict/dictionary_loading.h"
 #include "dict/dictionary_table.h"
@@ -23,50 +29,93 @@
 #include "install/office_folder_search.h"
 #include "install/old_scripts.h"
 #include "install/tool_list_file.h"
+#include "platform/services/common_module.h"
+#include "platform/services/locations.h"
+#include "platform/services/texts.h"
 #include "style/option_editing.h"
 #include "style/pane_alerts.h"
 #include "style/process_flags.h"
 #include "style/style_exchange.h"
+#include "style/style_keys.h"
 #include "style/style_naming.h"
 #include "style/style_store.h"
 
 namespace tarvo {
 
-class AppController;
-class Program;
-class TManagerController;
+class NotificationCenter;
+class UserDefaults;
 
-// The rooms of the program, side by side, and the controllers for whom the interface table connects controls. Not
-// owned.
+// The rooms of the program, side by side. This is the list of them: each stands here once, with what it works with, and
+// is made after those above it.
 struct Rooms {
-  StyleStore& store;
-  OptionEditing& options;
-  DictionaryListEditing& lists;
-  DictionaryTable& dictionaryTable;
-  MedicalDictionaries& medical;
-  UserLists& userLists;
-  UserListRows& userListRows;
-  TechDicController& picker;
-  DictionaryLoading& loading;
-  NewDictionary& newDictionary;
-  RunningApplicationGuard& guard;
-  PaneAlerts& alerts;
-  StyleNaming& naming;
-  StyleExchange& exchange;
-  StyleDisplay& display;
-  ToolChooser& chooser;
-  ToolListFile& toolList;
-  MailScriptInstaller& mailScripts;
-  AddinLists& addins;
-  AddinTable& addinTable;
-  OfficeFolderSearch& officeSearch;
-  OldScripts& oldScripts;
-  CautionWindows& cautions;
-  ConnectionCheck& connection;
-  HelpPages& help;
-  ProcessFlags& flags;
-  AppController* styles = nullptr;  // set before the table is connected
-  TManagerController* manager = nullptr;
+  // What surrounds them all. Not owned.
+  struct With {
+    Interface& interface;
+    const Services& services;
+    UserDefaults& defaults;
+    NotificationCenter& notifications;
+    Windows& windows;
+    std::function<void(Tool tool)> chooseTool;  // the sequence that follows the choice of a tool
+  };
+  explicit Rooms(With with);
+  ~Rooms();
+  Rooms(const Rooms&) = delete;
+  Rooms& operator=(const Rooms&) = delete;
+
+ private:
+  With with_;
+  Interface& interface_ = with_.interface;
+  const Services& services_ = with_.services;
+  const Texts& texts_ = services_.texts;
+  UserDefaults& defaults_ = with_.defaults;
+  Windows& windows_ = with_.windows;
+  PopUpButton& stylePopup_ = interface_.style.stylePopup;
+  Window& myWindow_ = interface_.manager.myWindow;
+  const std::string home_ = services_.locations.home();
+  const DictController::Services dictionaryServices_{services_.files, texts_, services_.bundle, services_.paths};
+  const DictionaryNameChecks::Services nameServices_{services_.files, texts_, services_.paths, services_.panels};
+  TarvoCommonModule module_{services_.paths};
+  NewDictionaryRequest request_;
+
+ public:
+  ProcessFlags flags;
+  PaneAlerts alerts{services_.panels, texts_};
+  StyleStore store{services_.files, services_.engine, defaults_, services_.locations.inHome(std::string(gStylePath)),
+                   std::string(gAppSupportStylePlist)};
+  OptionEditing options{store, interface_.options, texts_};
+  RunningApplicationGuard guard{services_.workspace, services_.paths};
+  DictionaryListEditing lists{store, stylePopup_, interface_.lists, texts_, dictionaryServices_, guard};
+  DictionaryTable dictionaryTable{lists, texts_};
+  MedicalDictionaries medical{services_.files, texts_, defaults_, store};
+  UserLists userLists{dictionaryServices_};
+  UserListRows userListRows{interface_.userLists, userLists, dictionaryServices_};
+  TechDicController picker{{interface_.picker, windows_, services_.workspace, alerts, guard, with_.notifications},
+                           nameServices_};
+  DictionaryLoading loading{lists, picker, request_, alerts, guard, texts_};
+  NewDictionary newDictionary{{interface_.newDictionary, interface_.userLists, myWindow_, request_, lists, userLists,
+                               flags, alerts, guard, with_.notifications, windows_},
+                              nameServices_};
+  StyleNaming naming{{interface_.naming, stylePopup_, myWindow_, store, flags, alerts, windows_},
+                     texts_.localized(nomalStyle)};
+  StyleExchange exchange{{interface_.exchange, stylePopup_, myWindow_, store, services_.files, services_.locations,
+                          services_.panels, alerts, windows_, texts_}};
+  StyleDisplay display{store, options, lists, texts_};
+  ToolChooser chooser{interface_.style, interface_.options, flags, with_.chooseTool};
+  ToolListFile toolList{services_.files, defaults_, module_, interface_.tools, toolListPath(services_.locations)};
+  MailScriptInstaller mailScripts{services_.files, services_.bundle, home_};
+  MacroInstaller macros{services_.files, services_.bundle};
+  AddinLists addins{{services_.files, services_.bundle, defaults_}, home_, mailScripts, interface_.addins};
+  AddinTable addinTable{{services_.panels, texts_},  addins, macros, mailScripts, interface_.addins,
+                        interface_.manager.myTabView};
+  OfficeFolderSearch officeSearch{
+      {services_.files, services_.locations, services_.panels, texts_, services_.scripts, module_},
+      addins,
+      mailScripts};
+  OldScripts oldScripts{{services_.files, services_.panels, texts_}, addins, mailScripts, home_};
+  CautionWindows cautions{interface_.addins, windows_, services_.files, services_.workspace};
+  ConnectionCheck connection{{interface_.connection, myWindow_, services_.engine, defaults_, with_.notifications,
+                              services_.panels, services_.runLoop, windows_, texts_}};
+  HelpPages help{services_.bundle, services_.paths, texts_, services_.workspace};
 };
 
 }  // namespace tarvo

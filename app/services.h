@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <memory>
-
 namespace tarvo {
 
 class Bundle;
@@ -15,14 +13,13 @@ class ProductPaths;
 class RunLoop;
 class ScriptRunner;
 class StyleModule;
-class TarvoCommonModule;
 class Texts;
 class WindowHost;
 class Workspace;
 
-// Everything outside the program that it works with: what the product gives (product.h) and what a shell gives. Not
-// owned.
-struct Services {
+// Everything outside the program that it works with, but for the panels: what the product gives (product.h) and what a
+// shell gives. Not owned.
+struct Surroundings {
   Locations& locations;
   FileService& files;
   Bundle& bundle;
@@ -30,12 +27,15 @@ struct Services {
   ProductPaths& paths;
   Engine& engine;
   StyleModule& styleModule;
-  std::unique_ptr<TarvoCommonModule>& gTarvoCommonModule;  // one per process; made by the main controller
   RunLoop& runLoop;
-  Panels& panels;
   WindowHost& windowHost;
   Workspace& workspace;
   ScriptRunner& scripts;
+};
+
+// All of it. A program is given the shell's panels, and gives its rooms and controllers its own in their place.
+struct Services : Surroundings {
+  Panels& panels;
 };
 
 }  // namespace tarvo

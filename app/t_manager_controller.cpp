@@ -10,7 +10,6 @@
 #include "app/panes.h"
 #include "app/rooms.h"
 #include "app/window_geometry.h"
-#include "platform/services/common_module.h"
 #include "platform/services/notification_center.h"
 #include "platform/services/notification_names.h"
 #include "platform/services/panels.h"
@@ -45,9 +44,7 @@ TManagerController::TManagerController(Interface& interface, Rooms& rooms, const
 
 TManagerController::~TManagerController() {
   notifications_.removeObserver(this);
-  if (services_.gTarvoCommonModule == nullptr) return;
-  services_.paths.tarvoPathTerminate();
-  services_.gTarvoCommonModule.reset();
+  if (modulesStarted_) services_.paths.tarvoPathTerminate();
 }
 
 bool TManagerController::init() {
@@ -65,10 +62,11 @@ bool TManagerController::init() {
 }
 
 bool TManagerController::startModules() {
-  if (services_.gTarvoCommonModule != nullptr) return true;
   ProductPaths& paths = services_.paths;
-  services_.gTarvoCommonModule = std::make_unique<TarvoCommonModule>(paths);
+  const bool runAlready = paths.isInitialized();
   paths.tarvoPathInitialize();
+  modulesStarted_ = true;
+  if (runAlready) return true;
   if (const int code = paths.tarvoPathLoadDictAndHelper(0); code != 0) {
     tellModuleFailure(code);
     return false;

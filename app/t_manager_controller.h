@@ -67,12 +67,13 @@ class TManagerController {
 
   Interface& interface_;
   Rooms& rooms_;
-  Services services_;
+  const Services& services_;
   UserDefaults& defaults_;
   NotificationCenter& notifications_;
   Windows& windows_;
   std::function<void()> terminate_;
   ScreenCaution caution_;
+  bool modulesStarted_ = false;
 };
 
 }  // namespace tarvo

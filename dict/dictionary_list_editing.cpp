@@ -22,8 +22,8 @@ bool isRowOf(const std::optional<Names>& names, int row) {
 DictionaryListEditing::DictionaryListEditing(StyleStore& store, const PopUpButton& stylePopup, ListOutlets& outlets,
                                              const Texts& texts, DictController::Services services,
                                              RunningApplicationGuard& guard)
-    : ejTDController(services),
-      jeTDController(services),
+    : ejTDController_(services),
+      jeTDController_(services),
       store_(store),
       stylePopup_(stylePopup),
       outlets_(outlets),

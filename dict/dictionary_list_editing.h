@@ -32,9 +32,10 @@ class DictionaryListEditing {
   DictionaryListEditing(StyleStore& store, const PopUpButton& stylePopup, ListOutlets& outlets, const Texts& texts,
                         DictController::Services services, RunningApplicationGuard& guard);
 
-  DictController ejTDController, jeTDController;
+  DictController& ejTDController() { return ejTDController_; }
+  DictController& jeTDController() { return jeTDController_; }
   DictController& getActiveDictController(Direction direction) {
-    return direction == Direction::englishToJapanese ? ejTDController : jeTDController;
+    return direction == Direction::englishToJapanese ? ejTDController_ : jeTDController_;
   }
   TableView& getActiveTableView(Direction direction) {
     return direction == Direction::englishToJapanese ? outlets_.ejTDTable : outlets_.jeTDTable;
@@ -53,6 +54,7 @@ class DictionaryListEditing {
 
  private:
   void move(Direction direction, int step);
+  DictController ejTDController_, jeTDController_;
   StyleStore& store_;
   const PopUpButton& stylePopup_;
   ListOutlets& outlets_;

@@ -56,7 +56,7 @@ void OfficeFolderSearch::searchFolder(const std::string& folder) {
 int OfficeFolderSearch::getApplicationVer(const std::string& path) {
   // Each line feed stands between two blanks, as the script service expects it.
   const std::string source = "tell application \"Finder\" \n set appInfo to info for file \"" +
-                             services_.module->unixPathToClassic(path) +
+                             services_.module.unixPathToClassic(path) +
                              "\" \n set appVer to short version of appInfo \n end tell";
   const std::optional<std::string> version = services_.scripts.runScript(source);
   return version ? leadingInteger(*version) : 0;

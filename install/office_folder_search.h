@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <memory>
 #include <string>
 
 #include "install/addin_entry.h"
@@ -29,7 +28,7 @@ class OfficeFolderSearch {
     Panels& panels;
     const Texts& texts;
     ScriptRunner& scripts;
-    const std::unique_ptr<TarvoCommonModule>& module;  // made when the main controller starts
+    const TarvoCommonModule& module;
   };
   OfficeFolderSearch(Services services, AddinLists& lists, const MailScriptInstaller& mailScripts)
       : services_(services), lists_(lists), mailScripts_(mailScripts) {}

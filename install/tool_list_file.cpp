@@ -35,7 +35,7 @@ void appendLine(std::string& text, std::string_view key, std::string_view value)
 
 }  // namespace
 
-ToolListFile::ToolListFile(FileService& files, UserDefaults& defaults, const std::unique_ptr<TarvoCommonModule>& module,
+ToolListFile::ToolListFile(FileService& files, UserDefaults& defaults, const TarvoCommonModule& module,
                            ToolListOutlets& outlets, std::string path)
     : files_(files), defaults_(defaults), module_(module), outlets_(outlets), path_(std::move(path)) {}
 
@@ -62,9 +62,9 @@ void ToolListFile::writeOffieTool() {
 
   std::string text;
   appendLine(text, "Server_Path", serverCreator);
-  appendLine(text, "Cache_Path", module_->unixPathToClassic(module_->preferencesWordhavenCache()));
+  appendLine(text, "Cache_Path", module_.unixPathToClassic(module_.preferencesWordhavenCache()));
   appendLine(text, "Setting_Path", styleManagerCreator);
-  appendLine(text, "Helpfile_Path", module_->unixPathToClassic(addInHelpPath));
+  appendLine(text, "Helpfile_Path", module_.unixPathToClassic(addInHelpPath));
   appendLine(text, "Tool_Name", title);
   appendLine(text, "Tool_Path", creator);
   appendLine(text, "Tool_Action", std::to_string(action.number));

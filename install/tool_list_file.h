@@ -3,7 +3,6 @@
 #pragma once
 
 #include <array>
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -28,9 +27,9 @@ struct ToolListOutlets : Outlets {
 
 class ToolListFile {
  public:
-  // module: made when the main controller starts; set before the first write. path: of the file.
-  ToolListFile(FileService& files, UserDefaults& defaults, const std::unique_ptr<TarvoCommonModule>& module,
-               ToolListOutlets& outlets, std::string path);
+  // path: of the file.
+  ToolListFile(FileService& files, UserDefaults& defaults, const TarvoCommonModule& module, ToolListOutlets& outlets,
+               std::string path);
   const std::string& path() const { return path_; }
   // Selects the tool stored under "Tool_Path": the first one when nothing is stored; an unknown code leaves the pop-up
   // alone.
@@ -43,7 +42,7 @@ class ToolListFile {
  private:
   FileService& files_;
   UserDefaults& defaults_;
-  const std::unique_ptr<TarvoCommonModule>& module_;
+  const TarvoCommonModule& module_;
   ToolListOutlets& outlets_;
   std::string path_;
   bool written_ = false;

@@ -71,19 +71,19 @@ void StyleStore::replaceStyles(Array styles) {
 }
 
 void StyleStore::setSelection(int index) {
-  if (Dictionary* selection = tarvoStyle_.dictionary(keyNameSelection)) selection->set(currentID, index);
+  if (Dictionary* selection = tarvoStyle_.dictionary(keyNameSelection)) selection->set(currentID_, index);
   writeTarvoStylePlist();
 }
 
 int StyleStore::selectedStyle() const {
   const Dictionary* selection = getSelection();
-  return selection != nullptr ? selection->integerValue(currentID) : 0;
+  return selection != nullptr ? selection->integerValue(currentID_) : 0;
 }
 
 void StyleStore::writeTarvoStylePlist() {
   saved_ = file_.write(tarvoStyle_);
   if (didWrite) didWrite();
-  if (awakeFlag) return;
+  if (awakening_) return;
   const std::optional<StyleSet> styles = styleSet();
   registration_.registerStyles(styles ? &*styles : nullptr);
 }

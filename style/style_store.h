@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "style/engine_registration.h"
 #include "style/style_file.h"
@@ -52,15 +53,20 @@ class StyleStore {
   std::function<void()> didWrite;          // told after each write, before the engine is
   const std::string& path() const { return file_.path(); }
 
-  bool awakeFlag = true;  // start-up or a take-over from the engine is running: nothing is registered
-  std::string currentID;  // id of the chosen sibling tool, the key into "Selection"
+  // While start-up or a take-over from the engine is running nothing is registered. It is running at first.
+  bool isAwakening() const { return awakening_; }
+  void setAwakening(bool awakening) { awakening_ = awakening; }
+  // Id of the chosen sibling tool, the key into "Selection"; "" at first.
+  const std::string& currentID() const { return currentID_; }
+  void setCurrentID(std::string id) { currentID_ = std::move(id); }
 
  private:
   std::optional<StyleSet> styleSet();
   StyleFile file_, seed_;
   EngineRegistration registration_;
   Dictionary tarvoStyle_;
-  bool saved_ = true;
+  std::string currentID_;
+  bool saved_ = true, awakening_ = true;
 };
 
 }  // namespace tarvo

@@ -8,7 +8,7 @@ namespace tarvo {
 
 class ProductPaths;
 
-// Services that the product's tools share. There is one per process, made when the main controller starts.
+// Services that the product's tools share. A program has one of its own.
 class TarvoCommonModule {
  public:
   explicit TarvoCommonModule(const ProductPaths& paths);

@@ -14,7 +14,7 @@ ProductPaths::ProductPaths(const Locations& locations, std::optional<Dictionary>
   if (configuration) configuration_ = std::move(*configuration);
 }
 
-void ProductPaths::tarvoPathInitialize() { initialized_ = true; }
+void ProductPaths::tarvoPathInitialize() { ++users_; }
 
 int ProductPaths::tarvoPathLoadDictAndHelper(int) {
   const PropertyList* configured = configuration_.find("tarvoPathLoadDictAndHelper");
@@ -22,7 +22,7 @@ int ProductPaths::tarvoPathLoadDictAndHelper(int) {
   return readable_ ? 0 : 1;
 }
 
-void ProductPaths::tarvoPathTerminate() { initialized_ = false; }
+void ProductPaths::tarvoPathTerminate() { --users_; }
 
 std::string ProductPaths::tarvoPathPreferencesFolderURL() const {
   return path("tarvoPathPreferencesFolderURL", "~/Library/Preferences/Wordhaven");

@@ -20,15 +20,15 @@ class ProductPaths {
  public:
   // configuration: nothing when the list could not be read.
   ProductPaths(const Locations& locations, std::optional<Dictionary> configuration);
-  virtual ~ProductPaths() = default;
   ProductPaths(const ProductPaths&) = delete;
   ProductPaths& operator=(const ProductPaths&) = delete;
 
+  // Programs of one process share the module: it is initialised until each of them has terminated it.
   void tarvoPathInitialize();
   // 0 when the configuration could be read, else 1; or the number configured under the function's own name.
   int tarvoPathLoadDictAndHelper(int mode);
   void tarvoPathTerminate();
-  bool isInitialized() const { return initialized_; }
+  bool isInitialized() const { return users_ > 0; }
 
   std::string tarvoPathPreferencesFolderURL() const;
   std::string tarvoPathTechnicalDicEngFolderURL() const;
@@ -43,8 +43,7 @@ class ProductPaths {
   std::string tarvoPathSupportURL() const;  // an address, "" when none is configured
   std::string tarvoPathHomepageURL() const;
   // Application path of one of the product's tools, keys "tarvoPathGetAppleyPath.<number>"; "" for an unknown tool.
-  // Who has to know when a tool is asked for derives.
-  virtual std::string tarvoPathGetAppleyPath(int tool) const;
+  std::string tarvoPathGetAppleyPath(int tool) const;
 
   std::string preferencesWordhavenCache() const;         // the product's cache folder
   std::string volumeName() const;                        // of the boot volume, for classic paths
@@ -60,7 +59,8 @@ class ProductPaths {
   std::string text(std::string_view key, std::string_view otherwise) const;
   const Locations& locations_;
   Dictionary configuration_;
-  bool readable_, initialized_ = false;
+  bool readable_;
+  int users_ = 0;
 };
 
 }  // namespace tarvo

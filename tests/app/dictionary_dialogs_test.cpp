@@ -163,7 +163,7 @@ TEST_F(DictionaryDialogs, areOpenToScriptsByName) {
   EXPECT_EQ(call("style.openMaxOverAlert", {"1"}), std::nullopt);
   EXPECT_EQ(test_.log, (Log{"beep", "alert MaxOverUDAlertHeader / MaxOverUDAlertContents"}));
   EXPECT_EQ(call("style.setSelectedDic", {"1"}), std::nullopt);
-  EXPECT_FALSE(test_.program().rooms().lists.ejTDController.selectedDictionary()) << "nothing is ticked";
+  EXPECT_FALSE(test_.program().rooms().lists.ejTDController().selectedDictionary()) << "nothing is ticked";
 }
 
 }  // namespace

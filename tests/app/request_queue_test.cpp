@@ -34,7 +34,7 @@ class RequestsTest : public testing::Test {
   }
   RequestQueue& requests() { return test_.program().requests(); }
   void send(const std::string& code) { requests().event(littleEndian(code)); }
-  std::string currentTool() { return test_.program().rooms().store.currentID; }
+  std::string currentTool() { return test_.program().rooms().store.currentID(); }
   int pane() { return test_.interface().manager.myTabView.selectedPage(); }
 
   TestProgram test_;

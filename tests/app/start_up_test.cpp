@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "app/operations.h"
 #include "platform/plist/plist_writer.h"
 #include "platform/services/style_module.h"
@@ -20,8 +22,8 @@ std::string pathsFile(const TestProgram& test, const Dictionary& paths) {
 
 TEST(StartUp, beginsWithNoToolNoStylesAndTheRegistrationOff) {
   TestProgram test;
-  EXPECT_TRUE(test.program().rooms().store.awakeFlag);
-  EXPECT_EQ(test.program().rooms().store.currentID, "");
+  EXPECT_TRUE(test.program().rooms().store.isAwakening());
+  EXPECT_EQ(test.program().rooms().store.currentID(), "");
   EXPECT_TRUE(test.program().rooms().store.root().empty());
   EXPECT_EQ(test.program().rooms().lists.shownDirection(), Direction::englishToJapanese);
   EXPECT_FALSE(test.root.exists(test.inHome("Library")));
@@ -39,28 +41,48 @@ TEST(StartUp, hearsOfTheEngineFromTheConstructionOn) {
 TEST(StartUp, tellsTheStyleModuleWhereEverythingLiesInOrder) {
   TestProgram test;
   FakeStyleModule module(test.log);
-  Services services = test.program().services();
+  const Surroundings around = test.program().services();
   test.drop();
-  Program program({services.locations, services.files, services.bundle, services.texts, services.paths, services.engine,
-                   module, services.gTarvoCommonModule, services.runLoop, services.panels, services.windowHost,
-                   services.workspace, services.scripts});
+  Program program({{around.locations, around.files, around.bundle, around.texts, around.paths, around.engine, module,
+                    around.runLoop, around.windowHost, around.workspace, around.scripts},
+                   test.panels});
   ASSERT_TRUE(program.construct());
   const std::string product = "/Library/Application Support/Wordhaven/TarvoEiwa/TechDic/";
   EXPECT_EQ(test.log, (Log{"tarvoStyleInitialize",
                            "tarvoStyleSetTStyleUrl /Users/taro/Library/Preferences/Wordhaven/TarvoStyle2009.plist",
                            "tarvoStyleSetTechDictUrl " + product + "EJ " + product + "JE",
                            "tarvoStyleSetUserDictUrl /Users/taro/Library/Application Support/Wordhaven/UserDic"}));
-  EXPECT_TRUE(services.paths.isInitialized());
+  EXPECT_TRUE(around.paths.isInitialized());
 }
 
-TEST(StartUp, endsTheModulesWithTheControllerAndStartsThemOncePerProcess) {
+TEST(StartUp, endsTheModulesWithTheController) {
   TestProgram test;
   ASSERT_TRUE(test.program().construct());
-  const Services services = test.program().services();
-  EXPECT_NE(services.gTarvoCommonModule, nullptr);
+  EXPECT_TRUE(test.product->paths().isInitialized());
   test.drop();
-  EXPECT_EQ(services.gTarvoCommonModule, nullptr);
-  EXPECT_FALSE(services.paths.isInitialized());
+  EXPECT_FALSE(test.product->paths().isInitialized());
+}
+
+// Whichever goes first leaves the other whole: each has its own module, and the path module stays up for the last.
+TEST(StartUp, twoProgramsOfOneProcessLiveAndEndApart) {
+  TestProgram test;
+  test.writeStyles(sampleRoot());
+  Product& product = *test.product;
+  const auto make = [&] {
+    return std::make_unique<Program>(
+        product.services(product.files(), test.engine, test.runLoop, test.panels, test.host, test.workspace));
+  };
+  for (const bool firstGoesFirst : {true, false}) {
+    std::unique_ptr<Program> first = make(), second = make();
+    ASSERT_TRUE(first->start() && second->start());
+    (firstGoesFirst ? first : second).reset();
+    EXPECT_TRUE(product.paths().isInitialized());
+    Program& left = firstGoesFirst ? *second : *first;
+    left.interface().tools.officeToolPopup.userChoose(2);
+    EXPECT_TRUE(left.rooms().toolList.isWritten());
+    left.quit();
+  }
+  EXPECT_FALSE(product.paths().isInitialized());
 }
 
 TEST(StartUp, aControllerThatIsGoneHearsNoNotification) {
@@ -117,15 +139,6 @@ TEST(StartUp, opensTheWindowJustAsLargeAsTheStylePaneOnAFirstStart) {
   EXPECT_EQ(frame.width, rowOf(Pane::style).size.width);
   EXPECT_EQ(frame.height, rowOf(Pane::style).size.height + FakeHost::titleBar + FakeHost::toolbar);
   EXPECT_EQ(test.defaultsOnDisk().find("MyWindowFrame"), nullptr);
-}
-
-TEST(StartUp, leavesTheUserListsAloneWhereTheyAreNotAskedFor) {
-  TestProgram test;
-  test.writeStyles(sampleRoot());
-  ASSERT_TRUE(test.program().construct());
-  test.program().styles().setsUpUserLists = false;
-  ASSERT_TRUE(test.program().load());
-  EXPECT_FALSE(test.root.exists(test.inHome("Library/Application Support/Wordhaven/UserDic")));
 }
 
 TEST(StartUp, makesTheUserFoldersForEverybody) {

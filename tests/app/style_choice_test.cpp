@@ -17,7 +17,7 @@ class StyleChoice : public testing::Test {
     test_.program().start();
     Interface& interface = test_.interface();
     interface.options.indexPopups[0].view = [this](Control::Change) {
-      const auto loaded = test_.program().rooms().lists.ejTDController.selectedDictionary();
+      const auto loaded = test_.program().rooms().lists.ejTDController().selectedDictionary();
       test_.log.push_back(loaded ? "options over loaded lists" : "options over cleared lists");
     };
     const auto watch = [this](Control& control, const char* name, Control::Change change) {
@@ -64,7 +64,7 @@ TEST_F(StyleChoice, ofALongListTurnsLoadingOffAfterTheWrite) {
   }
   record.dictionary("EJ")->set("TD", names);
   test_.program().rooms().store.setStyle(1, record);
-  test_.program().rooms().lists.ejTDController.updateAllDictionary();
+  test_.program().rooms().lists.ejTDController().updateAllDictionary();
   test_.log.clear();
   test_.interface().style.stylePopup.userChoose(1);
   EXPECT_EQ(test_.log, (Log{"options over cleared lists", "details", "english list", "japanese list", "english list",

@@ -297,12 +297,12 @@ TEST_F(StyleTravel, choosesTheToolThatIsStoredAndItsRememberedStyle) {
   test_.engine.held.resize(5, test_.engine.held[0]);
   test_.engine.held[3].dictionary()->dictionary("EJ")->set("Opt1", 2);
   post();
-  EXPECT_EQ(test_.program().rooms().store.currentID, "QB");
+  EXPECT_EQ(test_.program().rooms().store.currentID(), "QB");
   EXPECT_EQ(interface().style.stylePopup.indexOfSelectedItem(), 3);
   EXPECT_EQ(options()[0], 2);
   test_.program().defaults().set("SMSelectedTag", "GONE");
   post();
-  EXPECT_EQ(test_.program().rooms().store.currentID, "MG");
+  EXPECT_EQ(test_.program().rooms().store.currentID(), "MG");
   EXPECT_EQ(*test_.defaultsOnDisk().string("SMSelectedTag"), "MG");
 }
 

@@ -42,7 +42,7 @@ TEST_F(ToolChooserTest, aClickChoosesTheToolOfSegmentAndControl) {
   EXPECT_EQ(selected(), (Segments{-1, 2, -1}));
   EXPECT_EQ(saveHit(), Tool::notepad);
   EXPECT_EQ(outlets().toolIcon.image(), "NP.tif");
-  EXPECT_EQ(test_.program().rooms().store.currentID, "NP");
+  EXPECT_EQ(test_.program().rooms().store.currentID(), "NP");
   EXPECT_EQ(outlets().stylePopup.indexOfSelectedItem(), 0);
   EXPECT_EQ(test_.log, (Log{"reachable", "register 4"}));
   EXPECT_EQ(test_.stylesOnDisk().dictionary("Selection")->integerValue("NP"), 0);
@@ -81,7 +81,7 @@ TEST(ToolChooser, leavesNoSegmentSelectedBeyondTheToolsAndKeepsTheTool) {
   }
   test.program().rooms().chooser.setSelectSeg(8);
   EXPECT_EQ(style.TEAppSeg3.selectedSegment(), 2);
-  EXPECT_EQ(test.program().rooms().store.currentID, "MG");
+  EXPECT_EQ(test.program().rooms().store.currentID(), "MG");
   EXPECT_EQ(test.root.read(test.inHome(TestProgram::stylePath)), before);
 }
 

@@ -180,9 +180,9 @@ class HangBench {
     for (const std::string_view half : {keyNameEJ, keyNameJE}) {
       style->dictionary(half)->array(keyNameTD)->push_back(PropertyList("is not there.TRet"));
     }
-    store.awakeFlag = true;
+    store.setAwakening(true);
     store.setStyle(chosen, *style);
-    store.awakeFlag = false;
+    store.setAwakening(false);
   }
 
   static void act(Shell& shell, Action action) {

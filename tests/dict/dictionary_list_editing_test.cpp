@@ -20,9 +20,9 @@ Names numbered(int count) {
 
 TEST(DictionaryListEditing, eachDirectionHasItsListAndItsTable) {
   StylePaneWorld world;
-  EXPECT_EQ(&world.editing.getActiveDictController(EJ), &world.editing.ejTDController);
+  EXPECT_EQ(&world.editing.getActiveDictController(EJ), &world.editing.ejTDController());
   EXPECT_EQ(&world.editing.getActiveTableView(EJ), &world.outlets.ejTDTable);
-  EXPECT_EQ(&world.editing.getActiveDictController(JE), &world.editing.jeTDController);
+  EXPECT_EQ(&world.editing.getActiveDictController(JE), &world.editing.jeTDController());
   EXPECT_EQ(&world.editing.getActiveTableView(JE), &world.outlets.jeTDTable);
 }
 
@@ -30,7 +30,7 @@ TEST(SavingAList, changesNothingButTheDirectionsDictionaries) {
   StylePaneWorld world;
   world.openWithLists({"b.TRet", "a.TRet"}, {"j.TRet"});
   const Dictionary before = world.styleOnDisk();
-  world.editing.ejTDController.updateDictionary({"a.TRet", "b.TRet"});
+  world.editing.ejTDController().updateDictionary({"a.TRet", "b.TRet"});
   world.editing.writeUpdateDicTarvoPlist(EJ);
   EXPECT_EQ(world.writes, 1);
   Dictionary expected = before;
@@ -41,8 +41,8 @@ TEST(SavingAList, changesNothingButTheDirectionsDictionaries) {
 TEST(SavingAList, ofTheOtherDirectionLeavesThisOneAlone) {
   StylePaneWorld world;
   world.openWithLists(abc, {"p.TRet", "q.TRet"});
-  world.editing.jeTDController.updateDictionary({"q.TRet"});
-  world.editing.ejTDController.clearInformation();
+  world.editing.jeTDController().updateDictionary({"q.TRet"});
+  world.editing.ejTDController().clearInformation();
   world.editing.writeUpdateDicTarvoPlist(JE);
   EXPECT_EQ(world.listOnDisk(keyNameJE), Array{"q.TRet"});
   EXPECT_EQ(world.listOnDisk(keyNameEJ), arrayOf(abc));
@@ -51,7 +51,7 @@ TEST(SavingAList, ofTheOtherDirectionLeavesThisOneAlone) {
 TEST(SavingAList, thatIsEmptyRemovesTheKey) {
   StylePaneWorld world;
   world.openWithLists(abc, {});
-  world.editing.ejTDController.clearInformation();
+  world.editing.ejTDController().clearInformation();
   world.editing.writeUpdateDicTarvoPlist(EJ);
   EXPECT_EQ(world.writes, 1);
   EXPECT_EQ(world.listOnDisk(keyNameEJ), Array{"(absent)"});
@@ -87,7 +87,7 @@ TEST(SavingAList, intoTheDividerWritesItBackAsItIsEvenWhereItHasHalves) {
 TEST(SavingAList, withoutAShownStyleChangesAndWritesNothing) {
   StylePaneWorld world;
   world.openWithLists(abc, {});
-  world.editing.ejTDController.clearInformation();
+  world.editing.ejTDController().clearInformation();
   for (const int index : {-1, 1}) {
     world.menu.stylePopup.setItems(std::vector<PopUpButton::Item>(2));
     world.menu.stylePopup.selectItemAtIndex(index);
@@ -154,7 +154,7 @@ TEST(MovingARow, upSelectsItAtItsNewPlaceAndSaves) {
   world.outlets.ejTDTable.selectRows({2});
   world.editing.raiseUpTD(0);
   const Names moved{"a.TRet", "c.TRet", "b.TRet"};
-  EXPECT_EQ(loadedOf(world.editing.ejTDController), moved);
+  EXPECT_EQ(loadedOf(world.editing.ejTDController()), moved);
   EXPECT_EQ(world.outlets.ejTDTable.selectedRows(), std::vector<int>{1});
   EXPECT_EQ(world.writes, 1);
   EXPECT_EQ(world.listOnDisk(keyNameEJ), arrayOf(moved));
@@ -193,7 +193,7 @@ TEST(MovingARow, withoutARowOrBeyondAnEndDoesNothing) {
   world.editing.raiseUpTD(0);
   world.outlets.ejTDTable.selectRows({2});
   world.editing.raiseDownTD(0);
-  EXPECT_EQ(loadedOf(world.editing.ejTDController), abc);
+  EXPECT_EQ(loadedOf(world.editing.ejTDController()), abc);
   EXPECT_EQ(world.writes, 0);
 }
 
@@ -202,10 +202,10 @@ TEST(MovingARow, ofATableThatShowsMoreThanIsLoadedDoesNothing) {
   world.openWithLists(abc, {});
   world.outlets.ejTDTable.selectRows({2});
   world.take("b.TRet");
-  world.editing.ejTDController.updateAllDictionary();
+  world.editing.ejTDController().updateAllDictionary();
   world.editing.raiseUpTD(0);
   world.editing.removeTD(0);
-  EXPECT_EQ(loadedOf(world.editing.ejTDController), (Names{"a.TRet", "c.TRet"}));
+  EXPECT_EQ(loadedOf(world.editing.ejTDController()), (Names{"a.TRet", "c.TRet"}));
   EXPECT_EQ(world.writes, 0);
 }
 

@@ -56,7 +56,7 @@ TEST(DictionaryLoading, theScanNeitherSavesNorReadsTheTable) {
   world.withPicker([] {});
   EXPECT_EQ(world.takeLog(), (Log{"reload picker.techDicTable", "scroll picker.techDicTable 0", "modal picker.myWindow",
                                   "hidden picker.myWindow", "modal ended"}));
-  EXPECT_EQ(loadedOf(world.editing.ejTDController), Names{"a.TRet"});
+  EXPECT_EQ(loadedOf(world.editing.ejTDController()), Names{"a.TRet"});
   EXPECT_EQ(world.outlets.ejTDTable.numberOfRows(), 2);
   EXPECT_EQ(world.listOnDisk(keyNameEJ), (Array{"a.TRet", "b.TRet"}));
 }
@@ -140,7 +140,7 @@ TEST(DictionaryLoading, aListBeyondTheLimitTakesNothingUntilEnoughAreRemoved) {
     EXPECT_EQ(world.takeLog(), (Log{"beep", "alert MaxOverTDAlertHeader / MaxOverTDAlertContents"}));
     EXPECT_TRUE(world.picker.myWindow.isShown());
   });
-  EXPECT_EQ(loadedOf(world.editing.ejTDController), technicalNames(10));
+  EXPECT_EQ(loadedOf(world.editing.ejTDController()), technicalNames(10));
   for (int times = 0; times < 3; ++times) {
     world.outlets.ejTDTable.selectRows({0});
     world.editing.removeTD(0);
@@ -256,7 +256,7 @@ TEST(DictionaryLoading, theTicksMayReplaceAListWithoutSaving) {
   world.withPicker([&] { world.tick({0}); });
   world.takeLog();
   world.loading.setSelectedDic(EJ);
-  EXPECT_EQ(loadedOf(world.editing.ejTDController), Names{"c.TRet"});
+  EXPECT_EQ(loadedOf(world.editing.ejTDController()), Names{"c.TRet"});
   EXPECT_EQ(world.takeLog(), Log{});
 }
 

@@ -42,7 +42,7 @@ TEST(DictionaryTable, aRowShowsTheNameWithoutExtensionAndTheDirectionsImage) {
 TEST(DictionaryTable, aRowBeyondTheListShowsNothing) {
   StylePaneWorld world;
   world.openWithLists({"a.TRet", "b.TRet"}, {});
-  world.editing.ejTDController.updateDictionary({"a.TRet"});
+  world.editing.ejTDController().updateDictionary({"a.TRet"});
   EXPECT_EQ(world.outlets.ejTDTable.numberOfRows(), 2) << "a table keeps the rows of its last reload";
   EXPECT_EQ(world.outlets.ejTDTable.cell("name", 1), CellValue{});
   EXPECT_EQ(world.table.objectValueForTableColumn(world.outlets.ejTDTable, "name", -1), CellValue{});
@@ -110,7 +110,7 @@ TEST_P(DroppedRowsInATable, areMovedSelectedAndSaved) {
   world.outlets.ejTDTable.selectRows({1});
   EXPECT_TRUE(world.outlets.ejTDTable.userDrag(GetParam().rows, world.outlets.ejTDTable, GetParam().dropRow,
                                                DropOperation::above));
-  EXPECT_EQ(arrayOf(loadedOf(world.editing.ejTDController)), GetParam().list);
+  EXPECT_EQ(arrayOf(loadedOf(world.editing.ejTDController())), GetParam().list);
   EXPECT_EQ(world.outlets.ejTDTable.selectedRows(), GetParam().selected);
   EXPECT_EQ(world.writes, 1);
   EXPECT_EQ(world.listOnDisk(keyNameEJ), GetParam().list);
@@ -166,7 +166,7 @@ TEST(DroppingRows, isRefusedBeforeAnythingChanges) {
       << "nothing is loaded there";
   EXPECT_EQ(looks, 0);
   EXPECT_EQ(world.writes, 0);
-  EXPECT_EQ(loadedOf(world.editing.ejTDController), abcd);
+  EXPECT_EQ(loadedOf(world.editing.ejTDController()), abcd);
   EXPECT_EQ(table.selectedRows(), Rows{1});
 }
 
@@ -174,9 +174,9 @@ TEST(DroppingRows, inATableThatIsNotShownMovesItsListButSavesTheShownOne) {
   StylePaneWorld world;
   world.openWithLists({"a.TRet", "b.TRet"}, {"j.TRet", "k.TRet"});
   world.editing.didSelectTabViewItem(world.texts.localized("JETab"));
-  world.editing.jeTDController.updateDictionary({"k.TRet"});
+  world.editing.jeTDController().updateDictionary({"k.TRet"});
   EXPECT_TRUE(world.outlets.ejTDTable.userDrag({1}, world.outlets.ejTDTable, 0, DropOperation::above));
-  EXPECT_EQ(loadedOf(world.editing.ejTDController), (Names{"b.TRet", "a.TRet"}));
+  EXPECT_EQ(loadedOf(world.editing.ejTDController()), (Names{"b.TRet", "a.TRet"}));
   EXPECT_EQ(world.listOnDisk(keyNameEJ), (Array{"a.TRet", "b.TRet"})) << "not what the drop changed";
   EXPECT_EQ(world.listOnDisk(keyNameJE), Array{"k.TRet"});
 }
@@ -185,8 +185,8 @@ TEST(DroppingRows, fromTheOtherTableTakesTheirNumbersAsOwnRows) {
   StylePaneWorld world;
   world.openWithLists({"a.TRet", "b.TRet"}, {"j.TRet", "k.TRet", "l.TRet"});
   EXPECT_TRUE(world.outlets.jeTDTable.userDrag({1}, world.outlets.ejTDTable, 0, DropOperation::above));
-  EXPECT_EQ(loadedOf(world.editing.ejTDController), (Names{"b.TRet", "a.TRet"}));
-  EXPECT_EQ(loadedOf(world.editing.jeTDController), (Names{"j.TRet", "k.TRet", "l.TRet"}));
+  EXPECT_EQ(loadedOf(world.editing.ejTDController()), (Names{"b.TRet", "a.TRet"}));
+  EXPECT_EQ(loadedOf(world.editing.jeTDController()), (Names{"j.TRet", "k.TRet", "l.TRet"}));
   EXPECT_FALSE(world.outlets.jeTDTable.userDrag({2}, world.outlets.ejTDTable, 0, DropOperation::above));
 }
 

@@ -43,44 +43,5 @@ TEST(RunningApplicationGuard, knowsAToolByExactlyThePathOfTheProduct) {
   }
 }
 
-// Both services note what they are asked.
-class WatchedPaths : public ProductPaths {
- public:
-  WatchedPaths(const Locations& locations, Log& log) : ProductPaths(locations, Dictionary()), log_(log) {}
-  std::string tarvoPathGetAppleyPath(int tool) const override {
-    log_.push_back("path of " + std::to_string(tool));
-    return "/A/T.app";
-  }
-
- private:
-  Log& log_;
-};
-
-class WatchedWorkspace : public FakeWorkspace {
- public:
-  explicit WatchedWorkspace(Log& log) : log_(log) {}
-  std::vector<std::string> launchedApplications() override {
-    log_.push_back("running");
-    return running;
-  }
-
- private:
-  Log& log_;
-};
-
-TEST(RunningApplicationGuard, asksForTheToolsPathAlsoWhenNothingRuns) {
-  Log log;
-  const Locations locations("/", "/Users/taro");
-  const WatchedPaths paths(locations, log);
-  WatchedWorkspace workspace(log);
-  RunningApplicationGuard guard(workspace, paths);
-  for (const std::vector<std::string>& running : {std::vector<std::string>{}, {"/A/T.app"}}) {
-    log.clear();
-    workspace.running = running;
-    EXPECT_EQ(guard.isStartedApplication(4), !running.empty());
-    EXPECT_EQ(log, (Log{"running", "path of 4"}));
-  }
-}
-
 }  // namespace
 }  // namespace tarvo::test

@@ -75,10 +75,10 @@ struct StylePaneWorld : DictionaryWorld {
     showLists(english, japanese);
   }
   void showLists(const Names& english, const Names& japanese) {
-    editing.ejTDController.initializeDictController(technical, dictionaryFolder(), EJ);
-    editing.jeTDController.initializeDictController(technical, folder / "japanese", JE);
-    editing.ejTDController.updateDictionary(english);
-    editing.jeTDController.updateDictionary(japanese);
+    editing.ejTDController().initializeDictController(technical, dictionaryFolder(), EJ);
+    editing.jeTDController().initializeDictController(technical, folder / "japanese", JE);
+    editing.ejTDController().updateDictionary(english);
+    editing.jeTDController().updateDictionary(japanese);
     outlets.ejTDTable.reloadData();
     outlets.jeTDTable.reloadData();
     for (const Direction direction : bothDirections) editing.updateButton(direction);

@@ -174,7 +174,7 @@ class OddWorld : public AddinWorld {
   OddValues odd_;
   Version14 scripts_;
   ProductPaths paths_{locations, Dictionary{}};
-  std::unique_ptr<TarvoCommonModule> module_ = std::make_unique<TarvoCommonModule>(paths_);
+  TarvoCommonModule module_{paths_};
   OfficeFolderSearch search_{{files, locations, panels, texts, scripts_, module_}, lists, mailScripts};
 };
 

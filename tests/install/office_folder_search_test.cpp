@@ -52,7 +52,7 @@ class FolderSearch : public testing::Test, protected AddinWorld {
   const std::string chosen = "/Volumes/D/Office";
   ScriptedService scripts;
   ProductPaths paths{locations, Dictionary{}};
-  std::unique_ptr<TarvoCommonModule> module = std::make_unique<TarvoCommonModule>(paths);
+  TarvoCommonModule module{paths};
   OfficeFolderSearch search{{files, locations, panels, texts, scripts, module}, lists, mailScripts};
 };
 

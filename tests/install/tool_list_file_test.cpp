@@ -59,7 +59,7 @@ class ToolList : public testing::Test {
   Locations locations{folder.path(), folder / "Users/taro"};
   NotingFiles files{locations, log};
   ProductPaths paths{locations, Dictionary{}};
-  std::unique_ptr<TarvoCommonModule> module = std::make_unique<TarvoCommonModule>(paths);
+  TarvoCommonModule module{paths};
   UserDefaults defaults{files, "/Users/taro/Library/Preferences/manager.plist"};
   ToolListOutlets outlets;
   ToolListFile toolList{files, defaults, module, outlets, "/Users/taro/Library/Preferences/Wordhaven/TarvoManager.txt"};
@@ -238,8 +238,10 @@ TEST_F(ToolList, theCachePathFollowsTheConfiguration) {
   configuration.set("preferencesWordhavenCache", "/Volumes/Data/Cache:1");
   configuration.set("VolumeName", "Boot");
   const ProductPaths configured(locations, configuration);
-  module = std::make_unique<TarvoCommonModule>(configured);
-  choose(0);
+  const TarvoCommonModule configuredModule(configured);
+  ToolListFile other(files, defaults, configuredModule, outlets, toolList.path());
+  outlets.officeToolPopup.selectItemAtIndex(0);
+  other.changeOfficeTool();
   EXPECT_NE(written().find("\r\nCache_Path=Data:Cache/1\r\n"), std::string::npos);
   EXPECT_NE(written().find("\r\nHelpfile_Path=Boot:Applications:"), std::string::npos);
 }

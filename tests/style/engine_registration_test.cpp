@@ -28,8 +28,8 @@ class EngineRegistrationTest : public testing::Test {
     files_.put("/styles.plist", writePropertyList(root));
     StyleStore store(files_, engine_, defaults_, "/styles.plist", "/seed.plist");
     EXPECT_TRUE(store.readUserStyles());
-    store.currentID = "MG";
-    store.awakeFlag = false;
+    store.setCurrentID("MG");
+    store.setAwakening(false);
     return store;
   }
   const std::string* stamp() const { return defaults_.string("LastUpdate"); }

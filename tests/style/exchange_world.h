@@ -43,7 +43,7 @@ struct ExchangeWorld {
   void open(const Dictionary& root) {
     files.put("/styles.plist", writePropertyList(root));
     store.readUserStyles();
-    store.awakeFlag = false;
+    store.setAwakening(false);
     std::vector<PopUpButton::Item> items;
     if (const Array* styles = root.array("Style")) {
       for (const PropertyList& style : *styles) items.push_back({*style.dictionary()->string("Name"), 0});

@@ -37,7 +37,7 @@ class OptionEditingTest : public testing::Test {
   void start(Dictionary root) {
     Array styles = *root.array("Style");
     store_.replaceStyles(std::move(styles));
-    store_.currentID = "MG";
+    store_.setCurrentID("MG");
     store_.didWrite = [this] { ++writes_; };
     writes_ = 0;
   }
@@ -145,7 +145,7 @@ TEST_F(OptionEditingTest, editsTheStyleThatTheToolRemembersNotTheFirstOne) {
   Dictionary root = sampleRoot();
   PlistFile(files_, folder_ / "styles.plist").write(root);
   ASSERT_TRUE(store_.readUserStyles());
-  store_.currentID = "QB";
+  store_.setCurrentID("QB");
   popup("ejOption1Popup").selectItemAtIndex(0);
   editing_.optionPopupChange(0);
   EXPECT_EQ(record(3).dictionary("EJ")->integerValue("Opt1"), 0);

@@ -23,7 +23,7 @@ class StyleNamingTest : public testing::Test {
   explicit StyleNamingTest(const Dictionary& root = sampleRoot()) {
     files_.put("/styles.plist", writePropertyList(root));
     EXPECT_TRUE(store_.readUserStyles());
-    store_.awakeFlag = false;
+    store_.setAwakening(false);
     std::vector<PopUpButton::Item> items;
     for (const PropertyList& style : *root.array("Style")) {
       const std::string* name = style.dictionary() != nullptr ? style.dictionary()->string("Name") : nullptr;

@@ -29,7 +29,7 @@ class StyleStoreTest : public testing::Test {
     folder_.write("styles.plist", writePropertyList(root));
     StyleStore store = makeStore();
     EXPECT_TRUE(store.readUserStyles());
-    store.currentID = "MG";
+    store.setCurrentID("MG");
     return store;
   }
   Dictionary onDisk() const {
@@ -169,7 +169,7 @@ TEST_F(StyleStoreTest, registersNothingDuringStartUp) {
 TEST_F(StyleStoreTest, registersAllStylesAfterEachWriteAndKeepsTheStamp) {
   engine_.online = true;
   StyleStore store = storeOf(sampleRoot());
-  store.awakeFlag = false;
+  store.setAwakening(false);
   store.setSelection(1);
   EXPECT_EQ(log_, (Log{"reachable", "register 4"}));
   EXPECT_EQ(engine_.registered, *store.getAllStyle());
@@ -179,7 +179,7 @@ TEST_F(StyleStoreTest, registersAllStylesAfterEachWriteAndKeepsTheStamp) {
 TEST_F(StyleStoreTest, leavesTheStampAloneWhenTheEngineIsAway) {
   defaults_.set("LastUpdate", "U0");
   StyleStore store = storeOf(sampleRoot());
-  store.awakeFlag = false;
+  store.setAwakening(false);
   store.setSelection(1);
   EXPECT_EQ(log_, Log{"unreachable"});
   EXPECT_EQ(*defaults_.string("LastUpdate"), "U0");
@@ -188,7 +188,7 @@ TEST_F(StyleStoreTest, leavesTheStampAloneWhenTheEngineIsAway) {
 TEST_F(StyleStoreTest, neverRegistersAFileWithoutStyles) {
   engine_.online = true;
   StyleStore store = storeOf({});
-  store.awakeFlag = false;
+  store.setAwakening(false);
   store.setSelection(0);
   EXPECT_EQ(log_, Log{"reachable"});
   EXPECT_EQ(defaults_.find("LastUpdate"), nullptr);
@@ -199,7 +199,7 @@ TEST_F(StyleStoreTest, registersAnEmptyListAsItIs) {
   Dictionary root;
   root.set("Style", Array{});
   StyleStore store = storeOf(root);
-  store.awakeFlag = false;
+  store.setAwakening(false);
   store.setSelection(0);
   EXPECT_EQ(log_, (Log{"reachable", "register 0"}));
 }
@@ -216,7 +216,7 @@ TEST_F(StyleStoreTest, keepsAnEmptyStampToo) {
   defaults_.set("LastUpdate", "U0");
   StyleStore store(files_, engine, defaults_, folder_ / "styles.plist", folder_ / "seed.plist");
   store.replaceStyles(*sampleRoot().array("Style"));
-  store.awakeFlag = false;
+  store.setAwakening(false);
   store.setSelection(1);
   ASSERT_NE(defaults_.string("LastUpdate"), nullptr);
   EXPECT_EQ(*defaults_.string("LastUpdate"), "");
@@ -224,7 +224,7 @@ TEST_F(StyleStoreTest, keepsAnEmptyStampToo) {
 
 TEST_F(StyleStoreTest, asksTheEngineEvenAfterAFailedWriteAndWritesEverythingLater) {
   StyleStore store = storeOf(sampleRoot());
-  store.awakeFlag = false;
+  store.setAwakening(false);
   files_.remove(folder_ / "styles.plist");
   folder_.makeFolder("styles.plist/in the way");
   Dictionary record = *store.getStyleAtIndex(0);
@@ -289,7 +289,7 @@ TEST_F(StyleStoreTest, joinsTheSameBytesAsAWholeEncodingAfterAnyEdits) {
 TEST_F(StyleStoreTest, handsTheEngineEachRecordAsItStandsInTheFile) {
   engine_.online = true;
   StyleStore store = storeOf(sampleRoot());
-  store.awakeFlag = false;
+  store.setAwakening(false);
   store.setSelection(1);
   const std::string file = folder_.read("styles.plist");
   ASSERT_EQ(engine_.encoded.size(), 4U);
