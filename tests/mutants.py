@@ -37,7 +37,7 @@ MUTANTS = [
     Mutant("platform/text/utf8.cpp", "codePoint < form.smallest || ", "",
            "a character has two spellings, and names that differ are the same"),
     # property lists
-    Mutant("platform/plist/plist_binary.cpp", "high == ~std::uint64_t{0} && low != 0", "high == ~std::uint64_t{0}",
+    Mutant("platform/plist/plist_binary_object.cpp", "high == ~std::uint64_t{0} && low != 0", "high == ~std::uint64_t{0}",
            "an integer below the range becomes a negative zero"),
     Mutant("platform/plist/plist_binary.cpp", "|| offset >= bytes_.size()", "",
            "an offset behind the file is followed"),
