@@ -43,50 +43,47 @@ ListPlace placeOf(const CommandLine& line) { return {line.words.index, direction
 
 using Line = const CommandLine&;
 
-const std::vector<Verb>& verbs() {
-  static const std::vector<Verb> all{
-      {"styles", "Verb.styles", "", [](Line line) { return make<StylesCommand>(line.json); }, true},
-      {"style", "Verb.style"},
-      {"style show", "Verb.style show", "N",
-       [](Line line) { return make<StyleShowCommand>(line.words.index, line.json); }, true},
-      {"style set", "Verb.style set", "N KEY=VALUE...",
-       [](Line line) { return make<StyleSetCommand>(line.words.index, line.words.pairs); }},
-      {"style rename", "Verb.style rename", "N NAME",
-       [](Line line) { return make<StyleRenameCommand>(line.words.index, line.words.name); }},
-      {"style export", "Verb.style export", "N FILE",
-       [](Line line) { return make<StyleExportCommand>(line.words.index, line.words.file); }},
-      {"style import", "Verb.style import", "N FILE",
-       [](Line line) { return make<StyleImportCommand>(line.words.index, line.words.file); }},
-      {"dictionaries", "Verb.dictionaries", "N DIRECTION",
-       [](Line line) { return make<DictionariesCommand>(placeOf(line), line.json); }, true},
-      {"dictionary", "Verb.dictionary"},
-      {"dictionary add", "Verb.dictionary add", "N DIRECTION NAMES...",
-       [](Line line) { return make<AddDictionariesCommand>(placeOf(line), line.words.names); }},
-      {"dictionary remove", "Verb.dictionary remove", "N DIRECTION NAME",
-       [](Line line) { return make<RemoveDictionaryCommand>(placeOf(line), line.words.name); }},
-      {"dictionary move", "Verb.dictionary move", "N DIRECTION NAME POSITION",
-       [](Line line) { return make<MoveDictionaryCommand>(placeOf(line), line.words.name, line.words.position); }},
-      {"new", "Verb.new", "DIRECTION KIND NAME",
-       [](Line line) { return make<NewDictionaryCommand>(directionOf(line), kindOf(line), line.words.name); }},
-      {"addins", "Verb.addins", "", [](Line line) { return make<AddinsCommand>(line.json); }, true},
-      {"addin", "Verb.addin"},
-      {"addin install", "Verb.addin install", "NAME [VERSION]",
-       [](Line line) { return make<AddinTickCommand>(line.words.name, line.words.version, true); }},
-      {"addin remove", "Verb.addin remove", "NAME [VERSION]",
-       [](Line line) { return make<AddinTickCommand>(line.words.name, line.words.version, false); }},
-      {"addin search", "Verb.addin search", "FOLDER",
-       [](Line line) { return make<AddinSearchCommand>(line.words.folder); }},
-      {"tool-list", "Verb.tool-list", "[TOOL]", [](Line line) { return make<ToolListCommand>(line.words.tool); }},
-      {"open", "Verb.open", "CODE", [](Line line) { return make<OpenCommand>(wordsForWindow(line), line.words.code); }},
-      {"engine", "Verb.engine"},
-      {"engine status", "Verb.engine status", "", [](Line line) { return make<EngineStatusCommand>(line.json); }, true},
-      {"engine push", "Verb.engine push", "", [](Line) { return make<EnginePushCommand>(); }},
-      {"engine pull", "Verb.engine pull", "", [](Line) { return make<EnginePullCommand>(); }},
-      {"doctor", "Verb.doctor", "", [](Line line) { return make<DoctorCommand>(line.json); }, true, false},
-      {"run", "Verb.run", "[FILE]"},
-  };
-  return all;
-}
+constexpr Verb verbs[] = {
+    {"styles", "Verb.styles", "", [](Line line) { return make<StylesCommand>(line.json); }, true},
+    {"style", "Verb.style"},
+    {"style show", "Verb.style show", "N",
+     [](Line line) { return make<StyleShowCommand>(line.words.index, line.json); }, true},
+    {"style set", "Verb.style set", "N KEY=VALUE...",
+     [](Line line) { return make<StyleSetCommand>(line.words.index, line.words.pairs); }},
+    {"style rename", "Verb.style rename", "N NAME",
+     [](Line line) { return make<StyleRenameCommand>(line.words.index, line.words.name); }},
+    {"style export", "Verb.style export", "N FILE",
+     [](Line line) { return make<StyleExportCommand>(line.words.index, line.words.file); }},
+    {"style import", "Verb.style import", "N FILE",
+     [](Line line) { return make<StyleImportCommand>(line.words.index, line.words.file); }},
+    {"dictionaries", "Verb.dictionaries", "N DIRECTION",
+     [](Line line) { return make<DictionariesCommand>(placeOf(line), line.json); }, true},
+    {"dictionary", "Verb.dictionary"},
+    {"dictionary add", "Verb.dictionary add", "N DIRECTION NAMES...",
+     [](Line line) { return make<AddDictionariesCommand>(placeOf(line), line.words.names); }},
+    {"dictionary remove", "Verb.dictionary remove", "N DIRECTION NAME",
+     [](Line line) { return make<RemoveDictionaryCommand>(placeOf(line), line.words.name); }},
+    {"dictionary move", "Verb.dictionary move", "N DIRECTION NAME POSITION",
+     [](Line line) { return make<MoveDictionaryCommand>(placeOf(line), line.words.name, line.words.position); }},
+    {"new", "Verb.new", "DIRECTION KIND NAME",
+     [](Line line) { return make<NewDictionaryCommand>(directionOf(line), kindOf(line), line.words.name); }},
+    {"addins", "Verb.addins", "", [](Line line) { return make<AddinsCommand>(line.json); }, true},
+    {"addin", "Verb.addin"},
+    {"addin install", "Verb.addin install", "NAME [VERSION]",
+     [](Line line) { return make<AddinTickCommand>(line.words.name, line.words.version, true); }},
+    {"addin remove", "Verb.addin remove", "NAME [VERSION]",
+     [](Line line) { return make<AddinTickCommand>(line.words.name, line.words.version, false); }},
+    {"addin search", "Verb.addin search", "FOLDER",
+     [](Line line) { return make<AddinSearchCommand>(line.words.folder); }},
+    {"tool-list", "Verb.tool-list", "[TOOL]", [](Line line) { return make<ToolListCommand>(line.words.tool); }},
+    {"open", "Verb.open", "CODE", [](Line line) { return make<OpenCommand>(wordsForWindow(line), line.words.code); }},
+    {"engine", "Verb.engine"},
+    {"engine status", "Verb.engine status", "", [](Line line) { return make<EngineStatusCommand>(line.json); }, true},
+    {"engine push", "Verb.engine push", "", [](Line) { return make<EnginePushCommand>(); }},
+    {"engine pull", "Verb.engine pull", "", [](Line) { return make<EnginePullCommand>(); }},
+    {"doctor", "Verb.doctor", "", [](Line line) { return make<DoctorCommand>(line.json); }, true, false},
+    {"run", "Verb.run", "[FILE]"},
+};
 
 CommandTable tableFor(CommandLine& line) {
   VerbWords& words = line.words;
@@ -106,7 +103,7 @@ CommandTable tableFor(CommandLine& line) {
                       {"TOOL", &words.tool},
                       {"CODE", &words.code}},
                      {}};
-  for (const Verb& verb : verbs()) table.verbs.push_back({verb.words, verb.meaning, verb.arguments});
+  for (const Verb& verb : verbs) table.verbs.push_back({verb.words, verb.meaning, verb.arguments});
   return table;
 }
 
@@ -139,7 +136,7 @@ std::optional<ExitStatus> readCommandLine(CommandLine& line, const std::vector<s
     out << helpText(table, read.verb, textsToTell(line));
     return ExitStatus::done;
   }
-  const auto verb = std::ranges::find(verbs(), read.verb, &Verb::words);
+  const Verb* verb = std::ranges::find(verbs, read.verb, &Verb::words);
   if (!read.error && line.json && !verb->lists) {
     read.error = {UsageError::Kind::unexpected, "--json", {}, synopsis(table, read.verb), ""};
   }
