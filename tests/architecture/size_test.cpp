@@ -8,7 +8,7 @@ namespace tarvo {
 namespace {
 
 // Beyond this a file holds more than one duty.
-constexpr int kLongestFile = 300;
+constexpr int kLongestFile = 250;
 
 TEST(Size, noFileOfTheProgramIsLongerThanItsLimit) {
   const auto counts = readLineCounts(TARVO_SOURCE_DIR);
