@@ -9,7 +9,7 @@
 
 namespace tarvo {
 
-// The two bothDirections of a translation. Controls bear a direction as their tag: 0 English to Japanese, any other
+// The two directions of a translation. Controls bear a direction as their tag: 0 English to Japanese, any other
 // Japanese to English.
 enum class Direction { englishToJapanese, japaneseToEnglish };
 
