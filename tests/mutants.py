@@ -20,14 +20,14 @@ class Mutant(NamedTuple):
 
 MUTANTS = [
     # text
-    Mutant("platform/text/base64.cpp", "padding * 2 != held", "padding > held",
+    Mutant("platform/text/base64.cpp", " || bits != 0", "",
            "data with bits left over are read as data"),
     Mutant("platform/text/text_encoding.cpp", "if (isLowSurrogate(codePoint)) return std::nullopt;", "",
            "a caller's half of a pair becomes a code"),
-    Mutant("platform/text/text_encoding.cpp", '{0x301C, "\\x81\\x60"}', '{0x301C, "\\x81\\x61"}',
-           "wave dashes are written as double lines into the tool list"),
-    Mutant("platform/text/text_rules.cpp", "if (codePoint >= invalidByte) return codePoint;", "",
-           "bytes that are no text are folded as characters"),
+    Mutant("platform/text/text_encoding.cpp", "out += '?';", "",
+           "what a tool's name has and the macros' encoding lacks is dropped"),
+    Mutant("platform/text/text_rules.cpp", "codePoint + ('a' - 'A')", "codePoint",
+           "names that differ in case are two names"),
     Mutant("platform/text/text_rules.cpp", "dot > nameStart", "dot >= nameStart",
            "the name of a hidden file counts as its extension"),
     Mutant("platform/text/text_rules.cpp", "path[folder.size()] == '/'", "true",

@@ -28,9 +28,9 @@ class Builder {
   }
   bool string(std::string& text) { return add(std::move(text)); }
   bool binary(std::vector<std::uint8_t>& /*bytes*/) { return false; }
-  bool start_array(std::size_t /*size*/) { return open(Json::List{}); }
+  bool start_array(std::size_t /*size*/) { return open(true); }
   bool end_array() { return close(); }
-  bool start_object(std::size_t /*size*/) { return open(Json::Object{}); }
+  bool start_object(std::size_t /*size*/) { return open(false); }
   bool key(std::string& name) {
     open_.back().key = std::move(name);
     return true;
@@ -40,29 +40,31 @@ class Builder {
 
  private:
   struct Open {
-    std::variant<Json::List, Json::Object> container;
+    bool isList = false;
+    Json::List list;
+    Json::Object object;
     std::string key;  // of the member that comes next
   };
 
   bool add(Json value) {
     if (open_.empty()) {
       whole_ = std::move(value);
-    } else if (auto* list = std::get_if<Json::List>(&open_.back().container)) {
-      list->push_back(std::move(value));
+    } else if (open_.back().isList) {
+      open_.back().list.push_back(std::move(value));
     } else {
-      std::get<Json::Object>(open_.back().container).insert_or_assign(open_.back().key, std::move(value));
+      open_.back().object.insert_or_assign(open_.back().key, std::move(value));
     }
     return true;
   }
-  bool open(std::variant<Json::List, Json::Object> container) {
+  bool open(bool isList) {
     if (open_.size() == deepest) return false;
-    open_.push_back({std::move(container), {}});
+    open_.emplace_back().isList = isList;
     return true;
   }
   bool close() {
-    Json value = std::visit([](auto& container) { return Json(std::move(container)); }, open_.back().container);
+    Open ended = std::move(open_.back());
     open_.pop_back();
-    return add(std::move(value));
+    return ended.isList ? add(std::move(ended.list)) : add(std::move(ended.object));
   }
 
   std::vector<Open> open_;
