@@ -7,6 +7,7 @@
 #include "app/interface.h"
 #include "app/rooms.h"
 #include "app/style_menu.h"
+#include "platform/services/failure_text.h"
 #include "platform/services/file_service.h"
 #include "platform/services/notification_center.h"
 #include "platform/services/notification_names.h"
@@ -75,9 +76,12 @@ void AppController::createDictControllers() {
 
 bool AppController::loadUserInfor() {
   bool dirty = false;
+  // A file that cannot be read counts as missing; the store keeps why, and its bytes beside it at the first write.
   if (!rooms_.store.readUserStyles()) {
-    if (!makePreferencesFolder() || !rooms_.store.readSeedStyles()) {
-      tellThatNothingCanBeDone();
+    Result<> seeded = makePreferencesFolder();
+    if (seeded) seeded = rooms_.store.readSeedStyles();
+    if (!seeded) {
+      tellThatNothingCanBeDone(seeded.error());
       return false;
     }
     dirty = true;
@@ -88,17 +92,19 @@ bool AppController::loadUserInfor() {
   return true;
 }
 
-bool AppController::makePreferencesFolder() {
+Result<> AppController::makePreferencesFolder() {
   const std::string folder = services_.paths.tarvoPathPreferencesFolderURL();
-  return services_.files.exists(folder) || services_.files.makeFolder(folder);
+  if (services_.files.isThere(folder)) return {};
+  return services_.files.makeFolder(folder);
 }
 
-void AppController::tellThatNothingCanBeDone() {
+void AppController::tellThatNothingCanBeDone(const Failure& failure) {
   const Texts& texts = services_.texts;
   services_.panels.beep();
   services_.panels.runAlertPanel({texts.localized("ApplicationCautionHeader"),
                                   texts.localized("ApplicationCautionMessage"),
-                                  {texts.localized("AlertClose")}});
+                                  {texts.localized("AlertClose")},
+                                  failureText(failure, texts)});
   terminate_();
 }
 

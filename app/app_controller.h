@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "app/services.h"
+#include "platform/services/result.h"
 #include "style/sibling_tools.h"
 
 // The controller of the style pane.
@@ -53,8 +54,8 @@ class AppController {
 
  private:
   bool loadUserInfor();
-  bool makePreferencesFolder();
-  void tellThatNothingCanBeDone();
+  Result<> makePreferencesFolder();
+  void tellThatNothingCanBeDone(const Failure& failure);
   void createDictControllers();
   void showStyles();  // all of them anew: the menu, the remembered tool and its style, the first pages
   void restoreTool();

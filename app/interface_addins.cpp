@@ -20,10 +20,12 @@ void Interface::addinRows(Rooms& rooms, const Texts& texts) {
   const TableView::Column check{.identifier = addin_columns::check, .checkBox = true};
   table(addins.officeTableView, {check, {addin_columns::name}, {addin_columns::version}}, 0);
   onPage(addins.officeInfoField, Pane::office);
+  onPage(addins.officeReasonField, Pane::office);
   onPage(addins.officeSearchButton, Pane::office, to(rooms.officeSearch, &OfficeFolderSearch::SelectOfficeFolder));
   onPage(addins.officePowerPointButton, Pane::office, to(rooms.cautions, &CautionWindows::selectPowerPoint));
   table(addins.mailTableView, {check, {addin_columns::name}}, 1);
   onPage(addins.mailinfoField, Pane::mail);
+  onPage(addins.mailReasonField, Pane::mail);
   onPage(addins.mailCautionButton, Pane::mail, to(rooms.cautions, &CautionWindows::mailButtonAction));
   onPage(addins.scriptEditorButton, Pane::mail, to(rooms.cautions, &CautionWindows::launchAppleScriptEditor));
   onPage(addins.scriptUtilityButton, Pane::mail, to(rooms.cautions, &CautionWindows::launchAppleScriptUtil));

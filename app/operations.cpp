@@ -14,14 +14,14 @@ namespace tarvo {
 namespace {
 
 using Arguments = std::span<const std::string>;
-using Result = std::optional<PropertyList>;
+using Answer = std::optional<PropertyList>;
 
 int number(Arguments arguments) { return leadingInteger(arguments.front()); }
 
 // An operation on a room that takes one integer and answers nothing.
 template <class Call>
 Operation withNumber(std::string_view name, Call call) {
-  return {name, 1, [call](Program& program, Arguments arguments) -> Result {
+  return {name, 1, [call](Program& program, Arguments arguments) -> Answer {
             call(program.rooms(), number(arguments));
             return std::nullopt;
           }};
@@ -30,7 +30,7 @@ Operation withNumber(std::string_view name, Call call) {
 // One that takes one integer and answers.
 template <class Call>
 Operation answering(std::string_view name, Call call) {
-  return {name, 1, [call](Program& program, Arguments arguments) -> Result {
+  return {name, 1, [call](Program& program, Arguments arguments) -> Answer {
             return PropertyList(call(program.rooms(), number(arguments)));
           }};
 }
@@ -42,7 +42,7 @@ void updateButton(Rooms& rooms, int code) {
   if (code >= 0 && code <= 5) rooms.lists.updateButton(directionForTag(code % 2), directionForTag(code));
 }
 
-Result setNotSelectedArray(Program& program, Arguments arguments) {
+Answer setNotSelectedArray(Program& program, Arguments arguments) {
   const Arguments names = arguments.first(arguments.size() - 1);
   const auto kind = dictionaryKindForNumber(leadingInteger(arguments.back()));
   if (kind) program.rooms().picker.setNotSelectedArray(Names(names.begin(), names.end()), *kind);
@@ -50,7 +50,7 @@ Result setNotSelectedArray(Program& program, Arguments arguments) {
 }
 
 // Rows count as they are remembered: the Office table's, then the mail table's.
-Result getInstallStatus(Program& program, Arguments arguments) {
+Answer getInstallStatus(Program& program, Arguments arguments) {
   AddinLists& addins = program.rooms().addins;
   std::vector<AddinEntry> rows = addins.fOfficeAddinArray;
   rows.insert(rows.end(), addins.fMailAddinArray.begin(), addins.fMailAddinArray.end());
@@ -74,7 +74,7 @@ std::vector<Operation> makeOperations() {
       withNumber("style.setNonSelectionDic",
                  [](Rooms& rooms, int isEJ) { rooms.loading.setNonSelectionDic(directionOf(isEJ)); }),
       {"style.dicWindowOK2", 0,
-       [](Program& program, Arguments) -> Result {
+       [](Program& program, Arguments) -> Answer {
          program.rooms().loading.dicWindowOK2();
          return std::nullopt;
        }},
@@ -94,7 +94,7 @@ std::vector<Operation> makeOperations() {
                   return Array(names.begin(), names.end());
                 }),
       {"picker.setCreatedDictionary", 2,
-       [](Program& program, Arguments arguments) -> Result {
+       [](Program& program, Arguments arguments) -> Answer {
          const auto kind = dictionaryKindForNumber(leadingInteger(arguments[1]));
          if (kind) program.rooms().picker.setCreatedDictionary(arguments[0], *kind);
          return std::nullopt;
@@ -102,13 +102,15 @@ std::vector<Operation> makeOperations() {
       answering("picker.isStartedApplication",
                 [](Rooms& rooms, int tool) { return rooms.picker.isStartedApplication(tool); }),
       {"style.readImportStyle", 1,
-       [](Program& program, Arguments arguments) -> Result {
+       [](Program& program, Arguments arguments) -> Answer {
          return program.styles().readImportStyle(program.services().locations.picked(arguments.front()));
        },
        false, true},
-      {"style.getOSVersion", 0, [](Program& program, Arguments) -> Result { return program.styles().getOSVersion(); }},
+      {"style.getOSVersion", 0, [](Program& program, Arguments) -> Answer { return program.styles().getOSVersion(); }},
       {"manager.createMailScriptFolder", 0,
-       [](Program& program, Arguments) -> Result { return program.rooms().mailScripts.createMailScriptFolder(); }},
+       [](Program& program, Arguments) -> Answer {
+         return program.rooms().mailScripts.createMailScriptFolder().has_value();
+       }},
       {"manager.getInstallStatus", 1, getInstallStatus},
   };
 }

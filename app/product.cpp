@@ -49,7 +49,8 @@ Product::~Product() = default;
 
 void Product::layTexts(const std::vector<std::string>& strings) {
   overlayShippedTable(texts_, *bundle_, *files_);
-  overlayTableFile(texts_, *files_, machineTexts);
+  const Result<> laid = overlayTableFile(texts_, *files_, machineTexts);
+  (void)laid;  // most machines have none
   for (const std::string& file : strings) {
     if (file == "none") {
       texts_.clear();
@@ -60,10 +61,12 @@ void Product::layTexts(const std::vector<std::string>& strings) {
 }
 
 std::optional<Dictionary> Product::readPaths(const std::optional<std::string>& overlay) {
-  std::optional<Dictionary> configuration =
-      PlistFile(*files_, joinPath(bundle_->folder(), "WordhavenPaths.plist")).read();
+  std::optional<Dictionary> configuration;
+  if (Result<Dictionary> shipped = readDictionary(*files_, joinPath(bundle_->folder(), "WordhavenPaths.plist"))) {
+    configuration = std::move(*shipped);
+  }
   if (!overlay) return configuration;
-  const std::optional<Dictionary> over = PlistFile(*files_, locations_.picked(absolutePath(*overlay))).read();
+  const Result<Dictionary> over = readDictionary(*files_, locations_.picked(absolutePath(*overlay)));
   if (!over) {
     problem_ = "cannot read the paths in " + *overlay;
     return configuration;

@@ -49,7 +49,8 @@ TManagerController::~TManagerController() {
 
 bool TManagerController::init() {
   if (!startModules()) return false;
-  rooms_.mailScripts.createMailScriptFolder();
+  const Result<> made = rooms_.mailScripts.createMailScriptFolder();
+  (void)made;  // Mail is not listed then
   if (!rooms_.addins.searchOfficeApplication()) {
     rooms_.alerts.beepAndAlert("ApplicationCautionHeader", "ApplicationCautionMessage");
     terminate_();

@@ -168,18 +168,22 @@ bool DictController::isExitsDic(const std::string& name) {
   if (isExitsDic2(name)) return true;
   if (!isCommonName(name) || isBeingCreated(name)) return false;
   bool isLoaded = false;
-  return createDictionary(name, isLoaded);
+  return createDictionary(name, isLoaded).has_value();  // why not is told where one is asked for by name
 }
 
-bool DictController::createDictionary(const std::string& name, bool& isLoaded) {
-  if (dicFolderPath_.empty()) return false;  // a list that was never set up
-  if (isExitsDic2(name)) return false;
-  if (!makeDictionaryFile(services_.files, services_.bundle, getDicPath(name), kind_, direction_)) return false;
+Result<> DictController::createDictionary(const std::string& name, bool& isLoaded) {
+  if (dicFolderPath_.empty()) return Failure{name, Attempt::create, Reason::noPath};  // a list that was never set up
+  const std::string path = getDicPath(name);
+  // What cannot be looked at is not written over; the look says why it cannot.
+  if (const Result<FileService::Kind> there = services_.files.kind(path); !there) return there.error();
+  if (isExitsDic2(name)) return Failure{path, Attempt::create, std::make_error_code(std::errc::file_exists)};
+  Result<> made = makeDictionaryFile(services_.files, services_.bundle, path, kind_, direction_);
+  if (!made) return made;
   // Loading the new name asks for it again; when there was no template, that must not create it once more.
   beingCreated_.push_back(name);
   isLoaded = addCreatedDictionary(name);
   beingCreated_.pop_back();
-  return true;
+  return {};
 }
 
 bool DictController::addCreatedDictionary(const std::string& name) {

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/services/result.h"
 #include "style/dictionary_kind.h"
 
 // The model of one ordered dictionary list: a folder of dictionary files, and which of them are loaded, in which order.
@@ -69,8 +70,8 @@ class DictController {
   std::string getDicPath(const std::optional<std::string>& name) const;
   bool isExitsDic(const std::string& name);  // a common dictionary that is missing is made anew, empty
   bool isExitsDic2(const std::string& name) const;
-  // False: nothing was created and isLoaded is untouched. isLoaded: whether the list had room for it.
-  bool createDictionary(const std::string& name, bool& isLoaded);
+  // After a failure nothing was created and isLoaded is untouched. isLoaded: whether the list had room for it.
+  Result<> createDictionary(const std::string& name, bool& isLoaded);
   bool addCreatedDictionary(const std::string& name);
 
   const std::optional<std::vector<DictionaryEntry>>& allDictionaries() const {

@@ -9,17 +9,20 @@
 
 namespace tarvo {
 
-bool makeDictionaryFile(FileService& files, const Bundle& bundle, const std::string& path, DictionaryKind kind,
-                        Direction direction) {
+Result<> makeDictionaryFile(FileService& files, const Bundle& bundle, const std::string& path, DictionaryKind kind,
+                            Direction direction) {
   const bool isEnglish = direction == Direction::englishToJapanese;
   const std::optional<std::string> stationery = bundle.resource(
       isEnglish ? "EJStationery" : "JEStationery", std::string(extensionOf(DictionaryKind::user, direction)));
-  if (stationery && !files.copy(*stationery, path)) return false;
-  if (kind == DictionaryKind::user) {
-    // Disks that keep no codes refuse; the dictionary works without them.
-    files.setCodes(path, isEnglish ? fourCharCode("TReu") : fourCharCode("TRju"), fourCharCode("    "));
+  if (stationery) {
+    if (Result<> copied = files.copy(*stationery, path); !copied) return copied;
   }
-  return true;
+  if (kind == DictionaryKind::user) {
+    const Result<> set =
+        files.setCodes(path, isEnglish ? fourCharCode("TReu") : fourCharCode("TRju"), fourCharCode("    "));
+    (void)set;  // disks that keep no codes refuse; the dictionary works without them
+  }
+  return {};
 }
 
 }  // namespace tarvo

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "platform/services/result.h"
 #include "style/dictionary_kind.h"
 
 namespace tarvo {
@@ -13,8 +14,9 @@ class FileService;
 
 // Makes the file of a new, empty dictionary from the bundle's template: "EJStationery.eud2" for English to Japanese,
 // else "JEStationery.jud", whatever the kind. User dictionaries get their type code and a blank creator.
-// A template that is missing is no failure: then no file is made. False: the copy failed, and nothing is there.
-bool makeDictionaryFile(FileService& files, const Bundle& bundle, const std::string& path, DictionaryKind kind,
-                        Direction direction);
+// A template that is missing is no failure: then no file is made, which the path alone shows. After a failure nothing
+// is there.
+Result<> makeDictionaryFile(FileService& files, const Bundle& bundle, const std::string& path, DictionaryKind kind,
+                            Direction direction);
 
 }  // namespace tarvo

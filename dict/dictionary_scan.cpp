@@ -30,7 +30,7 @@ class MedicalFilter {
 
   bool keeps(const std::string& name) const {
     for (const MedicalFile& file : medicalFiles) {
-      if (name == file.name) return scan_.files.exists(scan_.texts.localized(file.dataPathKey));
+      if (name == file.name) return !scan_.files.isAbsent(scan_.texts.localized(file.dataPathKey));
     }
     return !equalIgnoringCase(name, displayName_) && !equalIgnoringCase(name, abbreviationName_);
   }

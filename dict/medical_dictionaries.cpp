@@ -52,7 +52,7 @@ bool MedicalDictionaries::insertInstalled() {
   bool inserted = false;
   // A flag that is there counts, whatever it says: what a user has removed from a list is not put back.
   const auto isDue = [&](std::string_view dataPathKey, std::string_view flag) {
-    return files_.exists(texts_.localized(dataPathKey)) && defaults_.find(flag) == nullptr;
+    return files_.isThere(texts_.localized(dataPathKey)) && defaults_.find(flag) == nullptr;
   };
   const auto done = [&](std::string_view flag) {
     defaults_.set(flag, true);

@@ -83,9 +83,11 @@ void NewDictionary::newDicWindowOKAction(const std::string& name) {
   if (kind != DictionaryKind::user && kind != DictionaryKind::memory) return;
   const Target made = target();
   bool isLoaded = false;
-  const bool isCreated = !name.empty() && made.controller.createDictionary(name, isLoaded);
+  const Result<> created = name.empty() ? Result<>(Failure{name, Attempt::create, Reason::noPath})
+                                        : made.controller.createDictionary(name, isLoaded);
+  notCreated_ = created ? std::nullopt : std::optional(created.error());
   made.table.reloadData();
-  if (!isCreated) return;
+  if (!created) return;
   if (with_.flags.saveHit == toolWithDictionaries || with_.flags.saveHit == toolWithMemories) {
     with_.guard.alertStartedApplication(numberOf(*kind));
     return;

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "dict/new_dictionary_request.h"
 #include "dict/new_dictionary_sheet.h"
 #include "platform/controls/controls.h"
 #include "platform/controls/windows.h"
+#include "platform/services/result.h"
 
 // New user dictionaries and translation memories, made from the style pane: its sheet, and what follows when a sheet
 // has ended with a name. The file lands in the user's folder; a style never names it.
@@ -66,6 +68,8 @@ class NewDictionary {
   // Makes the dictionary of that file name, of the kind and direction of the pane's own request, whoever posted it;
   // none for an empty name.
   void newDicWindowOKAction(const std::string& name);
+  // Why the last one that was asked for was not made.
+  const std::optional<Failure>& notCreated() const { return notCreated_; }
   DictionaryNameChecks& checks() { return sheet_.checks(); }
 
  private:
@@ -78,6 +82,7 @@ class NewDictionary {
   void sheetDidEnd(int returnCode);
   Collaborators with_;
   NewDictionarySheet sheet_;
+  std::optional<Failure> notCreated_;
 };
 
 }  // namespace tarvo

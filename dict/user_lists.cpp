@@ -18,7 +18,9 @@ void UserLists::setUp() {
   const std::string dictionaries = services_.paths.tarvoPathUserDicFolderURL();
   const std::string memories = services_.paths.tarvoPathUserTmaFolderURL();
   for (const std::string& folder : {dictionaries, memories}) {
-    if (!services_.files.exists(folder)) services_.files.makeFolder(folder);
+    if (services_.files.isThere(folder)) continue;
+    const Result<> made = services_.files.makeFolder(folder);
+    (void)made;  // the lists of a folder that is not there are empty; a dictionary that is made in it tells why
   }
   ejUDController.initializeDictController(DictionaryKind::user, dictionaries, Direction::englishToJapanese);
   jeUDController.initializeDictController(DictionaryKind::user, dictionaries, Direction::japaneseToEnglish);

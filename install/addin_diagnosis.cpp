@@ -13,6 +13,18 @@ namespace {
 
 using namespace addin_keys;
 using Kind = FileService::Kind;
+using Obstacle = std::optional<Failure>;
+
+Obstacle obstacle(const std::string& path, Attempt attempt, std::error_code cause) {
+  return Failure{path, attempt, cause};
+}
+Obstacle obstacle(const std::string& path, Attempt attempt, std::errc cause) {
+  return obstacle(path, attempt, std::make_error_code(cause));
+}
+template <class T>
+Obstacle obstacle(const Result<T>& result) {
+  return result ? std::nullopt : Obstacle(result.error());
+}
 
 class Look {
  public:
@@ -27,8 +39,10 @@ class Look {
               .missing = {},
               .obstacle = {},
               .removalObstacle = {},
-              .isMarked = isMarkedInstalled(entry),
-              .isThere = files.exists(installedItemPath(entry))};
+              .isMarked = isMarkedInstalled(entry)};
+    there_ = files.kind(found_.item);
+    folder_ = files.kind(found_.folder);
+    found_.isThere = there_ ? *there_ != Kind::absent : found_.isMarked;
   }
 
   AddinDiagnosis all() {
@@ -36,66 +50,78 @@ class Look {
     if (!source_) found_.missing.push_back(addinText(entry_, installMacroName));
     require(found_.folder);
     found_.obstacle = common();
-    if (found_.obstacle.empty()) found_.obstacle = isMailAddin(entry_) ? ofScripts() : ofMacro();
+    if (!found_.obstacle) found_.obstacle = isMailAddin(entry_) ? ofScripts() : ofMacro();
     if (found_.isThere) found_.removalObstacle = ofRemoval();
     return std::move(found_);
   }
 
  private:
   void require(const std::string& path) {
-    if (!files_.exists(path)) found_.missing.push_back(path);
+    if (files_.isAbsent(path)) found_.missing.push_back(path);
+  }
+  bool isLink(const std::string& path) const { return files_.ownKind(path) == Kind::link; }
+
+  Obstacle common() const {
+    if (!isAbsolutePath(found_.folder)) return obstacle(found_.name, Attempt::install, Reason::noInstallFolder);
+    if (!source_) return obstacle(source_);
+    if (!folder_) return obstacle(folder_);
+    if (!there_) return obstacle(there_);
+    if (*folder_ != Kind::absent && *folder_ != Kind::folder) {
+      return obstacle(found_.folder, Attempt::install, std::errc::not_a_directory);
+    }
+    if (*folder_ == Kind::folder) {
+      if (const Result<> writable = files_.checkWritable(found_.folder); !writable) return writable.error();
+    }
+    if (isLink(found_.item)) return obstacle(found_.item, Attempt::install, Reason::linkInTheWay);
+    return std::nullopt;
   }
 
-  std::string common() const {
-    if (found_.item.empty()) return "the record names nothing to install";
-    if (!isAbsolutePath(found_.folder)) return "the install folder is no absolute path";
-    if (!source_) return "what is to be installed is missing from the product";
-    const Kind folder = files_.kind(found_.folder);
-    if (folder != Kind::absent && folder != Kind::folder) return "the install folder is no folder";
-    if (folder == Kind::folder && !files_.isWritable(found_.folder)) return "the install folder cannot be written to";
-    return files_.isLink(found_.item) ? "a link is in the way" : "";
+  Obstacle ofMacro() const {
+    if (*folder_ == Kind::absent) {
+      return obstacle(found_.folder, Attempt::install, std::errc::no_such_file_or_directory);
+    }
+    if (!found_.isThere) return std::nullopt;
+    return obstacle(found_.item, Attempt::install, std::errc::file_exists);
   }
 
-  std::string ofMacro() const {
-    if (files_.kind(found_.folder) == Kind::absent) return "the install folder is missing";
-    return found_.isThere ? "there is something of that name already" : "";
-  }
-
-  std::string ofScripts() {
-    const auto scripts = files_.list(*source_);
-    if (!scripts) return "the scripts of the product cannot be listed";
-    if (scripts->empty()) return "the product holds no scripts for it";
-    if (!found_.isThere) return "";
-    if (files_.kind(found_.item) != Kind::folder) return "a file of that name is in the way";
-    std::string taken;
+  Obstacle ofScripts() {
+    const Result<std::vector<std::string>> scripts = files_.list(*source_);
+    if (!scripts) return obstacle(scripts);
+    if (scripts->empty()) return obstacle(*source_, Attempt::install, Reason::emptyResource);
+    if (!found_.isThere) return std::nullopt;
+    if (*there_ != Kind::folder) return obstacle(found_.item, Attempt::install, std::errc::not_a_directory);
+    Obstacle taken;
     for (const std::string& script : *scripts) {
       const std::string path = joinPath(found_.item, script);
-      if (!files_.exists(path)) {
+      if (files_.isAbsent(path)) {
         found_.missing.push_back(path);
         found_.isPartial = true;
-      } else if (taken.empty()) {
-        taken = script;
+      } else if (!taken) {
+        taken = obstacle(path, Attempt::install, std::errc::file_exists);
       }
     }
-    return taken.empty() ? "" : "there is a script of that name already: " + taken;
+    return taken;
   }
 
-  std::string ofRemoval() const {
-    if (!files_.isWritable(found_.folder)) return "the install folder cannot be written to";
-    if (!isMailAddin(entry_)) return "";
-    if (files_.isLink(found_.item)) return "it is a link, which is left alone";
-    if (files_.kind(found_.item) != Kind::folder) return "it is no folder of scripts";
-    const auto names = files_.list(found_.item);
-    if (!names) return "it cannot be listed";
+  Obstacle ofRemoval() const {
+    if (!there_) return obstacle(there_);
+    if (const Result<> writable = files_.checkWritable(found_.folder); !writable) return writable.error();
+    if (!isMailAddin(entry_)) return std::nullopt;
+    if (isLink(found_.item)) return obstacle(found_.item, Attempt::uninstall, Reason::linkInTheWay);
+    if (*there_ != Kind::folder) return obstacle(found_.item, Attempt::uninstall, std::errc::not_a_directory);
+    const Result<std::vector<std::string>> names = files_.list(found_.item);
+    if (!names) return obstacle(names);
     for (const std::string& name : *names) {
-      if (!files_.exists(joinPath(found_.item, name))) return "a link in it leads nowhere: " + name;
+      const std::string path = joinPath(found_.item, name);
+      if (files_.isAbsent(path)) return obstacle(path, Attempt::uninstall, Reason::deadLink);
     }
-    return files_.isWritable(found_.item) ? "" : "it cannot be written to";
+    return obstacle(files_.checkWritable(found_.item));
   }
 
   const AddinEntry& entry_;
   const FileService& files_;
-  std::optional<std::string> source_;
+  Result<std::string> source_;
+  Result<Kind> there_, folder_;
   AddinDiagnosis found_;
 };
 

@@ -2,17 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "install/addin_entry.h"
+#include "platform/services/result.h"
 
 namespace tarvo {
 
 class Bundle;
 class FileService;
 
-// What can be said of one add-in by looking at the disk, for people who ask why a box does not do what they expect.
+// What can be said of one add-in by looking at the disk, before anything was tried. What a tick met is AddinTable's.
 struct AddinDiagnosis {
   std::string table;  // "office" or "mail"
   std::string name, version;
@@ -20,11 +22,11 @@ struct AddinDiagnosis {
   std::string folder;                // install folder
   std::string item;                  // where the macro or the script folder goes; "" when the record names none
   std::vector<std::string> missing;  // paths that should be there: application, resource, folder, scripts left out
-  std::string obstacle;              // why an install would fail now, in plain words; "" when nothing is in its way
-  std::string removalObstacle;       // the same of a removal; "" also when nothing is there
-  bool isMarked = false;             // what the row says
-  bool isThere = false;              // what the disk says
-  bool isPartial = false;            // a script folder that lacks some of its scripts
+  std::optional<Failure> obstacle;   // why an install would fail now
+  std::optional<Failure> removalObstacle;  // the same of a removal; nothing also when nothing is there
+  bool isMarked = false;                   // what the row says
+  bool isThere = false;                    // what the disk says; what was known last where it cannot be looked at
+  bool isPartial = false;                  // a script folder that lacks some of its scripts
   bool differs() const { return isMarked != isThere; }
 };
 

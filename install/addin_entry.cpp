@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "install/addin_entry.h"
 
+#include <optional>
+
 #include "platform/services/bundle.h"
 #include "platform/text/text_rules.h"
 
@@ -27,12 +29,16 @@ std::string addinItemName(const AddinEntry& entry) {
   return name == "/" || name == "." || name == ".." ? "" : name;
 }
 
-std::optional<std::string> addinSource(const AddinEntry& entry, const Bundle& bundle) {
-  const std::string name = addinItemName(entry);
-  const std::string subfolder = deletingLastPathComponent(addinText(entry, addin_keys::installMacroName));
+Result<std::string> addinSource(const AddinEntry& entry, const Bundle& bundle) {
+  const std::string& named = addinText(entry, addin_keys::installMacroName);
+  const std::string name = addinItemName(entry), subfolder = deletingLastPathComponent(named);
+  if (name.empty()) return Failure{addinText(entry, addin_keys::appName), Attempt::install, Reason::nothingNamed};
   // A folder of scripts has no extension: "Tarvo 1.0" is one name.
-  if (isMailAddin(entry)) return bundle.resource(name, "", subfolder);
-  return bundle.resource(deletingPathExtension(name), pathExtension(name), subfolder);
+  std::optional<std::string> source =
+      isMailAddin(entry) ? bundle.resource(name, "", subfolder)
+                         : bundle.resource(deletingPathExtension(name), pathExtension(name), subfolder);
+  if (source) return std::move(*source);
+  return Failure{joinPath(bundle.folder(), named), Attempt::install, Reason::missingResource};
 }
 
 std::string installedItemPath(const AddinEntry& entry) {

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include "platform/plist/property_list.h"
+#include "platform/services/result.h"
 
 // One application that can take an add-in: an Office program and its macro, or a mail program and its folder of
 // scripts. Records come from the shipped list ("DefaultAddin.plist") and from the settings ("Office"); keys that nobody
@@ -40,9 +40,9 @@ bool isMarkedInstalled(const AddinEntry& entry);  // what "InstallStatus" says
 // The item's own name: the last component of "InstallMacroName". "" when that names nothing that can lie in a folder,
 // so that a damaged record can never mean the install folder itself or one above it.
 std::string addinItemName(const AddinEntry& entry);
-// What is installed: the macro or the folder of scripts in the product's resources. Nothing when it is missing, or the
+// What is installed: the macro or the folder of scripts in the product's resources. Fails when it is missing, or the
 // record names no item.
-std::optional<std::string> addinSource(const AddinEntry& entry, const Bundle& bundle);
+Result<std::string> addinSource(const AddinEntry& entry, const Bundle& bundle);
 // Where the item is installed; "" when the record names no item.
 std::string installedItemPath(const AddinEntry& entry);
 

@@ -53,7 +53,8 @@ bool AddinLists::loadAddinPlist() {
 
 std::optional<std::vector<AddinLists::SharedEntry>> AddinLists::readShipped() const {
   const std::optional<std::string> path = services_.bundle.resource("DefaultAddin", "plist");
-  const std::optional<Dictionary> root = path ? PlistFile(services_.files, *path).read() : std::nullopt;
+  if (!path) return std::nullopt;
+  const Result<Dictionary> root = readDictionary(services_.files, *path);
   const Array* records = root ? root->array(office) : nullptr;
   return records != nullptr ? std::optional(entriesOf(*records)) : std::nullopt;
 }
@@ -82,7 +83,8 @@ bool AddinLists::searchOfficeApplication() {
   if (!loadAddinPlist()) return false;
   for (const SharedEntry& candidate : fOfficeArray) {
     AddinEntry entry = *candidate;
-    if (!services_.files.exists(addinText(entry, appPath))) continue;
+    // One that cannot be looked at stays listed: at the end of the run the others are forgotten.
+    if (services_.files.isAbsent(addinText(entry, appPath))) continue;
     entry.set(installStatus, getInstallStatus(entry));
     if (!isMailAddin(entry)) {
       fOfficeAddinArray.push_back(std::move(entry));
@@ -95,7 +97,8 @@ bool AddinLists::searchOfficeApplication() {
 }
 
 bool AddinLists::getInstallStatus(const AddinEntry& entry) const {
-  return services_.files.exists(installedItemPath(entry));
+  const Result<FileService::Kind> there = services_.files.kind(installedItemPath(entry));
+  return there ? *there != FileService::Kind::absent : isMarkedInstalled(entry);
 }
 
 void AddinLists::storeRows() {

@@ -38,7 +38,7 @@ class AddinLists {
   bool loadAddinPlist();
   // Builds both tables' rows from the candidates and shows them. False: see loadAddinPlist.
   bool searchOfficeApplication();
-  // Whether the item lies in its install folder: a file or a folder.
+  // Whether the item lies in its install folder: a file or a folder. Where it cannot be looked at, what was known last.
   bool getInstallStatus(const AddinEntry& entry) const;
   // The rows become the candidates and are remembered in the settings, Office rows first.
   void storeRows();

@@ -16,9 +16,11 @@ inline constexpr const char *check = "Value", *name = "AppName", *version = "Ver
 struct AddinOutlets : Outlets {
   TableView officeTableView{*this, "officeTableView"};  // tag 0: all three columns
   TextField officeInfoField{*this, "officeInfoField", Control::Kind::text};
+  TextField officeReasonField{*this, "officeReasonField", Control::Kind::text};
   Button officeSearchButton{*this, "officeSearchButton"}, officePowerPointButton{*this, "officePowerPointButton"};
   TableView mailTableView{*this, "mailTableView"};  // tag 1: no versions
   TextField mailinfoField{*this, "mailinfoField", Control::Kind::text};
+  TextField mailReasonField{*this, "mailReasonField", Control::Kind::text};
   Button mailCautionButton{*this, "mailCautionButton"};
   Button scriptEditorButton{*this, "scriptEditorButton"}, scriptUtilityButton{*this, "scriptUtilityButton"};
 

@@ -8,6 +8,7 @@
 #include "install/addin_outlets.h"
 #include "install/macro_installer.h"
 #include "install/mail_script_installer.h"
+#include "platform/services/failure_text.h"
 #include "platform/services/panels.h"
 #include "platform/services/texts.h"
 
@@ -58,21 +59,37 @@ void AddinTable::setObjectValue(TableView& table, bool value, std::string_view c
   AddinEntry* entry = entryAt(table.tag(), row);
   if (entry == nullptr || column != addin_columns::check) return;
   const Change changed = change(*entry, table.tag(), value);
-  if (changed.failed) services_.panels.beep();
+  if (changed.failure) services_.panels.beep();
+  failures_.erase({table.tag(), row});
+  if (changed.failure) failures_.emplace(std::pair(table.tag(), row), *changed.failure);
   entry->set(installStatus, changed.isInstalled);
   const std::string text = addinText(*entry, appName) + changed.text;
   table.reloadData();
   infoField(table.tag()).setStringValue(text);
+  showReason(table.tag(), row);
 }
 
 AddinTable::Change AddinTable::change(const AddinEntry& entry, int tag, bool on) {
-  const bool done = perform(entry, tag, on);
+  const Result<> done = perform(entry, tag, on);
   const std::string key = std::string(tag == officeTag ? "Office" : "Mail") + (on ? "Install" : "UnInstall") +
                           (done ? "IsSuccessed" : "IsFailed");
-  return {.text = services_.texts.localized(key), .isInstalled = on == done, .failed = !done};
+  return {.text = services_.texts.localized(key),
+          .isInstalled = on == done.has_value(),
+          .failure = done ? std::nullopt : std::optional(done.error())};
 }
 
-bool AddinTable::perform(const AddinEntry& entry, int tag, bool on) {
+const Failure* AddinTable::failureOf(int tag, int row) const {
+  const auto found = failures_.find({tag, row});
+  return found != failures_.end() ? &found->second : nullptr;
+}
+
+void AddinTable::showReason(int tag, int row) {
+  TextField& field = tag == officeTag ? outlets_.officeReasonField : outlets_.mailReasonField;
+  const Failure* failure = failureOf(tag, row);
+  field.setStringValue(failure != nullptr ? failureText(*failure, services_.texts) : "");
+}
+
+Result<> AddinTable::perform(const AddinEntry& entry, int tag, bool on) {
   if (tag == officeTag) return on ? macros_.installOfficeMacro(entry) : macros_.unInstallOfficeMacro(entry);
   return on ? mailScripts_.installMailScript(entry) : mailScripts_.unInstallMailScript(entry);
 }
@@ -88,6 +105,7 @@ void AddinTable::selectionDidChange(TableView&) {
   const TableView& table = tag == officeTag ? outlets_.officeTableView : outlets_.mailTableView;
   const AddinEntry* entry = entryAt(tag, table.selectedRow());
   if (entry == nullptr) return;
+  showReason(tag, table.selectedRow());
   const bool installed = isMarkedInstalled(*entry);
   const std::string name = addinText(*entry, appName);
   if (tag == officeTag) {

@@ -2,11 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "install/addin_entry.h"
 #include "platform/controls/table_view.h"
+#include "platform/services/result.h"
 
 // Data source and delegate of the Office table (tag 0) and the mail table (tag 1).
 // Duty: what a row shows; installing or removing when its box is ticked; the text about the selected or the changed
@@ -38,6 +42,9 @@ class AddinTable : public TableDataSource, public TableDelegate {
   void setObjectValue(TableView& table, bool value, std::string_view column, int row) override;
   void selectionDidChange(TableView& table) override;
 
+  // Why the last tick of this row failed; null when it did not. Below the texts it is shown in words.
+  const Failure* failureOf(int tag, int row) const;
+
   // Set by every edit, taken back by the next selection, whose text it suppresses: the click that ticks a box also
   // selects its row, and the result must stay to be read.
   bool fIsInstalled = false;
@@ -46,18 +53,20 @@ class AddinTable : public TableDataSource, public TableDelegate {
   struct Change {
     std::string text;  // what is told behind the application's name
     bool isInstalled;  // what the box shows from now on
-    bool failed;
+    std::optional<Failure> failure;
   };
   AddinEntry* entryAt(int tag, int row);
   Change change(const AddinEntry& entry, int tag, bool on);
-  bool perform(const AddinEntry& entry, int tag, bool on);
+  Result<> perform(const AddinEntry& entry, int tag, bool on);
   TextField& infoField(int tag);
+  void showReason(int tag, int row);
   Services services_;
   AddinLists& lists_;
   MacroInstaller& macros_;
   MailScriptInstaller& mailScripts_;
   AddinOutlets& outlets_;
   const TabView& panes_;
+  std::map<std::pair<int, int>, Failure> failures_;  // by tag and row; rows never change places
 };
 
 }  // namespace tarvo

@@ -9,15 +9,16 @@
 
 namespace tarvo {
 
-bool createDirectoryFromPath(FileService& files, const std::string& relativePath, const std::string& parentPath) {
+Result<> createDirectoryFromPath(FileService& files, const std::string& relativePath, const std::string& parentPath) {
   std::istringstream components(relativePath);
   std::string current = parentPath;
   for (std::string component; std::getline(components, component, '/');) {
     if (component.empty()) continue;
     current = joinPath(current, component);
-    if (!files.exists(current) && !files.makeFolder(current)) return false;
+    if (files.isThere(current)) continue;
+    if (Result<> made = files.makeFolder(current); !made) return made;
   }
-  return true;
+  return {};
 }
 
 }  // namespace tarvo

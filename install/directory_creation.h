@@ -4,12 +4,14 @@
 
 #include <string>
 
+#include "platform/services/result.h"
+
 namespace tarvo {
 
 class FileService;
 
 // Makes each missing level of a relative path below a base folder, with mode 0777. Anything that is there counts as
-// present, even a plain file. False: a level could not be made.
-bool createDirectoryFromPath(FileService& files, const std::string& relativePath, const std::string& parentPath);
+// present, even a plain file. Stops at the first level that cannot be made.
+Result<> createDirectoryFromPath(FileService& files, const std::string& relativePath, const std::string& parentPath);
 
 }  // namespace tarvo

@@ -2,20 +2,24 @@
 // SPDX-License-Identifier: MIT
 #include "install/macro_installer.h"
 
-#include <optional>
-
 #include "platform/services/file_service.h"
 
 namespace tarvo {
 
-bool MacroInstaller::installOfficeMacro(const AddinEntry& entry) {
-  const std::optional<std::string> source = addinSource(entry, bundle_);
-  return source && files_.copy(*source, installedItemPath(entry));
+Result<> MacroInstaller::installOfficeMacro(const AddinEntry& entry) {
+  const Result<std::string> source = addinSource(entry, bundle_);
+  if (!source) return source.error();
+  return files_.copy(*source, installedItemPath(entry));
 }
 
-bool MacroInstaller::unInstallOfficeMacro(const AddinEntry& entry) {
+Result<> MacroInstaller::unInstallOfficeMacro(const AddinEntry& entry) {
   const std::string path = installedItemPath(entry);
-  return !files_.exists(path) || files_.remove(path) || !files_.exists(path);
+  const Result<FileService::Kind> there = files_.kind(path);
+  if (!there) return there.error();
+  if (*there == FileService::Kind::absent) return {};
+  Result<> removed = files_.remove(path);
+  if (!removed && files_.isAbsent(path)) return {};
+  return removed;
 }
 
 }  // namespace tarvo

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "install/addin_entry.h"
+#include "platform/services/result.h"
 
 namespace tarvo {
 
@@ -14,10 +15,11 @@ class FileService;
 class MacroInstaller {
  public:
   MacroInstaller(FileService& files, const Bundle& bundle) : files_(files), bundle_(bundle) {}
-  // False: no such macro among the resources, no folder, something of that name there already, or the copy failed.
-  bool installOfficeMacro(const AddinEntry& entry);
-  // True also when the macro is not there.
-  bool unInstallOfficeMacro(const AddinEntry& entry);
+  // Fails without such a macro among the resources, without the folder, over something of that name, and when the copy
+  // fails.
+  Result<> installOfficeMacro(const AddinEntry& entry);
+  // Done also when the macro is not there. One that cannot be looked at is not taken for removed.
+  Result<> unInstallOfficeMacro(const AddinEntry& entry);
 
  private:
   FileService& files_;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "install/mail_script_installer.h"
 
-#include <optional>
 #include <vector>
 
 #include "install/directory_creation.h"
@@ -19,48 +18,77 @@ const char* folderForSystem(const FileService& files) {
   return systemVersion(files) < 104 ? "Library/Scripts/Mail Scripts" : "Library/Scripts/Applications/Mail";
 }
 
+// What a link leads to is not the product's.
+Result<> checkNoLink(const FileService& files, const std::string& path, Attempt attempt) {
+  const Result<FileService::Kind> own = files.ownKind(path);
+  if (!own) return own.error();
+  if (*own == FileService::Kind::link) return Failure{path, attempt, Reason::linkInTheWay};
+  return {};
+}
+
 }  // namespace
 
-bool MailScriptInstaller::createMailScriptFolder() {
+Result<> MailScriptInstaller::createMailScriptFolder() {
   return createDirectoryFromPath(files_, folderForSystem(files_), home_);
 }
 
 std::string MailScriptInstaller::mailScriptFolder() const { return joinPath(home_, folderForSystem(files_)); }
 
 bool MailScriptInstaller::isMailScriptFolder(const AddinEntry& entry) const {
-  return files_.exists(addinText(entry, addin_keys::installFolderPath));
+  return !files_.isAbsent(addinText(entry, addin_keys::installFolderPath));
 }
 
-bool MailScriptInstaller::installMailScript(const AddinEntry& entry) {
+Result<> MailScriptInstaller::installMailScript(const AddinEntry& entry) {
+  const Result<std::string> source = addinSource(entry, bundle_);
   const std::string name = addinItemName(entry);
-  if (name.empty()) return false;
-  const std::optional<std::string> source = addinSource(entry, bundle_);
-  createDirectoryFromPath(files_, name, addinText(entry, addin_keys::installFolderPath));
-  const std::string target = installedItemPath(entry);
-  const auto names = source ? files_.list(*source) : std::nullopt;
-  if (!names) return false;
-  bool copied = false;
+  if (name.empty()) return source.error();
+  const Result<> made = createDirectoryFromPath(files_, name, addinText(entry, addin_keys::installFolderPath));
+  if (!source) return source.error();
+  Result<> copied = copyScripts(*source, installedItemPath(entry));
+  return !copied && !made ? made : copied;  // without the folder no copy can be
+}
+
+Result<> MailScriptInstaller::copyScripts(const std::string& source, const std::string& target) {
+  const Result<std::vector<std::string>> names = files_.list(source);
+  if (!names) return names.error();
+  Result<> copied = Failure{source, Attempt::install, Reason::emptyResource};
   for (const std::string& item : *names) {
-    const std::string from = joinPath(*source, item);
-    if (!files_.exists(from)) continue;
-    copied = !files_.isLink(target) && files_.copy(from, joinPath(target, item));
-    if (!copied) return false;
+    const std::string from = joinPath(source, item);
+    if (files_.isAbsent(from)) continue;
+    copied = checkNoLink(files_, target, Attempt::install);
+    if (copied) copied = files_.copy(from, joinPath(target, item));
+    if (!copied) return copied;
   }
   return copied;
 }
 
-bool MailScriptInstaller::unInstallMailScript(const AddinEntry& entry) {
+Result<> MailScriptInstaller::unInstallMailScript(const AddinEntry& entry) {
   return unInstallScript(installedItemPath(entry));
 }
 
-bool MailScriptInstaller::unInstallScript(const std::string& folder) {
-  const auto names = files_.list(folder);
-  if (!names) return false;
-  for (const std::string& item : *names) {
+Result<> MailScriptInstaller::unInstallScript(const std::string& folder) {
+  const Result<std::vector<std::string>> names = files_.list(folder);
+  if (!names) return names.error();
+  const Result<> emptied = removeScripts(folder, *names);
+  Result<> removed = files_.removeEmptyFolder(folder);
+  if (removed) return removed;
+  if (!emptied) return emptied;  // what stayed is why the folder does
+  const Result<> own = checkNoLink(files_, folder, Attempt::uninstall);
+  return own ? removed : own;
+}
+
+Result<> MailScriptInstaller::removeScripts(const std::string& folder, const std::vector<std::string>& names) {
+  Result<> emptied;
+  for (const std::string& item : names) {
     const std::string path = joinPath(folder, item);
-    if (files_.exists(path) && (files_.isLink(folder) || !files_.remove(path))) break;
+    if (files_.isAbsent(path)) {  // listed, and leads nowhere
+      if (emptied) emptied = Failure{path, Attempt::uninstall, Reason::deadLink};
+      continue;
+    }
+    if (Result<> own = checkNoLink(files_, folder, Attempt::uninstall); !own) return own;
+    if (Result<> removed = files_.remove(path); !removed) return removed;
   }
-  return files_.removeEmptyFolder(folder);
+  return emptied;
 }
 
 }  // namespace tarvo

@@ -3,8 +3,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "install/addin_entry.h"
+#include "platform/services/result.h"
 
 namespace tarvo {
 
@@ -22,19 +24,22 @@ class MailScriptInstaller {
       : files_(files), bundle_(bundle), home_(std::move(home)) {}
 
   // Makes Apple Mail's script folder for the running system version.
-  bool createMailScriptFolder();
+  Result<> createMailScriptFolder();
   std::string mailScriptFolder() const;  // that folder
-  // Whether anything, a file too, is where the record's scripts go: programs without it are not listed.
+  // Whether anything, a file too, may be where the record's scripts go: programs without it are not listed. A folder
+  // that cannot be looked at counts as there.
   bool isMailScriptFolder(const AddinEntry& entry) const;
   // Stops at the first item that cannot be copied, also because something of its name is there; what was copied stays.
-  // False then, and for scripts that are missing or empty. The folder is made before the scripts are looked at.
-  bool installMailScript(const AddinEntry& entry);
-  bool unInstallMailScript(const AddinEntry& entry);
-  // Removes what lies in the folder, up to the first failure, then the folder itself if that left it empty. The answer
-  // is the folder's own removal.
-  bool unInstallScript(const std::string& folder);
+  // Fails then, and for scripts that are missing or empty. The folder is made before the scripts are looked at.
+  Result<> installMailScript(const AddinEntry& entry);
+  Result<> unInstallMailScript(const AddinEntry& entry);
+  // Removes what lies in the folder, up to the first failure, then the folder itself if that left it empty. Whether
+  // that is done is the answer; the failure is the first one.
+  Result<> unInstallScript(const std::string& folder);
 
  private:
+  Result<> copyScripts(const std::string& source, const std::string& target);
+  Result<> removeScripts(const std::string& folder, const std::vector<std::string>& names);
   FileService& files_;
   const Bundle& bundle_;
   std::string home_;

@@ -41,7 +41,7 @@ void OfficeFolderSearch::searchFolder(const std::string& folder) {
   if (!names) return;
   for (const std::string& name : *names) {
     const std::string path = joinPath(folder, name);
-    const auto information = PlistFile(services_.files, path + "/Contents/Info.plist").read();
+    const Result<Dictionary> information = readDictionary(services_.files, path + "/Contents/Info.plist");
     if (!information || addinText(*information, "CFBundlePackageType") != "APPL") continue;
     if (!lists_.fDefaultOfficeSetArray) continue;
     const int version = getApplicationVer(path);

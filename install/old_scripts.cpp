@@ -60,8 +60,8 @@ void OldScripts::OldscriptUninstall() {
 bool OldScripts::removeFor(const AddinEntry& shipped, const char* oldFolderKey) {
   const std::string base = joinPath(home_, addinText(shipped, installFolderName));
   const std::string name = addinItemName(shipped);
-  if (name.empty() || !services_.files.exists(joinPath(base, services_.texts.localized(oldFolderKey)))) return false;
-  return mailScripts_.unInstallScript(joinPath(base, name));
+  if (name.empty() || !services_.files.isThere(joinPath(base, services_.texts.localized(oldFolderKey)))) return false;
+  return mailScripts_.unInstallScript(joinPath(base, name)).has_value();  // old scripts that stay are not told
 }
 
 void OldScripts::tell(const std::string& removed) {

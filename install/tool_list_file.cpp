@@ -37,7 +37,12 @@ void appendLine(std::string& text, std::string_view key, std::string_view value)
 
 ToolListFile::ToolListFile(FileService& files, UserDefaults& defaults, const TarvoCommonModule& module,
                            ToolListOutlets& outlets, std::string path)
-    : files_(files), defaults_(defaults), module_(module), outlets_(outlets), path_(std::move(path)) {}
+    : files_(files),
+      defaults_(defaults),
+      module_(module),
+      outlets_(outlets),
+      path_(std::move(path)),
+      written_(Failure{path_, Attempt::write, Reason::nothingChosen}) {}
 
 void ToolListFile::restoreTool() {
   const std::string* stored = defaults_.string("Tool_Path");

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/controls/controls.h"
+#include "platform/services/result.h"
 
 // The tool-list file, from which the installed Office macros learn which tool a button starts.
 // Eight lines "key=value" with CR LF, Shift_JIS without a byte-order mark, written whole.
@@ -37,7 +38,8 @@ class ToolListFile {
   // Stores the chosen tool in the settings, then writes the file. Nothing without a chosen tool.
   void writeOffieTool();
   void changeOfficeTool() { writeOffieTool(); }
-  bool isWritten() const { return written_; }  // how the last write ended, for who may tell it
+  bool isWritten() const { return written_.has_value(); }  // how the last write ended, for who may tell it
+  const Result<>& written() const { return written_; }
 
  private:
   FileService& files_;
@@ -45,7 +47,7 @@ class ToolListFile {
   const TarvoCommonModule& module_;
   ToolListOutlets& outlets_;
   std::string path_;
-  bool written_ = false;
+  Result<> written_;
 };
 
 }  // namespace tarvo

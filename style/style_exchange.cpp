@@ -60,7 +60,7 @@ std::optional<std::string> StyleExchange::chooseImportFile() {
 }
 
 bool StyleExchange::install(const std::string& path, int index, const std::string& title) {
-  std::optional<Dictionary> record = PlistFile(with_.files, path).read();
+  Result<Dictionary> record = readDictionary(with_.files, path);
   if (!record || !isStyle(*record) || !fitsStyleFile(*record) || !with_.store.getStyleAtIndex(index)) {
     with_.alerts.runAlertWithText(with_.texts.localized("ImportPlistErrorHeader"),
                                   with_.texts.localized("ImportPlistErrorMessage"));

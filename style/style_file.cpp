@@ -26,7 +26,7 @@ std::span<const std::string> StyleFile::encode(const Dictionary& root) {
   return encoded_;
 }
 
-bool StyleFile::write(const Dictionary& root) {
+Result<> StyleFile::write(const Dictionary& root) {
   const Array* styles = root.array(keyNameStyle);
   std::size_t size = 4096;
   for (const std::string& record : encode(root)) size += record.size();

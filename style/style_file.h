@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -18,9 +17,9 @@ class StyleFile {
  public:
   StyleFile(FileService& files, std::string path) : file_(files, std::move(path)) {}
   const std::string& path() const { return file_.path(); }
-  std::optional<Dictionary> read() { return file_.read(); }
-  // False: the file is as it was.
-  bool write(const Dictionary& root);
+  Result<Dictionary> read() { return file_.read(); }
+  // After a failure the file is as it was.
+  Result<> write(const Dictionary& root);
   // Every record of the root's "Style" as it stands, or would stand, in the file; empty when that is no array.
   std::span<const std::string> encode(const Dictionary& root);
   // The record at the index, or every record, is no longer what was written last.

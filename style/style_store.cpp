@@ -12,21 +12,22 @@ StyleStore::StyleStore(FileService& files, Engine& engine, UserDefaults& default
                        std::string seedPath)
     : file_(files, std::move(path)), seed_(files, std::move(seedPath)), registration_(engine, defaults) {}
 
-bool StyleStore::readUserStyles() {
-  std::optional<Dictionary> root = file_.read();
-  if (!root) return false;
+Result<> StyleStore::readFrom(StyleFile& file) {
+  Result<Dictionary> root = file.read();
+  if (!root) return root.error();
   tarvoStyle_ = std::move(*root);
   file_.allChanged();
-  return true;
+  return {};
 }
 
-bool StyleStore::readSeedStyles() {
-  std::optional<Dictionary> root = seed_.read();
-  if (!root) return false;
-  tarvoStyle_ = std::move(*root);
-  file_.allChanged();
-  return true;
+Result<> StyleStore::readUserStyles() {
+  Result<> done = readFrom(file_);
+  unread_.reset();
+  if (!done && !isAbsence(done.error())) unread_ = done.error();
+  return done;
 }
+
+Result<> StyleStore::readSeedStyles() { return readFrom(seed_); }
 
 void StyleStore::fillInMissingOptions() {
   Array* styles = tarvoStyle_.array(keyNameStyle);
@@ -81,7 +82,8 @@ int StyleStore::selectedStyle() const {
 }
 
 void StyleStore::writeTarvoStylePlist() {
-  saved_ = file_.write(tarvoStyle_);
+  const Result<> written = file_.write(tarvoStyle_);
+  unsaved_ = written ? std::nullopt : std::optional(written.error());
   if (didWrite) didWrite();
   if (awakening_) return;
   const std::optional<StyleSet> styles = styleSet();

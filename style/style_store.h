@@ -22,9 +22,9 @@ class StyleStore {
   // path: the user's style file. seedPath: the copy that comes with the product.
   StyleStore(FileService& files, Engine& engine, UserDefaults& defaults, std::string path, std::string seedPath);
 
-  // Replaces the root by the user's file, or by the seed. False: it cannot be read, and the root stays.
-  bool readUserStyles();
-  bool readSeedStyles();
+  // Replaces the root by the user's file, or by the seed. After a failure the root stays.
+  Result<> readUserStyles();
+  Result<> readSeedStyles();
   // Gives every "JE" record that lacks one the product's defaults of "TOpt1" to "TOpt5". Writes nothing.
   void fillInMissingOptions();
 
@@ -49,8 +49,11 @@ class StyleStore {
   // Lets the engine and the store agree: an engine without styles gets these, else newer ones of the engine replace
   // them whole, unwritten. True: they were replaced, and have to be shown.
   bool reconcile();
-  bool isSaved() const { return saved_; }  // whether the last write reached the disk
-  std::function<void()> didWrite;          // told after each write, before the engine is
+  // Why the user's file that is there could not be read, or the last write did not reach the disk.
+  const std::optional<Failure>& unread() const { return unread_; }
+  const std::optional<Failure>& unsaved() const { return unsaved_; }
+  bool isSaved() const { return !unsaved_; }
+  std::function<void()> didWrite;  // told after each write, before the engine is
   const std::string& path() const { return file_.path(); }
 
   // While start-up or a take-over from the engine is running nothing is registered. It is running at first.
@@ -61,12 +64,14 @@ class StyleStore {
   void setCurrentID(std::string id) { currentID_ = std::move(id); }
 
  private:
+  Result<> readFrom(StyleFile& file);
   std::optional<StyleSet> styleSet();
   StyleFile file_, seed_;
   EngineRegistration registration_;
   Dictionary tarvoStyle_;
   std::string currentID_;
-  bool saved_ = true, awakening_ = true;
+  bool awakening_ = true;
+  std::optional<Failure> unread_, unsaved_;
 };
 
 }  // namespace tarvo

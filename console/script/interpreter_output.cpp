@@ -63,7 +63,7 @@ void addContent(Json::Object& object, const FileService& files, const std::strin
     object.emplace("names", Json::List(names->begin(), names->end()));
     return;
   }
-  const std::optional<std::string> bytes = files.read(path);
+  const Result<std::string> bytes = files.read(path);
   if (!bytes) return;
   if (const std::optional<PropertyList> list = readPropertyList(*bytes)) {
     object.emplace("plist", jsonFromPropertyList(*list));

@@ -37,7 +37,7 @@ void advance(Interpreter& interpreter, ScriptLine& line) {
 
 // Of a style file, or a list that is nothing else.
 Array stylesOf(ScenarioSession& session, const std::string& path) {
-  const std::optional<std::string> bytes = session.product().files().read(path);
+  const Result<std::string> bytes = session.product().files().read(path);
   const std::optional<PropertyList> list = bytes ? readPropertyList(*bytes) : std::nullopt;
   const Array* styles = list ? list->array() : nullptr;
   if (list && list->dictionary() != nullptr) styles = list->dictionary()->array(keyNameStyle);
@@ -116,8 +116,8 @@ void defaultValue(Interpreter& interpreter, ScriptLine& line) {
   });
 }
 
-void require(bool done, const std::string& path) {
-  if (!done) throw ScriptError("the disk refused that for " + path);
+void require(const Result<>& done, const std::string& path) {
+  if (!done) throw ScriptError("the disk refused that for " + path + ": " + done.error().cause.message());
 }
 
 void makeFolderOf(FileService& files, const std::string& path) {
@@ -131,7 +131,7 @@ void changeMode(ScenarioSession& session, const std::string& path, const std::st
   std::error_code error;
   std::filesystem::permissions(session.product().locations().resolve(path), static_cast<std::filesystem::perms>(mode),
                                error);
-  require(!error, path);
+  if (error) throw ScriptError("the disk refused that for " + path + ": " + error.message());
 }
 
 void changeType(FileService& files, const std::string& path, const std::string& code) {

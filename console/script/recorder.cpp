@@ -51,11 +51,12 @@ void Recorder::observeWindows(Program& program) {
   };
 }
 
-bool RecordedFiles::isRefused(Operation operation, const std::string& path) const {
+std::optional<Failure> RecordedFiles::refusal(Operation operation, const std::string& path, Attempt attempt) const {
   for (const Refusal& refusal : refused_) {
-    if (refusal.operation == operation && isBelow(path, refusal.path)) return true;
+    if (refusal.operation != operation || !isBelow(path, refusal.path)) continue;
+    return Failure{path, attempt, std::make_error_code(std::errc::permission_denied)};
   }
-  return false;
+  return std::nullopt;
 }
 
 void RecordedFiles::noteWrite(const std::string& path, bool written) {
@@ -64,38 +65,45 @@ void RecordedFiles::noteWrite(const std::string& path, bool written) {
   if (!name.empty()) recorder_.note({{written ? "wrote" : "writeFailed", name}});
 }
 
-bool RecordedFiles::write(const std::string& path, std::string_view bytes) {
-  const bool written = !isRefused(Operation::write, path) && disk_.write(path, bytes);
-  noteWrite(path, written);
+Result<> RecordedFiles::write(const std::string& path, std::string_view bytes) {
+  const auto refused = refusal(Operation::write, path, Attempt::write);
+  Result<> written = refused ? *refused : disk_.write(path, bytes);
+  noteWrite(path, written.has_value());
   return written;
 }
 
-bool RecordedFiles::keepUnreadable(const std::string& path) {
-  const bool kept = !isRefused(Operation::copy, path) && disk_.keepUnreadable(path);
+Result<> RecordedFiles::keepUnreadable(const std::string& path) {
+  const auto refused = refusal(Operation::copy, path, Attempt::keep);
+  Result<> kept = refused ? *refused : disk_.keepUnreadable(path);
   // The file is not replaced then: that is how its write fails.
   if (!kept) noteWrite(path, false);
   return kept;
 }
 
-std::optional<std::vector<std::string>> RecordedFiles::list(const std::string& folder) const {
-  if (isRefused(Operation::list, folder)) return std::nullopt;
+Result<std::vector<std::string>> RecordedFiles::list(const std::string& folder) const {
+  if (const auto refused = refusal(Operation::list, folder, Attempt::list)) return *refused;
   return disk_.list(folder);
 }
 
-bool RecordedFiles::makeFolder(const std::string& path) {
-  return !isRefused(Operation::make, path) && disk_.makeFolder(path);
+Result<> RecordedFiles::makeFolder(const std::string& path) {
+  if (const auto refused = refusal(Operation::make, path, Attempt::makeFolder)) return *refused;
+  return disk_.makeFolder(path);
 }
 
-bool RecordedFiles::copy(const std::string& from, const std::string& to) {
-  return !isRefused(Operation::copy, from) && !isRefused(Operation::copy, to) && disk_.copy(from, to);
+Result<> RecordedFiles::copy(const std::string& from, const std::string& to) {
+  if (const auto refused = refusal(Operation::copy, from, Attempt::copy)) return *refused;
+  if (const auto refused = refusal(Operation::copy, to, Attempt::create)) return *refused;
+  return disk_.copy(from, to);
 }
 
-bool RecordedFiles::remove(const std::string& path) {
-  return !isRefused(Operation::remove, path) && disk_.remove(path);
+Result<> RecordedFiles::remove(const std::string& path) {
+  if (const auto refused = refusal(Operation::remove, path, Attempt::remove)) return *refused;
+  return disk_.remove(path);
 }
 
-bool RecordedFiles::removeEmptyFolder(const std::string& path) {
-  return !isRefused(Operation::remove, path) && disk_.removeEmptyFolder(path);
+Result<> RecordedFiles::removeEmptyFolder(const std::string& path) {
+  if (const auto refused = refusal(Operation::remove, path, Attempt::remove)) return *refused;
+  return disk_.removeEmptyFolder(path);
 }
 
 bool RecordedEngine::checkConnectionWithCurl() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -50,24 +51,25 @@ class RecordedFiles : public FileService {
   void refuse(Operation operation, const std::string& path) { refused_.push_back({operation, path}); }
   void allow() { refused_.clear(); }
 
-  Kind kind(const std::string& path) const override { return disk_.kind(path); }
-  bool isLink(const std::string& path) const override { return disk_.isLink(path); }
-  bool isWritable(const std::string& folder) const override { return disk_.isWritable(folder); }
-  std::optional<std::string> read(const std::string& path) const override { return disk_.read(path); }
-  bool write(const std::string& path, std::string_view bytes) override;
-  bool keepUnreadable(const std::string& path) override;
-  std::optional<std::vector<std::string>> list(const std::string& folder) const override;
-  bool makeFolder(const std::string& path) override;
-  bool copy(const std::string& from, const std::string& to) override;
-  bool remove(const std::string& path) override;
-  bool removeEmptyFolder(const std::string& path) override;
-  FourCharCode typeCode(const std::string& path) const override { return disk_.typeCode(path); }
-  bool setCodes(const std::string& path, FourCharCode type, FourCharCode creator) override {
+  Result<Kind> kind(const std::string& path) const override { return disk_.kind(path); }
+  Result<Kind> ownKind(const std::string& path) const override { return disk_.ownKind(path); }
+  Result<> checkWritable(const std::string& folder) const override { return disk_.checkWritable(folder); }
+  Result<std::string> read(const std::string& path) const override { return disk_.read(path); }
+  Result<> write(const std::string& path, std::string_view bytes) override;
+  Result<> keepUnreadable(const std::string& path) override;
+  Result<std::vector<std::string>> list(const std::string& folder) const override;
+  Result<> makeFolder(const std::string& path) override;
+  Result<> copy(const std::string& from, const std::string& to) override;
+  Result<> remove(const std::string& path) override;
+  Result<> removeEmptyFolder(const std::string& path) override;
+  Result<FourCharCode> typeCode(const std::string& path) const override { return disk_.typeCode(path); }
+  Result<> setCodes(const std::string& path, FourCharCode type, FourCharCode creator) override {
     return disk_.setCodes(path, type, creator);
   }
 
  private:
-  bool isRefused(Operation operation, const std::string& path) const;
+  // As the disk itself refuses.
+  std::optional<Failure> refusal(Operation operation, const std::string& path, Attempt attempt) const;
   void noteWrite(const std::string& path, bool written);
   struct Refusal {
     Operation operation;
@@ -88,8 +90,9 @@ class RecordedEngine : public Engine {
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
   std::string form() const override { return engine_.form(); }
-  bool didRegister() const override { return engine_.didRegister(); }
-  bool couldRead() const override { return engine_.couldRead(); }
+  Result<> couldReach() const override { return engine_.couldReach(); }
+  Result<> didRegister() const override { return engine_.didRegister(); }
+  Result<> couldRead() const override { return engine_.couldRead(); }
 
  private:
   Engine& engine_;

@@ -10,8 +10,8 @@
 #include "console/verbs/addin_reading.h"
 #include "console/verbs/text_table.h"
 #include "console/verbs/verb_program.h"
-#include "install/addin_diagnosis.h"
 #include "platform/plist/json.h"
+#include "platform/services/failure_text.h"
 #include "platform/services/file_service.h"
 
 namespace tarvo {
@@ -137,27 +137,29 @@ ExitStatus AddinTickCommand::run(Console& console) {
     if (isMarkedInstalled(row()) == install_) {
       return verb.refuse(name_ + (install_ ? " has its add-in already" : " has no add-in"));
     }
-    const AddinDiagnosis before = diagnoseAddin(row(), console.product.files(), console.product.bundle());
     AddinOutlets& outlets = program.interface().addins;
     hand.tick(match.place.tag == 0 ? outlets.officeTableView : outlets.mailTableView, match.place.row, install_);
     if (isMarkedInstalled(row()) == install_) return;
     const TextField& info = match.place.tag == 0 ? outlets.officeInfoField : outlets.mailinfoField;
-    const std::string& reason = install_ ? before.obstacle : before.removalObstacle;
-    verb.refuse(info.stringValue() + (reason.empty() ? "" : " (" + reason + ")"));
+    const TextField& reason = match.place.tag == 0 ? outlets.officeReasonField : outlets.mailReasonField;
+    verb.refuse(info.stringValue() + " (" + reason.stringValue() + ")");
   });
 }
 
 ExitStatus AddinSearchCommand::run(Console& console) {
   const std::string folder = absolutePath(folder_);
   Locations& locations = console.product.locations();
-  if (console.product.files().kind(locations.picked(folder)) != FileService::Kind::folder) {
-    console.err << "there is no folder " << folder_ << '\n';
+  const Result<FileService::Kind> kind = console.product.files().kind(locations.picked(folder));
+  if (kind != FileService::Kind::folder) {
+    console.err << (kind ? "there is no folder " + folder_ : failureText(kind.error(), console.product.texts()))
+                << '\n';
     return ExitStatus::usage;
   }
   VerbProgram verb(console);
   verb.answerFilePanels(folder);
   return verb.run([&](Program& program, Hand& hand) {
-    if (!console.product.files().list(locations.picked(folder))) return verb.refuse(folder_ + " cannot be listed");
+    const auto names = console.product.files().list(locations.picked(folder));
+    if (!names) return verb.refuse(failureText(names.error(), console.product.texts()));
     AddinLists& lists = program.rooms().addins;
     const std::size_t office = lists.fOfficeAddinArray.size(), mail = lists.fMailAddinArray.size();
     hand.press(program.interface().addins.officeSearchButton);
@@ -188,7 +190,7 @@ ExitStatus ToolListCommand::run(Console& console) {
     const ToolListFile& file = program.rooms().toolList;
     const int index = static_cast<int>(tool - gAppCreatorArray.begin());
     if (!tool_.empty()) hand.choose(program.interface().tools.officeToolPopup, index);
-    if (!file.isWritten()) verb.refuse(console.product.locations().resolve(file.path()) + " could not be written");
+    if (!file.written()) verb.refuse(failureText(file.written().error(), console.product.texts()));
   });
 }
 

@@ -19,8 +19,7 @@ class AddinsCommand : public Command {
   bool json_;
 };
 
-// addin install|remove NAME [VERSION]: ticks or clears a row's box. Why it did not work is told in more words than the
-// window has.
+// addin install|remove NAME [VERSION]: ticks or clears a row's box. Why it did not work is told in the window's words.
 class AddinTickCommand : public Command {
  public:
   // name: as the table shows it, or the path of the application. version: "" where the name alone says which one.

@@ -15,7 +15,7 @@ namespace {
 
 // Whether a start would list this mail program: it makes Apple Mail's folder before it looks.
 bool isListed(const AddinEntry& entry, const FileService& files, const MailScriptInstaller& mailScripts) {
-  if (!files.exists(addinText(entry, addin_keys::appPath))) return false;
+  if (files.isAbsent(addinText(entry, addin_keys::appPath))) return false;
   const std::string folder = addinText(entry, addin_keys::installFolderPath);
   return mailScripts.isMailScriptFolder(entry) || folder == mailScripts.mailScriptFolder();
 }
@@ -29,7 +29,7 @@ std::vector<AddinEntry> forgottenIn(const AddinLists& lists, const FileService& 
     const bool isCandidate = std::any_of(
         lists.fOfficeArray.begin(), lists.fOfficeArray.end(),
         [&](const AddinLists::SharedEntry& candidate) { return addinText(*candidate, addin_keys::appPath) == path; });
-    if (!isCandidate && files.exists(path)) forgotten.push_back(*shipped);
+    if (!isCandidate && files.isThere(path)) forgotten.push_back(*shipped);
   }
   return forgotten;
 }

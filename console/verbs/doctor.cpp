@@ -11,9 +11,10 @@
 #include "console/verbs/text_table.h"
 #include "dict/dict_controller.h"
 #include "platform/plist/json.h"
-#include "platform/plist/plist_reader.h"
 #include "platform/services/engine.h"
+#include "platform/services/failure_text.h"
 #include "platform/services/file_service.h"
+#include "platform/services/plist_file.h"
 #include "platform/services/system_version.h"
 #include "platform/text/text_rules.h"
 #include "style/style_keys.h"
@@ -44,20 +45,16 @@ class Examination {
     findings_.push_back({product_.locations().shown(path), what, state, std::move(detail)});
   }
 
+  std::string causeOf(const Failure& failure) const { return failureCauseText(failure, product_.texts()); }
+
   // A property list whose root is a dictionary; nothing when there is none, and then it is noted.
   std::optional<Dictionary> list(const std::string& path, const char* what, const char* whenMissing) {
-    const Kind kind = product_.files().kind(path);
-    const std::optional<std::string> bytes = product_.files().read(path);
-    if (kind == Kind::absent) {
+    Result<Dictionary> values = readDictionary(product_.files(), path);
+    if (values) return std::move(*values);
+    if (product_.files().isAbsent(path)) {
       add(path, what, "missing", whenMissing);
-    } else if (!bytes) {
-      add(path, what, "problem", kind == Kind::file ? "cannot be read" : "is no file");
-    } else if (std::optional<PropertyList> value = readPropertyList(*bytes); !value) {
-      add(path, what, "problem", "is no property list");
-    } else if (value->dictionary() == nullptr) {
-      add(path, what, "problem", "is a property list without keys");
     } else {
-      return std::move(*value->dictionary());
+      add(path, what, "problem", causeOf(values.error()));
     }
     return std::nullopt;
   }
@@ -103,8 +100,8 @@ class Examination {
     if (names) {
       add(path, what, "ok", std::to_string(names->size()) + " entries");
     } else {
-      const bool absent = product_.files().kind(path) == Kind::absent;
-      add(path, what, absent ? "missing" : "problem", absent ? "" : "cannot be listed");
+      const bool absent = product_.files().isAbsent(path);
+      add(path, what, absent ? "missing" : "problem", absent ? "" : causeOf(names.error()));
     }
   }
 
@@ -145,7 +142,9 @@ class Examination {
   }
 
   void plain(const std::string& path, const char* what, const char* whenMissing) {
-    const bool exists = product_.files().exists(path);
+    const Result<Kind> kind = product_.files().kind(path);
+    if (!kind) return add(path, what, "problem", causeOf(kind.error()));
+    const bool exists = *kind != Kind::absent;
     add(path, what, exists ? "ok" : "missing", exists ? "" : whenMissing);
   }
 

@@ -5,6 +5,7 @@
 #include "app/product.h"
 #include "console/verbs/addin_reading.h"
 #include "install/addin_diagnosis.h"
+#include "platform/services/failure_text.h"
 #include "platform/services/file_service.h"
 
 namespace tarvo {
@@ -39,24 +40,31 @@ class Examination {
   }
 
   void examine(const AddinDiagnosis& addin, bool isRemembered) {
-    const bool exists = product_.files().exists(addin.application);
-    add(addin.application, addin.name, exists ? "ok" : "missing", exists ? "" : "is not listed");
-    if (!exists) return;
+    const Result<FileService::Kind> kind = product_.files().kind(addin.application);
+    const bool isAbsent = kind == FileService::Kind::absent;
+    add(addin.application, addin.name,
+        !kind      ? "problem"
+        : isAbsent ? "missing"
+                   : "ok",
+        !kind      ? failureCauseText(kind.error(), product_.texts())
+        : isAbsent ? "is not listed"
+                   : "");
+    if (isAbsent) return;
     folder(addin);
     item(addin, isRemembered);
   }
 
   void folder(const AddinDiagnosis& addin) {
-    const bool exists = product_.files().exists(addin.folder);
+    const bool exists = !product_.files().isAbsent(addin.folder);
     // What is installed is in its own way; that is no fault.
     const bool isInstalled = addin.isThere && !addin.isPartial;
-    const bool fails = !addin.obstacle.empty() && !isInstalled;
+    const bool fails = addin.obstacle && !isInstalled;
     const char* whenMissing = addin.table == "mail" ? "is not listed without it" : "";
     add(addin.folder, "install folder of " + addin.name,
         !exists ? "missing"
         : fails ? "problem"
                 : "ok",
-        fails    ? "an install would fail: " + addin.obstacle
+        fails    ? "an install would fail: " + failureText(*addin.obstacle, product_.texts())
         : exists ? ""
                  : whenMissing);
   }
@@ -69,8 +77,10 @@ class Examination {
       detail += addin.isMarked ? "; the box was left on and goes off with the next start"
                                : "; the box was left off and goes on with the next start";
     }
-    if (!addin.removalObstacle.empty()) detail += "; a removal would fail: " + addin.removalObstacle;
-    const bool isProblem = addin.isPartial || differs || !addin.removalObstacle.empty();
+    if (addin.removalObstacle) {
+      detail += "; a removal would fail: " + failureText(*addin.removalObstacle, product_.texts());
+    }
+    const bool isProblem = addin.isPartial || differs || addin.removalObstacle;
     add(addin.item, (addin.table == "mail" ? "scripts of " : "macro of ") + addin.name,
         isProblem       ? "problem"
         : addin.isThere ? "ok"

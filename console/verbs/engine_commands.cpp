@@ -8,6 +8,7 @@
 #include "console/verbs/verb_program.h"
 #include "platform/plist/json.h"
 #include "platform/services/engine.h"
+#include "platform/services/failure_text.h"
 #include "platform/services/notification_names.h"
 #include "platform/services/user_defaults.h"
 #include "style/style_keys.h"
@@ -38,7 +39,11 @@ ExitStatus EngineStatusCommand::run(Console& console) {
   const std::string* stamp = defaults.string(lastUpdate);
   const bool reachable = engine->checkConnectionWithCurl();
   const bool holds = reachable && engine->checkStyle();
-  if (!reachable && console.engineIsWanted) console.err << "the style service cannot be reached\n";
+  if (!reachable && console.engineIsWanted) {
+    const Result<> reached = engine->couldReach();
+    console.err << "the style service cannot be reached"
+                << (reached ? "" : " (" + failureText(reached.error(), product.texts()) + ")") << '\n';
+  }
   if (json_) {
     console.out << writeJson(Json::Object{{"form", engine->form()},
                                           {"reachable", reachable},
@@ -75,7 +80,9 @@ ExitStatus EnginePullCommand::run(Console& console) {
     }
     const std::string* stamp = program.defaults().string(lastUpdate);  // an offer that was taken left its own
     if (!calls.offered || stamp == nullptr || *stamp != calls.offered->stamp) {
-      return verb.refuse("the styles of the service cannot be read: nothing was taken");
+      const Result<> read = program.services().engine.couldRead();
+      const std::string why = read ? "" : " (" + failureText(read.error(), program.services().texts) + ")";
+      return verb.refuse("the styles of the service cannot be read: nothing was taken" + why);
     }
     console.out << "took " << calls.offered->styles << " styles\n";
     if (program.rooms().store.getSelection() == nullptr) {

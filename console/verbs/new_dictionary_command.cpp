@@ -5,6 +5,7 @@
 #include "app/product.h"
 #include "app/program.h"
 #include "console/verbs/verb_program.h"
+#include "platform/services/failure_text.h"
 #include "platform/services/file_service.h"
 #include "platform/services/notification_names.h"
 
@@ -27,13 +28,11 @@ Kind kindOf(Program& program, Direction direction, DictionaryKind kind) {
   return memory ? Kind{sheet.newJETMAMenu, lists.jeUTMAController} : Kind{sheet.newJEUDMenu, lists.jeUDController};
 }
 
-// Why there is no file although the name was good.
-std::string reasonFor(Product& product, Direction direction, const std::string& path) {
-  const std::string name = direction == Direction::englishToJapanese ? "EJStationery" : "JEStationery";
-  const std::string type(extensionOf(DictionaryKind::user, direction));
-  const std::string made = "no file was made: ";
-  if (!product.bundle().resource(name, type)) return made + "the template " + name + "." + type + " is missing";
-  return made + product.locations().resolve(path) + " cannot be written";
+// Without its template a dictionary counts as made, and there is no file.
+Failure missingTemplate(Product& product, Direction direction) {
+  const std::string path = product.bundle().folder() +
+                           (direction == Direction::englishToJapanese ? "/EJStationery.eud2" : "/JEStationery.jud");
+  return {path, Attempt::copy, Reason::missingResource};
 }
 
 }  // namespace
@@ -55,9 +54,10 @@ ExitStatus NewDictionaryCommand::run(Console& console) {
       hand.press(sheet.NewDicCancelButton);
       return;
     }
-    const std::string path = kind.list.getDicPath(fileName);
-    if (console.product.files().exists(path)) return;
-    verb.refuse(reasonFor(console.product, direction_, path));
+    const std::optional<Failure>& failure = program.rooms().newDictionary.notCreated();
+    if (!failure && !console.product.files().isAbsent(kind.list.getDicPath(fileName))) return;
+    const Failure told = failure ? *failure : missingTemplate(console.product, direction_);
+    verb.refuse("no file was made: " + failureText(told, console.product.texts()));
   });
 }
 

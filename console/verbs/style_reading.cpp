@@ -9,9 +9,11 @@
 namespace tarvo {
 
 std::optional<Dictionary> readStyles(Product& product) {
-  std::optional<Dictionary> styles =
-      PlistFile(product.files(), product.locations().inHome(std::string(gStylePath))).read();
-  return styles ? styles : PlistFile(product.files(), std::string(gAppSupportStylePlist)).read();
+  for (const std::string& path :
+       {product.locations().inHome(std::string(gStylePath)), std::string(gAppSupportStylePlist)}) {
+    if (Result<Dictionary> styles = readDictionary(product.files(), path)) return std::move(*styles);
+  }
+  return std::nullopt;
 }
 
 std::optional<Dictionary> readStyles(Console& console) {

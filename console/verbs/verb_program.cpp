@@ -4,6 +4,7 @@
 
 #include "app/product.h"
 #include "app/program.h"
+#include "platform/services/failure_text.h"
 
 namespace tarvo {
 
@@ -43,14 +44,14 @@ class VerbProgram::ToldEngine : public Engine {
   const EngineCalls& calls() const { return calls_; }
   bool checkConnectionWithCurl() override {
     const bool reachable = engine_.checkConnectionWithCurl();
-    if (!reachable) tell("the style service cannot be reached; it keeps its former styles");
+    if (!reachable) tell("the style service cannot be reached; it keeps its former styles", engine_.couldReach());
     calls_.reached = calls_.reached && reachable;
     return reachable;
   }
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override {
     engine_.sendRegistStyle(styles, updateString);
-    if (!engine_.didRegister()) tell("the style service did not store the styles");
-    calls_.stored = engine_.didRegister();
+    calls_.stored = engine_.didRegister().has_value();
+    if (!calls_.stored) tell("the style service did not store the styles", engine_.didRegister());
     calls_.handedOver = static_cast<int>(styles.records.size());
   }
   bool checkStyle() override { return engine_.checkStyle(); }
@@ -60,12 +61,15 @@ class VerbProgram::ToldEngine : public Engine {
     return newer;
   }
   std::string form() const override { return engine_.form(); }
-  bool didRegister() const override { return engine_.didRegister(); }
-  bool couldRead() const override { return engine_.couldRead(); }
+  Result<> couldReach() const override { return engine_.couldReach(); }
+  Result<> didRegister() const override { return engine_.didRegister(); }
+  Result<> couldRead() const override { return engine_.couldRead(); }
 
  private:
-  void tell(const char* what) {
-    if (!told_) console_.err << what << '\n';
+  // Some engines know why.
+  void tell(const char* what, const Result<>& why) {
+    const Texts& texts = console_.product.texts();
+    if (!told_) console_.err << what << (why ? "" : " (" + failureText(why.error(), texts) + ")") << '\n';
     told_ = true;
   }
   Engine& engine_;
@@ -120,9 +124,11 @@ void VerbProgram::duringModalRun(std::function<void()> act) {
 ExitStatus VerbProgram::runProgram(const std::function<void(Program& program, Hand& hand)>& act) {
   Program program(console_.product.services(console_.product.files(), *engine_, console_.runLoop, *panels_,
                                             shell_.windowHost(), *workspace_));
-  bool saved = true;
+  std::optional<Failure> unsaved;  // the first
   StyleStore& store = program.rooms().store;
-  store.didWrite = [&] { saved = saved && store.isSaved(); };
+  store.didWrite = [&] {
+    if (!unsaved) unsaved = store.unsaved();
+  };
   shell_.programMade(program);
   const bool started = program.construct() && program.load();
   if (started) {
@@ -130,8 +136,8 @@ ExitStatus VerbProgram::runProgram(const std::function<void(Program& program, Ha
     program.quit();
   }
   shell_.programEnds(program);
-  if (!saved) console_.err << "the style file could not be written\n";
-  return started && saved && !panels_->refused() ? ExitStatus::done : ExitStatus::refused;
+  if (unsaved) console_.err << failureText(*unsaved, console_.product.texts()) << '\n';
+  return started && !unsaved && !panels_->refused() ? ExitStatus::done : ExitStatus::refused;
 }
 
 }  // namespace tarvo

@@ -14,6 +14,12 @@ constexpr std::chrono::milliseconds firstPause{20}, longestPause{100};
 
 std::chrono::steady_clock::duration steadyNow() { return std::chrono::steady_clock::now().time_since_epoch(); }
 
+// Why nothing can be read of it.
+std::error_code causeOf(const StyleResource::Front& front) {
+  if (front.state == State::damaged) return Reason::damaged;
+  return front.state == State::nothing ? Reason::absentThere : front.cause;
+}
+
 }  // namespace
 
 EngineHttp::EngineHttp(HttpPlace place, HttpTimes times, Now now)
@@ -46,28 +52,33 @@ StyleResource::Front EngineHttp::readFront(const Deadline& deadline) {
 
 bool EngineHttp::checkConnectionWithCurl() {
   const std::optional<Deadline> deadline = begin(times_.probe);
+  couldReach_ = failure(Attempt::reach, Reason::notAsked);
   if (!deadline) return false;
   const StyleResource::Front front = readFront(*deadline);
   finish();
-  return front.state != State::unknown;
+  couldReach_ = front.state != State::unknown ? Result<>() : failure(Attempt::reach, front.cause);
+  return couldReach_.has_value();
 }
 
 void EngineHttp::sendRegistStyle(const StyleSet& styles, std::string& updateString) {
   const StylePayload payload(styles);
   SetStamp stamp = payload.stamp(nextRevision());
   const std::optional<Deadline> deadline = begin(times_.operation);
-  didRegister_ = deadline && keepTrying(payload, stamp, *deadline);
+  didRegister_ = deadline ? keepTrying(payload, stamp, *deadline) : failure(Attempt::store, Reason::notAsked);
   if (deadline) finish();
   updateString = stamp.text();
 }
 
-bool EngineHttp::keepTrying(const StylePayload& payload, SetStamp& stamp, const Deadline& deadline) {
+Result<> EngineHttp::keepTrying(const StylePayload& payload, SetStamp& stamp, const Deadline& deadline) {
+  bool wasRaced = false;
   for (auto pause = firstPause;; pause = std::min(2 * pause, longestPause)) {
     const StyleResource::Locking locking = resource_.lock(deadline);
     const bool isBusy = locking == StyleResource::Locking::busy;
     const Try result = isBusy ? Try::raced : tryToStore(payload, stamp, deadline);
     resource_.unlock(deadline);
-    if (result != Try::raced) return result == Try::stored;
+    if (result == Try::stored) return {};
+    if (result == Try::failed) return failure(Attempt::store, wasRaced ? std::error_code(Reason::contended) : failed_);
+    wasRaced = true;
     std::this_thread::sleep_for(std::min(pause, deadline.left()));
   }
 }
@@ -76,12 +87,15 @@ bool EngineHttp::keepTrying(const StylePayload& payload, SetStamp& stamp, const 
 EngineHttp::Try EngineHttp::tryToStore(const StylePayload& payload, SetStamp& stamp, const Deadline& deadline) {
   const StyleResource::Front before = readFront(deadline);
   stamp = payload.stamp(nextRevision());
+  failed_ = before.cause;
   if (before.state == State::unknown) return Try::failed;
   const std::string bytes = payload.bytes(stamp.revision);
   const StyleResource::Storing storing = resource_.store(bytes, before, deadline);
+  failed_ = resource_.cause();
   if (storing == StyleResource::Storing::failed) return Try::failed;
   if (storing == StyleResource::Storing::raced) return Try::raced;
   const StyleResource::Front after = readFront(deadline);
+  failed_ = after.cause;
   if (after.state == State::unknown) return Try::failed;
   const bool isWhole = after.size == bytes.size() || after.size == 0;
   return after.stamp == stamp && isWhole ? Try::stored : Try::raced;
@@ -95,18 +109,25 @@ bool EngineHttp::checkStyle() {
   return front.state != State::nothing;
 }
 
+std::optional<ReadPayload> EngineHttp::readWhole(const Deadline& deadline) {
+  Result<ReadPayload> set = resource_.whole(deadline);
+  if (set) return std::move(*set);
+  couldRead_ = set.error();
+  return std::nullopt;
+}
+
 bool EngineHttp::requestStyle(Array& styles, std::string& localUpdate) {
   const SetStamp local = SetStamp::parse(localUpdate);
   known_ = std::max(known_, local.revision);
-  couldRead_ = false;
+  couldRead_ = failure(Attempt::fetch, Reason::notAsked);
   const std::optional<Deadline> deadline = begin(times_.operation);
   if (!deadline) return false;
   const StyleResource::Front front = readFront(*deadline);
   const bool isNewer = front.state == State::held && front.stamp.isNewerThan(local);
+  couldRead_ = front.state == State::held ? Result<>() : failure(Attempt::fetch, causeOf(front));
   std::optional<ReadPayload> set;
-  if (isNewer) set = resource_.whole(*deadline);
+  if (isNewer) set = readWhole(*deadline);
   finish();
-  couldRead_ = front.state == State::held && set.has_value() == isNewer;
   if (!set || !set->stamp.isNewerThan(local)) return false;
   known_ = std::max(known_, set->stamp.revision);
   styles = std::move(set->styles);

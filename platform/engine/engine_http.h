@@ -41,25 +41,29 @@ class EngineHttp : public Engine {
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
   std::string form() const override { return "http"; }
-  bool didRegister() const override { return didRegister_; }
-  bool couldRead() const override { return couldRead_; }
+  Result<> couldReach() const override { return couldReach_; }
+  Result<> didRegister() const override { return didRegister_; }
+  Result<> couldRead() const override { return couldRead_; }
 
  private:
   enum class Try { stored, raced, failed };
+  Failure failure(Attempt attempt, std::error_code cause) const { return {resource_.address(), attempt, cause}; }
   // An operation begins: until when, or nothing when the service is not to be asked. One that began is finished.
   std::optional<Deadline> begin(Milliseconds limit);
   void finish();
   std::uint64_t nextRevision() const;
   StyleResource::Front readFront(const Deadline& deadline);
-  bool keepTrying(const StylePayload& payload, SetStamp& stamp, const Deadline& deadline);
+  std::optional<ReadPayload> readWhole(const Deadline& deadline);
+  Result<> keepTrying(const StylePayload& payload, SetStamp& stamp, const Deadline& deadline);
   Try tryToStore(const StylePayload& payload, SetStamp& stamp, const Deadline& deadline);
+  std::error_code failed_;  // why a try did
   StyleResource resource_;
   HttpTimes times_;
   Now now_;
   std::chrono::steady_clock::duration silentUntil_{}, begun_{}, finished_{};
   std::chrono::steady_clock::duration spent_{};  // of the action
   std::uint64_t known_ = 0;                      // the greatest revision that was seen anywhere
-  bool didRegister_ = true, couldRead_ = true;
+  Result<> couldReach_, didRegister_, couldRead_;
 };
 
 }  // namespace tarvo

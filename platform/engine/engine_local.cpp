@@ -75,24 +75,29 @@ EngineLocal::EngineLocal(FileService& files, std::string path) : files_(files), 
 bool EngineLocal::checkConnectionWithCurl() { return true; }
 
 void EngineLocal::sendRegistStyle(const StyleSet& styles, std::string& updateString) {
-  if (!counter_) readSet();
+  if (!counter_) {
+    const Result<Dictionary> held = readSet();
+    (void)held;  // what is there is replaced; a set that cannot be read is kept beside it
+  }
   const bool isLast = *counter_ == std::numeric_limits<std::uint64_t>::max();
   const std::uint64_t next = isLast ? 1 : *counter_ + 1;
   updateString = makeStamp(next);
-  files_.makeFolder(deletingLastPathComponent(file_.path()));
+  const Result<> made = files_.makeFolder(deletingLastPathComponent(file_.path()));
   // After a failed write the caller's set is newer than what the file holds, and its stamp says so: the old set must
   // not come back over it.
   didRegister_ = file_.write(encode(styles, updateString));
   if (didRegister_) counter_ = next;
+  if (!didRegister_ && !made) didRegister_ = made;  // without its folder no file can be
 }
 
 bool EngineLocal::checkStyle() {
-  const auto set = readSet();
+  const Result<Dictionary> set = readSet();
   return set && set->array(styleKey) != nullptr;
 }
 
 bool EngineLocal::requestStyle(Array& styles, std::string& localUpdate) {
-  auto set = readSet();
+  Result<Dictionary> set = readSet();
+  couldRead_ = set ? Result<>() : Result<>(set.error());
   Array* held = set ? set->array(styleKey) : nullptr;
   if (held == nullptr || *counter_ <= counterOf(localUpdate)) return false;
   styles = std::move(*held);
@@ -100,8 +105,8 @@ bool EngineLocal::requestStyle(Array& styles, std::string& localUpdate) {
   return true;
 }
 
-std::optional<Dictionary> EngineLocal::readSet() {
-  auto set = file_.read();
+Result<Dictionary> EngineLocal::readSet() {
+  Result<Dictionary> set = file_.read();
   const std::string* stamp = set ? set->string(stampKey) : nullptr;
   counter_ = stamp != nullptr ? counterOf(*stamp) : 0;
   return set;

@@ -28,14 +28,15 @@ class EngineLocal : public Engine {
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
   std::string form() const override { return "local"; }
-  bool didRegister() const override { return didRegister_; }
+  Result<> didRegister() const override { return didRegister_; }
+  Result<> couldRead() const override { return couldRead_; }
 
  private:
-  std::optional<Dictionary> readSet();
+  Result<Dictionary> readSet();
   FileService& files_;
   PlistFile file_;
   std::optional<std::uint64_t> counter_;  // of the file, once it was read: a registration need not read it again
-  bool didRegister_ = true;
+  Result<> didRegister_, couldRead_;
 };
 
 }  // namespace tarvo

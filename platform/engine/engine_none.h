@@ -14,7 +14,8 @@ class EngineNone : public Engine {
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
   std::string form() const override { return "none"; }
-  bool didRegister() const override { return false; }
+  Result<> couldReach() const override { return Failure{"", Attempt::reach, Reason::noService}; }
+  Result<> didRegister() const override { return Failure{"", Attempt::store, Reason::noService}; }
 };
 
 }  // namespace tarvo

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/engine/shared_library.h"
+#include "platform/services/result.h"
 
 namespace tarvo {
 namespace {
@@ -93,6 +94,22 @@ std::size_t takeHeader(char* bytes, std::size_t, std::size_t size, void* answer)
   return size;
 }
 
+std::error_code causeOf(CURLcode code) {
+  switch (code) {
+    case CURLE_OK: return {};
+    case CURLE_OPERATION_TIMEDOUT: return std::make_error_code(std::errc::timed_out);
+    case CURLE_COULDNT_RESOLVE_HOST:
+    case CURLE_COULDNT_RESOLVE_PROXY: return Reason::unknownHost;
+    case CURLE_COULDNT_CONNECT: return std::make_error_code(std::errc::connection_refused);
+    case CURLE_PEER_FAILED_VERIFICATION:
+    case CURLE_SSL_CONNECT_ERROR:
+    case CURLE_SSL_CACERT_BADFILE: return Reason::notTrusted;
+    case CURLE_WRITE_ERROR:
+    case CURLE_FILESIZE_EXCEEDED: return std::make_error_code(std::errc::file_too_large);
+    default: return Reason::unreachable;
+  }
+}
+
 }  // namespace
 
 struct HttpClient::Handle {
@@ -165,8 +182,10 @@ HttpAnswer HttpClient::send(const HttpRequest& request, Milliseconds limit) {
   HttpAnswer answer;
   if (limit.count() <= 0) {
     answer.arrival = HttpAnswer::Arrival::late;
+    answer.cause = std::make_error_code(std::errc::timed_out);
     return answer;
   }
+  answer.cause = Reason::unreachable;
   if (handle_ == nullptr) handle_ = std::make_unique<Handle>();
   if (handle_->curl == nullptr || request.body.size() > largestHttpBody) return answer;
   const BrokenPipesIgnored ignored;
@@ -176,6 +195,7 @@ HttpAnswer HttpClient::send(const HttpRequest& request, Milliseconds limit) {
   handle_->takeInto(answer);
   handle_->set(CURLOPT_TIMEOUT_MS, static_cast<long>(limit.count()));
   const CURLcode code = handle_->library.perform(handle_->curl);
+  answer.cause = causeOf(code);
   if (code == CURLE_OPERATION_TIMEDOUT) answer.arrival = HttpAnswer::Arrival::late;
   if (code != CURLE_OK) return answer;
   long status = 0;

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 // Requests to one address over HTTP/1.1 or HTTP/2 (RFC 9110), with or without TLS.
@@ -35,6 +36,7 @@ struct HttpRequest {
 struct HttpAnswer {
   enum class Arrival { whole, none, late };  // none: refused, broken off, not to be trusted, or too large
   Arrival arrival = Arrival::none;
+  std::error_code cause;  // why none came, or none in time
   int status = 0;
   std::map<std::string, std::string> headers;  // names in lower case
   std::string body;
@@ -54,6 +56,7 @@ class HttpClient {
   HttpClient(const HttpClient&) = delete;
   HttpClient& operator=(const HttpClient&) = delete;
 
+  const std::string& address() const { return place_.address; }
   // Blocks no longer than the limit; without any time left nothing is sent and the answer is late.
   HttpAnswer send(const HttpRequest& request, Milliseconds limit);
 

@@ -45,6 +45,7 @@ std::string strongTag(const HttpAnswer& answer) {
 HttpAnswer StyleResource::send(const HttpRequest& request, const Deadline& deadline) {
   HttpAnswer answer = client_.send(request, deadline.left());
   isLate_ = isLate_ || answer.arrival == HttpAnswer::Arrival::late;
+  cause_ = answer.isWhole() ? std::error_code(Reason::refused) : answer.cause;
   return answer;
 }
 
@@ -54,6 +55,7 @@ StyleResource::Front StyleResource::front(const Deadline& deadline) {
   const std::string range = "Range: bytes=0-" + std::to_string(payloadFrontSize - 1);
   const HttpAnswer answer = send({"GET", {range, notFromCaches}, {}}, deadline);
   Front front;
+  front.cause = cause_;
   if (!answer.isWhole()) return front;
   if (isNothing(answer)) {
     front.state = State::nothing;
@@ -67,9 +69,12 @@ StyleResource::Front StyleResource::front(const Deadline& deadline) {
   return front;
 }
 
-std::optional<ReadPayload> StyleResource::whole(const Deadline& deadline) {
+Result<ReadPayload> StyleResource::whole(const Deadline& deadline) {
   const HttpAnswer answer = send({"GET", {notFromCaches}, {}}, deadline);
-  return isSuccess(answer) && answer.status != partial ? readPayload(answer.body) : std::nullopt;
+  if (!isSuccess(answer) || answer.status == partial) return Failure{address(), Attempt::fetch, cause_};
+  std::optional<ReadPayload> set = readPayload(answer.body);
+  if (!set) return Failure{address(), Attempt::fetch, Reason::damaged};
+  return std::move(*set);
 }
 
 StyleResource::Storing StyleResource::store(std::string_view bytes, const Front& before, const Deadline& deadline) {

@@ -8,6 +8,7 @@
 #include "platform/engine/deadline.h"
 #include "platform/engine/http_client.h"
 #include "platform/engine/style_payload.h"
+#include "platform/services/result.h"
 
 // The resource in which a server keeps a user's set.
 // Duty: what can be asked of it, one request each, within the deadline given. Not: deciding what to store. Sources:
@@ -23,9 +24,10 @@ class StyleResource {
 
   struct Front {
     State state = State::unknown;
-    SetStamp stamp;        // of what is held
-    std::size_t size = 0;  // of the whole payload; 0 when the server does not say
-    std::string tag;       // strong entity tag, "" for none
+    std::error_code cause;  // of an unknown state
+    SetStamp stamp;         // of what is held
+    std::size_t size = 0;   // of the whole payload; 0 when the server does not say
+    std::string tag;        // strong entity tag, "" for none
   };
   enum class Storing { done, raced, failed };  // raced: somebody else stores at the moment, or has just stored
   enum class Locking { held, busy, notOffered };
@@ -34,14 +36,17 @@ class StyleResource {
 
   // Which set is there; a server that understands ranges sends little more than its stamp.
   Front front(const Deadline& deadline);
-  // The set itself; nothing when there is none or it is damaged.
-  std::optional<ReadPayload> whole(const Deadline& deadline);
+  // The set itself.
+  Result<ReadPayload> whole(const Deadline& deadline);
   // Stores the bytes unless the resource is known to have changed since the front was read.
   Storing store(std::string_view bytes, const Front& before, const Deadline& deadline);
   // Keeps others from storing until unlock() or for a few seconds, where the server offers that.
   Locking lock(const Deadline& deadline);
   void unlock(const Deadline& deadline);
 
+  // Why the last request did not bring what it asked for.
+  const std::error_code& cause() const { return cause_; }
+  const std::string& address() const { return client_.address(); }
   // Whether an answer came too late since this was last said.
   bool takeLateness();
 
@@ -49,6 +54,7 @@ class StyleResource {
   HttpAnswer send(const HttpRequest& request, const Deadline& deadline);
   HttpClient client_;
   std::string lockToken_;  // "" when there is no lock
+  std::error_code cause_;
   bool offersLocks_ = true, isLate_ = false;
 };
 

@@ -4,7 +4,9 @@
 
 #include <sys/xattr.h>
 
+#include <cerrno>
 #include <cstring>
+#include <optional>
 
 namespace tarvo {
 namespace {
@@ -24,12 +26,16 @@ std::optional<std::string> sized(Get get) {
 
 }  // namespace
 
-std::optional<std::string> attribute(const std::string& path, const char* name) {
-  return sized([&](char* buffer, std::size_t size) { return ::getxattr(path.c_str(), name, buffer, size); });
+Result<std::string> attribute(const std::string& path, const char* name) {
+  auto value = sized([&](char* buffer, std::size_t size) { return ::getxattr(path.c_str(), name, buffer, size); });
+  if (value) return std::move(*value);
+  if (errno == ENODATA || errno == ENOTSUP) return std::string();
+  return systemFailure(path, Attempt::look);
 }
 
-bool setAttribute(const std::string& path, const char* name, std::string_view value) {
-  return ::setxattr(path.c_str(), name, value.data(), value.size(), 0) == 0;
+Result<> setAttribute(const std::string& path, const char* name, std::string_view value) {
+  if (::setxattr(path.c_str(), name, value.data(), value.size(), 0) == 0) return {};
+  return systemFailure(path, Attempt::setCodes);
 }
 
 void copyAttributes(int from, int to) {

@@ -33,7 +33,7 @@ std::optional<std::string> BundleScriptRunner::runScript(const std::string& sour
   const std::optional<std::string> classic = quotedPath(source);
   const std::optional<std::string> path = classic ? pathFromClassic(*classic, bootVolume_) : std::nullopt;
   if (!path) return std::nullopt;
-  const std::optional<Dictionary> information = PlistFile(files_, *path + "/Contents/Info.plist").read();
+  const Result<Dictionary> information = readDictionary(files_, *path + "/Contents/Info.plist");
   const std::string* version = information ? information->string("CFBundleShortVersionString") : nullptr;
   return version != nullptr ? std::optional(*version) : std::nullopt;
 }

@@ -20,71 +20,95 @@
 namespace tarvo {
 namespace {
 
-// A name in an open folder, or AT_FDCWD with a whole path.
+// A name in an open folder, or AT_FDCWD with a whole path; and the whole path, for who is told of a failure.
 struct Place {
   int folder;
-  const std::string& name;
+  std::string name, path;
 };
 
 constexpr mode_t permissions = 0777;
 
-bool copyBytes(int from, int to) {
+// The source could not be taken, or the target not be made; errno says why.
+Failure unread(const Place& from) { return systemFailure(from.path, Attempt::copy); }
+Failure unmade(const Place& to) {
+  if (errno == ENOENT) return systemFailure(deletingLastPathComponent(to.path), Attempt::write);  // no folder for it
+  return systemFailure(to.path, Attempt::create);
+}
+
+Result<> copyBytes(const Place& from, const Descriptor& source, const Place& to, const Descriptor& target) {
   constexpr std::size_t atOnce = std::size_t{1} << 30;
   // The system copies by itself where it can; wherever that ends, the plain loop goes on from there.
-  while (::copy_file_range(from, nullptr, to, nullptr, atOnce, 0) > 0) {
+  while (::copy_file_range(source.get(), nullptr, target.get(), nullptr, atOnce, 0) > 0) {
   }
   std::array<char, std::size_t{64} * 1024> buffer{};
   while (true) {
-    const ssize_t count = ::read(from, buffer.data(), buffer.size());
+    const ssize_t count = ::read(source.get(), buffer.data(), buffer.size());
     if (count < 0 && errno == EINTR) continue;
-    if (count <= 0) return count == 0;
-    if (!writeAll(to, std::string_view(buffer.data(), static_cast<std::size_t>(count)))) return false;
+    if (count < 0) return unread(from);
+    if (count == 0) return {};
+    if (!writeAll(target.get(), std::string_view(buffer.data(), static_cast<std::size_t>(count)))) return unmade(to);
   }
 }
 
-bool copyRegular(Place from, Place to, int openFlags) {
+Result<> copyRegular(const Place& from, const Place& to, int openFlags) {
   const Descriptor source(::openat(from.folder, from.name.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | openFlags));
   struct stat status{};
-  if (!source || ::fstat(source.get(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
+  if (!source || ::fstat(source.get(), &status) != 0) return unread(from);
+  if (!S_ISREG(status.st_mode)) return Failure{from.path, Attempt::copy, Reason::noRegularFile};
   Descriptor target(::openat(to.folder, to.name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
-  if (!target) return false;
-  bool copied = copyBytes(source.get(), target.get());
+  if (!target) return unmade(to);
+  Result<> copied = copyBytes(from, source, to, target);
   copyAttributes(source.get(), target.get());
-  copied = copied && ::fchmod(target.get(), status.st_mode & permissions) == 0 && target.close();
+  if (copied && (::fchmod(target.get(), status.st_mode & permissions) != 0 || !target.close())) copied = unmade(to);
   if (!copied) ::unlinkat(to.folder, to.name.c_str(), 0);
   return copied;
 }
 
-bool copyLink(Place from, Place to) {
+Result<> copyLink(const Place& from, const Place& to) {
   std::string content(PATH_MAX, '\0');
   const ssize_t size = ::readlinkat(from.folder, from.name.c_str(), content.data(), content.size());
-  if (size <= 0 || static_cast<std::size_t>(size) == content.size()) return false;
+  if (size < 0) return unread(from);
+  if (static_cast<std::size_t>(size) == content.size()) {
+    return Failure{from.path, Attempt::copy, std::make_error_code(std::errc::filename_too_long)};
+  }
   content.resize(static_cast<std::size_t>(size));
-  return ::symlinkat(content.c_str(), to.folder, to.name.c_str()) == 0;
+  if (::symlinkat(content.c_str(), to.folder, to.name.c_str()) == 0) return {};
+  return unmade(to);
 }
 
-bool copyAny(Place from, Place to);
+Result<> copyAny(const Place& from, const Place& to);
 
-bool copyFolder(Place from, Place to, mode_t mode) {
-  const Descriptor source = openFolder(from.folder, from.name, O_NOFOLLOW);
-  auto names = source ? namesIn(source.get()) : std::nullopt;
-  if (!names || ::mkdirat(to.folder, to.name.c_str(), 0700) != 0) return false;
-  const Descriptor target = openFolder(to.folder, to.name, O_NOFOLLOW);
-  if (!target) return false;
+Result<> copyContent(const Place& from, const Descriptor& source, const Place& to, const Descriptor& target) {
+  auto names = namesIn(source.get());
+  if (!names) return unread(from);
   std::sort(names->begin(), names->end());
-  const bool copied = std::all_of(names->begin(), names->end(), [&](const std::string& name) {
-    return copyAny({source.get(), name}, {target.get(), name});
-  });
-  copyAttributes(source.get(), target.get());
-  return ::fchmod(target.get(), mode & permissions) == 0 && copied;
+  for (const std::string& name : *names) {
+    Result<> copied =
+        copyAny({source.get(), name, joinPath(from.path, name)}, {target.get(), name, joinPath(to.path, name)});
+    if (!copied) return copied;
+  }
+  return {};
 }
 
-bool copyAny(Place from, Place to) {
+Result<> copyFolder(const Place& from, const Place& to, mode_t mode) {
+  const Descriptor source = openFolder(from.folder, from.name, O_NOFOLLOW);
+  if (!source) return unread(from);
+  if (::mkdirat(to.folder, to.name.c_str(), 0700) != 0) return unmade(to);
+  const Descriptor target = openFolder(to.folder, to.name, O_NOFOLLOW);
+  if (!target) return unmade(to);
+  Result<> copied = copyContent(from, source, to, target);
+  copyAttributes(source.get(), target.get());
+  if (::fchmod(target.get(), mode & permissions) != 0 && copied) return unmade(to);
+  return copied;
+}
+
+Result<> copyAny(const Place& from, const Place& to) {
   struct stat status{};
-  if (::fstatat(from.folder, from.name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) return false;
+  if (::fstatat(from.folder, from.name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) return unread(from);
   if (S_ISREG(status.st_mode)) return copyRegular(from, to, O_NOFOLLOW);
   if (S_ISLNK(status.st_mode)) return copyLink(from, to);
-  return S_ISDIR(status.st_mode) && copyFolder(from, to, status.st_mode);
+  if (S_ISDIR(status.st_mode)) return copyFolder(from, to, status.st_mode);
+  return Failure{from.path, Attempt::copy, Reason::noRegularFile};
 }
 
 std::string withoutLinks(const std::string& path) {
@@ -104,13 +128,13 @@ bool isFolderItself(const std::string& path) {
 
 }  // namespace
 
-bool copyTree(const std::string& from, const std::string& to) {
-  if (isFolderItself(from) && isInside(to, from)) return false;
-  return copyAny({AT_FDCWD, from}, {AT_FDCWD, to});
+Result<> copyTree(const std::string& from, const std::string& to) {
+  if (isFolderItself(from) && isInside(to, from)) return Failure{from, Attempt::copy, Reason::intoItself};
+  return copyAny({AT_FDCWD, from, from}, {AT_FDCWD, to, to});
 }
 
-bool copyFile(const std::string& from, const std::string& to) {
-  return copyRegular({AT_FDCWD, from}, {AT_FDCWD, to}, 0);
+Result<> copyFile(const std::string& from, const std::string& to) {
+  return copyRegular({AT_FDCWD, from, from}, {AT_FDCWD, to, to}, 0);
 }
 
 }  // namespace tarvo

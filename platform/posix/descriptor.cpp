@@ -23,7 +23,11 @@ Descriptor& Descriptor::operator=(Descriptor&& other) noexcept {
   return *this;
 }
 
-Descriptor::~Descriptor() { close(); }
+Descriptor::~Descriptor() {
+  const int cause = errno;  // of what failed before, which is still to be told
+  close();
+  errno = cause;
+}
 
 int Descriptor::release() { return std::exchange(number_, -1); }
 
@@ -36,6 +40,7 @@ bool writeAll(int file, std::string_view bytes) {
   while (!bytes.empty()) {
     const ssize_t done = ::write(file, bytes.data(), bytes.size());
     if (done < 0 && errno == EINTR) continue;
+    if (done == 0) errno = EIO;
     if (done <= 0) return false;
     bytes.remove_prefix(static_cast<std::size_t>(done));
   }
@@ -44,6 +49,7 @@ bool writeAll(int file, std::string_view bytes) {
 
 std::optional<std::string> readAll(int file, std::size_t expected, std::size_t limit) {
   constexpr std::size_t step = std::size_t{64} * 1024;
+  errno = EFBIG;
   if (expected > limit) return std::nullopt;
   std::string bytes;
   std::size_t filled = 0;
@@ -56,6 +62,7 @@ std::optional<std::string> readAll(int file, std::size_t expected, std::size_t l
     if (done < 0) return std::nullopt;
     if (done == 0) break;
     filled += static_cast<std::size_t>(done);
+    errno = EFBIG;
     if (filled > limit) return std::nullopt;
   }
   bytes.resize(filled);
@@ -70,7 +77,11 @@ std::optional<std::vector<std::string>> namesIn(int folder) {
   // The stream owns its descriptor and moves its position, so it gets one of its own.
   Descriptor own(::openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (!own) return std::nullopt;
-  const auto closeStream = [](DIR* stream) { ::closedir(stream); };
+  const auto closeStream = [](DIR* stream) {
+    const int cause = errno;
+    ::closedir(stream);
+    errno = cause;
+  };
   const std::unique_ptr<DIR, decltype(closeStream)> stream(::fdopendir(own.get()), closeStream);
   if (!stream) return std::nullopt;
   own.release();

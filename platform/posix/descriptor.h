@@ -8,6 +8,7 @@
 #include <vector>
 
 // File descriptors that close themselves, and the loops around read and write. Everything is opened close-on-exec.
+// Where something fails, errno says why.
 namespace tarvo {
 
 class Descriptor {
@@ -26,7 +27,7 @@ class Descriptor {
 };
 
 bool writeAll(int file, std::string_view bytes);
-// Everything from here to the end; nothing after an error or beyond the limit.
+// Everything from here to the end; nothing after an error or beyond the limit (EFBIG).
 std::optional<std::string> readAll(int file, std::size_t expected, std::size_t limit);
 // Opens a folder for listing and for the …at calls; flags as for open, such as O_NOFOLLOW.
 Descriptor openFolder(int base, const std::string& path, int flags = 0);

@@ -20,20 +20,22 @@ void put(std::string& info, std::size_t position, FourCharCode code) {
 
 }  // namespace
 
-FourCharCode finderType(const std::string& path) {
-  const auto info = attribute(path, finderInfo);
-  if (!info || info->size() < typeAt + codeSize) return 0;
+Result<FourCharCode> finderType(const std::string& path) {
+  const Result<std::string> info = attribute(path, finderInfo);
+  if (!info) return info.error();
+  if (info->size() < typeAt + codeSize) return FourCharCode{0};
   FourCharCode code = 0;
   for (std::size_t i = 0; i < codeSize; ++i) code = (code << 8) | static_cast<unsigned char>((*info)[typeAt + i]);
   return code;
 }
 
-bool setFinderCodes(const std::string& path, FourCharCode type, FourCharCode creator) {
-  std::string info = attribute(path, finderInfo).value_or("");
-  info.resize(std::max(info.size(), finderInfoSize));
-  put(info, typeAt, type);
-  put(info, creatorAt, creator);
-  return setAttribute(path, finderInfo, info);
+Result<> setFinderCodes(const std::string& path, FourCharCode type, FourCharCode creator) {
+  Result<std::string> info = attribute(path, finderInfo);
+  if (!info) return info.error();
+  info->resize(std::max(info->size(), finderInfoSize));
+  put(*info, typeAt, type);
+  put(*info, creatorAt, creator);
+  return setAttribute(path, finderInfo, *info);
 }
 
 }  // namespace tarvo

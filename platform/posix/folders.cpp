@@ -6,7 +6,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 
 #include "platform/posix/descriptor.h"
@@ -20,32 +19,46 @@ bool isFolder(const std::string& path) {
   return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-bool removeAt(int base, const std::string& name);
+// base: the open folder that holds the name; path: the whole one, for who is told of a failure.
+Result<> removeAt(int base, const std::string& name, const std::string& path);
 
-bool removeContent(int base, const std::string& name) {
+Result<> removeContent(int base, const std::string& name, const std::string& path) {
+  const int refused = errno;
   const Descriptor folder = openFolder(base, name, O_NOFOLLOW);
   const auto names = folder ? namesIn(folder.get()) : std::nullopt;
-  return names && std::all_of(names->begin(), names->end(),
-                              [&](const std::string& inner) { return removeAt(folder.get(), inner); });
+  if (!folder && (errno == ENOTDIR || errno == ELOOP)) errno = refused;  // no folder: the first answer holds
+  if (!names) return systemFailure(path, Attempt::remove);
+  for (const std::string& inner : *names) {
+    if (Result<> removed = removeAt(folder.get(), inner, joinPath(path, inner)); !removed) return removed;
+  }
+  return {};
 }
 
-bool removeAt(int base, const std::string& name) {
+Result<> removeAt(int base, const std::string& name, const std::string& path) {
   // Most names are files: a folder is only looked for where the system says that this is none.
-  if (::unlinkat(base, name.c_str(), 0) == 0) return true;
-  if (errno != EISDIR && errno != EPERM) return false;
-  return removeContent(base, name) && ::unlinkat(base, name.c_str(), AT_REMOVEDIR) == 0;
+  if (::unlinkat(base, name.c_str(), 0) == 0) return {};
+  if (errno != EISDIR && errno != EPERM) return systemFailure(path, Attempt::remove);
+  if (Result<> emptied = removeContent(base, name, path); !emptied) return emptied;
+  if (::unlinkat(base, name.c_str(), AT_REMOVEDIR) == 0) return {};
+  return systemFailure(path, Attempt::remove);
 }
 
 }  // namespace
 
-bool makeFolders(const std::string& path) {
-  if (isFolder(path)) return true;
+Result<> makeFolders(const std::string& path) {
+  if (isFolder(path)) return {};
   const std::string above = deletingLastPathComponent(path);
-  if (above.empty() || above == path || !makeFolders(above)) return false;
-  if (::mkdir(path.c_str(), 0777) != 0) return errno == EEXIST && isFolder(path);
-  return ::chmod(path.c_str(), 0777) == 0;
+  if (above.empty() || above == path) return Failure{path, Attempt::makeFolder, Reason::noPath};
+  if (Result<> made = makeFolders(above); !made) return made;
+  if (::mkdir(path.c_str(), 0777) != 0) {
+    if (errno == EEXIST && isFolder(path)) return {};
+    errno = errno == EEXIST ? ENOTDIR : errno;
+    return systemFailure(path, Attempt::makeFolder);
+  }
+  if (::chmod(path.c_str(), 0777) == 0) return {};
+  return systemFailure(path, Attempt::makeFolder);
 }
 
-bool removeTree(const std::string& path) { return removeAt(AT_FDCWD, path); }
+Result<> removeTree(const std::string& path) { return removeAt(AT_FDCWD, path, path); }
 
 }  // namespace tarvo

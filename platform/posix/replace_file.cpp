@@ -25,26 +25,37 @@ struct Target {
   std::optional<struct stat> present;  // nothing: the file is new
 };
 
-std::optional<std::string> linkContent(const std::string& path) {
+Failure notWritten(const std::string& path) { return systemFailure(path, Attempt::write); }
+Failure notWritten(const std::string& path, std::errc cause) {
+  return {path, Attempt::write, std::make_error_code(cause)};
+}
+
+Result<std::string> linkContent(const std::string& path) {
   std::string content(PATH_MAX, '\0');
   const ssize_t size = ::readlink(path.c_str(), content.data(), content.size());
-  if (size <= 0 || static_cast<std::size_t>(size) == content.size()) return std::nullopt;
+  if (size < 0) return notWritten(path);
+  if (static_cast<std::size_t>(size) == content.size()) return notWritten(path, std::errc::filename_too_long);
   content.resize(static_cast<std::size_t>(size));
   return content;
 }
 
-// Where the bytes belong after following final links; nothing for a loop or for what is no regular file.
-std::optional<Target> findTarget(std::string path) {
+// Where the bytes belong after following final links.
+Result<Target> findTarget(const std::string& asked) {
+  std::string path = asked;
   for (int links = 0; links <= maximumLinks; ++links) {
     struct stat status{};
-    if (::lstat(path.c_str(), &status) != 0) return errno == ENOENT ? std::optional(Target{path, {}}) : std::nullopt;
+    if (::lstat(path.c_str(), &status) != 0) {
+      if (errno == ENOENT) return Target{path, {}};
+      return notWritten(path);
+    }
     if (S_ISREG(status.st_mode)) return Target{path, status};
-    if (!S_ISLNK(status.st_mode)) return std::nullopt;
-    const auto content = linkContent(path);
-    if (!content) return std::nullopt;
+    if (S_ISDIR(status.st_mode)) return notWritten(path, std::errc::is_a_directory);
+    if (!S_ISLNK(status.st_mode)) return Failure{path, Attempt::write, Reason::noRegularFile};
+    const Result<std::string> content = linkContent(path);
+    if (!content) return content.error();
     path = isAbsolutePath(*content) ? *content : joinPath(deletingLastPathComponent(path), *content);
   }
-  return std::nullopt;
+  return notWritten(asked, std::errc::too_many_symbolic_link_levels);
 }
 
 // Gives the file the owner where the system allows; the permissions that are safe under the owner it then has.
@@ -74,27 +85,30 @@ bool fill(int folder, const std::string& name, const Target& target, Descriptor 
 
 }  // namespace
 
-bool replaceFile(const std::string& path, std::string_view bytes) {
-  const auto target = findTarget(path);
-  if (!target || target->path.ends_with('/')) return false;
+Result<> replaceFile(const std::string& path, std::string_view bytes) {
+  const Result<Target> target = findTarget(path);
+  if (!target) return target.error();
+  if (target->path.ends_with('/')) return notWritten(target->path, std::errc::is_a_directory);
   const Descriptor folder = openFolder(AT_FDCWD, deletingLastPathComponent(target->path));
+  if (!folder) return notWritten(deletingLastPathComponent(target->path));
   const std::string name = lastPathComponent(target->path);
   const std::string temporary = temporaryName();
-  if (!folder || temporary.empty()) return false;
+  if (temporary.empty()) return notWritten(target->path);
   // A new file takes the umask's answer; one that replaces another is closed to everybody until it has its mode.
   const mode_t mode = target->present ? 0600 : 0666;
   Descriptor file(
       ::openat(folder.get(), temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
-  if (!file) return false;
+  if (!file) return notWritten(target->path);
   const bool replaced = fill(folder.get(), name, *target, std::move(file), bytes) &&
                         ::renameat(folder.get(), temporary.c_str(), folder.get(), name.c_str()) == 0;
   if (!replaced) {
+    Failure failure = notWritten(target->path);
     ::unlinkat(folder.get(), temporary.c_str(), 0);
-    return false;
+    return failure;
   }
   // From here on the new bytes are what everybody reads; some disks cannot sync a folder.
   ::fsync(folder.get());
-  return true;
+  return {};
 }
 
 }  // namespace tarvo

@@ -5,14 +5,16 @@
 #include <string>
 #include <string_view>
 
+#include "platform/services/result.h"
+
 namespace tarvo {
 
 // Replaces a file whole, or creates it, so that a reader and a crash at any moment meet the old bytes or the new ones.
 // The bytes go to a temporary file in the target's folder, which is synced and renamed over the target; then the folder
 // is synced. A final symbolic link is followed (a chain too) and stays; the target of a dangling one is created. An
 // existing regular file hands its mode, owner and extended attributes to the new one, as far as the system allows; a
-// new file gets 0666 less the umask. False when the target is anything but a regular file or any step before the
+// new file gets 0666 less the umask. Fails when the target is anything but a regular file or any step before the
 // renaming fails: the target is as it was and the temporary file is gone. path: absolute, a real path.
-bool replaceFile(const std::string& path, std::string_view bytes);
+Result<> replaceFile(const std::string& path, std::string_view bytes);
 
 }  // namespace tarvo

@@ -11,15 +11,15 @@ namespace {
 
 bool isPlainName(const std::string& name) { return !name.empty() && name.find('/') == std::string::npos; }
 
-std::string programName(FileService& files, const std::string& bundle) {
-  const std::optional<Dictionary> information = PlistFile(files, joinPath(bundle, "Contents/Info.plist")).read();
+std::string programName(const FileService& files, const std::string& bundle) {
+  const Result<Dictionary> information = readDictionary(files, joinPath(bundle, "Contents/Info.plist"));
   const std::string* named = information ? information->string("CFBundleExecutable") : nullptr;
   return named != nullptr && isPlainName(*named) ? *named : deletingPathExtension(lastPathComponent(bundle));
 }
 
 }  // namespace
 
-std::optional<std::string> applicationProgram(FileService& files, const std::vector<std::string>& folders,
+std::optional<std::string> applicationProgram(const FileService& files, const std::vector<std::string>& folders,
                                               const std::string& name) {
   if (!isPlainName(name)) return std::nullopt;
   for (const std::string& folder : folders) {

@@ -13,8 +13,8 @@ class FileService;
 // The program file that starts the application of a name ("Some Editor.app"), looked for in the folders in their
 // order. An application is a program file itself, or a bundle: a folder whose program lies in Contents/MacOS under the
 // text of "CFBundleExecutable" in its Contents/Info.plist, else under the bundle's name without extension. Nothing
-// where no folder holds one, and for a name that is a path.
-std::optional<std::string> applicationProgram(FileService& files, const std::vector<std::string>& folders,
+// where no folder is known to hold one, and for a name that is a path.
+std::optional<std::string> applicationProgram(const FileService& files, const std::vector<std::string>& folders,
                                               const std::string& name);
 
 }  // namespace tarvo

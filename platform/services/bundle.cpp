@@ -19,10 +19,10 @@ std::optional<std::string> Bundle::resource(std::string_view name, std::string_v
   if (!type.empty()) file.append(".").append(type);
   const std::string below = joinPath(subfolder, file);
   std::string path = joinPath(folder_, below);
-  if (files_.exists(path)) return path;
+  if (!files_.isAbsent(path)) return path;
   for (const std::string& language : languages_) {
     path = joinPath(joinPath(folder_, language + ".lproj"), below);
-    if (files_.exists(path)) return path;
+    if (!files_.isAbsent(path)) return path;
   }
   return std::nullopt;
 }

@@ -20,7 +20,7 @@ class Bundle {
   Bundle(const FileService& files, std::string folder, std::vector<std::string> languages);
   const std::string& folder() const { return folder_; }
   const std::vector<std::string>& languages() const { return languages_; }
-  // The path of a resource; type "" adds no dot.
+  // The path of a resource; type "" adds no dot. What cannot be looked at counts as there: its use tells why.
   std::optional<std::string> resource(std::string_view name, std::string_view type,
                                       std::string_view subfolder = {}) const;
   // The drawing behind an image name such as "MG.tif" or "SM32": the extension is dropped and images/<name>.svg looked

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/plist/property_list.h"
+#include "platform/services/result.h"
 
 namespace tarvo {
 
@@ -32,10 +33,13 @@ class Engine {
 
   // For people: "none", "local", "http"; other kinds name themselves.
   virtual std::string form() const { return "other"; }
-  // Whether the last registration is known to have been stored; true before the first.
-  virtual bool didRegister() const { return true; }
-  // Whether the last request for a newer set found one that can be read, newer or not; true before the first.
-  virtual bool couldRead() const { return true; }
+  // What is behind the answers of the operations, each of the last time and done before the first. The path of a
+  // failure is the file or the address of the service. Why the service could not be reached.
+  virtual Result<> couldReach() const { return {}; }
+  // Why the registration is not known to have been stored.
+  virtual Result<> didRegister() const { return {}; }
+  // Why a request for a newer set found none that can be read, newer or not.
+  virtual Result<> couldRead() const { return {}; }
 };
 
 }  // namespace tarvo

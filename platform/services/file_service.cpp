@@ -8,13 +8,21 @@
 
 namespace tarvo {
 
+bool FileService::isThere(const std::string& path) const {
+  const Result<Kind> found = kind(path);
+  return found && *found != Kind::absent;
+}
+
+bool FileService::isAbsent(const std::string& path) const { return kind(path) == Kind::absent; }
+
 bool existsIgnoringCase(const FileService& files, const std::string& path) {
-  if (files.exists(path)) return true;
+  if (!files.isAbsent(path)) return true;
   const std::string folder = deletingLastPathComponent(path);
   const std::string name = lastPathComponent(path);
-  const auto names = files.list(folder);
+  // Where the folder cannot be listed the exact name alone counts.
+  const Result<std::vector<std::string>> names = files.list(folder);
   return names && std::any_of(names->begin(), names->end(), [&](const std::string& other) {
-           return equalIgnoringCase(other, name) && files.exists(joinPath(folder, other));
+           return equalIgnoringCase(other, name) && !files.isAbsent(joinPath(folder, other));
          });
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/services/plist_file.h"
 
+#include <optional>
 #include <utility>
 
 #include "platform/plist/plist_reader.h"
@@ -10,24 +11,37 @@
 
 namespace tarvo {
 
-PlistFile::PlistFile(FileService& files, std::string path) : files_(files), path_(std::move(path)) {}
-
-std::optional<Dictionary> PlistFile::read() {
-  mustKeep_ = false;
-  if (const auto bytes = files_.read(path_)) {
-    std::optional<PropertyList> root = readPropertyList(*bytes);
-    if (root && root->dictionary()) return std::move(*root->dictionary());
-  }
-  mustKeep_ = files_.kind(path_) == FileService::Kind::file;
-  return std::nullopt;
+Result<Dictionary> readDictionary(const FileService& files, const std::string& path) {
+  const Result<std::string> bytes = files.read(path);
+  if (!bytes) return bytes.error();
+  std::optional<PropertyList> root = readPropertyList(*bytes);
+  if (!root) return Failure{path, Attempt::read, Reason::noPropertyList};
+  if (root->dictionary() == nullptr) return Failure{path, Attempt::read, Reason::noDictionary};
+  return std::move(*root->dictionary());
 }
 
-bool PlistFile::write(std::string_view bytes) {
-  if (mustKeep_ && files_.kind(path_) == FileService::Kind::file && !files_.keepUnreadable(path_)) return false;
+PlistFile::PlistFile(FileService& files, std::string path) : files_(files), path_(std::move(path)) {}
+
+Result<Dictionary> PlistFile::read() {
+  Result<Dictionary> root = readDictionary(files_, path_);
+  mustKeep_ = !root && mayHoldBytes();
+  return root;
+}
+
+// What cannot be looked at may be a file that is whole.
+bool PlistFile::mayHoldBytes() const {
+  const Result<FileService::Kind> kind = files_.kind(path_);
+  return !kind || *kind == FileService::Kind::file;
+}
+
+Result<> PlistFile::write(std::string_view bytes) {
+  if (mustKeep_ && mayHoldBytes()) {
+    if (Result<> kept = files_.keepUnreadable(path_); !kept) return kept;
+  }
   mustKeep_ = false;  // also when the write fails now: one kept copy of the same bytes is enough
   return files_.write(path_, bytes);
 }
 
-bool PlistFile::write(const Dictionary& root) { return write(writePropertyList(root)); }
+Result<> PlistFile::write(const Dictionary& root) { return write(writePropertyList(root)); }
 
 }  // namespace tarvo

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "platform/plist/property_list.h"
+#include "platform/services/result.h"
 
 // One property-list file whose root is a dictionary.
 // Duty: read it, replace it whole, and see to it that bytes that could not be read are kept beside it (FileService::
@@ -14,20 +14,25 @@ namespace tarvo {
 
 class FileService;
 
+// The root dictionary of a property-list file that is only read.
+Result<Dictionary> readDictionary(const FileService& files, const std::string& path);
+
 class PlistFile {
  public:
   PlistFile(FileService& files, std::string path);
   const std::string& path() const { return path_; }
-  // The root dictionary. Nothing when the file is missing, unreadable, no property list, or has another kind of root.
-  std::optional<Dictionary> read();
-  // Replaces the file by these bytes (see plist_writer.h). False: the file is as it was.
-  bool write(std::string_view bytes);
-  bool write(const Dictionary& root);
+  // The root dictionary. Fails when the file is missing, cannot be looked at or read, is no property list, or has
+  // another kind of root.
+  Result<Dictionary> read();
+  // Replaces the file by these bytes (see plist_writer.h). After a failure the file is as it was.
+  Result<> write(std::string_view bytes);
+  Result<> write(const Dictionary& root);
 
  private:
+  bool mayHoldBytes() const;
   FileService& files_;
   std::string path_;
-  bool mustKeep_ = false;  // there are bytes that nobody could read, and no kept copy of them yet
+  bool mustKeep_ = false;  // there are, or may be, bytes that nobody could read, and no kept copy of them yet
 };
 
 }  // namespace tarvo

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/services/texts.h"
 
-#include "platform/plist/plist_reader.h"
 #include "platform/services/bundle.h"
-#include "platform/services/file_service.h"
+#include "platform/services/plist_file.h"
 #include "platform/text/text_rules.h"
 
 namespace tarvo {
@@ -32,12 +31,11 @@ std::string Texts::localizedOrEmpty(std::string_view key) const {
   return text != nullptr ? *text : std::string();
 }
 
-bool overlayTableFile(Texts& texts, const FileService& files, const std::string& path) {
-  const std::optional<std::string> bytes = files.read(path);
-  const std::optional<PropertyList> list = bytes ? readPropertyList(*bytes) : std::nullopt;
-  const Dictionary* table = list ? list->dictionary() : nullptr;
-  if (table != nullptr) texts.overlay(*table);
-  return table != nullptr;
+Result<> overlayTableFile(Texts& texts, const FileService& files, const std::string& path) {
+  const Result<Dictionary> table = readDictionary(files, path);
+  if (!table) return table.error();
+  texts.overlay(*table);
+  return {};
 }
 
 void overlayShippedTable(Texts& texts, const Bundle& bundle, const FileService& files) {

@@ -8,6 +8,7 @@
 #include <unordered_map>
 
 #include "platform/plist/property_list.h"
+#include "platform/services/result.h"
 
 // The localized texts: key to text. Tables are laid one over another; a later one wins.
 namespace tarvo {
@@ -41,7 +42,7 @@ class FileService;
 // Lays the shipped table over the texts: "Localizable.strings" (a property list) of the bundle's first language that
 // has one.
 void overlayShippedTable(Texts& texts, const Bundle& bundle, const FileService& files);
-// Lays the property list at the path over the texts. False when it cannot be read as a dictionary.
-bool overlayTableFile(Texts& texts, const FileService& files, const std::string& path);
+// Lays the property list at the path over the texts.
+Result<> overlayTableFile(Texts& texts, const FileService& files, const std::string& path);
 
 }  // namespace tarvo

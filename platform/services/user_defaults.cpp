@@ -9,8 +9,14 @@
 
 namespace tarvo {
 
-UserDefaults::UserDefaults(FileService& files, std::string path)
-    : files_(files), file_(files, std::move(path)), values_(file_.read().value_or(Dictionary{})) {}
+UserDefaults::UserDefaults(FileService& files, std::string path) : files_(files), file_(files, std::move(path)) {
+  Result<Dictionary> values = file_.read();
+  if (values) {
+    values_ = std::move(*values);
+  } else if (!isAbsence(values.error())) {
+    unread_ = std::move(values.error());
+  }
+}
 
 void UserDefaults::set(std::string_view key, PropertyList value) {
   const PropertyList* present = values_.find(key);
@@ -29,8 +35,11 @@ void UserDefaults::remove(std::string_view key) {
 void UserDefaults::synchronize() {
   if (observer) observer({}, nullptr);
   if (!changed_) return;
-  files_.makeFolder(deletingLastPathComponent(file_.path()));
-  if (file_.write(values_)) changed_ = false;
+  const Result<> made = files_.makeFolder(deletingLastPathComponent(file_.path()));
+  const Result<> written = file_.write(values_);
+  changed_ = !written;
+  unwritten_.reset();
+  if (!written) unwritten_ = made ? written.error() : made.error();  // without its folder no file can be
 }
 
 }  // namespace tarvo

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -10,7 +11,7 @@
 
 // The application's own settings: one property list, read when constructed, written whole at each synchronise.
 // Duty: hold typed values; an absent key differs from false, "" and an empty array. Not: knowing the keys' meaning.
-// A failed write is silent and tried again at the next synchronise.
+// A failed write is kept for who asks, and tried again at the next synchronise.
 namespace tarvo {
 
 class UserDefaults {
@@ -20,8 +21,12 @@ class UserDefaults {
   const std::string* string(std::string_view key) const { return values_.string(key); }
   void set(std::string_view key, PropertyList value);
   void remove(std::string_view key);
+  // Why the file that is there could not be read, so that every key counts as absent.
+  const std::optional<Failure>& unread() const { return unread_; }
   // Writes the file when something changed since the last good write; folders for it are made on demand.
   void synchronize();
+  // Why the last change is not on the disk.
+  const std::optional<Failure>& unwritten() const { return unwritten_; }
 
   // Told of every set (with the value), every removal (with null) and, by an empty key, of every synchronise.
   std::function<void(std::string_view key, const PropertyList* value)> observer;
@@ -30,6 +35,7 @@ class UserDefaults {
   FileService& files_;
   PlistFile file_;
   Dictionary values_;
+  std::optional<Failure> unread_, unwritten_;
   bool changed_ = false;
 };
 

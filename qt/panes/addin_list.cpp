@@ -38,12 +38,21 @@ QLayout* buildButtons(const AddinList& list, Binder& binder, QWidget* pane) {
   return column;
 }
 
-// Room for all its lines, so that the list above keeps its height.
-QLabel* buildInfo(TextField& info, Binder& binder, QWidget* pane) {
-  QLabel* label = binder.text(info, pane);
-  label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  label->setMinimumHeight(infoLines * label->fontMetrics().lineSpacing());
-  return label;
+// Room for all its lines, so that the list above keeps its height. A failure takes one line of the state and leaves the
+// rest to its reason.
+QWidget* buildInfo(const AddinList& list, Binder& binder, QWidget* pane) {
+  auto* box = new QWidget(pane);
+  auto* lines = new QVBoxLayout(box);
+  lines->setContentsMargins(0, 0, 0, 0);
+  lines->setSpacing(0);
+  for (TextField* field : {&list.info, &list.reason}) {
+    QLabel* label = binder.text(*field, box);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    lines->addWidget(label);
+  }
+  lines->addStretch(1);
+  box->setMinimumHeight(infoLines * box->fontMetrics().lineSpacing());
+  return box;
 }
 
 }  // namespace
@@ -55,7 +64,7 @@ void buildAddinList(const AddinList& list, Binder& binder, QWidget* pane, QVBoxL
   row->addWidget(buildTable(list, binder, pane), 1);
   row->addLayout(buildButtons(list, binder, pane));
   column.addLayout(row, 1);
-  column.addWidget(buildInfo(list.info, binder, pane));
+  column.addWidget(buildInfo(list, binder, pane));
 }
 
 }  // namespace tarvo

@@ -16,10 +16,10 @@ class TableView;
 class TextField;
 
 // What the Office pane and the mail pane have in common: a sentence, the applications with a box each, buttons beside
-// them, and below what became of the last tick or what is known of the selected application.
+// them, and below what became of the last tick or what is known of the selected application, and why a tick failed.
 struct AddinList {
   TableView& table;
-  TextField& info;
+  TextField &info, &reason;
   std::vector<Button*> buttons;           // from top to bottom
   std::vector<std::string_view> headers;  // text keys of the columns
   std::string_view introduction;          // text key of the sentence

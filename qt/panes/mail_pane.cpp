@@ -20,6 +20,7 @@ QWidget* buildMailPane(Interface& interface, Binder& binder, QWidget* parent) {
   AddinOutlets& addins = interface.addins;
   buildAddinList({addins.mailTableView,
                   addins.mailinfoField,
+                  addins.mailReasonField,
                   {&addins.mailCautionButton, &addins.scriptEditorButton, &addins.scriptUtilityButton},
                   {"Column.Value", "Column.MailProgram"},
                   "MailIntroduction",

@@ -39,6 +39,7 @@ QWidget* buildOfficePane(Interface& interface, Binder& binder, QWidget* parent) 
   AddinOutlets& addins = interface.addins;
   buildAddinList({addins.officeTableView,
                   addins.officeInfoField,
+                  addins.officeReasonField,
                   {&addins.officeSearchButton, &addins.officePowerPointButton},
                   {"Column.Value", "Column.AppName", "Column.Version"},
                   "OfficeIntroduction",

@@ -17,11 +17,11 @@ namespace {
 class WatchedFiles : public FaultyFiles {
  public:
   using FaultyFiles::FaultyFiles;
-  std::optional<std::string> read(const std::string& path) const override {
+  Result<std::string> read(const std::string& path) const override {
     reads.push_back(path);
     return FaultyFiles::read(path);
   }
-  bool write(const std::string& path, std::string_view bytes) override {
+  Result<> write(const std::string& path, std::string_view bytes) override {
     writes.push_back(path);
     return FaultyFiles::write(path, bytes);
   }

@@ -170,7 +170,9 @@ class HangBench {
   static void answerTheService(Product& product) {
     Dictionary settings;
     settings.set("ConnectServer", true);
-    PlistFile(product.files(), userDefaultsPath(product.locations())).write(settings);
+    if (!PlistFile(product.files(), userDefaultsPath(product.locations())).write(settings)) {
+      throw std::runtime_error("the settings could not be written");
+    }
   }
 
   static void prepare(Shell& shell, Action action) {

@@ -25,7 +25,7 @@ class KeptWrites : public test::FaultyFiles {
   KeptWrites(Product& product, std::string folder)
       : FaultyFiles(product.files()), locations_(product.locations()), folder_(std::move(folder)) {}
 
-  bool write(const std::string& path, std::string_view bytes) override {
+  Result<> write(const std::string& path, std::string_view bytes) override {
     const std::string kept = folder_ + "/" + std::to_string(count_++);
     std::ofstream(kept, std::ios::binary) << bytes;
     std::printf("%s\t%s\n", kept.c_str(), locations_.resolve(path).c_str());

@@ -41,7 +41,7 @@ TEST_F(Surroundings, writesAreNotedByNameOrPath) {
 
 TEST_F(Surroundings, nothingIsNotedWhileTheScriptActs) {
   recorder_.setOn(false);
-  files_.write("/a", "x");
+  ASSERT_TRUE(files_.write("/a", "x"));
   recorder_.setOn(true);
   EXPECT_EQ(log(), "");
 }
@@ -54,7 +54,8 @@ TEST_F(Surroundings, theDiskRefusesAtAndBelowAPathUntilItIsAllowed) {
        {Operation::write, Operation::copy, Operation::remove, Operation::make, Operation::list}) {
     files_.refuse(operation, "/a");
   }
-  EXPECT_FALSE(files_.write("/a/b/file", "new"));
+  EXPECT_EQ(files_.write("/a/b/file", "new").error(),
+            (Failure{"/a/b/file", Attempt::write, std::make_error_code(std::errc::permission_denied)}));
   EXPECT_FALSE(files_.copy("/ab", "/a/copy"));
   EXPECT_FALSE(files_.copy("/a/b", "/copy"));
   EXPECT_FALSE(files_.remove("/a/b/file"));

@@ -24,17 +24,17 @@ std::string codesOn(const std::string& path) {
 class CountingFiles : public PosixFiles {
  public:
   using PosixFiles::PosixFiles;
-  FourCharCode typeCode(const std::string& path) const override {
+  Result<FourCharCode> typeCode(const std::string& path) const override {
     ++attributeReads;
     return PosixFiles::typeCode(path);
   }
-  std::optional<std::vector<std::string>> list(const std::string& folder) const override {
+  Result<std::vector<std::string>> list(const std::string& folder) const override {
     ++listings;
     return PosixFiles::list(folder);
   }
-  bool setCodes(const std::string&, FourCharCode, FourCharCode) override {
+  Result<> setCodes(const std::string& path, FourCharCode, FourCharCode) override {
     ++codesRefused;
-    return false;
+    return Failure{path, Attempt::setCodes, std::make_error_code(std::errc::not_supported)};
   }
   mutable int attributeReads = 0, listings = 0;
   int codesRefused = 0;

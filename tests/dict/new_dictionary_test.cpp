@@ -33,7 +33,7 @@ class NewDictionaryTest : public testing::Test {
     world_.takeLog();
     world_.newDictionary.newDicOKButtonAction();
   }
-  bool isThere(const std::string& path) const { return world_.files.exists(path); }
+  bool isThere(const std::string& path) const { return world_.files.isThere(path); }
   PickerWorld world_;
 };
 

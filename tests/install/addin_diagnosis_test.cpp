@@ -27,7 +27,7 @@ TEST_F(Diagnosis, findsNothingInTheWayOfACleanInstall) {
   setUp({word, mail});
   for (const AddinEntry& entry : {word, mail}) {
     const AddinDiagnosis found = of(entry);
-    EXPECT_EQ(found.obstacle, "");
+    EXPECT_FALSE(found.obstacle);
     EXPECT_EQ(found.missing, Rows{});
     EXPECT_FALSE(found.isThere || found.isMarked || found.isPartial || found.differs());
   }
@@ -42,22 +42,22 @@ TEST_F(Diagnosis, namesEverythingThatIsMissing) {
   const AddinDiagnosis found = of(with(word, installMacroName, "Macros/2011/None.dotm"));
   EXPECT_EQ(found.missing,
             (Rows{"/Applications/O11/Word.app", "Macros/2011/None.dotm", "/Applications/O11/Office/Startup/Word"}));
-  EXPECT_EQ(found.obstacle, "what is to be installed is missing from the product");
+  EXPECT_EQ(found.obstacle->cause, Reason::missingResource);
 }
 
 TEST_F(Diagnosis, tellsWhyAMacroCannotBeInstalled) {
-  EXPECT_EQ(of(word).obstacle, "the install folder is missing");
+  EXPECT_EQ(of(word).obstacle->cause, std::errc::no_such_file_or_directory);
   setUp({word});
   folder.write(item(word), "the user's");
-  EXPECT_EQ(of(word).obstacle, "there is something of that name already");
+  EXPECT_EQ(of(word).obstacle->cause, std::errc::file_exists);
   EXPECT_TRUE(of(word).differs()) << "the row says no, the disk yes";
   ASSERT_EQ(::unlink((folder / item(word)).c_str()), 0);
   ASSERT_EQ(::symlink("nowhere", (folder / item(word)).c_str()), 0);
-  EXPECT_EQ(of(word).obstacle, "a link is in the way");
-  EXPECT_EQ(of(with(word, installMacroName, "")).obstacle, "the record names nothing to install");
-  EXPECT_EQ(of(with(word, installFolderPath, "Office")).obstacle, "the install folder is no absolute path");
+  EXPECT_EQ(of(word).obstacle->cause, Reason::linkInTheWay);
+  EXPECT_EQ(of(with(word, installMacroName, "")).obstacle->cause, Reason::nothingNamed);
+  EXPECT_EQ(of(with(word, installFolderPath, "Office")).obstacle->cause, Reason::noInstallFolder);
   folder.write(inRoot("/plain"), "");
-  EXPECT_EQ(of(with(word, installFolderPath, "/plain")).obstacle, "the install folder is no folder");
+  EXPECT_EQ(of(with(word, installFolderPath, "/plain")).obstacle->cause, std::errc::not_a_directory);
 }
 
 TEST_F(Diagnosis, tellsWhyScriptsCannotBeInstalled) {
@@ -67,64 +67,65 @@ TEST_F(Diagnosis, tellsWhyScriptsCannotBeInstalled) {
   EXPECT_TRUE(partial.isPartial);
   EXPECT_TRUE(partial.differs());
   EXPECT_EQ(partial.missing, Rows{partial.item + "/a.scpt"});
-  EXPECT_EQ(partial.obstacle, "there is a script of that name already: b.scpt");
+  EXPECT_EQ(partial.obstacle->cause, std::errc::file_exists);
+  EXPECT_EQ(partial.obstacle->path, partial.item + "/b.scpt");
   ASSERT_TRUE(disk.remove(partial.item));
   folder.makeFolder(item(mail));
-  EXPECT_EQ(of(mail).obstacle, "") << "an empty folder is in nobody's way";
+  EXPECT_FALSE(of(mail).obstacle) << "an empty folder is in nobody's way";
   EXPECT_TRUE(of(mail).isPartial);
   ASSERT_TRUE(disk.remove(partial.item));
   folder.write(item(mail), "");
-  EXPECT_EQ(of(mail).obstacle, "a file of that name is in the way");
+  EXPECT_EQ(of(mail).obstacle->cause, std::errc::not_a_directory);
   folder.makeFolder("resources/Mail/Empty");
-  EXPECT_EQ(of(with(mail, installMacroName, "Mail/Empty")).obstacle, "the product holds no scripts for it");
+  EXPECT_EQ(of(with(mail, installMacroName, "Mail/Empty")).obstacle->cause, Reason::emptyResource);
   resource("Mail/Plain", "");
-  EXPECT_EQ(of(with(mail, installMacroName, "Mail/Plain")).obstacle, "the scripts of the product cannot be listed");
+  EXPECT_EQ(of(with(mail, installMacroName, "Mail/Plain")).obstacle->cause, std::errc::not_a_directory);
 }
 
 TEST_F(Diagnosis, ofScriptsWithoutTheirFolderSeesNothingInTheWay) {
   const AddinDiagnosis found = of(mail);
-  EXPECT_EQ(found.obstacle, "") << "the folder is made";
+  EXPECT_FALSE(found.obstacle) << "the folder is made";
   EXPECT_EQ(found.missing, (Rows{"/Applications/Mail.app", "/Users/taro/Library/Scripts/Applications/Mail"}));
 }
 
 TEST_F(Diagnosis, tellsWhyScriptsCannotBeRemovedAndAgreesWithARemoval) {
   setUp({mail});
   const std::string target = folder / item(mail);
-  const auto expectRefused = [&](const char* why) {
-    EXPECT_EQ(of(mail).removalObstacle, why);
-    EXPECT_FALSE(mailScripts.unInstallMailScript(mail)) << why;
+  const auto expectRefused = [&](std::error_code why) {
+    EXPECT_EQ(of(mail).removalObstacle->cause, why);
+    EXPECT_EQ(mailScripts.unInstallMailScript(mail).error().cause, why);
   };
-  EXPECT_EQ(of(mail).removalObstacle, "") << "nothing is there";
+  EXPECT_FALSE(of(mail).removalObstacle) << "nothing is there";
   folder.write(item(mail), "the user's");
-  expectRefused("it is no folder of scripts");
+  expectRefused(std::make_error_code(std::errc::not_a_directory));
   ASSERT_EQ(::unlink(target.c_str()), 0);
   ASSERT_EQ(::symlink((folder / "resources").c_str(), target.c_str()), 0);
-  expectRefused("it is a link, which is left alone");
+  expectRefused(Reason::linkInTheWay);
   EXPECT_TRUE(folder.exists("resources/Mail/Tarvo/a.scpt"));
   ASSERT_EQ(::unlink(target.c_str()), 0);
   ASSERT_TRUE(mailScripts.installMailScript(mail));
-  EXPECT_EQ(of(mail).removalObstacle, "");
+  EXPECT_FALSE(of(mail).removalObstacle);
   ASSERT_EQ(::symlink("nowhere", (target + "/c.scpt").c_str()), 0);
-  expectRefused("a link in it leads nowhere: c.scpt");
+  expectRefused(Reason::deadLink);
   ASSERT_EQ(::unlink((target + "/c.scpt").c_str()), 0);
-  EXPECT_EQ(of(mail).removalObstacle, "");
+  EXPECT_FALSE(of(mail).removalObstacle);
   EXPECT_TRUE(mailScripts.unInstallMailScript(mail));
 }
 
 TEST_F(Diagnosis, seesNothingInTheWayOfRemovingAMacroOrWhatBearsItsName) {
   setUp({word});
-  EXPECT_EQ(of(word).removalObstacle, "");
+  EXPECT_FALSE(of(word).removalObstacle);
   folder.write(item(word) + "/inner", "of the user");
-  EXPECT_EQ(of(word).removalObstacle, "");
+  EXPECT_FALSE(of(word).removalObstacle);
   EXPECT_TRUE(macros.unInstallOfficeMacro(word));
 }
 
 TEST_F(Diagnosis, agreesWithWhatAnInstallDoes) {
   setUp({word, mail});
   for (int times = 0; times < 2; ++times) {
-    const bool macroIsFree = of(word).obstacle.empty(), scriptsAreFree = of(mail).obstacle.empty();
-    EXPECT_EQ(macros.installOfficeMacro(word), macroIsFree) << times;
-    EXPECT_EQ(mailScripts.installMailScript(mail), scriptsAreFree) << times;
+    const bool macroIsFree = !of(word).obstacle, scriptsAreFree = !of(mail).obstacle;
+    EXPECT_EQ(macros.installOfficeMacro(word).has_value(), macroIsFree) << times;
+    EXPECT_EQ(mailScripts.installMailScript(mail).has_value(), scriptsAreFree) << times;
   }
   const AddinDiagnosis found = of(with(mail, installStatus, true));
   EXPECT_TRUE(found.isThere && found.isMarked && !found.differs() && !found.isPartial);

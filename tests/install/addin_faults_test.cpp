@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 using namespace addin_keys;
 using Operation = FaultyFiles::Operation;
 using Use = FaultyFiles::Use;
-using Perform = std::function<bool()>;
+using Perform = std::function<Result<>()>;
 
 enum class Fault {
   fullDisk,
@@ -159,6 +159,9 @@ class Trial {
   bool succeeded() const { return text() == addinText(kind_.entry(), appName) + message("IsSuccessed"); }
   bool failed() const { return text() == addinText(kind_.entry(), appName) + message("IsFailed"); }
   bool beeped() const { return world_.log == Log{"beep"}; }
+  bool saysWhy() const {
+    return !(kind_.isMail ? world_.outlets.mailReasonField : world_.outlets.officeReasonField).stringValue().empty();
+  }
   bool isSilent() const { return world_.log.empty(); }
   bool status() { return *table().cell("Value", 0).checked; }
   // What the box would show after another start; nothing when the row would not be listed.
@@ -182,15 +185,15 @@ class Trial {
   std::string installFolder() const { return real(AddinWorld::installFolder(kind_.entry())); }
   std::map<std::string, std::string> outside() const { return everythingBut(world_.folder.path(), installFolder()); }
 
-  bool suffer(Fault fault, const Use& use, const Perform& perform) const {
+  Result<> suffer(Fault fault, const Use& use, const Perform& perform) const {
     const std::string target = real(use.path);
     switch (fault) {
       case Fault::fullDisk: {
-        if (use.operation == Operation::makeFolder) return false;
+        if (use.operation == Operation::makeFolder) return FaultyFiles::forbid(use, perform);
         const FullDisk full;
         return perform();
       }
-      case Fault::forbidden: return false;
+      case Fault::forbidden: return FaultyFiles::forbid(use, perform);
       case Fault::vanishedFolder: fs::remove_all(installFolder()); return perform();
       case Fault::vanishedItem: fs::remove_all(world_.folder / world_.item(kind_.entry())); return perform();
       case Fault::linkInTheWay:
@@ -207,14 +210,14 @@ class Trial {
         return perform();
       }
       case Fault::folderBecomesLink: {
-        const bool done = perform();
+        Result<> done = perform();
         const std::string item = (world_.folder / world_.item(kind_.entry()));
         fs::remove_all(item);
         fs::create_symlink(world_.folder / "elsewhere", item);
         return done;
       }
     }
-    return false;
+    return FaultyFiles::forbid(use, perform);
   }
 
   Kind kind_;
@@ -266,6 +269,7 @@ TEST_P(FaultyAddins, sayWhatHappenedAndTouchNothingElse) {
       const Outcome outcome = expected(kind, on, uses[i], fault);
       EXPECT_EQ(trial.succeeded(), outcome.success);
       EXPECT_EQ(trial.failed(), !outcome.success);
+      EXPECT_EQ(trial.saysWhy(), !outcome.success);
       EXPECT_TRUE(outcome.success ? trial.isSilent() : trial.beeped());
       EXPECT_EQ(trial.status(), outcome.success == on) << "a failure leaves the box as it was";
       EXPECT_EQ(trial.nextStatus(), outcome.next);
@@ -297,9 +301,9 @@ TEST(FaultyOldScripts, areSilentAndLeaveTheRowTrue) {
     const std::string installFolder = world.locations.resolve(AddinWorld::installFolder(appleMail()));
     const auto before = everythingBut(world.folder.path(), installFolder);
     bool wasDisturbed = false;
-    world.files.disturb(use, [&](const Use&, const Perform&) {
+    world.files.disturb(use, [&](const Use& disturbed, const Perform& perform) {
       wasDisturbed = true;
-      return false;
+      return FaultyFiles::forbid(disturbed, perform);
     });
     OldScripts({world.files, world.panels, world.texts}, world.lists, world.mailScripts, AddinWorld::home)
         .OldscriptUninstall();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "install/addin_table.h"
 
+#include "platform/services/failure_text.h"
 #include "tests/install/addin_world.h"
 
 namespace tarvo::test {
@@ -23,13 +24,37 @@ class AddinTables : public testing::Test, protected AddinWorld {
   }
   bool officeStatus(int row) { return *office.cell("Value", row).checked; }
   bool mailStatus(int row) { return *mail.cell("Value", row).checked; }
-  void failFirstUse() {
-    files.disturb(0, [](const FaultyFiles::Use&, const std::function<bool()>&) { return false; });
-  }
+  void failFirstUse() { files.disturb(0, FaultyFiles::forbid); }
 
   TableView& office = outlets.officeTableView;
   TableView& mail = outlets.mailTableView;
 };
+
+TEST_F(AddinTables, keepWhyATickFailedWithItsRow) {
+  const Failure failure{"/Applications/O11/Office/Startup/Word/Tarvo.dotm", Attempt::write,
+                        std::make_error_code(std::errc::permission_denied)};
+  failFirstUse();
+  office.userTick(0, true);
+  ASSERT_NE(table.failureOf(0, 0), nullptr);
+  EXPECT_EQ(*table.failureOf(0, 0), failure);
+  EXPECT_EQ(table.failureOf(0, 1), nullptr);
+  EXPECT_EQ(table.failureOf(1, 0), nullptr);
+  const std::string words = failureText(failure, texts);
+  EXPECT_EQ(outlets.officeReasonField.stringValue(), words);
+  EXPECT_EQ(outlets.mailReasonField.stringValue(), "");
+  panes.tab.selectPage(1);
+  office.selectRows({1});
+  table.fIsInstalled = false;
+  office.selectRows({1});
+  table.selectionDidChange(office);
+  EXPECT_EQ(outlets.officeReasonField.stringValue(), "") << "another row";
+  office.selectRows({0});
+  table.selectionDidChange(office);
+  EXPECT_EQ(outlets.officeReasonField.stringValue(), words);
+  office.userTick(0, true);
+  EXPECT_EQ(table.failureOf(0, 0), nullptr);
+  EXPECT_EQ(outlets.officeReasonField.stringValue(), "");
+}
 
 TEST_F(AddinTables, countTheirRowsByTag) {
   EXPECT_EQ(table.numberOfRowsInTableView(office), 2);

@@ -14,7 +14,7 @@ namespace {
 
 class DirectoryCreation : public testing::Test {
  protected:
-  bool make(const std::string& relativePath) { return createDirectoryFromPath(files, relativePath, folder.path()); }
+  Result<> make(const std::string& relativePath) { return createDirectoryFromPath(files, relativePath, folder.path()); }
   TemporaryFolder folder;
   Locations locations{"/", folder.path()};
   PosixFiles files{locations};

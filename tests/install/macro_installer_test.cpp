@@ -92,6 +92,16 @@ TEST_F(Macros, areRemovedAlsoWhenTheyAreGoneAlready) {
   EXPECT_TRUE(macros.unInstallOfficeMacro(word));
 }
 
+TEST_F(Macros, thatCannotBeLookedAtAreNotTakenForRemoved) {
+  ASSERT_EQ(::symlink("Tarvo.dotm", (folder / target).c_str()), 0) << "a link to itself";
+  const Result<> removed = macros.unInstallOfficeMacro(word);
+  ASSERT_FALSE(removed);
+  EXPECT_EQ(removed.error().cause, std::errc::too_many_symbolic_link_levels);
+  EXPECT_EQ(removed.error().path, folder / target);
+  EXPECT_TRUE(lists.getInstallStatus(with(word, installStatus, true))) << "what was known last";
+  EXPECT_FALSE(lists.getInstallStatus(word));
+}
+
 TEST_F(Macros, ofANamelessOrPlacelessRecordTouchNothing) {
   for (const char* name : {"", "/", "Macros/..", "."}) {
     const AddinEntry nameless = with(word, installMacroName, name);

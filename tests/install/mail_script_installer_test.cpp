@@ -26,7 +26,7 @@ class MailScriptFolder : public testing::Test {
     folder.write(systemVersionFile, "<plist version=\"1.0\"><dict><key>ProductVersion</key><string>" + version +
                                         "</string></dict></plist>");
   }
-  bool create() { return MailScriptInstaller(files, bundle, "/Users/taro").createMailScriptFolder(); }
+  Result<> create() { return MailScriptInstaller(files, bundle, "/Users/taro").createMailScriptFolder(); }
 
   TemporaryFolder folder;
   Locations locations{folder.path(), folder / "Users/taro"};
@@ -86,8 +86,8 @@ class MailScripts : public testing::Test, protected AddinWorld {
   static AddinEntry loaded(AddinEntry entry) {
     return with(entry, addin_keys::installFolderPath, installFolder(entry));
   }
-  bool install() { return mailScripts.installMailScript(mail); }
-  bool remove() { return mailScripts.unInstallMailScript(mail); }
+  Result<> install() { return mailScripts.installMailScript(mail); }
+  Result<> remove() { return mailScripts.unInstallMailScript(mail); }
 
   const AddinEntry mail = loaded(appleMail());
   const std::string target = item(mail);
@@ -180,7 +180,7 @@ TEST_F(MailScripts, areRemovedWithTheirFolder) {
 
 TEST_F(MailScripts, stayFromTheFirstThatCannotBeRemoved) {
   ASSERT_TRUE(install());
-  files.disturb(2, [](const FaultyFiles::Use&, const std::function<bool()>&) { return false; });  // list, a, b
+  files.disturb(2, FaultyFiles::forbid);  // list, a, b
   EXPECT_FALSE(remove());
   EXPECT_EQ(folder.names(target), (Rows{"b.scpt", "sub"}));
 }
@@ -188,7 +188,7 @@ TEST_F(MailScripts, stayFromTheFirstThatCannotBeRemoved) {
 TEST_F(MailScripts, areOnlyGoneWhenTheirFolderIs) {
   ASSERT_TRUE(install());
   // What fails last decides: the folder itself.
-  files.disturb(4, [](const FaultyFiles::Use&, const std::function<bool()>&) { return false; });
+  files.disturb(4, FaultyFiles::forbid);
   EXPECT_FALSE(remove());
   EXPECT_TRUE(folder.names(target).empty());
 }
@@ -196,7 +196,7 @@ TEST_F(MailScripts, areOnlyGoneWhenTheirFolderIs) {
 TEST_F(MailScripts, keepTheirFolderForALinkThatLeadsNowhere) {
   ASSERT_TRUE(install());
   ASSERT_EQ(::symlink("nowhere", (folder / (target + "/x")).c_str()), 0);
-  EXPECT_FALSE(remove());
+  EXPECT_EQ(remove().error().cause, Reason::deadLink);
   EXPECT_EQ(folder.names(target), Rows{"x"});
 }
 

@@ -86,7 +86,7 @@ TEST_F(OldScriptsTest, thatCannotBeRemovedAreNotTold) {
   leaveOld(appleMail(), mailName);
   leaveOld(entourage2004(), entourageName);
   ASSERT_TRUE(lists.searchOfficeApplication());
-  files.disturb(1, [](const FaultyFiles::Use&, const std::function<bool()>&) { return false; });  // list, remove
+  files.disturb(1, FaultyFiles::forbid);  // list, remove
   old.OldscriptUninstall();
   EXPECT_TRUE(isLeft(appleMail()));
   EXPECT_EQ(panels.alerts.at(0).message, "«OldEnt2004ScriptIsDelete»«OldScriptIsDelete»");

@@ -27,7 +27,7 @@ constexpr const char* listFolder = "Users/taro/Library/Preferences/Wordhaven";
 class NotingFiles : public PosixFiles {
  public:
   NotingFiles(const Locations& locations, std::string& log) : PosixFiles(locations), log_(log) {}
-  bool write(const std::string& path, std::string_view bytes) override {
+  Result<> write(const std::string& path, std::string_view bytes) override {
     log_ += "write:" + path.substr(path.rfind('/') + 1) + " ";
     return PosixFiles::write(path, bytes);
   }

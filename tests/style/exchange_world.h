@@ -42,7 +42,7 @@ inline Dictionary importedStyle() {
 struct ExchangeWorld {
   void open(const Dictionary& root) {
     files.put("/styles.plist", writePropertyList(root));
-    store.readUserStyles();
+    EXPECT_TRUE(store.readUserStyles());
     store.setAwakening(false);
     std::vector<PopUpButton::Item> items;
     if (const Array* styles = root.array("Style")) {

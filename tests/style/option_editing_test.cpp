@@ -143,7 +143,7 @@ TEST_F(OptionEditingTest, writesTheRecordBackUnchangedForATagWithoutAnOption) {
 TEST_F(OptionEditingTest, editsTheStyleThatTheToolRemembersNotTheFirstOne) {
   folder_.write("styles.plist", "");
   Dictionary root = sampleRoot();
-  PlistFile(files_, folder_ / "styles.plist").write(root);
+  ASSERT_TRUE(PlistFile(files_, folder_ / "styles.plist").write(root));
   ASSERT_TRUE(store_.readUserStyles());
   store_.setCurrentID("QB");
   popup("ejOption1Popup").selectItemAtIndex(0);

@@ -225,14 +225,15 @@ TEST_F(StyleStoreTest, keepsAnEmptyStampToo) {
 TEST_F(StyleStoreTest, asksTheEngineEvenAfterAFailedWriteAndWritesEverythingLater) {
   StyleStore store = storeOf(sampleRoot());
   store.setAwakening(false);
-  files_.remove(folder_ / "styles.plist");
+  ASSERT_TRUE(files_.remove(folder_ / "styles.plist"));
   folder_.makeFolder("styles.plist/in the way");
   Dictionary record = *store.getStyleAtIndex(0);
   record.dictionary("EJ")->set("Opt1", 2);
   store.setStyle(0, record);
   EXPECT_FALSE(store.isSaved());
+  EXPECT_EQ(store.unsaved()->cause, std::errc::is_a_directory);
   EXPECT_EQ(log_, Log{"unreachable"});
-  files_.remove(folder_ / "styles.plist");
+  ASSERT_TRUE(files_.remove(folder_ / "styles.plist"));
   record.dictionary("EJ")->set("Opt2", 2);
   store.setStyle(0, record);
   EXPECT_TRUE(store.isSaved());
@@ -262,6 +263,7 @@ TEST_F(StyleStoreTest, keepsTheBytesThatItCouldNotReadBesideTheNewFile) {
   folder_.write("seed.plist", writePropertyList(sampleRoot()));
   StyleStore store = makeStore();
   EXPECT_FALSE(store.readUserStyles());
+  EXPECT_EQ(store.unread()->cause, Reason::noPropertyList);
   EXPECT_TRUE(store.readSeedStyles());
   store.writeTarvoStylePlist();
   EXPECT_EQ(onDisk(), sampleRoot());

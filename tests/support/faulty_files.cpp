@@ -6,6 +6,10 @@
 
 namespace tarvo::test {
 
+Result<> FaultyFiles::forbid(const Use& use, const std::function<Result<>()>&) {
+  return Failure{use.path, Attempt::write, std::make_error_code(std::errc::permission_denied)};
+}
+
 void FaultyFiles::disturb(std::size_t use, Disturbance disturbance) {
   uses_.clear();
   disturbed_ = use;
@@ -14,34 +18,38 @@ void FaultyFiles::disturb(std::size_t use, Disturbance disturbance) {
 
 void FaultyFiles::forget() { disturb(0, nullptr); }
 
-bool FaultyFiles::run(Operation operation, const std::string& path, const std::function<bool()>& perform) const {
+Result<> FaultyFiles::run(Operation operation, const std::string& path,
+                          const std::function<Result<>()>& perform) const {
   uses_.push_back({operation, path});
   const bool isDisturbed = disturbance_ && uses_.size() == disturbed_ + 1;
   return isDisturbed ? disturbance_(Use(uses_.back()), perform) : perform();
 }
 
-std::optional<std::vector<std::string>> FaultyFiles::list(const std::string& folder) const {
-  std::optional<std::vector<std::string>> names;
-  const bool listed = run(Operation::list, folder, [&] {
-    names = disk_.list(folder);
-    return names.has_value();
+Result<std::vector<std::string>> FaultyFiles::list(const std::string& folder) const {
+  std::vector<std::string> names;
+  const Result<> listed = run(Operation::list, folder, [&]() -> Result<> {
+    auto found = disk_.list(folder);
+    if (!found) return found.error();
+    names = std::move(*found);
+    return {};
   });
-  return listed ? names : std::nullopt;
+  if (!listed) return listed.error();
+  return names;
 }
 
-bool FaultyFiles::makeFolder(const std::string& path) {
+Result<> FaultyFiles::makeFolder(const std::string& path) {
   return run(Operation::makeFolder, path, [&] { return disk_.makeFolder(path); });
 }
 
-bool FaultyFiles::copy(const std::string& from, const std::string& to) {
+Result<> FaultyFiles::copy(const std::string& from, const std::string& to) {
   return run(Operation::copy, to, [&] { return disk_.copy(from, to); });
 }
 
-bool FaultyFiles::remove(const std::string& path) {
+Result<> FaultyFiles::remove(const std::string& path) {
   return run(Operation::remove, path, [&] { return disk_.remove(path); });
 }
 
-bool FaultyFiles::removeEmptyFolder(const std::string& path) {
+Result<> FaultyFiles::removeEmptyFolder(const std::string& path) {
   return run(Operation::removeEmptyFolder, path, [&] { return disk_.removeEmptyFolder(path); });
 }
 

@@ -21,8 +21,12 @@ class FaultyFiles : public FileService {
     Operation operation;
     std::string path;  // of a copy: where it goes
   };
-  // Runs in the place of an operation: perform does what was asked for. False makes the operation fail.
-  using Disturbance = std::function<bool(const Use& use, const std::function<bool()>& perform)>;
+  // Runs in the place of an operation: perform does what was asked for.
+  // A failure makes the operation fail.
+  using Disturbance = std::function<Result<>(const Use& use, const std::function<Result<>()>& perform)>;
+
+  // A disturbance: nobody may.
+  static Result<> forbid(const Use& use, const std::function<Result<>()>& perform);
 
   explicit FaultyFiles(FileService& disk) : disk_(disk) {}
   const std::vector<Use>& uses() const { return uses_; }
@@ -30,24 +34,24 @@ class FaultyFiles : public FileService {
   void disturb(std::size_t use, Disturbance disturbance);
   void forget();  // no disturbance any more, nothing counted
 
-  Kind kind(const std::string& path) const override { return disk_.kind(path); }
-  bool isLink(const std::string& path) const override { return disk_.isLink(path); }
-  bool isWritable(const std::string& folder) const override { return disk_.isWritable(folder); }
-  std::optional<std::string> read(const std::string& path) const override { return disk_.read(path); }
-  bool write(const std::string& path, std::string_view bytes) override { return disk_.write(path, bytes); }
-  bool keepUnreadable(const std::string& path) override { return disk_.keepUnreadable(path); }
-  std::optional<std::vector<std::string>> list(const std::string& folder) const override;
-  bool makeFolder(const std::string& path) override;
-  bool copy(const std::string& from, const std::string& to) override;
-  bool remove(const std::string& path) override;
-  bool removeEmptyFolder(const std::string& path) override;
-  FourCharCode typeCode(const std::string& path) const override { return disk_.typeCode(path); }
-  bool setCodes(const std::string& path, FourCharCode type, FourCharCode creator) override {
+  Result<Kind> kind(const std::string& path) const override { return disk_.kind(path); }
+  Result<Kind> ownKind(const std::string& path) const override { return disk_.ownKind(path); }
+  Result<> checkWritable(const std::string& folder) const override { return disk_.checkWritable(folder); }
+  Result<std::string> read(const std::string& path) const override { return disk_.read(path); }
+  Result<> write(const std::string& path, std::string_view bytes) override { return disk_.write(path, bytes); }
+  Result<> keepUnreadable(const std::string& path) override { return disk_.keepUnreadable(path); }
+  Result<std::vector<std::string>> list(const std::string& folder) const override;
+  Result<> makeFolder(const std::string& path) override;
+  Result<> copy(const std::string& from, const std::string& to) override;
+  Result<> remove(const std::string& path) override;
+  Result<> removeEmptyFolder(const std::string& path) override;
+  Result<FourCharCode> typeCode(const std::string& path) const override { return disk_.typeCode(path); }
+  Result<> setCodes(const std::string& path, FourCharCode type, FourCharCode creator) override {
     return disk_.setCodes(path, type, creator);
   }
 
  private:
-  bool run(Operation operation, const std::string& path, const std::function<bool()>& perform) const;
+  Result<> run(Operation operation, const std::string& path, const std::function<Result<>()>& perform) const;
   FileService& disk_;
   mutable std::vector<Use> uses_;
   std::size_t disturbed_ = 0;

@@ -8,15 +8,25 @@
 
 namespace tarvo::test {
 
-void MemoryFiles::refuse(Operation operation, const std::string& path) { refused_.emplace(operation, path); }
+namespace {
+
+Failure failure(const std::string& path, Attempt attempt, std::errc cause) {
+  return {path, attempt, std::make_error_code(cause)};
+}
+
+}  // namespace
+
+void MemoryFiles::refuse(Operation operation, const std::string& path, std::errc cause) {
+  refused_[{operation, path}] = cause;
+}
 
 void MemoryFiles::put(const std::string& path, std::string_view bytes) {
-  makeFolder(deletingLastPathComponent(path));
+  putFolder(deletingLastPathComponent(path));
   nodes_[path] = Node{Kind::file, std::string(bytes)};
 }
 
 void MemoryFiles::putOther(const std::string& path) {
-  makeFolder(deletingLastPathComponent(path));
+  putFolder(deletingLastPathComponent(path));
   nodes_[path] = Node{Kind::other, {}};
 }
 
@@ -27,42 +37,66 @@ std::string MemoryFiles::bytes(const std::string& path) const {
 
 std::vector<std::string> MemoryFiles::paths() const { return below("/"); }
 
-FileService::Kind MemoryFiles::kind(const std::string& path) const {
+void MemoryFiles::putFolder(const std::string& path) {
+  if (path.empty() || path == "/") return;
+  putFolder(deletingLastPathComponent(path));
+  nodes_.try_emplace(path);
+}
+
+FileService::Kind MemoryFiles::kindOf(const std::string& path) const {
   if (path == "/") return Kind::folder;
   const auto node = nodes_.find(path);
   return node == nodes_.end() ? Kind::absent : node->second.kind;
 }
 
-std::optional<std::string> MemoryFiles::read(const std::string& path) const {
-  if (kind(path) != Kind::file || isRefused(Operation::read, path)) return std::nullopt;
+Result<FileService::Kind> MemoryFiles::kind(const std::string& path) const {
+  if (const auto refused = refusal(Operation::look, path, Attempt::look)) return *refused;
+  return kindOf(path);
+}
+
+Result<> MemoryFiles::checkWritable(const std::string& folder) const {
+  if (isFolder(folder)) return {};
+  return failure(folder, Attempt::write, std::errc::no_such_file_or_directory);
+}
+
+Result<std::string> MemoryFiles::read(const std::string& path) const {
+  if (const auto refused = refusal(Operation::read, path, Attempt::read)) return *refused;
+  if (kindOf(path) == Kind::absent) return failure(path, Attempt::read, std::errc::no_such_file_or_directory);
+  if (kindOf(path) != Kind::file) return Failure{path, Attempt::read, Reason::noRegularFile};
   return bytes(path);
 }
 
-bool MemoryFiles::write(const std::string& path, std::string_view bytes) {
-  const Kind there = kind(path);
-  if (!isAbsolutePath(path) || (there != Kind::file && there != Kind::absent)) return false;
-  if (!isFolder(deletingLastPathComponent(path)) || isRefused(Operation::write, path)) return false;
+Result<> MemoryFiles::write(const std::string& path, std::string_view bytes) {
+  const Kind there = kindOf(path);
+  if (!isAbsolutePath(path)) return Failure{path, Attempt::write, Reason::noPath};
+  if (there != Kind::file && there != Kind::absent) return Failure{path, Attempt::write, Reason::noRegularFile};
+  if (!isFolder(deletingLastPathComponent(path))) {
+    return failure(deletingLastPathComponent(path), Attempt::write, std::errc::no_such_file_or_directory);
+  }
+  if (const auto refused = refusal(Operation::write, path, Attempt::write)) return *refused;
   Node& node = nodes_[path];
   node.kind = Kind::file;
   node.bytes = bytes;
   ++writes_;
-  return true;
+  return {};
 }
 
-bool MemoryFiles::keepUnreadable(const std::string& path) {
+Result<> MemoryFiles::keepUnreadable(const std::string& path) {
   constexpr std::array<const char*, 5> endings{".unreadable", ".unreadable.2", ".unreadable.3", ".unreadable.4",
                                                ".unreadable.5"};
-  if (kind(path) != Kind::file || isRefused(Operation::keepUnreadable, path)) return false;
+  if (const auto refused = refusal(Operation::keepUnreadable, path, Attempt::keep)) return *refused;
+  if (kindOf(path) != Kind::file) return Failure{path, Attempt::keep, Reason::noRegularFile};
   for (const char* ending : endings) {
-    if (exists(path + ending) && ending != endings.back()) continue;
+    if (kindOf(path + ending) != Kind::absent && ending != endings.back()) continue;
     nodes_[path + ending] = nodes_[path];
     break;
   }
-  return true;
+  return {};
 }
 
-std::optional<std::vector<std::string>> MemoryFiles::list(const std::string& folder) const {
-  if (!isFolder(folder) || isRefused(Operation::list, folder)) return std::nullopt;
+Result<std::vector<std::string>> MemoryFiles::list(const std::string& folder) const {
+  if (const auto refused = refusal(Operation::list, folder, Attempt::list)) return *refused;
+  if (!isFolder(folder)) return failure(folder, Attempt::list, std::errc::no_such_file_or_directory);
   std::vector<std::string> names;
   for (const std::string& path : below(folder)) {
     if (deletingLastPathComponent(path) == folder) names.push_back(lastPathComponent(path));
@@ -70,50 +104,62 @@ std::optional<std::vector<std::string>> MemoryFiles::list(const std::string& fol
   return names;
 }
 
-bool MemoryFiles::makeFolder(const std::string& path) {
-  if (!isAbsolutePath(path) || isRefused(Operation::makeFolder, path)) return false;
-  if (exists(path)) return isFolder(path);
-  if (!makeFolder(deletingLastPathComponent(path))) return false;
+Result<> MemoryFiles::makeFolder(const std::string& path) {
+  if (const auto refused = refusal(Operation::makeFolder, path, Attempt::makeFolder)) return *refused;
+  if (!isAbsolutePath(path)) return Failure{path, Attempt::makeFolder, Reason::noPath};
+  if (isFolder(path)) return {};
+  if (kindOf(path) != Kind::absent) return failure(path, Attempt::makeFolder, std::errc::not_a_directory);
+  if (Result<> made = makeFolder(deletingLastPathComponent(path)); !made) return made;
   nodes_[path] = Node{};
-  return true;
+  return {};
 }
 
-bool MemoryFiles::copy(const std::string& from, const std::string& to) {
-  if (!exists(from) || exists(to) || !isFolder(deletingLastPathComponent(to))) return false;
-  if (isRefused(Operation::copy, from) || isRefused(Operation::copy, to)) return false;
+Result<> MemoryFiles::copy(const std::string& from, const std::string& to) {
+  if (const auto refused = refusal(Operation::copy, from, Attempt::copy)) return *refused;
+  if (const auto refused = refusal(Operation::copy, to, Attempt::create)) return *refused;
+  if (kindOf(from) == Kind::absent) return failure(from, Attempt::copy, std::errc::no_such_file_or_directory);
+  if (kindOf(to) != Kind::absent) return failure(to, Attempt::create, std::errc::file_exists);
+  if (!isFolder(deletingLastPathComponent(to))) {
+    return failure(to, Attempt::create, std::errc::no_such_file_or_directory);
+  }
   nodes_[to] = nodes_[from];
   for (const std::string& path : below(from)) nodes_[to + path.substr(from.size())] = nodes_[path];
-  return true;
+  return {};
 }
 
-bool MemoryFiles::remove(const std::string& path) {
-  if (nodes_.count(path) == 0 || isRefused(Operation::remove, path)) return false;
+Result<> MemoryFiles::remove(const std::string& path) {
+  if (const auto refused = refusal(Operation::remove, path, Attempt::remove)) return *refused;
+  if (nodes_.count(path) == 0) return failure(path, Attempt::remove, std::errc::no_such_file_or_directory);
   for (const std::string& each : below(path)) nodes_.erase(each);
   nodes_.erase(path);
-  return true;
+  return {};
 }
 
-bool MemoryFiles::removeEmptyFolder(const std::string& path) {
-  if (path == "/" || !isFolder(path) || !below(path).empty()) return false;
-  if (isRefused(Operation::removeEmptyFolder, path)) return false;
+Result<> MemoryFiles::removeEmptyFolder(const std::string& path) {
+  if (const auto refused = refusal(Operation::removeEmptyFolder, path, Attempt::remove)) return *refused;
+  if (path == "/" || !isFolder(path)) return failure(path, Attempt::remove, std::errc::not_a_directory);
+  if (!below(path).empty()) return failure(path, Attempt::remove, std::errc::directory_not_empty);
   nodes_.erase(path);
-  return true;
+  return {};
 }
 
-FourCharCode MemoryFiles::typeCode(const std::string& path) const {
+Result<FourCharCode> MemoryFiles::typeCode(const std::string& path) const {
   const auto node = nodes_.find(path);
   return node == nodes_.end() ? 0 : node->second.type;
 }
 
-bool MemoryFiles::setCodes(const std::string& path, FourCharCode type, FourCharCode creator) {
-  if (kind(path) != Kind::file || isRefused(Operation::setCodes, path)) return false;
+Result<> MemoryFiles::setCodes(const std::string& path, FourCharCode type, FourCharCode creator) {
+  if (const auto refused = refusal(Operation::setCodes, path, Attempt::setCodes)) return *refused;
+  if (kindOf(path) != Kind::file) return Failure{path, Attempt::setCodes, Reason::noRegularFile};
   nodes_[path].type = type;
   nodes_[path].creator = creator;
-  return true;
+  return {};
 }
 
-bool MemoryFiles::isRefused(Operation operation, const std::string& path) const {
-  return refused_.count({operation, path}) != 0 || refused_.count({operation, anyPath}) != 0;
+std::optional<Failure> MemoryFiles::refusal(Operation operation, const std::string& path, Attempt attempt) const {
+  auto found = refused_.find({operation, path});
+  if (found == refused_.end()) found = refused_.find({operation, anyPath});
+  return found != refused_.end() ? std::optional(failure(path, attempt, found->second)) : std::nullopt;
 }
 
 std::vector<std::string> MemoryFiles::below(const std::string& folder) const {

@@ -3,8 +3,9 @@
 #pragma once
 
 #include <map>
-#include <set>
+#include <optional>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -16,10 +17,22 @@ namespace tarvo::test {
 
 class MemoryFiles : public FileService {
  public:
-  enum class Operation { read, write, keepUnreadable, list, makeFolder, copy, remove, removeEmptyFolder, setCodes };
+  enum class Operation {
+    look,
+    read,
+    write,
+    keepUnreadable,
+    list,
+    makeFolder,
+    copy,
+    remove,
+    removeEmptyFolder,
+    setCodes
+  };
 
-  // Every use of the operation fails from now on, on this path or, without one, on any.
-  void refuse(Operation operation, const std::string& path = anyPath);
+  // Every use of the operation fails from now on, on this path or, without one, on any; of a missing right unless
+  // another cause is given.
+  void refuse(Operation operation, const std::string& path = anyPath, std::errc cause = std::errc::permission_denied);
   void allowAll() { refused_.clear(); }
   // A regular file; folders above it appear with it.
   void put(const std::string& path, std::string_view bytes);
@@ -28,21 +41,22 @@ class MemoryFiles : public FileService {
   std::vector<std::string> paths() const;            // everything but "/", ascending
   int writes() const { return writes_; }             // that succeeded
 
-  Kind kind(const std::string& path) const override;
-  bool isLink(const std::string&) const override { return false; }
-  bool isWritable(const std::string& folder) const override { return isFolder(folder); }
-  std::optional<std::string> read(const std::string& path) const override;
-  bool write(const std::string& path, std::string_view bytes) override;
-  bool keepUnreadable(const std::string& path) override;
-  std::optional<std::vector<std::string>> list(const std::string& folder) const override;
-  bool makeFolder(const std::string& path) override;
-  bool copy(const std::string& from, const std::string& to) override;
-  bool remove(const std::string& path) override;
-  bool removeEmptyFolder(const std::string& path) override;
-  FourCharCode typeCode(const std::string& path) const override;
-  bool setCodes(const std::string& path, FourCharCode type, FourCharCode creator) override;
+  Result<Kind> kind(const std::string& path) const override;
+  Result<Kind> ownKind(const std::string& path) const override { return kind(path); }
+  Result<> checkWritable(const std::string& folder) const override;
+  Result<std::string> read(const std::string& path) const override;
+  Result<> write(const std::string& path, std::string_view bytes) override;
+  Result<> keepUnreadable(const std::string& path) override;
+  Result<std::vector<std::string>> list(const std::string& folder) const override;
+  Result<> makeFolder(const std::string& path) override;
+  Result<> copy(const std::string& from, const std::string& to) override;
+  Result<> remove(const std::string& path) override;
+  Result<> removeEmptyFolder(const std::string& path) override;
+  Result<FourCharCode> typeCode(const std::string& path) const override;
+  Result<> setCodes(const std::string& path, FourCharCode type, FourCharCode creator) override;
 
  private:
+  void putFolder(const std::string& path);
   struct Node {
     Kind kind = Kind::folder;
     std::string bytes;
@@ -50,12 +64,14 @@ class MemoryFiles : public FileService {
   };
   static constexpr const char* anyPath = "*";
 
-  bool isRefused(Operation operation, const std::string& path) const;
-  bool isFolder(const std::string& path) const { return kind(path) == Kind::folder; }
+  // What the test refuses, as a failure of the attempt; nothing when it does not.
+  std::optional<Failure> refusal(Operation operation, const std::string& path, Attempt attempt) const;
+  Kind kindOf(const std::string& path) const;
+  bool isFolder(const std::string& path) const { return kindOf(path) == Kind::folder; }
   std::vector<std::string> below(const std::string& folder) const;  // at any depth
 
   std::map<std::string, Node> nodes_;
-  std::set<std::pair<Operation, std::string>> refused_;
+  std::map<std::pair<Operation, std::string>, std::errc> refused_;
   int writes_ = 0;
 };
 

@@ -184,10 +184,11 @@ TEST_F(AddinVerbs, aFailedRemovalTellsWhy) {
   fs::create_directories(root_.root() + "/elsewhere");
   makeFolder("/Users/taro/Library/Scripts/Applications/Mail");
   fs::create_symlink(root_.root() + "/elsewhere", root_.root() + scripts);
-  expect({"addin", "remove", "Mail"}, 1, "", "Mail«MailUnInstallIsFailed» (it is a link, which is left alone)\n");
+  expect({"addin", "remove", "Mail"}, 1, "",
+         "Mail«MailUnInstallIsFailed» (" + std::string(scripts) + ": Failure.uninstall; Cause.linkInTheWay)\n");
   EXPECT_TRUE(exists("/elsewhere"));
-  EXPECT_EQ(diagnosis("scripts of Mail"),
-            "problem: installed; a removal would fail: it is a link, which is left alone");
+  EXPECT_EQ(diagnosis("scripts of Mail"), "problem: installed; a removal would fail: " + std::string(scripts) +
+                                              ": Failure.uninstall; Cause.linkInTheWay");
 }
 
 TEST_F(AddinVerbs, theDoctorTellsOfApplicationsThatAreForgotten) {
@@ -202,11 +203,11 @@ TEST_F(AddinVerbs, theDoctorTellsOfApplicationsThatAreForgotten) {
 
 TEST_F(AddinVerbs, aFailedInstallTellsWhatTheWindowTellsAndWhy) {
   expect({"addin", "install", "Word 2011"}, 1, "",
-         "Word 2011«OfficeInstallIsFailed» (the install folder is missing)\n");
+         "Word 2011«OfficeInstallIsFailed» (" + root_.root() + startup + ": Failure.write; Cause.absent)\n");
   makeFolder(startup);
   fs::remove(root_.root() + "/Bundle/Macros/2011/Tarvo.dotm");
   expect({"addin", "install", "Word 2011"}, 1, "",
-         "Word 2011«OfficeInstallIsFailed» (what is to be installed is missing from the product)\n");
+         "Word 2011«OfficeInstallIsFailed» (/Bundle/Macros/2011/Tarvo.dotm: Failure.install; Cause.missingResource)\n");
 }
 
 TEST_F(AddinVerbs, aSearchTellsWhatItAdded) {
@@ -235,19 +236,20 @@ TEST_F(AddinVerbs, theToolListIsWrittenForAnotherTool) {
 
 TEST_F(AddinVerbs, aToolListThatCannotBeWrittenIsTold) {
   makeFolder(toolList);
-  expect({"tool-list", "tNP8"}, 1, "", root_.root() + toolList + " could not be written\n");
+  expect({"tool-list", "tNP8"}, 1, "", root_.root() + toolList + ": Failure.write; Cause.isFolder\n");
   EXPECT_TRUE(fs::is_directory(root_.root() + toolList));
 }
 
 TEST_F(AddinVerbs, theDoctorSaysWhyAnInstallWouldFail) {
   EXPECT_EQ(diagnosis("Word 2011"), "ok: ");
-  EXPECT_EQ(diagnosis("install folder of Word 2011"), "missing: an install would fail: the install folder is missing");
+  EXPECT_EQ(diagnosis("install folder of Word 2011"),
+            "missing: an install would fail: " + std::string(startup) + ": Failure.install; Cause.absent");
   EXPECT_EQ(diagnosis("macro of Word 2011"), "missing: not installed");
   makeFolder(startup);
   EXPECT_EQ(diagnosis("install folder of Word 2011"), "ok: ");
   fs::remove(root_.root() + "/Bundle/Macros/2011/Tarvo.dotm");
   EXPECT_EQ(diagnosis("install folder of Word 2011"),
-            "problem: an install would fail: what is to be installed is missing from the product");
+            "problem: an install would fail: /Bundle/Macros/2011/Tarvo.dotm: Failure.install; Cause.missingResource");
   EXPECT_EQ(diagnosis("install folder of Outlook 2011"), "missing: is not listed without it");
   fs::remove_all(root_.root() + "/Applications/O08");
   EXPECT_EQ(diagnosis("Word 2008"), "missing: is not listed");
@@ -258,7 +260,7 @@ TEST_F(AddinVerbs, theDoctorSaysWhereARowAndTheDiskDiffer) {
   put(std::string(scripts) + "/b.scpt", "of the user");
   EXPECT_EQ(diagnosis("scripts of Mail"), "problem: installed in part, lacks a.scpt, sub");
   EXPECT_EQ(diagnosis("install folder of Mail"),
-            "problem: an install would fail: there is a script of that name already: b.scpt");
+            "problem: an install would fail: " + std::string(scripts) + "/b.scpt: Failure.install; Cause.exists");
   makeFolder(startup);
   EXPECT_EQ(run({"tool-list"}).status, 0);  // the rows are remembered, without the macro
   put(macro, "of the user");

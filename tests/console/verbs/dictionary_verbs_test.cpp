@@ -232,7 +232,8 @@ TEST_F(NewVerb, aMissingTemplateIsTold) {
     std::filesystem::copy_file(TARVO_SOURCE_DIR "/resources/" + name, root_.folder() / ("resources/" + name));
   }
   const ToolResult result = run({"--resources", root_.folder() / "resources", "new", "je", "user", "N"});
-  EXPECT_EQ(result.err, "no file was made: the template JEStationery.jud is missing\n");
+  EXPECT_EQ(result.err, "no file was made: " + (root_.folder() / "resources/JEStationery.jud") +
+                            ": Failure.copy; Cause.missingResource\n");
   EXPECT_EQ(result.status, 1);
   EXPECT_TRUE(root_.folder().names(userDic).empty());
 }
@@ -241,7 +242,7 @@ TEST_F(NewVerb, aPlaceThatTakesNoFileIsTold) {
   root_.folder().write(std::string(userDic).substr(0, std::string(userDic).size() - 1), "a file");
   const ToolResult result = run({"new", "ej", "user", "N"});
   EXPECT_EQ(result.err, "no file was made: " + root_.home() +
-                            "/Library/Application Support/Wordhaven/UserDic/N.eud2 cannot be written\n");
+                            "/Library/Application Support/Wordhaven/UserDic/N.eud2: Failure.create; Cause.noFolder\n");
   EXPECT_EQ(result.status, 1);
 }
 

@@ -53,16 +53,17 @@ TEST_F(EngineVerbs, statusOfAServiceThatIsNotThereIsNoFailure) {
   expectSaid({"--paths", "fixtures/paths/no-engine-paths.plist", "engine", "status", "--json"},
              R"({"form":"none","holds":false,"lastUpdate":null,"reachable":false})"
              "\n",
-             "the style service cannot be reached\n", 0);
+             "the style service cannot be reached (Failure.reach; Cause.noService)\n", 0);
   expectSaid({"--engine", "none", "engine", "status"},
              "form          none\nreachable     no\nholds styles  no\nlast update   never\n", "", 0);
 }
 
 TEST_F(EngineVerbs, statusOfAServerThatDoesNotListen) {
-  expectSaid({"--engine", "http://127.0.0.1:1/styles", "engine", "status", "--json"},
-             R"({"form":"http","holds":false,"lastUpdate":null,"reachable":false})"
-             "\n",
-             "the style service cannot be reached\n", 0);
+  expectSaid(
+      {"--engine", "http://127.0.0.1:1/styles", "engine", "status", "--json"},
+      R"({"form":"http","holds":false,"lastUpdate":null,"reachable":false})"
+      "\n",
+      "the style service cannot be reached (http://127.0.0.1:1/styles: Failure.reach; Cause.connectionRefused)\n", 0);
 }
 
 TEST_F(EngineVerbs, pushHandsTheStylesOver) {
@@ -101,7 +102,8 @@ TEST_F(EngineVerbs, stylesThatCannotBeReadAreNotSaidToBeTaken) {
 
 TEST_F(EngineVerbs, aServiceThatIsNotThereIsAFailureOfTheExchange) {
   for (const char* verb : {"push", "pull"}) {
-    const std::string told = "the style service cannot be reached; it keeps its former styles\n";
+    const std::string told =
+        "the style service cannot be reached; it keeps its former styles (Failure.reach; Cause.noService)\n";
     expectSaid({"--engine", "none", "engine", verb}, "", told, 1);
     expectSaid({"--paths", "fixtures/paths/no-engine-paths.plist", "engine", verb}, "", told, 1);
   }
@@ -109,7 +111,10 @@ TEST_F(EngineVerbs, aServiceThatIsNotThereIsAFailureOfTheExchange) {
 
 TEST_F(EngineVerbs, aServiceThatCannotStoreIsAFailure) {
   fs::create_directories(fs::path(root_.home()) / engineFile / "in its place");
-  expectSaid({"engine", "push"}, "", "the style service did not store the styles\n", 1);
+  expectSaid({"engine", "push"}, "",
+             "the style service did not store the styles (" + root_.home() + "/" + engineFile +
+                 ": Failure.write; Cause.isFolder)\n",
+             1);
 }
 
 TEST_F(EngineVerbs, aFileWithoutStylesIsNotHandedOver) {

@@ -67,7 +67,7 @@ TEST_F(OpenVerb, aMissingWindowProgramIsTold) {
 TEST_F(OpenVerb, aWindowProgramThatCannotBeStartedIsTold) {
   putWindowProgram("#!/no/such/interpreter\n");
   const ToolResult result = run("open tQB8");
-  EXPECT_EQ(result.err, folder_ / "bin/tarvo-manager" + " cannot be started: No such file or directory\n");
+  EXPECT_EQ(result.err, folder_ / "bin/tarvo-manager" + ": cannot be started; it is not there\n");
   EXPECT_EQ(result.status, 1);
 }
 

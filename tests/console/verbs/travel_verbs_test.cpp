@@ -149,7 +149,7 @@ TEST_F(TravelVerbs, aWriteThatFailsIsTold) {
                 root_.root() + "/Library/Application Support/Wordhaven/TarvoEiwa/TarvoStyle2009.plist");
   fs::create_directories(fs::path(root_.home()) / styleFile);
   const ToolResult result = run({"style", "rename", "1", "Gamma"});
-  EXPECT_EQ(result.err, "the style file could not be written\n");
+  EXPECT_EQ(result.err, root_.home() + "/" + styleFile + ": Failure.write; Cause.isFolder\n");
   EXPECT_EQ(result.status, 1);
 }
 

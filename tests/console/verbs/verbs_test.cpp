@@ -181,7 +181,7 @@ TEST_F(Verbs, styleSetTellsAFailedWrite) {
                 root_.root() + "/Library/Application Support/Wordhaven/TarvoEiwa/TarvoStyle2009.plist");
   fs::create_directories(fs::path(root_.home()) / styleFile);
   const ToolResult result = run({"style", "set", "1", "Opt1=2"});
-  EXPECT_EQ(result.err, "the style file could not be written\n");
+  EXPECT_EQ(result.err, root_.home() + "/" + styleFile + ": Failure.write; Cause.isFolder\n");
   EXPECT_EQ(result.status, 1);
 }
 
@@ -206,7 +206,8 @@ TEST_F(Verbs, anEngineThatCannotBeReachedIsToldOnce) {
   putStyles("root4.plist");
   const ToolResult result =
       run({"--paths", "fixtures/paths/no-engine-paths.plist", "style", "set", "1", "Opt1=2", "Opt2=2"});
-  EXPECT_EQ(result.err, "the style service cannot be reached; it keeps its former styles\n");
+  EXPECT_EQ(result.err,
+            "the style service cannot be reached; it keeps its former styles (Failure.reach; Cause.noService)\n");
   EXPECT_EQ(result.status, 0);
 }
 
@@ -293,9 +294,9 @@ TEST_F(Verbs, doctorDescribesBadStyleFiles) {
   EXPECT_TRUE(line().starts_with("problem  styles ")) << line();
   EXPECT_TRUE(line().ends_with("4 styles, no remembered choice")) << line();
   root_.folder().write(std::string("root/Users/taro/") + styleFile, "broken");
-  EXPECT_TRUE(line().ends_with("is no property list")) << line();
+  EXPECT_TRUE(line().ends_with("Failure.read; Cause.noPropertyList")) << line();
   root_.folder().write(std::string("root/Users/taro/") + styleFile, "<plist><array/></plist>");
-  EXPECT_TRUE(line().ends_with("is a property list without keys")) << line();
+  EXPECT_TRUE(line().ends_with("Failure.read; Cause.noDictionary")) << line();
 }
 
 TEST_F(Verbs, theCommandLineIsChecked) {

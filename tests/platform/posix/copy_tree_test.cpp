@@ -22,7 +22,7 @@ using Names = std::vector<std::string>;
 
 class CopyTree : public testing::Test {
  protected:
-  bool copy(const char* from, const char* to) { return copyTree(folder / from, folder / to); }
+  Result<> copy(const char* from, const char* to) { return copyTree(folder / from, folder / to); }
   test::TemporaryFolder folder;
 };
 

@@ -18,7 +18,7 @@ using Names = std::vector<std::string>;
 
 class KeepUnreadable : public testing::Test {
  protected:
-  bool keep(const char* name) { return keepUnreadableFile(folder / name); }
+  Result<> keep(const char* name) { return keepUnreadableFile(folder / name); }
   test::TemporaryFolder folder;
 };
 

@@ -46,16 +46,16 @@ TEST_F(PosixFilesTest, aPathThatIsNotAbsoluteNamesNothing) {
   fs::current_path(folder.path());
   for (const std::string& path : {std::string("a"), std::string(""), std::string("./a"), std::string("/a\0b", 4)}) {
     EXPECT_EQ(files.kind(path), FileService::Kind::absent);
-    EXPECT_EQ(files.read(path), std::nullopt);
+    EXPECT_FALSE(files.read(path));
     EXPECT_FALSE(files.write(path, "y"));
     EXPECT_FALSE(files.keepUnreadable(path));
-    EXPECT_EQ(files.list(path), std::nullopt);
+    EXPECT_FALSE(files.list(path));
     EXPECT_FALSE(files.makeFolder(path));
     EXPECT_FALSE(files.copy(path, "/b"));
     EXPECT_FALSE(files.copy("/a", path));
     EXPECT_FALSE(files.remove(path));
     EXPECT_FALSE(files.removeEmptyFolder(path));
-    EXPECT_EQ(files.typeCode(path), 0U);
+    EXPECT_FALSE(files.typeCode(path));
     EXPECT_FALSE(files.setCodes(path, 1, 2));
   }
   fs::current_path("/");
@@ -71,17 +71,61 @@ TEST_F(PosixFilesTest, kindFollowsLinks) {
     const char *target, *link;
     FileService::Kind kind;
   } rows[] = {
-      {"file", "to file", FileService::Kind::file},  {"folder", "to folder", FileService::Kind::folder},
-      {"pipe", "to pipe", FileService::Kind::other}, {"missing", "dangling", FileService::Kind::absent},
-      {"loop", "loop", FileService::Kind::absent},
+      {"file", "to file", FileService::Kind::file},
+      {"folder", "to folder", FileService::Kind::folder},
+      {"pipe", "to pipe", FileService::Kind::other},
+      {"missing", "dangling", FileService::Kind::absent},
   };
   for (const auto& row : rows) {
     fs::create_symlink(row.target, folder / row.link);
     EXPECT_EQ(files.kind("/" + std::string(row.target)), row.kind) << row.target;
     EXPECT_EQ(files.kind("/" + std::string(row.link)), row.kind) << row.link;
-    EXPECT_EQ(files.exists("/" + std::string(row.link)), row.kind != FileService::Kind::absent);
+    EXPECT_EQ(files.isThere("/" + std::string(row.link)), row.kind != FileService::Kind::absent);
+    EXPECT_EQ(files.isAbsent("/" + std::string(row.link)), row.kind == FileService::Kind::absent);
+    EXPECT_EQ(files.ownKind("/" + std::string(row.link)), FileService::Kind::link);
   }
   EXPECT_EQ(files.kind("/folder///"), FileService::Kind::folder);
+}
+
+TEST_F(PosixFilesTest, whatCannotBeLookedAtIsNeitherThereNorAbsent) {
+  folder.write("file", "");
+  fs::create_symlink("loop", folder / "loop");
+  const struct {
+    std::string path;
+    std::errc cause;
+  } rows[] = {{"/loop", std::errc::too_many_symbolic_link_levels},
+              {"/" + std::string(300, 'x'), std::errc::filename_too_long}};
+  for (const auto& row : rows) {
+    const Result<FileService::Kind> kind = files.kind(row.path);
+    ASSERT_FALSE(kind) << row.path;
+    EXPECT_EQ(kind.error(), (Failure{folder.path() + row.path, Attempt::look, std::make_error_code(row.cause)}));
+    EXPECT_FALSE(files.isThere(row.path));
+    EXPECT_FALSE(files.isAbsent(row.path));
+  }
+  EXPECT_EQ(files.kind("/missing"), FileService::Kind::absent);
+  EXPECT_EQ(files.kind("/file/below"), FileService::Kind::absent);
+  EXPECT_TRUE(existsIgnoringCase(files, "/loop")) << "nothing may be made over it";
+}
+
+TEST_F(PosixFilesTest, failuresSayPathAttemptAndCause) {
+  folder.write("file", "x");
+  const std::string file = folder / "file";
+  const auto cause = [](std::errc error) { return std::make_error_code(error); };
+  EXPECT_EQ(files.read("/none").error(),
+            (Failure{folder / "none", Attempt::read, cause(std::errc::no_such_file_or_directory)}));
+  EXPECT_EQ(files.read("/").error(), (Failure{folder.path(), Attempt::read, Reason::noRegularFile}));
+  EXPECT_EQ(files.list("/file").error(), (Failure{file, Attempt::list, cause(std::errc::not_a_directory)}));
+  EXPECT_EQ(files.copy("/file", "/file").error(), (Failure{file, Attempt::create, cause(std::errc::file_exists)}));
+  EXPECT_EQ(files.write("/none/file", "").error(),
+            (Failure{folder / "none", Attempt::write, cause(std::errc::no_such_file_or_directory)}));
+  EXPECT_EQ(files.makeFolder("/file/a/b").error(),
+            (Failure{file, Attempt::makeFolder, cause(std::errc::not_a_directory)}));
+  EXPECT_EQ(files.remove("/none").error(),
+            (Failure{folder / "none", Attempt::remove, cause(std::errc::no_such_file_or_directory)}));
+  EXPECT_EQ(files.remove("/").error(), (Failure{folder.path(), Attempt::remove, Reason::wholeProduct}));
+  EXPECT_EQ(files.removeEmptyFolder("/file").error(),
+            (Failure{file, Attempt::remove, cause(std::errc::not_a_directory)}));
+  EXPECT_EQ(files.read("file").error(), (Failure{"file", Attempt::read, Reason::noPath}));
 }
 
 TEST_F(PosixFilesTest, onlyRegularFilesAreReadAndNoneBlocks) {
@@ -91,21 +135,21 @@ TEST_F(PosixFilesTest, onlyRegularFilesAreReadAndNoneBlocks) {
   fs::create_symlink("/dev/zero", folder / "device");
   EXPECT_EQ(files.read("/empty"), "");
   for (const char* path : {"/folder", "/pipe", "/device", "/missing", "/empty/x"}) {
-    EXPECT_EQ(files.read(path), std::nullopt) << path;
+    EXPECT_FALSE(files.read(path)) << path;
   }
 }
 
 TEST_F(PosixFilesTest, aFileBeyondAllMeasureIsNotRead) {
   folder.write("sparse", "");
   fs::resize_file(folder / "sparse", std::uintmax_t{1} << 40);
-  EXPECT_EQ(files.read("/sparse"), std::nullopt);
+  EXPECT_FALSE(files.read("/sparse"));
 }
 
 TEST_F(PosixFilesTest, aFolderIsListedAscendingByBytesWithHiddenNames) {
   for (const char* name : {"b", "B", "a", ".h", "é", "あ", "a\nb", "10", "9"}) folder.write(name, "");
   EXPECT_EQ(files.list("/"), (Names{".h", "10", "9", "B", "a", "a\nb", "b", "é", "あ"}));
-  EXPECT_EQ(files.list("/b"), std::nullopt);
-  EXPECT_EQ(files.list("/missing"), std::nullopt);
+  EXPECT_FALSE(files.list("/b"));
+  EXPECT_FALSE(files.list("/missing"));
 }
 
 TEST_F(PosixFilesTest, theWholeProductIsNeverRemoved) {

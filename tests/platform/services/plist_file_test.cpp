@@ -24,9 +24,9 @@ Dictionary sample(int number) {
 
 TEST(PlistFile, readsWhatItWrote) {
   MemoryFiles files;
-  files.makeFolder("/家");
+  ASSERT_TRUE(files.makeFolder("/家"));
   PlistFile file(files, path);
-  EXPECT_EQ(file.read(), std::nullopt);
+  EXPECT_FALSE(file.read());
   EXPECT_TRUE(file.write(sample(1)));
   EXPECT_EQ(file.read(), sample(1));
   EXPECT_EQ(files.bytes(path), writePropertyList(sample(1)));
@@ -38,14 +38,14 @@ TEST(PlistFile, keepsBytesThatItCouldNotReadBeforeTheFirstReplacement) {
     MemoryFiles files;
     files.put(path, bytes);
     PlistFile file(files, path);
-    EXPECT_EQ(file.read(), std::nullopt);
-    EXPECT_FALSE(files.exists(kept));
+    EXPECT_FALSE(file.read());
+    EXPECT_FALSE(files.isThere(kept));
     EXPECT_TRUE(file.write(sample(1)));
     EXPECT_EQ(files.bytes(kept), bytes);
     EXPECT_TRUE(file.write(sample(2)));
     EXPECT_EQ(file.read(), sample(2));
     EXPECT_TRUE(file.write(sample(3)));
-    EXPECT_FALSE(files.exists(kept + ".2"));
+    EXPECT_FALSE(files.isThere(kept + ".2"));
   }
 }
 
@@ -54,7 +54,41 @@ TEST(PlistFile, keepsAFileThatRefusesToBeRead) {
   files.put(path, writePropertyList(sample(1)));
   files.refuse(Operation::read);
   PlistFile file(files, path);
-  EXPECT_EQ(file.read(), std::nullopt);
+  EXPECT_FALSE(file.read());
+  EXPECT_TRUE(file.write(sample(2)));
+  EXPECT_EQ(files.bytes(kept), writePropertyList(sample(1)));
+}
+
+TEST(PlistFile, saysWhyItCouldNotBeRead) {
+  const struct {
+    const char* bytes;
+    std::error_code cause;
+  } rows[] = {{"garbage", Reason::noPropertyList}, {"<plist version=\"1.0\"><array/></plist>", Reason::noDictionary}};
+  for (const auto& row : rows) {
+    MemoryFiles files;
+    files.put(path, row.bytes);
+    EXPECT_EQ(PlistFile(files, path).read().error(), (Failure{path, Attempt::read, row.cause}));
+  }
+  MemoryFiles files;
+  EXPECT_TRUE(isAbsence(PlistFile(files, path).read().error()));
+  files.put(path, "");
+  files.refuse(Operation::read, path, std::errc::too_many_files_open);
+  const Failure failure = PlistFile(files, path).read().error();
+  EXPECT_EQ(failure.cause, std::errc::too_many_files_open);
+  EXPECT_FALSE(isAbsence(failure));
+}
+
+TEST(PlistFile, neverReplacesAFileThatCannotBeLookedAtWithoutAKeptCopy) {
+  MemoryFiles files;
+  files.put(path, writePropertyList(sample(1)));
+  files.refuse(Operation::read);
+  files.refuse(Operation::look);
+  files.refuse(Operation::keepUnreadable);
+  PlistFile file(files, path);
+  EXPECT_FALSE(file.read());
+  EXPECT_EQ(file.write(sample(2)).error().attempt, Attempt::keep);
+  EXPECT_EQ(files.bytes(path), writePropertyList(sample(1)));
+  files.allowAll();
   EXPECT_TRUE(file.write(sample(2)));
   EXPECT_EQ(files.bytes(kept), writePropertyList(sample(1)));
 }
@@ -64,7 +98,7 @@ TEST(PlistFile, writesNothingWhenTheBytesCannotBeKeptAndTriesAgain) {
   files.put(path, "garbage");
   files.refuse(Operation::keepUnreadable);
   PlistFile file(files, path);
-  EXPECT_EQ(file.read(), std::nullopt);
+  EXPECT_FALSE(file.read());
   EXPECT_FALSE(file.write(sample(1)));
   EXPECT_FALSE(file.write(sample(1)));
   EXPECT_EQ(files.bytes(path), "garbage");
@@ -79,7 +113,7 @@ TEST(PlistFile, writesThatFailDoNotHeapUpKeptCopies) {
   files.put(path, "garbage");
   files.refuse(Operation::write);
   PlistFile file(files, path);
-  EXPECT_EQ(file.read(), std::nullopt);
+  EXPECT_FALSE(file.read());
   EXPECT_FALSE(file.write(sample(1)));
   EXPECT_FALSE(file.write(sample(1)));
   EXPECT_EQ(files.bytes(path), "garbage");
@@ -92,16 +126,16 @@ TEST(PlistFile, keepsNothingOfAFileThatIsGoneOrNoFile) {
   MemoryFiles files;
   files.put(path, "garbage");
   PlistFile file(files, path);
-  EXPECT_EQ(file.read(), std::nullopt);
-  files.remove(path);
+  EXPECT_FALSE(file.read());
+  ASSERT_TRUE(files.remove(path));
   EXPECT_TRUE(file.write(sample(1)));
-  EXPECT_FALSE(files.exists(kept));
+  EXPECT_FALSE(files.isThere(kept));
 
-  files.remove(path);
+  ASSERT_TRUE(files.remove(path));
   files.putOther(path);
-  EXPECT_EQ(file.read(), std::nullopt);
+  EXPECT_FALSE(file.read());
   EXPECT_FALSE(file.write(sample(1)));
-  EXPECT_FALSE(files.exists(kept));
+  EXPECT_FALSE(files.isThere(kept));
 }
 
 TEST(PlistFile, aFileThatWasNeverReadIsReplacedAsItIs) {
@@ -110,7 +144,7 @@ TEST(PlistFile, aFileThatWasNeverReadIsReplacedAsItIs) {
   PlistFile file(files, path);
   EXPECT_TRUE(file.write("new bytes"));
   EXPECT_EQ(files.bytes(path), "new bytes");
-  EXPECT_FALSE(files.exists(kept));
+  EXPECT_FALSE(files.isThere(kept));
 }
 
 }  // namespace

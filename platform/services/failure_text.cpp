@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "platform/services/failure_text.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+
+#include "platform/services/texts.h"
+
+namespace tarvo {
+namespace {
+
+// By Attempt: the keys are "Failure." and one of these.
+constexpr std::array<const char*, 16> attempts{"look",  "read",   "write", "keep",    "list",      "folder",
+                                               "copy",  "remove", "codes", "install", "uninstall", "create",
+                                               "start", "reach",  "store", "fetch"};
+static_assert(attempts.size() == static_cast<std::size_t>(Attempt::fetch) + 1);
+
+// The keys are "Cause." and one of these, and "Cure." and the same where something helps.
+struct SystemCause {
+  std::errc error;
+  const char* key;
+};
+constexpr SystemCause systemCauses[] = {{std::errc::permission_denied, "noPermission"},
+                                        {std::errc::operation_not_permitted, "noPermission"},
+                                        {std::errc::no_such_file_or_directory, "absent"},
+                                        {std::errc::not_a_directory, "noFolder"},
+                                        {std::errc::is_a_directory, "isFolder"},
+                                        {std::errc::file_exists, "exists"},
+                                        {std::errc::directory_not_empty, "notEmpty"},
+                                        {std::errc::no_space_on_device, "diskFull"},
+                                        {std::errc::read_only_file_system, "readOnly"},
+                                        {std::errc::filename_too_long, "tooLong"},
+                                        {std::errc::file_too_large, "tooLarge"},
+                                        {std::errc::io_error, "ioError"},
+                                        {std::errc::no_such_device, "diskGone"},
+                                        {std::errc::no_such_device_or_address, "diskGone"},
+                                        {std::errc::too_many_files_open, "tooManyFiles"},
+                                        {std::errc::too_many_files_open_in_system, "tooManyFiles"},
+                                        {std::errc::too_many_symbolic_link_levels, "linkLoop"},
+                                        {std::errc::too_many_links, "tooManyLinks"},
+                                        {std::errc::cross_device_link, "otherDisk"},
+                                        {std::errc::device_or_resource_busy, "busy"},
+                                        {std::errc::text_file_busy, "busy"},
+                                        {std::errc::resource_unavailable_try_again, "busy"},
+                                        {std::errc::resource_deadlock_would_occur, "busy"},
+                                        {std::errc::not_enough_memory, "noMemory"},
+                                        {std::errc::not_supported, "notSupported"},
+                                        {std::errc::operation_not_supported, "notSupported"},
+                                        {std::errc::function_not_supported, "notSupported"},
+                                        {std::errc::timed_out, "timedOut"},
+                                        {std::errc::connection_refused, "connectionRefused"},
+                                        {std::errc::illegal_byte_sequence, "badName"},
+                                        {std::errc::invalid_argument, "badName"}};
+
+constexpr std::array<const char*, 22> reasons{
+    "noPath",        "noRegularFile", "noPropertyList", "noDictionary",    "intoItself",      "wholeProduct",
+    "linkInTheWay",  "deadLink",      "nothingNamed",   "noInstallFolder", "missingResource", "emptyResource",
+    "nothingChosen", "noService",     "notAsked",       "unreachable",     "unknownHost",     "notTrusted",
+    "refused",       "contended",     "absentThere",    "damaged"};
+static_assert(reasons.size() == static_cast<std::size_t>(Reason::damaged));
+
+const char* keyOf(const std::error_code& cause) {
+  if (cause.category() == reasonCategory()) return reasons[static_cast<std::size_t>(cause.value()) - 1];
+  // Errors of the system without a name in the standard library.
+  if (cause.value() == EDQUOT) return "quota";
+  if (cause.value() == ESTALE) return "stale";
+  const auto* found = std::find_if(std::begin(systemCauses), std::end(systemCauses),
+                                   [&](const SystemCause& each) { return cause == each.error; });
+  return found != std::end(systemCauses) ? found->key : nullptr;
+}
+
+}  // namespace
+
+std::string failureCauseText(const Failure& failure, const Texts& texts) {
+  const char* key = keyOf(failure.cause);
+  std::string text = texts.localized(std::string("Failure.") + attempts[static_cast<std::size_t>(failure.attempt)]);
+  text += "; " + (key != nullptr ? texts.localized(std::string("Cause.") + key) : failure.cause.message());
+  const std::string* cure = key != nullptr ? texts.find(std::string("Cure.") + key) : nullptr;
+  return cure != nullptr ? text + "; " + *cure : text;
+}
+
+std::string failureText(const Failure& failure, const Texts& texts) {
+  return (failure.path.empty() ? "" : failure.path + ": ") + failureCauseText(failure, texts);
+}
+
+}  // namespace tarvo

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "platform/services/failure_text.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+#include "platform/posix/posix_files.h"
+#include "platform/services/locations.h"
+#include "platform/services/texts.h"
+
+namespace tarvo {
+namespace {
+
+Texts shipped(const std::string& language) {
+  const Locations locations("/", "/");
+  const PosixFiles files(locations);
+  Texts texts;
+  EXPECT_TRUE(overlayTableFile(texts, files,
+                               std::string(TARVO_SOURCE_DIR "/resources/") + language + ".lproj/Localizable.strings"));
+  return texts;
+}
+
+Failure failureOf(int error) { return {"/a b", Attempt::write, {error, std::generic_category()}}; }
+
+TEST(FailureText, saysPathAttemptCauseAndCure) {
+  EXPECT_EQ(failureText(failureOf(ENOSPC), shipped("en")),
+            "/a b: cannot be written; the disk is full; make room on it");
+  EXPECT_EQ(failureText(failureOf(EROFS), shipped("en")), "/a b: cannot be written; the disk can only be read");
+  EXPECT_EQ(failureText(failureOf(ENOSPC), shipped("ja")),
+            "/a b: 書き込めません; ディスクに空きがありません; 空き容量を増やしてください");
+  EXPECT_EQ(failureText({"", Attempt::reach, Reason::noService}, shipped("en")),
+            "cannot be reached; there is no style service");
+  EXPECT_EQ(failureCauseText(failureOf(EROFS), shipped("en")), "cannot be written; the disk can only be read");
+}
+
+TEST(FailureText, hasWordsForEveryAttemptAndReasonInBothLanguages) {
+  for (const char* language : {"en", "ja"}) {
+    const Texts texts = shipped(language);
+    for (int attempt = 0; attempt <= static_cast<int>(Attempt::fetch); ++attempt) {
+      for (int reason = 1; reason <= static_cast<int>(Reason::damaged); ++reason) {
+        const std::string text =
+            failureCauseText({"", static_cast<Attempt>(attempt), static_cast<Reason>(reason)}, texts);
+        EXPECT_EQ(text.find("Failure."), std::string::npos) << text;
+        EXPECT_EQ(text.find("Cause."), std::string::npos) << text;
+      }
+    }
+  }
+}
+
+TEST(FailureText, hasWordsForWhatADiskCanAnswerInBothLanguages) {
+  for (const char* language : {"en", "ja"}) {
+    const Texts texts = shipped(language);
+    for (const int error :
+         {EACCES, EPERM,  ENOENT, ENOTDIR, EISDIR, EEXIST, ENOTEMPTY, ENOSPC,     EDQUOT,       EROFS,    ENAMETOOLONG,
+          EFBIG,  EIO,    ENODEV, ENXIO,   EMFILE, ENFILE, ELOOP,     EMLINK,     EXDEV,        EBUSY,    ETXTBSY,
+          ENOMEM, ESTALE, ENOSYS, EAGAIN,  EILSEQ, EINVAL, ENOTSUP,   EOPNOTSUPP, ECONNREFUSED, ETIMEDOUT}) {
+      const std::string text = failureCauseText(failureOf(error), texts);
+      EXPECT_EQ(text.find(failureOf(error).cause.message()), std::string::npos) << error << ": " << text;
+      EXPECT_EQ(text.find("Cause."), std::string::npos) << text;
+    }
+  }
+}
+
+TEST(FailureText, takesTheSystemsWordsForOtherCauses) {
+  EXPECT_EQ(failureCauseText(failureOf(EDOM), shipped("en")),
+            "cannot be written; " + std::error_code(EDOM, std::generic_category()).message());
+}
+
+}  // namespace
+}  // namespace tarvo
