@@ -5,8 +5,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "platform/plist/plist_reader.h"
-#include "platform/services/file_service.h"
+#include "platform/services/plist_file.h"
 #include "platform/text/text_rules.h"
 
 namespace tarvo {
@@ -14,16 +13,21 @@ namespace {
 
 constexpr const char* systemVersionFile = "/System/Library/CoreServices/SystemVersion.plist";
 
+double numberOf(const PropertyList& version) {
+  if (const std::string* text = version.string()) return leadingNumber(*text);
+  if (const Real* real = std::get_if<Real>(&version.value())) return leadingNumber(real->text);
+  const Integer* integer = std::get_if<Integer>(&version.value());
+  return integer != nullptr ? version.integerValue() : 0;
+}
+
 }  // namespace
 
 int systemVersion(const FileService& files) {
-  const auto bytes = files.read(systemVersionFile);
-  const auto list = bytes ? readPropertyList(*bytes) : std::nullopt;
-  const Dictionary* root = list ? list->dictionary() : nullptr;
-  const std::string* version = root != nullptr ? root->string("ProductVersion") : nullptr;
+  const Result<Dictionary> root = readDictionary(files, systemVersionFile);
+  const PropertyList* version = root ? root->find("ProductVersion") : nullptr;
   if (version == nullptr) return 0;
   // In double, not wider: 10.6 times ten must round to 106.
-  const double tenfold = leadingNumber(*version) * 10.0;
+  const double tenfold = numberOf(*version) * 10.0;
   constexpr double limit = std::numeric_limits<int>::max();
   return static_cast<int>(std::clamp(tenfold, -limit, limit));
 }

@@ -39,6 +39,14 @@ TEST_F(SystemVersion, isTenTimesTheLeadingNumberCutToAnInteger) {
   for (const auto& row : rows) EXPECT_EQ(versionWith(row.text), row.version) << row.text;
 }
 
+TEST_F(SystemVersion, isReadFromANumberAsFromItsText) {
+  EXPECT_EQ(versionWith(Real{"10.6"}), 106);
+  EXPECT_EQ(versionWith(Real{"10.10"}), 101);
+  EXPECT_EQ(versionWith(Real{"nan"}), 0);
+  EXPECT_EQ(versionWith(10), 100);
+  EXPECT_EQ(versionWith(-10), -100);
+}
+
 TEST_F(SystemVersion, isZeroWhereItCannotBeRead) {
   EXPECT_EQ(systemVersion(files), 0);
   folder.write(versionFile, "no property list");
@@ -47,7 +55,7 @@ TEST_F(SystemVersion, isZeroWhereItCannotBeRead) {
   EXPECT_EQ(systemVersion(files), 0);
   folder.write(versionFile, writePropertyList(Dictionary{}));
   EXPECT_EQ(systemVersion(files), 0);
-  EXPECT_EQ(versionWith(106), 0) << "only a text is a version";
+  EXPECT_EQ(versionWith(true), 0) << "no number";
 }
 
 }  // namespace
