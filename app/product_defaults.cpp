@@ -2,15 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/product_defaults.h"
 
-#include <pwd.h>
-#include <unistd.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <initializer_list>
 #include <string_view>
 #include <system_error>
 
+#include "platform/posix/process.h"
 #include "platform/text/text_rules.h"
 
 namespace tarvo {
@@ -28,26 +26,30 @@ std::string environment(const char* name) {
 // tree.
 std::optional<std::string> besideProgram(const char* rest) {
   std::error_code error;
-  const fs::path program = fs::read_symlink("/proc/self/exe", error);
-  if (error) return std::nullopt;
-  const fs::path folder = (program.parent_path() / "../share/tarvo-manager" / rest).lexically_normal();
+  const fs::path own = programFolder();
+  if (own.empty()) return std::nullopt;
+  const fs::path folder = (own / "../share/tarvo-manager" / rest).lexically_normal();
   return fs::is_directory(folder, error) ? std::optional(folder.string()) : std::nullopt;
 }
 
 std::string login() {
-  const passwd* entry = getpwuid(getuid());
-  if (entry != nullptr && entry->pw_name != nullptr) return entry->pw_name;
-  return environment("USER");
+  const std::string name = loginName();
+  return !name.empty() ? name : environment("USER");
 }
 
 std::string systemHome() {
   const std::string home = environment("HOME");
   if (isAbsolutePath(home)) return home;
-  const passwd* entry = getpwuid(getuid());
-  return entry != nullptr && entry->pw_dir != nullptr ? entry->pw_dir : "/";
+  const std::string known = loginHome();
+  return !known.empty() ? known : "/";
 }
 
 }  // namespace
+
+std::string programFolder() {
+  const Result<std::string> file = programFile();
+  return file ? deletingLastPathComponent(*file) : "";
+}
 
 std::string absolutePath(const std::string& path) {
   std::error_code error;

@@ -8,6 +8,9 @@
 // Where the product, its resources and the user's home are when the command line does not say so.
 namespace tarvo {
 
+// Where the running program lies; "" when the system does not say.
+std::string programFolder();
+
 // A path of the command line, made absolute from the working folder, without a trailing slash.
 std::string absolutePath(const std::string& path);
 

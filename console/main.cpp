@@ -14,6 +14,7 @@
 #include "console/verbs/run_script.h"
 #include "platform/posix/instance_lock.h"
 #include "platform/posix/posix_run_loop.h"
+#include "platform/posix/process.h"
 
 // tarvoctl: a verb or a script, on the real disk and the real clock.
 namespace tarvo {
@@ -56,7 +57,7 @@ ExitStatus runVerb(const CommandLine& line, Command& command) {
   }
   PosixRunLoop loop;
   HeldLock lock;
-  Console console{product, loop, std::cout, std::cerr, std::ref(lock)};
+  Console console{product, loop, std::cout, std::cerr, std::ref(lock), becomeProgram};
   console.engineIsWanted = line.product.engine != "none";
   return command.run(console);
 }

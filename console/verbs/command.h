@@ -5,6 +5,9 @@
 #include <functional>
 #include <ostream>
 #include <string>
+#include <vector>
+
+#include "platform/services/result.h"
 
 namespace tarvo {
 
@@ -22,6 +25,8 @@ struct Console {
   std::ostream& err;
   // Takes the lock at this real path for the rest of the process. False: another process holds it.
   std::function<bool(const std::string& path)> takeLock;
+  // Becomes that program with these words; answers only when it cannot.
+  std::function<Failure(const std::string& file, std::vector<std::string> words)> become;
   bool engineIsWanted = true;  // an engine that cannot be reached is worth a word
 };
 

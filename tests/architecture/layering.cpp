@@ -53,7 +53,8 @@ const std::vector<Room>& rooms() {
 
 // Who puts the real system behind the interfaces.
 bool composes(std::string_view path) {
-  return path == "app/product.h" || path == "app/product.cpp" || path == "qt/main.cpp" || path == "console/main.cpp";
+  return path == "app/product.h" || path == "app/product.cpp" || path == "app/product_defaults.cpp" ||
+         path == "qt/main.cpp" || path == "console/main.cpp";
 }
 
 bool isLeaf(std::string_view folder) { return folder == "platform/posix" || folder == "platform/engine"; }
@@ -188,6 +189,17 @@ std::string libraryOf(std::string_view name) {
   return toolkit ? "Qt" : "";
 }
 
+// Headers of the system; what asks it goes through platform/posix.
+bool isSystem(std::string_view name) {
+  return name.starts_with("sys/") || name == "unistd.h" || name == "fcntl.h" || name == "pwd.h" || name == "dirent.h";
+}
+
+// Who may ask the system all the same, for the toolkit's bus alone: whether it answers, and in a process of its own.
+bool mayAskTheSystem(std::string_view path) {
+  return isTest(path) || path.starts_with("platform/posix/") || path == "qt/services/bus_probe.cpp" ||
+         path == "qt/services/single_instance.cpp";
+}
+
 // Depth-first; a file that is still open when it is reached again closes a ring.
 class LoopFinder {
  public:
@@ -250,6 +262,19 @@ std::vector<std::string> foreignHeaders(const SourceTree& tree) {
     for (const Include& include : includes) {
       if (!include.quoted && !isStandard(include.name)) {
         faults.push_back(at(path, include) + "a header of the core includes <" + include.name + ">");
+      }
+    }
+  }
+  return faults;
+}
+
+std::vector<std::string> spreadSystem(const SourceTree& tree) {
+  std::vector<std::string> faults;
+  for (const auto& [path, includes] : tree) {
+    if (mayAskTheSystem(path)) continue;
+    for (const Include& include : includes) {
+      if (!include.quoted && isSystem(include.name)) {
+        faults.push_back(at(path, include) + "<" + include.name + "> outside platform/posix/");
       }
     }
   }

@@ -17,6 +17,8 @@ std::vector<std::string> faultyArrows(const SourceTree& tree);
 std::vector<std::string> includeLoops(const SourceTree& tree);
 // Headers of the core that include anything but the C++ standard library and the core.
 std::vector<std::string> foreignHeaders(const SourceTree& tree);
+// Files outside platform/posix that include headers of the system.
+std::vector<std::string> spreadSystem(const SourceTree& tree);
 // Libraries that more than one source file of the core or the console includes, and toolkit headers outside qt/.
 std::vector<std::string> spreadLibraries(const SourceTree& tree);
 

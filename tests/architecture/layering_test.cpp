@@ -38,6 +38,10 @@ TEST(Layering, theProjectIsRead) {
 TEST(Layering, noArrowRunsUpOrSideways) { EXPECT_EQ(joined(faultyArrows(project())), ""); }
 TEST(Layering, noTwoFilesIncludeEachOther) { EXPECT_EQ(joined(includeLoops(project())), ""); }
 TEST(Layering, headersOfTheCoreNameNoLibraryAndNoSystem) { EXPECT_EQ(joined(foreignHeaders(project())), ""); }
+TEST(Layering, onlyOneFolderAsksTheSystem) { EXPECT_EQ(joined(spreadSystem(project())), ""); }
+TEST(Layering, onlyOneFolderReadsWhatTheSystemTellsInFiles) {
+  EXPECT_EQ(joined(filesThatName(TARVO_SOURCE_DIR, "\"/proc")), "");
+}
 TEST(Layering, eachLibraryHasOneFile) { EXPECT_EQ(joined(spreadLibraries(project())), ""); }
 
 struct Arrow {
@@ -130,6 +134,18 @@ TEST(Layering, aSecondFileOfALibraryIsAFault) {
   const auto found = faults(spreadLibraries, {{"platform/text/a.cpp", "#include <expat.h>\n"},
                                               {"style/b.cpp", "#include <expat.h>\n#include <unicode/uchar.h>\n"}});
   EXPECT_EQ(joined(found), "style/b.cpp:1: <expat.h> belongs to platform/text/a.cpp alone\n");
+}
+
+TEST(Layering, aHeaderOfTheSystemBelongsToItsFolder) {
+  for (const char* name : {"unistd.h", "sys/stat.h", "fcntl.h", "pwd.h", "dirent.h"}) {
+    const std::string line = "#include <" + std::string(name) + ">\n";
+    for (const char* file : {"app/a.cpp", "console/verbs/a.cpp", "platform/services/a.cpp", "qt/a.cpp"}) {
+      EXPECT_EQ(faults(spreadSystem, {{file, line}}).size(), 1U) << file << " " << name;
+    }
+    for (const char* file : {"platform/posix/a.cpp", "qt/services/bus_probe.cpp", "tests/a.cpp"}) {
+      EXPECT_TRUE(faults(spreadSystem, {{file, line}}).empty()) << file << " " << name;
+    }
+  }
 }
 
 TEST(Layering, theToolkitStaysInItsFolder) {

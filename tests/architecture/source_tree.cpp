@@ -49,6 +49,15 @@ SourceTree readSourceTree(const std::string& top) {
   return tree;
 }
 
+std::vector<std::string> filesThatName(const std::string& top, const std::string& word) {
+  std::vector<std::string> found;
+  eachSource(top, [&](const std::string& path, const std::string& text) {
+    const bool isElsewhere = !path.starts_with("tests/") && !path.starts_with("platform/posix/");
+    if (isElsewhere && text.find(word) != std::string::npos) found.push_back(path);
+  });
+  return found;
+}
+
 std::map<std::string, int> readLineCounts(const std::string& top) {
   std::map<std::string, int> counts;
   eachSource(top, [&](const std::string& path, const std::string& text) {

@@ -21,6 +21,8 @@ using SourceTree = std::map<std::string, std::vector<Include>>;
 std::vector<Include> includesOf(const std::string& text);
 // Reads every .cpp and .h below the folders that hold code.
 SourceTree readSourceTree(const std::string& top);
+// Those of the program outside platform/posix whose text holds the word.
+std::vector<std::string> filesThatName(const std::string& top, const std::string& word);
 // Line counts of the same files.
 std::map<std::string, int> readLineCounts(const std::string& top);
 

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "platform/posix/process.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <array>
+#include <climits>
+
+namespace tarvo {
+
+Result<std::string> programFile() {
+  constexpr const char* link = "/proc/self/exe";
+  std::array<char, PATH_MAX> content{};
+  const ssize_t size = ::readlink(link, content.data(), content.size());
+  if (size < 0) return systemFailure(link, Attempt::read);
+  return std::string(content.data(), static_cast<std::size_t>(size));
+}
+
+std::string loginName() {
+  const passwd* entry = ::getpwuid(::getuid());
+  return entry != nullptr && entry->pw_name != nullptr ? entry->pw_name : "";
+}
+
+std::string loginHome() {
+  const passwd* entry = ::getpwuid(::getuid());
+  return entry != nullptr && entry->pw_dir != nullptr ? entry->pw_dir : "";
+}
+
+Failure becomeProgram(const std::string& file, std::vector<std::string> words) {
+  std::vector<char*> arguments;
+  for (std::string& word : words) arguments.push_back(word.data());
+  arguments.push_back(nullptr);
+  ::execv(file.c_str(), arguments.data());
+  return systemFailure(file, Attempt::start);
+}
+
+}  // namespace tarvo
