@@ -124,6 +124,16 @@ TEST_F(TableViewTest, setsTheValueOfATickBeforeItSelectsTheRow) {
   EXPECT_EQ(source_.log.size(), 1U);
 }
 
+TEST_F(TableViewTest, ticksTheColumnOfBoxesWhereverItStands) {
+  table_.setColumns({{"name"}, {"Value", true}});
+  table_.userTick(2, true);
+  EXPECT_EQ(source_.log.front(), "set Value 2 on");
+  source_.log.clear();
+  table_.setColumns({{"name"}});
+  table_.userTick(1, true);
+  EXPECT_TRUE(source_.log.empty()) << "there is nothing to tick";
+}
+
 TEST_F(TableViewTest, dropsOnlyRegisteredTypesThatTheSourceAccepts) {
   EXPECT_FALSE(table_.userDrag({0, 2}, table_, 4, DropOperation::above));
   table_.registerForDraggedTypes({"row"});
