@@ -6,9 +6,9 @@
 
 #include "app/interface.h"
 #include "app/rooms.h"
+#include "app/style_loading.h"
 #include "app/style_menu.h"
 #include "platform/services/failure_text.h"
-#include "platform/services/file_service.h"
 #include "platform/services/notification_center.h"
 #include "platform/services/notification_names.h"
 #include "platform/services/panels.h"
@@ -75,27 +75,14 @@ void AppController::createDictControllers() {
 }
 
 bool AppController::loadUserInfor() {
-  bool dirty = false;
-  // A file that cannot be read counts as missing; the store keeps why, and its bytes beside it at the first write.
-  if (!rooms_.store.readUserStyles()) {
-    Result<> seeded = makePreferencesFolder();
-    if (seeded) seeded = rooms_.store.readSeedStyles();
-    if (!seeded) {
-      tellThatNothingCanBeDone(seeded.error());
-      return false;
-    }
-    dirty = true;
+  const LoadedStyles loaded = loadStyles(rooms_.store, rooms_.medical, services_.files, services_.paths);
+  if (loaded.failure) {
+    tellThatNothingCanBeDone(*loaded.failure);
+    return false;
   }
-  if (rooms_.medical.insertInstalled()) dirty = true;
-  rooms_.store.fillInMissingOptions();
-  if (dirty) rooms_.store.writeTarvoStylePlist();
+  rooms_.medical.remember(loaded.inserted);
+  if (rooms_.store.isPending()) rooms_.store.writeTarvoStylePlist();
   return true;
-}
-
-Result<> AppController::makePreferencesFolder() {
-  const std::string folder = services_.paths.tarvoPathPreferencesFolderURL();
-  if (services_.files.isThere(folder)) return {};
-  return services_.files.makeFolder(folder);
 }
 
 void AppController::tellThatNothingCanBeDone(const Failure& failure) {

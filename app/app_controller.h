@@ -54,7 +54,6 @@ class AppController {
 
  private:
   bool loadUserInfor();
-  Result<> makePreferencesFolder();
   void tellThatNothingCanBeDone(const Failure& failure);
   void createDictControllers();
   void showStyles();  // all of them anew: the menu, the remembered tool and its style, the first pages

@@ -11,7 +11,7 @@
 #include "console/verbs/new_dictionary_command.h"
 #include "console/verbs/open_command.h"
 #include "console/verbs/style_commands.h"
-#include "console/verbs/style_travel_commands.h"
+#include "console/verbs/style_edit_commands.h"
 
 namespace tarvo {
 
@@ -39,34 +39,35 @@ DictionaryKind kindOf(const CommandLine& line) {
   return line.words.kind == "memory" ? DictionaryKind::memory : DictionaryKind::user;
 }
 
-ListPlace placeOf(const CommandLine& line) { return {line.words.index, directionOf(line)}; }
+NamedList listOf(const CommandLine& line) { return {line.words.style, directionOf(line)}; }
 
 using Line = const CommandLine&;
 
 constexpr Verb verbs[] = {
-    {"styles", "Verb.styles", "", [](Line line) { return make<StylesCommand>(line.json); }, true},
+    {"styles", "Verb.styles", "", [](Line) { return make<StylesCommand>(); }, true},
     {"style", "Verb.style"},
-    {"style show", "Verb.style show", "N",
-     [](Line line) { return make<StyleShowCommand>(line.words.index, line.json); }, true},
+    {"style show", "Verb.style show", "N", [](Line line) { return make<StyleShowCommand>(line.words.style); }, true},
     {"style set", "Verb.style set", "N KEY=VALUE...",
-     [](Line line) { return make<StyleSetCommand>(line.words.index, line.words.pairs); }},
+     [](Line line) { return make<StyleSetCommand>(line.words.style, line.words.pairs); }, true},
+    {"style use", "Verb.style use", "N TOOLS...",
+     [](Line line) { return make<StyleUseCommand>(line.words.style, line.words.tools); }, true},
     {"style rename", "Verb.style rename", "N NAME",
-     [](Line line) { return make<StyleRenameCommand>(line.words.index, line.words.name); }},
+     [](Line line) { return make<StyleRenameCommand>(line.words.style, line.words.name); }, true},
     {"style export", "Verb.style export", "N FILE",
-     [](Line line) { return make<StyleExportCommand>(line.words.index, line.words.file); }},
+     [](Line line) { return make<StyleExportCommand>(line.words.style, line.words.file); }, true},
     {"style import", "Verb.style import", "N FILE",
-     [](Line line) { return make<StyleImportCommand>(line.words.index, line.words.file); }},
+     [](Line line) { return make<StyleImportCommand>(line.words.style, line.words.file); }, true},
     {"dictionaries", "Verb.dictionaries", "N DIRECTION",
-     [](Line line) { return make<DictionariesCommand>(placeOf(line), line.json); }, true},
+     [](Line line) { return make<DictionariesCommand>(listOf(line)); }, true},
     {"dictionary", "Verb.dictionary"},
     {"dictionary add", "Verb.dictionary add", "N DIRECTION NAMES...",
-     [](Line line) { return make<AddDictionariesCommand>(placeOf(line), line.words.names); }},
-    {"dictionary remove", "Verb.dictionary remove", "N DIRECTION NAME",
-     [](Line line) { return make<RemoveDictionaryCommand>(placeOf(line), line.words.name); }},
+     [](Line line) { return make<AddDictionariesCommand>(listOf(line), line.words.names); }, true},
+    {"dictionary remove", "Verb.dictionary remove", "N DIRECTION NAMES...",
+     [](Line line) { return make<RemoveDictionariesCommand>(listOf(line), line.words.names); }, true},
     {"dictionary move", "Verb.dictionary move", "N DIRECTION NAME POSITION",
-     [](Line line) { return make<MoveDictionaryCommand>(placeOf(line), line.words.name, line.words.position); }},
+     [](Line line) { return make<MoveDictionaryCommand>(listOf(line), line.words.name, line.words.position); }, true},
     {"new", "Verb.new", "DIRECTION KIND NAME",
-     [](Line line) { return make<NewDictionaryCommand>(directionOf(line), kindOf(line), line.words.name); }},
+     [](Line line) { return make<NewDictionaryCommand>(directionOf(line), kindOf(line), line.words.name); }, true},
     {"addins", "Verb.addins", "", [](Line line) { return make<AddinsCommand>(line.json); }, true},
     {"addin", "Verb.addin"},
     {"addin install", "Verb.addin install", "NAME [VERSION]",
@@ -79,7 +80,7 @@ constexpr Verb verbs[] = {
     {"open", "Verb.open", "CODE", [](Line line) { return make<OpenCommand>(wordsForWindow(line), line.words.code); }},
     {"engine", "Verb.engine"},
     {"engine status", "Verb.engine status", "", [](Line line) { return make<EngineStatusCommand>(line.json); }, true},
-    {"engine push", "Verb.engine push", "", [](Line) { return make<EnginePushCommand>(); }},
+    {"engine push", "Verb.engine push", "", [](Line) { return make<EnginePushCommand>(); }, true},
     {"engine pull", "Verb.engine pull", "", [](Line) { return make<EnginePullCommand>(); }},
     {"doctor", "Verb.doctor", "", [](Line line) { return make<DoctorCommand>(line.json); }, true, false},
     {"run", "Verb.run", "[FILE]"},
@@ -90,12 +91,13 @@ CommandTable tableFor(CommandLine& line) {
   CommandTable table{"tarvoctl",
                      "AboutText",
                      commonOptions(line, Front::console),
-                     {{"N", &words.index, wholeNumber()},
+                     {{"N", &words.style},
                       {"KEY=VALUE", &words.pairs},
                       {"DIRECTION", &words.direction, {{"ej", "je"}}},
                       {"KIND", &words.kind, {{"user", "memory"}}},
                       {"NAME", &words.name},
                       {"NAMES", &words.names},
+                      {"TOOLS", &words.tools},
                       {"POSITION", &words.position, wholeNumber()},
                       {"VERSION", &words.version},
                       {"FILE", &words.file},

@@ -17,9 +17,9 @@ namespace tarvo {
 
 // What stands behind a verb.
 struct VerbWords {
-  std::vector<std::string> pairs, names;
-  std::string direction, kind, name, version, file, folder, tool, code;
-  int index = 0, position = 0;
+  std::vector<std::string> pairs, names, tools;
+  std::string style, direction, kind, name, version, file, folder, tool, code;
+  int position = 0;
 };
 
 struct CommandLine : CommonOptions {

@@ -58,6 +58,8 @@ ExitStatus runVerb(const CommandLine& line, Command& command) {
   PosixRunLoop loop;
   HeldLock lock;
   Console console{product, loop, std::cout, std::cerr, std::ref(lock), becomeProgram};
+  console.textsToTell = [&line] { return textsToTell(line); };
+  console.json = line.json;
   console.engineIsWanted = line.product.engine != "none";
   return command.run(console);
 }

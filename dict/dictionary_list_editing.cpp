@@ -6,9 +6,6 @@
 
 #include "dict/running_application_guard.h"
 #include "platform/services/texts.h"
-#include "style/divider.h"
-#include "style/style_keys.h"
-#include "style/style_store.h"
 
 namespace tarvo {
 namespace {
@@ -24,7 +21,7 @@ DictionaryListEditing::DictionaryListEditing(StyleStore& store, const PopUpButto
                                              RunningApplicationGuard& guard)
     : ejTDController_(services),
       jeTDController_(services),
-      store_(store),
+      edits_(store, texts),
       stylePopup_(stylePopup),
       outlets_(outlets),
       texts_(texts),
@@ -41,10 +38,9 @@ void DictionaryListEditing::move(Direction direction, int step) {
   const int row = table.selectedRow();
   // The buttons see to this in a window; a script may move without a selection, or at the ends.
   if (!isRowOf(loaded, row) || !isRowOf(loaded, row + step)) return;
-  controller.exchangeDictionary(row, row + step);
+  edits_.exchange(placeOf(direction), controller, row, row + step);
   table.reloadData();
   table.selectRows({row + step});
-  writeUpdateDicTarvoPlist(direction);
   updateButton(direction);
 }
 
@@ -55,28 +51,14 @@ void DictionaryListEditing::removeTD(int senderTag) {
   const std::optional<Names> loaded = controller.selectedDictionary();
   const int row = table.selectedRow();
   if (!isRowOf(loaded, row)) return;
-  controller.unloadDictionary((*loaded)[static_cast<std::size_t>(row)]);
+  edits_.remove(placeOf(direction), controller, {(*loaded)[static_cast<std::size_t>(row)]});
   table.reloadData();
-  writeUpdateDicTarvoPlist(direction);
   updateButton(direction);
   guard_.alertStartedApplication(2);
 }
 
 void DictionaryListEditing::writeUpdateDicTarvoPlist(Direction direction) {
-  const int index = stylePopup_.indexOfSelectedItem();
-  std::optional<Dictionary> record = store_.getStyleAtIndex(index);
-  if (!record) return;
-  const std::optional<Names> loaded = getActiveDictController(direction).selectedDictionary();
-  // The divider, and a record without the direction's dictionary, get none; they are written back as they are.
-  Dictionary* half = record->dictionary(halfKey(direction));
-  if (half != nullptr && !isDivider(*record, texts_)) {
-    if (loaded) {
-      half->set(keyNameTD, Array(loaded->begin(), loaded->end()));
-    } else {
-      half->remove(keyNameTD);
-    }
-  }
-  store_.setStyle(index, std::move(*record));
+  edits_.store(placeOf(direction), getActiveDictController(direction).selectedDictionary());
 }
 
 void DictionaryListEditing::updateButton(Direction buttons, Direction tableOf) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "dict/dict_controller.h"
+#include "dict/list_edits.h"
 #include "platform/controls/controls.h"
 #include "platform/controls/table_view.h"
 
@@ -41,6 +42,9 @@ class DictionaryListEditing {
     return direction == Direction::englishToJapanese ? outlets_.ejTDTable : outlets_.jeTDTable;
   }
 
+  const ListEdits& edits() const { return edits_; }
+  ListPlace placeOf(Direction direction) const { return {stylePopup_.indexOfSelectedItem(), direction}; }  // the shown
+
   void raiseUpTD(int senderTag);
   void raiseDownTD(int senderTag);
   void removeTD(int senderTag);
@@ -55,7 +59,7 @@ class DictionaryListEditing {
  private:
   void move(Direction direction, int step);
   DictController ejTDController_, jeTDController_;
-  StyleStore& store_;
+  ListEdits edits_;
   const PopUpButton& stylePopup_;
   ListOutlets& outlets_;
   const Texts& texts_;

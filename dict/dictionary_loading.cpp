@@ -59,13 +59,8 @@ void DictionaryLoading::dicWindowOK() {
     alerts_.beepAndAlertWithText(texts_.localized("notExistsFileAlertHeader"),
                                  texts_.localized("notExistsFileAlertContents") + "\n" + "\n" + *missing);
   }
-  if (controller.checkMaxOver(names)) {
-    alerts_.openMaxOverAlert(technical);
-    return;
-  }
-  if (!names.empty()) controller.loadDictionary(names);
+  if (!lists_.edits().add(lists_.placeOf(direction), controller, names)) return alerts_.openMaxOverAlert(technical);
   lists_.getActiveTableView(direction).reloadData();
-  lists_.writeUpdateDicTarvoPlist(direction);
   lists_.updateButton(direction);
   if (!names.empty()) guard_.alertStartedApplication(2);
   picker_.OKButtonAction();
@@ -75,14 +70,10 @@ void DictionaryLoading::dicWindowOK2() {
   const Direction direction = request_.direction;
   DictController& controller = lists_.getActiveDictController(direction);
   const Names names = picker_.getCheckedArray(technical);
-  if (controller.checkMaxOver(names)) {
-    alerts_.openMaxOverAlert(technical);
-    return;
-  }
-  if (!names.empty()) controller.loadDictionary(names);
-  lists_.getActiveTableView(direction).reloadData();
+  if (controller.checkMaxOver(names)) return alerts_.openMaxOverAlert(technical);
   picker_.OKButtonAction();
-  lists_.writeUpdateDicTarvoPlist(direction);
+  lists_.edits().add(lists_.placeOf(direction), controller, names);
+  lists_.getActiveTableView(direction).reloadData();
   lists_.updateButton(direction);
 }
 

@@ -9,18 +9,10 @@
 #include "platform/controls/controls.h"
 #include "platform/services/file_service.h"
 #include "platform/services/panels.h"
-#include "platform/services/product_paths.h"
 #include "platform/services/texts.h"
-#include "platform/text/text_encoding.h"
 #include "platform/text/text_rules.h"
 
 namespace tarvo {
-namespace {
-
-constexpr std::size_t longestName = 30;  // bytes in Shift_JIS: the engine's tables have no room for more
-
-}  // namespace
-
 DictionaryNameChecks::DictionaryNameChecks(TextField& nameField, NewDictionaryRequest& request, Rules rules,
                                            Services services)
     : nameField_(nameField), request_(request), rules_(std::move(rules)), services_(services) {}
@@ -53,7 +45,7 @@ bool DictionaryNameChecks::checkDicNameEnough() {
 }
 
 bool DictionaryNameChecks::compareInvalidName(std::string_view forbidden) const {
-  return forbidden.empty() || name().find(forbidden) == std::string::npos;
+  return !holdsForbidden(name(), forbidden);
 }
 
 bool DictionaryNameChecks::checkInvalidName() {
@@ -70,22 +62,13 @@ bool DictionaryNameChecks::checkInvalidName() {
 }
 
 bool DictionaryNameChecks::checkIsCommonDicName() {
-  const bool isEnglish = request_.direction == Direction::englishToJapanese;
-  std::string_view key;
-  if (request_.kind == DictionaryKind::user) {
-    key = isEnglish ? "EJCommonUD" : "JECommonUD";
-  } else if (request_.kind == DictionaryKind::memory) {
-    key = isEnglish ? "EJCommonUTMA" : "JECommonUTMA";
-  } else {
-    return true;
-  }
-  if (!equalIgnoringCase(name(), services_.texts.localizedOrEmpty(key))) return true;
+  if (!request_.kind || !names().isReserved(*request_.kind, request_.direction, name())) return true;
   alert(services_.texts.localizedOrEmpty("invalidNameHeader2"), "invalidNameUDMessage2");
   return false;
 }
 
 bool DictionaryNameChecks::checkIsOverCountName() {
-  if (shiftJisFromUtf8(name()).size() <= longestName) return true;
+  if (!isTooLongForTheEngine(name())) return true;
   const bool isKnown = request_.kind == DictionaryKind::user || request_.kind == DictionaryKind::memory;
   if (!isKnown && !rules_.tellsOverlongNamesOfOddKinds) return false;
   std::string_view message;  // odd kinds have none
@@ -97,21 +80,13 @@ bool DictionaryNameChecks::checkIsOverCountName() {
 
 bool DictionaryNameChecks::checkExistsNewDic() {
   request_.fDictName.clear();
-  std::string folder;
-  std::string_view message;
-  if (request_.kind == DictionaryKind::user) {
-    folder = services_.paths.tarvoPathUserDicFolderURL();
-    message = "existsUDMessage";
-  } else if (request_.kind == DictionaryKind::memory) {
-    folder = services_.paths.tarvoPathUserTmaFolderURL();
-    message = "existsUTMAMessage";
-  } else {
-    return true;
-  }
-  request_.fDictName = name() + "." + std::string(extensionOf(*request_.kind, request_.direction));
-  if (!existsIgnoringCase(services_.files, joinPath(folder, request_.fDictName))) return true;
+  const std::optional<DictionaryKind> kind = request_.kind;
+  if (kind != DictionaryKind::user && kind != DictionaryKind::memory) return true;
+  request_.fDictName = fileNameFor(*kind, request_.direction, name());
+  if (!existsIgnoringCase(services_.files, joinPath(names().folderOf(*kind), request_.fDictName))) return true;
   services_.panels.beep();
-  alert("\"" + request_.fDictName + "\"" + services_.texts.localizedOrEmpty("existsDicHeader"), message);
+  alert("\"" + request_.fDictName + "\"" + services_.texts.localizedOrEmpty("existsDicHeader"),
+        kind == DictionaryKind::user ? "existsUDMessage" : "existsUTMAMessage");
   return false;
 }
 

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "dict/dictionary_names.h"
+
 // The checks that the name of a new dictionary must pass, in this order. Each one that fails tells so in one alert, as
 // far as the kind has one. Keys without a text show as nothing here. Nothing is written to disk.
 namespace tarvo {
@@ -43,6 +45,7 @@ class DictionaryNameChecks {
 
  private:
   const std::string& name() const;
+  DictionaryNames names() const { return {services_.files, services_.texts, services_.paths}; }
   void alert(const std::string& header, std::string_view messageKey);
   TextField& nameField_;
   NewDictionaryRequest& request_;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "platform/plist/plist_writer.h"
 #include "platform/services/file_service.h"
 #include "platform/services/texts.h"
 #include "platform/text/text_rules.h"
@@ -44,6 +45,7 @@ bool isOfKind(const DictionaryScan& scan, const std::string& name) {
   const std::string extension = pathExtension(name);
   const auto is = [&](std::string_view other) { return equalIgnoringCase(extension, other); };
   if (scan.kind != DictionaryKind::technical) return is(extensionOf(scan.kind, scan.direction));
+  if (!canHoldText(name)) return false;  // a style could not keep it
   // The type code is asked for last: it costs a look at the disk.
   return is("TRet") || is("jtd") || scan.files.typeCode(joinPath(scan.folder, name)) == technicalType;
 }

@@ -22,8 +22,9 @@ struct DictionaryScan {
 
   // The names in the folder that are dictionaries of the kind, in the order of the listing; none when the folder cannot
   // be listed. Folders and hidden names count like any other. Extensions are compared ignoring case; a technical
-  // dictionary may have the type code 'TRjt' instead. Files of the Corwell medical dictionary are left out while its
-  // data is known not to be installed, and files under its Japanese display names always.
+  // dictionary may have the type code 'TRjt' instead, and has a name that a style file can hold. Files of the Corwell
+  // medical dictionary are left out while its data is known not to be installed, and files under its Japanese display
+  // names always.
   std::vector<std::string> names() const;
 };
 

@@ -48,34 +48,34 @@ MedicalDictionaries::MedicalDictionaries(FileService& files, const Texts& texts,
                                          StyleStore& store)
     : files_(files), texts_(texts), defaults_(defaults), store_(store) {}
 
-bool MedicalDictionaries::insertInstalled() {
-  bool inserted = false;
+std::vector<std::string_view> MedicalDictionaries::insertInstalled() {
+  std::vector<std::string_view> flags;
   // A flag that is there counts, whatever it says: what a user has removed from a list is not put back.
   const auto isDue = [&](std::string_view dataPathKey, std::string_view flag) {
     return files_.isThere(texts_.localized(dataPathKey)) && defaults_.find(flag) == nullptr;
   };
-  const auto done = [&](std::string_view flag) {
-    defaults_.set(flag, true);
-    inserted = true;
-  };
   if (isDue("TechECorwell6", "Corwell1stE")) {
     insertCorwell(Direction::englishToJapanese, "cwl.TRet", "cwla.TRet");
-    done("Corwell1stE");
+    flags.emplace_back("Corwell1stE");
   }
   if (isDue("TechJCorwell6", "Corwell1stJ")) {
     insertCorwell(Direction::japaneseToEnglish, "cwl", "cwla");  // the files of this direction have no extension
-    done("Corwell1stJ");
+    flags.emplace_back("Corwell1stJ");
   }
   if (isDue("TechETekado", "Tekado1stE")) {
     insertTekado(Direction::englishToJapanese, texts_.localized("NameETekado"));
-    done("Tekado1stE");
+    flags.emplace_back("Tekado1stE");
   }
   if (isDue("TechJTekado", "Tekado1stJ")) {
     insertTekado(Direction::japaneseToEnglish, texts_.localized("NameJTekado"));
-    done("Tekado1stJ");
+    flags.emplace_back("Tekado1stJ");
   }
+  return flags;
+}
+
+void MedicalDictionaries::remember(const std::vector<std::string_view>& flags) {
+  for (const std::string_view flag : flags) defaults_.set(flag, true);
   defaults_.synchronize();
-  return inserted;
 }
 
 void MedicalDictionaries::insertCorwell(Direction direction, std::string_view techName, std::string_view abbrevName) {

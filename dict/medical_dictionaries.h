@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "style/direction.h"
 
@@ -20,9 +21,11 @@ class UserDefaults;
 class MedicalDictionaries {
  public:
   MedicalDictionaries(FileService& files, const Texts& texts, UserDefaults& defaults, StyleStore& store);
-  // Inserts those that are installed and were never inserted, sets their flags and flushes the settings. True: a list
+  // Inserts those that are installed and were never inserted. The flags of those that were: where there are any, a list
   // may have changed and the style file has to be written.
-  bool insertInstalled();
+  std::vector<std::string_view> insertInstalled();
+  // Sets these flags, so that they are not inserted again, and flushes the settings.
+  void remember(const std::vector<std::string_view>& flags);
   // Names are looked up in the text table once more.
   void insertCorwell(Direction direction, std::string_view techName, std::string_view abbrevName);
   void insertTekado(Direction direction, std::string_view techName);

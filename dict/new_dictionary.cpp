@@ -39,8 +39,10 @@ NewDictionary::NewDictionary(const Collaborators& with, DictionaryNameChecks::Se
     : with_(with),
       sheet_({with.outlets.NewDicWindow, with.outlets.NewDicNameField, with.outlets.NewDicText,
               with.outlets.NewDicFolderNameField, with.outlets.NewDicFolderTitleField},
-             with.request, {.forbidden = {".", ":", "/", "\\"}, .tellsOverlongNamesOfOddKinds = true}, services,
-             with.windows) {}
+             with.request,
+             {.forbidden = {std::begin(forbiddenInNames), std::end(forbiddenInNames)},
+              .tellsOverlongNamesOfOddKinds = true},
+             services, with.windows) {}
 
 void NewDictionary::newUD(int senderTag) {
   with_.windows.covers().whenFree(with_.myWindow, [this, senderTag] { openSheet(senderTag); });

@@ -20,7 +20,12 @@ bool areStyles(const Array& styles) {
 }  // namespace
 
 void EngineRegistration::registerStyles(const StyleSet* styles) {
-  if (engine_.checkConnectionWithCurl()) send(styles);
+  if (engine_.checkConnectionWithCurl()) {
+    send(styles);
+  } else if (styles != nullptr) {
+    const Result<> reached = engine_.couldReach();  // some engines do not know why
+    outcome_ = reached ? Result<>(Failure{"", Attempt::reach, Reason::unreachable}) : reached;
+  }
 }
 
 std::optional<Array> EngineRegistration::reconcile(const StyleSet* styles) {
@@ -40,6 +45,7 @@ void EngineRegistration::send(const StyleSet* styles) {
   if (styles == nullptr) return;
   std::string stamp;
   engine_.sendRegistStyle(*styles, stamp);
+  outcome_ = engine_.didRegister();
   keep(stamp);
 }
 

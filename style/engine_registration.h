@@ -19,6 +19,8 @@ class EngineRegistration {
   // Asks whether the engine can be reached; then registers the set and stores the stamp, even an empty one, as
   // "LastUpdate".
   void registerStyles(const StyleSet* styles);
+  // How the last registration ended; nothing before the first that had styles to hand over.
+  const std::optional<Result<>>& outcome() const { return outcome_; }
   // Registers the set with an engine that holds none; else asks for a set that is newer than "LastUpdate", and answers
   // it after its stamp was stored. Nothing when there is none, or when what came is no set of styles that a style file
   // could hold. The caller has made sure that the engine can be reached.
@@ -29,6 +31,7 @@ class EngineRegistration {
   void keep(const std::string& stamp);
   Engine& engine_;
   UserDefaults& defaults_;
+  std::optional<Result<>> outcome_;
 };
 
 }  // namespace tarvo

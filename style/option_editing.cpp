@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "style/option_editing.h"
 
-#include <optional>
-#include <utility>
+#include <vector>
 
-#include "style/divider.h"
 #include "style/option_table.h"
+#include "style/style_edits.h"
 #include "style/style_keys.h"
 #include "style/style_store.h"
 
@@ -42,33 +41,21 @@ void OptionEditing::showDetailedOptions(const Dictionary& record) {
   }
 }
 
-void OptionEditing::setValue(Direction direction, std::string_view key, PropertyList value) {
-  const int index = store_.selectedStyle();
-  std::optional<Dictionary> record = store_.getStyleAtIndex(index);
-  if (!record) return;
-  // A record without that half gets none, and the divider no options; it is written back as it is.
-  Dictionary* half = record->dictionary(halfKey(direction));
-  if (half != nullptr && !isDivider(*record, texts_)) half->set(key, std::move(value));
-  store_.setStyle(index, std::move(*record));
-}
-
 void OptionEditing::optionPopupChange(int senderTag) {
-  const IndexOption* option = indexOptionForTag(senderTag);
-  if (option == nullptr) {
-    const int index = store_.selectedStyle();
-    if (std::optional<Dictionary> record = store_.getStyleAtIndex(index)) store_.setStyle(index, std::move(*record));
-    return;
+  std::vector<OptionValue> values;
+  if (const IndexOption* option = indexOptionForTag(senderTag)) {
+    const auto position = static_cast<std::size_t>(option - indexOptions().data());
+    values.push_back({option->direction, option->key, outlets_.indexPopups[position].indexOfSelectedItem()});
   }
-  const auto position = static_cast<std::size_t>(option - indexOptions().data());
-  setValue(option->direction, option->key, outlets_.indexPopups[position].indexOfSelectedItem());
+  setOptions(store_, texts_, store_.selectedStyle(), values);
 }
 
 void OptionEditing::selectJeOptionPopup(Control& sender) {
   for (std::size_t i = 0; i < outlets_.detailPopups.size(); ++i) {
     if (&outlets_.detailPopups[i] != &sender) continue;
     const DetailOption& option = detailOptions()[i];
-    setValue(Direction::japaneseToEnglish, option.key, option.valueForTag(outlets_.detailPopups[i].selectedTag()));
-    return;
+    const std::string_view value = option.valueForTag(outlets_.detailPopups[i].selectedTag());
+    return setOptions(store_, texts_, store_.selectedStyle(), {{Direction::japaneseToEnglish, option.key, value}});
   }
 }
 

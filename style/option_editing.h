@@ -6,7 +6,6 @@
 
 #include "platform/controls/controls.h"
 #include "platform/plist/property_list.h"
-#include "style/direction.h"
 
 // Shows a style's options in their pop-ups and writes each change back into the style at once.
 // Duty: the option half of showing and editing a style. Not: dictionaries, or which style is shown.
@@ -45,7 +44,6 @@ class OptionEditing {
   void selectJeEditPopup();
 
  private:
-  void setValue(Direction direction, std::string_view key, PropertyList value);
   StyleStore& store_;
   OptionOutlets& outlets_;
   const Texts& texts_;

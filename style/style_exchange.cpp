@@ -6,16 +6,11 @@
 #include <utility>
 #include <vector>
 
-#include "platform/plist/plist_writer.h"
-#include "platform/services/file_service.h"
 #include "platform/services/locations.h"
 #include "platform/services/panels.h"
-#include "platform/services/plist_file.h"
 #include "platform/services/texts.h"
-#include "style/option_table.h"
 #include "style/pane_alerts.h"
-#include "style/style_file.h"
-#include "style/style_keys.h"
+#include "style/style_edits.h"
 #include "style/style_store.h"
 
 namespace tarvo {
@@ -23,26 +18,6 @@ namespace tarvo {
 namespace {
 
 constexpr const char* extension = "whstyle";
-
-// What a style file has to hold. The other keys, lists of dictionaries among them, are taken as they are.
-bool holds(const Dictionary& record, const IndexOption& option) {
-  const Dictionary* half = record.dictionary(halfKey(option.direction));
-  if (half == nullptr) return false;
-  const PropertyList* value = half->find(option.key);
-  if (value == nullptr) return option.mayBeAbsent;
-  return value->hasIntegerValue() && value->integerValue() >= 0 && value->integerValue() < option.itemCount;
-}
-
-bool isStyle(const Dictionary& record) {
-  const auto options = storedOptions();
-  return std::all_of(options.begin(), options.end(),
-                     [&record](const IndexOption& option) { return holds(record, option); });
-}
-
-std::string nameOf(const Dictionary* record) {
-  const std::string* name = record != nullptr ? record->string(keyNameName) : nullptr;
-  return name != nullptr ? *name : std::string();
-}
 
 // Names of styles may hold what names of files may not.
 std::string fileNameFor(std::string styleName) {
@@ -60,15 +35,13 @@ std::optional<std::string> StyleExchange::chooseImportFile() {
 }
 
 bool StyleExchange::install(const std::string& path, int index, const std::string& title) {
-  Result<Dictionary> record = readDictionary(with_.files, path);
-  if (!record || !isStyle(*record) || !fitsStyleFile(*record) || !with_.store.getStyleAtIndex(index)) {
+  Result<Dictionary> record = readStyle(with_.files, path);
+  if (!record || !with_.store.getStyleAtIndex(index)) {
     with_.alerts.runAlertWithText(with_.texts.localized("ImportPlistErrorHeader"),
                                   with_.texts.localized("ImportPlistErrorMessage"));
     return false;
   }
-  record->set(keyNameName, title);
-  record->set(keyNameID, index);
-  with_.store.setStyle(index, std::move(*record));
+  replaceStyle(with_.store, index, std::move(*record), title);
   return true;
 }
 
@@ -81,7 +54,8 @@ void StyleExchange::exportStyle2() {
   std::vector<PopUpButton::Item> items;
   if (const Array* styles = with_.store.getAllStyle()) {
     for (const PropertyList& style : *styles) {
-      items.push_back({nameOf(style.dictionary()), static_cast<int>(items.size())});
+      const Dictionary* record = style.dictionary();
+      items.push_back({record != nullptr ? styleName(*record) : std::string(), static_cast<int>(items.size())});
     }
   }
   with_.outlets.exportStylePopup.setItems(std::move(items));
@@ -100,18 +74,18 @@ void StyleExchange::closeExportWindow() { with_.windows.stopModal(); }
 void StyleExchange::askWhereToExport(int index, Window& host) {
   const std::optional<Dictionary> record = with_.store.getStyleAtIndex(index);
   if (!record) return tellThatNothingWasExported();
-  with_.panels.beginSavePanel(
-      host,
-      {.title = "", .requiredType = extension, .folder = with_.locations.home(), .name = fileNameFor(nameOf(&*record))},
-      [this](int returnCode, const std::string& path) { didEndSaveSheet(returnCode, path); });
+  with_.panels.beginSavePanel(host,
+                              {.title = "",
+                               .requiredType = extension,
+                               .folder = with_.locations.home(),
+                               .name = fileNameFor(styleName(*record))},
+                              [this](int returnCode, const std::string& path) { didEndSaveSheet(returnCode, path); });
 }
 
 void StyleExchange::didEndSaveSheet(int returnCode, const std::string& path) {
   if (returnCode != 1) return;
-  const std::optional<Dictionary> record = with_.store.getStyleAtIndex(with_.stylePopup.indexOfSelectedItem());
-  if (!record || !with_.files.write(with_.locations.picked(path), writePropertyList(*record))) {
-    tellThatNothingWasExported();
-  }
+  const int index = with_.stylePopup.indexOfSelectedItem();
+  if (!writeStyleFile(with_.store, index, with_.files, with_.locations.picked(path))) tellThatNothingWasExported();
 }
 
 void StyleExchange::tellThatNothingWasExported() {

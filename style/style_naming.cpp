@@ -8,19 +8,10 @@
 #include "platform/text/text_rules.h"
 #include "style/pane_alerts.h"
 #include "style/process_flags.h"
-#include "style/style_keys.h"
+#include "style/style_edits.h"
 #include "style/style_store.h"
 
 namespace tarvo {
-
-namespace {
-
-std::string nameOf(const Dictionary& record) {
-  const std::string* name = record.string(keyNameName);
-  return name != nullptr ? *name : std::string();
-}
-
-}  // namespace
 
 StyleNaming::StyleNaming(const Collaborators& with, std::string styleNamePublic)
     : with_(with), styleNamePublic_(std::move(styleNamePublic)) {}
@@ -36,7 +27,7 @@ void StyleNaming::editStyleName() {
 void StyleNaming::openSheet() {
   const std::optional<Dictionary> record = with_.store.getStyleAtIndex(with_.stylePopup.indexOfSelectedItem());
   if (!record) return with_.alerts.tell("NoStyleToRename");
-  with_.outlets.styleNameField.setStringValue(nameOf(*record));
+  with_.outlets.styleNameField.setStringValue(styleName(*record));
   const bool isUp =
       with_.windows.beginSheet(with_.outlets.styleNameWindow, with_.myWindow, [this](int) { sheetDidEnd(); });
   if (isUp) with_.flags.gMenuControllFlag = true;
@@ -44,15 +35,16 @@ void StyleNaming::openSheet() {
 
 void StyleNaming::snOKButtonAction() {
   const int index = with_.stylePopup.indexOfSelectedItem();
-  std::optional<Dictionary> record = with_.store.getStyleAtIndex(index);
-  if (index == 0 || !record) return with_.windows.endSheet(with_.outlets.styleNameWindow, 0);
-  if (!checkStyleNameEnough()) return with_.alerts.beepAndAlert("NoStyleNameHeader", "NoStyleNameMessage");
-  const std::string name = with_.outlets.styleNameField.stringValue();
-  if (!checkStyleName(with_.store.getAllStyle(), index, name)) {
-    return with_.alerts.beepAndAlert("CantStyleNameNomalHeader", "CantStyleNameNomalMessage");
+  if (index == 0 || !with_.store.getStyleAtIndex(index)) {
+    return with_.windows.endSheet(with_.outlets.styleNameWindow, 0);
   }
-  record->set(keyNameName, name);
-  with_.store.setStyle(index, std::move(*record));
+  checkStyleNameEnough();
+  const std::string name = with_.outlets.styleNameField.stringValue();
+  if (const auto renamed = renameStyle(with_.store, index, name, styleNamePublic_); !renamed) {
+    return renamed.error() == NameProblem::empty
+               ? with_.alerts.beepAndAlert("NoStyleNameHeader", "NoStyleNameMessage")
+               : with_.alerts.beepAndAlert("CantStyleNameNomalHeader", "CantStyleNameNomalMessage");
+  }
   with_.stylePopup.setItemTitle(index, name);
   with_.windows.endSheet(with_.outlets.styleNameWindow, 1);
 }
@@ -66,14 +58,7 @@ bool StyleNaming::checkStyleNameEnough() {
 }
 
 bool StyleNaming::checkStyleName(const Array* styles, int nonTargetIndex, const std::string& newName) const {
-  if (equalIgnoringCase(newName, styleNamePublic_)) return false;
-  if (styles == nullptr) return true;
-  for (std::size_t i = 0; i < styles->size(); ++i) {
-    const Dictionary* record = (*styles)[i].dictionary();
-    if (std::cmp_equal(i, nonTargetIndex)) continue;
-    if (equalIgnoringCase(newName, record != nullptr ? nameOf(*record) : std::string())) return false;
-  }
-  return true;
+  return isNameFree(styles, nonTargetIndex, newName, styleNamePublic_);
 }
 
 void StyleNaming::sheetDidEnd() { with_.flags.gMenuControllFlag = false; }

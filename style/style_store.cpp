@@ -61,7 +61,9 @@ void StyleStore::setStyle(int index, Dictionary record) {
   Array* styles = tarvoStyle_.array(keyNameStyle);
   if (styles == nullptr || !std::in_range<std::size_t>(index) || static_cast<std::size_t>(index) >= styles->size())
     return;
-  (*styles)[static_cast<std::size_t>(index)] = std::move(record);
+  PropertyList& present = (*styles)[static_cast<std::size_t>(index)];
+  if (!writesAll() && present.dictionary() != nullptr && *present.dictionary() == record) return;
+  present = std::move(record);
   file_.recordChanged(static_cast<std::size_t>(index));
   writeTarvoStylePlist();
 }
@@ -71,9 +73,14 @@ void StyleStore::replaceStyles(Array styles) {
   file_.allChanged();
 }
 
-void StyleStore::setSelection(int index) {
-  if (Dictionary* selection = tarvoStyle_.dictionary(keyNameSelection)) selection->set(currentID_, index);
-  writeTarvoStylePlist();
+void StyleStore::choose(const std::vector<std::string>& toolIds, int index) {
+  bool isChanged = false;
+  if (Dictionary* selection = tarvoStyle_.dictionary(keyNameSelection)) {
+    const Dictionary before = *selection;
+    for (const std::string& id : toolIds) selection->set(id, index);
+    isChanged = before != *selection;
+  }
+  if (isChanged || writesAll()) writeTarvoStylePlist();
 }
 
 int StyleStore::selectedStyle() const {
@@ -84,8 +91,12 @@ int StyleStore::selectedStyle() const {
 void StyleStore::writeTarvoStylePlist() {
   const Result<> written = file_.write(tarvoStyle_);
   unsaved_ = written ? std::nullopt : std::optional(written.error());
+  pending_ = pending_ && unsaved_;
   if (didWrite) didWrite();
-  if (awakening_) return;
+  if (!awakening_) registerStyles();
+}
+
+void StyleStore::registerStyles() {
   const std::optional<StyleSet> styles = styleSet();
   registration_.registerStyles(styles ? &*styles : nullptr);
 }

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "style/engine_registration.h"
 #include "style/style_file.h"
@@ -33,19 +34,27 @@ class StyleStore {
   const Array* getAllStyle() const;
   // Nothing for an index outside the array (negative ones included) and for a record that is no dictionary.
   std::optional<Dictionary> getStyleAtIndex(int index) const;
+  // From here on an edit that changes nothing is not written, unless something else is still to be.
+  void writeOnlyChanges() { writesUnchanged_ = false; }
+  // What was read or joined since the last write is not in the file yet.
+  void setPending() { pending_ = true; }
+  bool isPending() const { return pending_; }
   // Replaces the record and writes. An index outside the array changes and writes nothing.
   void setStyle(int index, Dictionary record);
   // Replaces all records without writing.
   void replaceStyles(Array styles);
   const Dictionary* getSelection() const { return tarvoStyle_.dictionary(keyNameSelection); }
   // Remembers the style of the current tool, where there is a "Selection", and writes in any case.
-  void setSelection(int index);
+  void setSelection(int index) { choose({currentID_}, index); }
+  // The same for tools named by their ids.
+  void choose(const std::vector<std::string>& toolIds, int index);
   // The remembered style of the current tool, 0 when there is none. Option edits go to this style.
   int selectedStyle() const;
 
   // Writes the file; then, once awake, registers all styles. A failed write registers all the same: memory is the
   // truth.
   void writeTarvoStylePlist();
+  void registerStyles();  // hands all of them to the engine; nothing where the file holds none
   // Lets the engine and the store agree: an engine without styles gets these, else newer ones of the engine replace
   // them whole, unwritten. True: they were replaced, and have to be shown.
   bool reconcile();
@@ -53,6 +62,8 @@ class StyleStore {
   const std::optional<Failure>& unread() const { return unread_; }
   const std::optional<Failure>& unsaved() const { return unsaved_; }
   bool isSaved() const { return !unsaved_; }
+  // How the last registration ended; nothing before the first that had styles to hand over.
+  const std::optional<Result<>>& registration() const { return registration_.outcome(); }
   std::function<void()> didWrite;  // told after each write, before the engine is
   const std::string& path() const { return file_.path(); }
 
@@ -65,12 +76,13 @@ class StyleStore {
 
  private:
   Result<> readFrom(StyleFile& file);
+  bool writesAll() const { return writesUnchanged_ || pending_; }
   std::optional<StyleSet> styleSet();
   StyleFile file_, seed_;
   EngineRegistration registration_;
   Dictionary tarvoStyle_;
   std::string currentID_;
-  bool awakening_ = true;
+  bool awakening_ = true, pending_ = false, writesUnchanged_ = true;
   std::optional<Failure> unread_, unsaved_;
 };
 

@@ -8,14 +8,15 @@
 #include <vector>
 
 #include "platform/services/result.h"
+#include "platform/services/texts.h"
 
 namespace tarvo {
 
 class Product;
 class RunLoop;
 
-// How a run of the tool ended, as its exit status.
-enum class ExitStatus { done = 0, refused = 1, usage = 2, locked = 3, scriptFailed = 4 };
+// How a run of the tool ended, as its exit status. waiting: done here, but the style service does not have it yet.
+enum class ExitStatus { done = 0, refused = 1, usage = 2, locked = 3, scriptFailed = 4, waiting = 5 };
 
 // What a verb works on. Results go to out, everything else to err.
 struct Console {
@@ -27,11 +28,14 @@ struct Console {
   std::function<bool(const std::string& path)> takeLock;
   // Becomes that program with these words; answers only when it cannot.
   std::function<Failure(const std::string& file, std::vector<std::string> words)> become;
+  // The shipped texts in the language that was asked for, in which failures are told.
+  std::function<Texts()> textsToTell;
+  bool json = false;           // answers are JSON
   bool engineIsWanted = true;  // an engine that cannot be reached is worth a word
 };
 
 // One verb with its words.
-// Duty: call the actions that a click would call, and print. Not: any logic of its own.
+// Duty: call one operation of the core, and print. Not: any logic of its own.
 class Command {
  public:
   virtual ~Command() = default;

@@ -2,84 +2,63 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "console/verbs/command.h"
 #include "dict/dict_controller.h"
+#include "style/direction.h"
 
-// The verbs on a style's technical dictionaries. NAME is a file name, ignoring case.
+// The verbs on a style's technical dictionaries. Dictionaries are named by their files, ignoring case.
 namespace tarvo {
 
-class Hand;
-class Program;
-class VerbProgram;
-struct DictionaryLists;
-
-// One list: a style and a direction.
-struct ListPlace {
-  int style = 0;
+// One list, as the command line names it.
+struct NamedList {
+  std::string style;  // style_name.h
   Direction direction = Direction::englishToJapanese;
 };
 
 // dictionaries N ej|je: what is loaded, in order, then what else could be.
 class DictionariesCommand : public Command {
  public:
-  DictionariesCommand(ListPlace place, bool json) : place_(place), json_(json) {}
+  explicit DictionariesCommand(NamedList list) : list_(std::move(list)) {}
   ExitStatus run(Console& console) override;
 
  private:
-  ListPlace place_;
-  bool json_;
+  NamedList list_;
 };
 
-// What the verbs that edit a list have in common: nothing changes before every name is known to be there.
-class ListEditCommand : public Command {
+// dictionary add N ej|je NAME…
+class AddDictionariesCommand : public Command {
  public:
-  ExitStatus run(Console& console) final;
+  AddDictionariesCommand(NamedList list, Names names) : list_(std::move(list)), names_(std::move(names)) {}
+  ExitStatus run(Console& console) override;
 
- protected:
-  ListEditCommand(ListPlace place, Names names) : place_(place), names_(std::move(names)) {}
-  // Why this cannot be done with these lists; "" when it can.
-  virtual std::string problem(const DictionaryLists& lists) const = 0;
-  // The gestures, in a program that shows the style and the direction. lists: as they are there.
-  virtual void act(VerbProgram& verb, Program& program, Hand& hand, const DictionaryLists& lists) = 0;
-  ListPlace place_;
+ private:
+  NamedList list_;
   Names names_;
-
- private:
-  ExitStatus actOn(Console& console);
 };
 
-// dictionary N ej|je add NAME…: one visit to the picker, which adds what is ticked in its own order.
-class AddDictionariesCommand : public ListEditCommand {
+// dictionary remove N ej|je NAME…
+class RemoveDictionariesCommand : public Command {
  public:
-  AddDictionariesCommand(ListPlace place, Names names) : ListEditCommand(place, std::move(names)) {}
+  RemoveDictionariesCommand(NamedList list, Names names) : list_(std::move(list)), names_(std::move(names)) {}
+  ExitStatus run(Console& console) override;
 
  private:
-  std::string problem(const DictionaryLists& lists) const override;
-  void act(VerbProgram& verb, Program& program, Hand& hand, const DictionaryLists& lists) override;
+  NamedList list_;
+  Names names_;
 };
 
-// dictionary N ej|je remove NAME
-class RemoveDictionaryCommand : public ListEditCommand {
+// dictionary move N ej|je NAME POSITION: positions count from 1.
+class MoveDictionaryCommand : public Command {
  public:
-  RemoveDictionaryCommand(ListPlace place, std::string name) : ListEditCommand(place, {std::move(name)}) {}
+  MoveDictionaryCommand(NamedList list, std::string name, int position)
+      : list_(std::move(list)), name_(std::move(name)), position_(position) {}
+  ExitStatus run(Console& console) override;
 
  private:
-  std::string problem(const DictionaryLists& lists) const override;
-  void act(VerbProgram& verb, Program& program, Hand& hand, const DictionaryLists& lists) override;
-};
-
-// dictionary N ej|je move NAME POSITION: drags it there; positions count from 1.
-class MoveDictionaryCommand : public ListEditCommand {
- public:
-  MoveDictionaryCommand(ListPlace place, std::string name, int position)
-      : ListEditCommand(place, {std::move(name)}), position_(position) {}
-
- private:
-  std::string problem(const DictionaryLists& lists) const override;
-  void act(VerbProgram& verb, Program& program, Hand& hand, const DictionaryLists& lists) override;
+  NamedList list_;
+  std::string name_;
   int position_;
 };
 

@@ -4,6 +4,7 @@
 
 #include "app/product.h"
 #include "app/program.h"
+#include "console/verbs/style_session.h"
 #include "console/verbs/text_table.h"
 #include "console/verbs/verb_program.h"
 #include "platform/plist/json.h"
@@ -60,13 +61,7 @@ ExitStatus EngineStatusCommand::run(Console& console) {
   return ExitStatus::done;
 }
 
-ExitStatus EnginePushCommand::run(Console& console) {
-  return exchange(console, [](Program& program, VerbProgram& verb) {
-    program.styles().changeStyle();
-    const VerbProgram::EngineCalls& calls = verb.engineCalls();
-    if (calls.reached && !calls.handedOver) verb.refuse("there are no styles to hand over");
-  });
-}
+ExitStatus EnginePushCommand::run(Console& console) { return StyleSession(console).push(); }
 
 ExitStatus EnginePullCommand::run(Console& console) {
   return exchange(console, [&console](Program& program, VerbProgram& verb) {

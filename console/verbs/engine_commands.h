@@ -18,7 +18,7 @@ class EngineStatusCommand : public Command {
   bool json_;
 };
 
-// engine push: chooses the shown style again, which writes the style file and registers all styles.
+// engine push: registers all styles.
 class EnginePushCommand : public Command {
  public:
   ExitStatus run(Console& console) override;

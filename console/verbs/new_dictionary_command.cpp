@@ -4,61 +4,64 @@
 
 #include "app/product.h"
 #include "app/program.h"
-#include "console/verbs/verb_program.h"
-#include "platform/services/failure_text.h"
+#include "console/verbs/refusal.h"
+#include "dict/dictionary_names.h"
+#include "dict/user_lists.h"
 #include "platform/services/file_service.h"
-#include "platform/services/notification_names.h"
+#include "platform/services/product_paths.h"
+#include "platform/text/text_rules.h"
 
 namespace tarvo {
 
 namespace {
 
-struct Kind {
-  MenuItem& menu;
-  const DictController& list;
-};
-
-Kind kindOf(Program& program, Direction direction, DictionaryKind kind) {
-  const bool memory = kind == DictionaryKind::memory;
-  NewDictionaryOutlets& sheet = program.interface().newDictionary;
-  UserLists& lists = program.rooms().userLists;
-  if (direction == Direction::englishToJapanese) {
-    return memory ? Kind{sheet.newEJTMAMenu, lists.ejUTMAController} : Kind{sheet.newEJUDMenu, lists.ejUDController};
+const char* keyOf(NewNameProblem problem) {
+  switch (problem) {
+    case NewNameProblem::empty: return "Refusal.EmptyName";
+    case NewNameProblem::forbidden: return "Refusal.ForbiddenName";
+    case NewNameProblem::reserved: return "Refusal.ReservedName";
+    case NewNameProblem::tooLong: return "Refusal.LongName";
+    case NewNameProblem::exists: break;
   }
-  return memory ? Kind{sheet.newJETMAMenu, lists.jeUTMAController} : Kind{sheet.newJEUDMenu, lists.jeUDController};
+  return "Refusal.NameExists";
 }
 
-// Without its template a dictionary counts as made, and there is no file.
-Failure missingTemplate(Product& product, Direction direction) {
-  const std::string path = product.bundle().folder() +
-                           (direction == Direction::englishToJapanese ? "/EJStationery.eud2" : "/JEStationery.jud");
-  return {path, Attempt::copy, Reason::missingResource};
+DictController& listOf(UserLists& lists, DictionaryKind kind, Direction direction) {
+  const bool isEnglish = direction == Direction::englishToJapanese;
+  if (kind == DictionaryKind::memory) return isEnglish ? lists.ejUTMAController : lists.jeUTMAController;
+  return isEnglish ? lists.ejUDController : lists.jeUDController;
+}
+
+std::string templateOf(Direction direction) {
+  return (direction == Direction::englishToJapanese ? "EJStationery." : "JEStationery.") +
+         std::string(extensionOf(DictionaryKind::user, direction));
 }
 
 }  // namespace
 
 ExitStatus NewDictionaryCommand::run(Console& console) {
-  VerbProgram verb(console);
-  return verb.run([&](Program& program, Hand& hand) {
-    NewDictionaryOutlets& sheet = program.interface().newDictionary;
-    const Kind kind = kindOf(program, direction_, kind_);
-    std::string fileName;
-    program.notifications().onPost = [&fileName](const Notification& posted) {
-      if (posted.name == newDicNotification) fileName = posted.object;
-    };
-    hand.choose(kind.menu);
-    hand.type(sheet.NewDicNameField, name_);
-    hand.press(sheet.NewDicOKButton);
-    program.notifications().onPost = nullptr;
-    if (program.windows().hostOf(sheet.NewDicWindow) != nullptr) {  // the name was refused, and told
-      hand.press(sheet.NewDicCancelButton);
-      return;
-    }
-    const std::optional<Failure>& failure = program.rooms().newDictionary.notCreated();
-    if (!failure && !console.product.files().isAbsent(kind.list.getDicPath(fileName))) return;
-    const Failure told = failure ? *failure : missingTemplate(console.product, direction_);
-    verb.refuse("no file was made: " + failureText(told, console.product.texts()));
-  });
+  Product& product = console.product;
+  const std::string lock = product.locations().resolve(lockPath(product.locations()));
+  if (!console.takeLock(lock)) return tell(console, Refusal{lock, "Refusal.Locked", "", ExitStatus::locked});
+  UserLists lists({product.files(), product.texts(), product.bundle(), product.paths()});
+  lists.setUp();
+  const std::string name = trimmed(name_);
+  const DictionaryNames names{product.files(), product.texts(), product.paths()};
+  if (const auto problem = names.problemWith(kind_, direction_, name, forbiddenInNames)) {
+    return tell(console, Refusal{name, keyOf(*problem), ""});
+  }
+  DictController& list = listOf(lists, kind_, direction_);
+  const std::string fileName = fileNameFor(kind_, direction_, name);
+  bool isLoaded = false;
+  const Result<> made = list.createDictionary(fileName, isLoaded);
+  if (!made) return tell(console, made.error());
+  // Without its template a dictionary counts as made, and there is no file.
+  if (product.files().isAbsent(list.getDicPath(fileName))) {
+    const std::string path = product.bundle().folder() + "/" + templateOf(direction_);
+    return tell(console, Failure{path, Attempt::copy, Reason::missingResource});
+  }
+  say(console, {{fileName}, std::nullopt});
+  return ExitStatus::done;
 }
 
 }  // namespace tarvo

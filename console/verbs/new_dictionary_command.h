@@ -9,8 +9,8 @@
 
 namespace tarvo {
 
-// new ej|je user|memory NAME: an empty user dictionary or translation memory, through the sheet of the style pane. The
-// sheet alone decides about the name. A file that was not made is told with the reason, where the window keeps silent.
+// new ej|je user|memory NAME: an empty user dictionary or translation memory, by the rules of the sheet of the style
+// pane. A file that was not made is told with the reason, where the window keeps silent. No style is touched.
 class NewDictionaryCommand : public Command {
  public:
   // name: without extension.

@@ -1,11 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
 #include "console/verbs/style_commands.h"
+
 #include "app/product.h"
+#include "console/verbs/style_name.h"
 #include "console/verbs/style_reading.h"
 #include "console/verbs/text_table.h"
 #include "platform/plist/json.h"
 #include "style/sibling_tools.h"
+#include "style/style_edits.h"
 #include "style/style_keys.h"
 
 // The verbs that only read styles.
@@ -16,8 +19,7 @@ namespace {
 using Rows = std::vector<std::vector<std::string>>;
 
 std::string nameOf(const PropertyList& record) {
-  const std::string* name = record.dictionary() != nullptr ? record.dictionary()->string(keyNameName) : nullptr;
-  return name != nullptr ? *name : "";
+  return record.dictionary() != nullptr ? styleName(*record.dictionary()) : "";
 }
 
 // The ids of the tools whose remembered style this is.
@@ -37,7 +39,7 @@ std::string joined(const std::vector<std::string>& words, const char* between) {
 }
 
 std::string shortForm(const PropertyList& value) {
-  if (value.string() != nullptr) return *value.string();
+  if (value.string() != nullptr) return printable(*value.string());
   const Array* array = value.array();
   if (array == nullptr) return writeJson(jsonFromPropertyList(value));
   std::vector<std::string> elements;
@@ -59,45 +61,47 @@ void addRows(Rows& rows, const Dictionary& dictionary, const std::string& before
 }  // namespace
 
 ExitStatus StylesCommand::run(Console& console) {
-  const std::optional<Dictionary> root = readStyles(console);
-  if (!root) return ExitStatus::refused;
+  const ReadStyles styles = readStyles(console);
+  if (!styles.root) return styles.status;
   const std::string divider = console.product.texts().localized(keyNameSeparator);
   const std::vector<std::string> ids = toolIds(console.product.texts());
   const Array none;
-  const Array* styles = root->array(keyNameStyle);
+  const Array* records = styles.root->array(keyNameStyle);
   Json::List list;
   Rows rows;
   int index = 0;
-  for (const PropertyList& record : styles != nullptr ? *styles : none) {
+  for (const PropertyList& record : records != nullptr ? *records : none) {
     const std::string name = nameOf(record);
     const bool isDivider = name == divider;
-    const std::vector<std::string> tools = toolsAt(*root, index, ids);
-    rows.push_back({std::to_string(index), isDivider ? "(divider)" : name, joined(tools, " ")});
+    const std::vector<std::string> tools = toolsAt(*styles.root, index, ids);
+    rows.push_back({std::to_string(index), isDivider ? "(divider)" : printable(name), joined(tools, " ")});
     list.emplace_back(Json::Object{
         {"index", index}, {"name", name}, {"divider", isDivider}, {"tools", Json::List(tools.begin(), tools.end())}});
     ++index;
   }
-  if (json_) {
+  if (console.json) {
     console.out << writeJson(list) << '\n';
   } else {
     writeTable(console.out, rows);
   }
-  return ExitStatus::done;
+  return styles.status;
 }
 
 ExitStatus StyleShowCommand::run(Console& console) {
-  const std::optional<Dictionary> root = readStyles(console);
-  if (!root) return ExitStatus::refused;
-  const Dictionary* record = findStyle(console, *root, index_);
-  if (record == nullptr) return ExitStatus::usage;
-  if (json_) {
-    console.out << writeJson(jsonFromPropertyList(*record)) << '\n';
-    return ExitStatus::done;
+  if (const std::optional<UsageError> error = wrongStyleWord(style_)) return tell(console, *error);
+  const ReadStyles styles = readStyles(console);
+  if (!styles.root) return styles.status;
+  const auto index = styleNamed(*styles.root, console.product.texts(), style_, true);
+  if (!index) return tell(console, index.error());
+  const Dictionary& record = *(*styles.root->array(keyNameStyle))[static_cast<std::size_t>(*index)].dictionary();
+  if (console.json) {
+    console.out << writeJson(jsonFromPropertyList(record)) << '\n';
+    return styles.status;
   }
   Rows rows;
-  addRows(rows, *record, "");
+  addRows(rows, record, "");
   writeTable(console.out, rows);
-  return ExitStatus::done;
+  return styles.status;
 }
 
 }  // namespace tarvo

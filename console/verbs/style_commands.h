@@ -3,7 +3,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "console/verbs/command.h"
 
@@ -12,34 +11,17 @@ namespace tarvo {
 // styles: index, name, whether it is the divider, the tools that have chosen it.
 class StylesCommand : public Command {
  public:
-  explicit StylesCommand(bool json) : json_(json) {}
   ExitStatus run(Console& console) override;
-
- private:
-  bool json_;
 };
 
-// style show N: the record as the style file holds it.
+// style show N: the record as the style file holds it. style: as the command line names it (style_name.h).
 class StyleShowCommand : public Command {
  public:
-  StyleShowCommand(int index, bool json) : index_(index), json_(json) {}
+  explicit StyleShowCommand(std::string style) : style_(std::move(style)) {}
   ExitStatus run(Console& console) override;
 
  private:
-  int index_;
-  bool json_;
-};
-
-// style set N KEY=VALUE…: each pair through the pop-up that edits the key. Nothing changes before all pairs are known
-// to have one.
-class StyleSetCommand : public Command {
- public:
-  StyleSetCommand(int index, std::vector<std::string> pairs) : index_(index), pairs_(std::move(pairs)) {}
-  ExitStatus run(Console& console) override;
-
- private:
-  int index_;
-  std::vector<std::string> pairs_;
+  std::string style_;
 };
 
 }  // namespace tarvo

@@ -9,13 +9,12 @@
 
 namespace tarvo {
 
-class Product;
-
-// The style file as a start would read it: the user's, else the one that came with the product. Only reads.
-std::optional<Dictionary> readStyles(Product& product);
-// The same, or nothing where the reason has been told and the verb ends with refused.
-std::optional<Dictionary> readStyles(Console& console);
-// The record of style N of that file, or nothing where that has been told and the verb ends with usage.
-const Dictionary* findStyle(Console& console, const Dictionary& styles, int index);
+// The style file as a start would read it, for verbs that only read: the user's, else the one that came with the
+// product. What is wrong has been told.
+struct ReadStyles {
+  std::optional<Dictionary> root;        // nothing: neither can be read
+  ExitStatus status = ExitStatus::done;  // with which the verb ends once it has shown what there is
+};
+ReadStyles readStyles(Console& console);
 
 }  // namespace tarvo

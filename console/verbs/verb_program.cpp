@@ -4,6 +4,7 @@
 
 #include "app/product.h"
 #include "app/program.h"
+#include "console/verbs/refusal.h"
 #include "platform/services/failure_text.h"
 
 namespace tarvo {
@@ -101,10 +102,8 @@ VerbProgram::~VerbProgram() = default;
 
 ExitStatus VerbProgram::run(const std::function<void(Program& program, Hand& hand)>& act) {
   const Locations& locations = console_.product.locations();
-  if (!console_.takeLock(locations.resolve(lockPath(locations)))) {
-    console_.err << "another manager works on these files\n";
-    return ExitStatus::locked;
-  }
+  const std::string lock = locations.resolve(lockPath(locations));
+  if (!console_.takeLock(lock)) return tell(console_, Refusal{lock, "Refusal.Locked", "", ExitStatus::locked});
   return runProgram(act);
 }
 

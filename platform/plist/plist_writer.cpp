@@ -37,6 +37,11 @@ bool isSurrogate(std::string_view text, std::size_t position) {
   return position + 2 < text.size() && byte(0) == 0xED && byte(1) >= 0xA0 && byte(1) < 0xC0 && (byte(2) & 0xC0) == 0x80;
 }
 
+bool isLost(char32_t codePoint) {
+  const bool isControl = codePoint < 0x20 && codePoint != '\t' && codePoint != '\n' && codePoint != '\r';
+  return isControl || codePoint == 0xFFFE || codePoint == 0xFFFF || codePoint >= invalidByte;
+}
+
 // Appends the character at the position, which is not plain, and gives the position behind it.
 std::size_t appendSpecial(std::string& out, std::string_view text, std::size_t position) {
   const std::size_t start = position;
@@ -47,7 +52,7 @@ std::size_t appendSpecial(std::string& out, std::string_view text, std::size_t p
     case '>': out += "&gt;"; break;
     case '\r': out += "&#13;"; break;  // a bare one would be read as a line feed
     default:
-      if (codePoint < 0x20 || codePoint == 0xFFFE || codePoint == 0xFFFF || codePoint >= invalidByte) {
+      if (isLost(codePoint)) {
         out += replacement;
         if (isSurrogate(text, start)) position = start + 3;
       } else {
@@ -154,6 +159,13 @@ void appendEncodedArray(std::string& out, std::span<const std::string> encoded, 
   for (const std::string& item : encoded) out += item;
   indent(out, depth);
   out += "</array>\n";
+}
+
+bool canHoldText(std::string_view text) {
+  for (std::size_t position = 0; position < text.size();) {
+    if (isLost(nextCodePoint(text, position))) return false;
+  }
+  return true;
 }
 
 std::string writePropertyList(const PropertyList& value) {

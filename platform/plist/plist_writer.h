@@ -13,6 +13,8 @@
 namespace tarvo {
 
 std::string writePropertyList(const PropertyList& value);
+// Whether a text comes back as it was: UTF-8 without a character that XML 1.0 cannot hold.
+bool canHoldText(std::string_view text);
 
 // The pieces of such a file, for callers that keep parts of it encoded: plistHead, the root value at depth 0,
 // plistFoot.

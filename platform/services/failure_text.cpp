@@ -54,12 +54,12 @@ constexpr SystemCause systemCauses[] = {{std::errc::permission_denied, "noPermis
                                         {std::errc::illegal_byte_sequence, "badName"},
                                         {std::errc::invalid_argument, "badName"}};
 
-constexpr std::array<const char*, 22> reasons{
+constexpr std::array<const char*, 23> reasons{
     "noPath",        "noRegularFile", "noPropertyList", "noDictionary",    "intoItself",      "wholeProduct",
     "linkInTheWay",  "deadLink",      "nothingNamed",   "noInstallFolder", "missingResource", "emptyResource",
     "nothingChosen", "noService",     "notAsked",       "unreachable",     "unknownHost",     "notTrusted",
-    "refused",       "contended",     "absentThere",    "damaged"};
-static_assert(reasons.size() == static_cast<std::size_t>(Reason::damaged));
+    "refused",       "contended",     "absentThere",    "damaged",         "noStyle"};
+static_assert(reasons.size() == static_cast<std::size_t>(Reason::noStyle));
 
 const char* keyOf(const std::error_code& cause) {
   if (cause.category() == reasonCategory()) return reasons[static_cast<std::size_t>(cause.value()) - 1];

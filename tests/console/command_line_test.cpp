@@ -33,9 +33,8 @@ TEST_F(CommandLineOfTool, jsonMayBeAskedForBeforeTheVerb) {
 TEST_F(CommandLineOfTool, jsonIsRefusedWhereThereIsNone) {
   putStyles("root4.plist");
   const auto before = tree();
-  const ToolResult result = run({"style", "rename", "1", "New", "--json"});
-  EXPECT_EQ(result.err,
-            "tarvoctl: --json: nothing of the kind can stand here; allowed: tarvoctl style rename N NAME\n");
+  const ToolResult result = run({"tool-list", "--json"});
+  EXPECT_EQ(result.err, "tarvoctl: --json: nothing of the kind can stand here; allowed: tarvoctl tool-list [TOOL]\n");
   EXPECT_EQ(result.status, 2);
   EXPECT_EQ(tree(), before);
 }

@@ -73,7 +73,7 @@ TEST(DictionaryLoading, addsWhatIsTickedAtTheEndAndSavesBeforeItCloses) {
     world.tick({2, 0});
     world.takeLog();
     world.loading.dicWindowOK();
-    EXPECT_EQ(world.takeLog(), (Log{"reload style.ejTDTable", "wrote", "hidden picker.myWindow"}));
+    EXPECT_EQ(world.takeLog(), (Log{"wrote", "reload style.ejTDTable", "hidden picker.myWindow"}));
   });
   EXPECT_EQ(world.listOnDisk(keyNameEJ), (Array{"c.TRet", "a.TRet", "d.TRet"}));
   EXPECT_EQ(world.guard.changedKinds, std::vector<int>{2});
@@ -162,8 +162,8 @@ TEST(DictionaryLoading, aVanishedFileIsToldAndTheOthersAreAdded) {
     world.take("gone.TRet");
     world.takeLog();
     world.loading.dicWindowOK();
-    EXPECT_EQ(world.takeLog(), (Log{"beep", "alert notExistsFileAlertHeader / Missing:\n\ngone.TRet",
-                                    "reload style.ejTDTable", "wrote", "hidden picker.myWindow"}));
+    EXPECT_EQ(world.takeLog(), (Log{"beep", "alert notExistsFileAlertHeader / Missing:\n\ngone.TRet", "wrote",
+                                    "reload style.ejTDTable", "hidden picker.myWindow"}));
     EXPECT_EQ(world.panels.alerts.back().buttons, std::vector<std::string>{"AlertClose"});
   });
   EXPECT_EQ(world.listOnDisk(keyNameEJ), (Array{"a.TRet", "z.TRet"}));
@@ -216,7 +216,7 @@ TEST(DictionaryLoading, whenAllHaveVanishedTheListIsSavedAsItIs) {
     world.takeLog();
     world.loading.dicWindowOK();
     EXPECT_EQ(world.takeLog(), (Log{"beep", "alert notExistsFileAlertHeader / notExistsFileAlertContents\n\nx.TRet",
-                                    "reload style.ejTDTable", "wrote", "hidden picker.myWindow"}));
+                                    "wrote", "reload style.ejTDTable", "hidden picker.myWindow"}));
   });
   EXPECT_EQ(world.guard.changedKinds, std::vector<int>{}) << "nothing was added";
 }
@@ -228,7 +228,7 @@ TEST(DictionaryLoading, theOtherWayClosesFirstAndAsksForNoFile) {
     world.take("g1.TRet");
     world.takeLog();
     world.loading.dicWindowOK2();
-    EXPECT_EQ(world.takeLog(), (Log{"reload style.ejTDTable", "hidden picker.myWindow", "wrote"}));
+    EXPECT_EQ(world.takeLog(), (Log{"hidden picker.myWindow", "wrote", "reload style.ejTDTable"}));
   });
   EXPECT_EQ(world.listOnDisk(keyNameEJ), (Array{"x.TRet", "a.TRet"}));
   EXPECT_EQ(world.guard.changedKinds, std::vector<int>{});
@@ -247,7 +247,7 @@ TEST(DictionaryLoading, theOtherWayKeepsTheLimitAndSavesEvenWithNothingTicked) {
   world.withPicker([&] {
     world.takeLog();
     world.loading.dicWindowOK2();
-    EXPECT_EQ(world.takeLog(), (Log{"reload style.ejTDTable", "hidden picker.myWindow", "wrote"}));
+    EXPECT_EQ(world.takeLog(), (Log{"hidden picker.myWindow", "wrote", "reload style.ejTDTable"}));
   });
 }
 
@@ -276,7 +276,7 @@ TEST(DictionaryLoading, aRemovalIsToldToTheGuardAfterTheSave) {
   world.outlets.ejTDTable.selectRows({0});
   world.takeLog();
   world.editing.removeTD(0);
-  EXPECT_EQ(world.takeLog(), (Log{"reload style.ejTDTable", "wrote"}));
+  EXPECT_EQ(world.takeLog(), (Log{"wrote", "reload style.ejTDTable"}));
   EXPECT_EQ(world.guard.changedKinds, std::vector<int>{2});
 }
 

@@ -43,6 +43,13 @@ struct MedicalWorld : StylePaneWorld {
     return names != nullptr ? *names : Array{"(absent)"};
   }
 
+  // As a start does it: whether a list may have changed.
+  bool insertInstalled() {
+    const std::vector<std::string_view> flags = medical.insertInstalled();
+    medical.remember(flags);
+    return !flags.empty();
+  }
+
   MedicalDictionaries medical{files, texts, defaults, store};
   std::string log;
 };
@@ -153,7 +160,7 @@ TEST(InstalledMedicalDictionaries, areInsertedInTheirOrderAndFlaggedAndTheFlagsF
   MedicalWorld world;
   world.openLists({G, CA, X}, {G, CA, X});
   for (const char* key : {"TechECorwell6", "TechJCorwell6", "TechETekado", "TechJTekado"}) world.install(key);
-  EXPECT_TRUE(world.medical.insertInstalled());
+  EXPECT_TRUE(world.insertInstalled());
   EXPECT_EQ(world.log, "Corwell1stE=true Corwell1stJ=true Tekado1stE=true Tekado1stJ=true flush ");
   EXPECT_EQ(world.list("EJ"), (Array{G, CA, "TekE.TRet", "cwl.TRet", X, "cwla.TRet"}));
   EXPECT_EQ(world.list("JE"), (Array{G, CA, "TekJ", "cwl", X, "cwla"})) << "files of that direction have no suffix";
@@ -163,7 +170,7 @@ TEST(InstalledMedicalDictionaries, areInsertedInTheirOrderAndFlaggedAndTheFlagsF
 TEST(InstalledMedicalDictionaries, withNoneInstalledOnlyFlushTheSettings) {
   MedicalWorld world;
   world.openLists({G}, {G});
-  EXPECT_FALSE(world.medical.insertInstalled());
+  EXPECT_FALSE(world.insertInstalled());
   EXPECT_EQ(world.log, "flush ");
   EXPECT_EQ(world.list("EJ"), Array{G});
 }
@@ -178,9 +185,9 @@ class MedicalRows : public testing::TestWithParam<RowCase> {};
 TEST_P(MedicalRows, runOnceWhenTheirDataAppears) {
   MedicalWorld world;
   world.openLists({G}, {G});
-  EXPECT_FALSE(world.medical.insertInstalled());
+  EXPECT_FALSE(world.insertInstalled());
   world.install(GetParam().dataKey);
-  EXPECT_TRUE(world.medical.insertInstalled());
+  EXPECT_TRUE(world.insertInstalled());
   EXPECT_EQ(world.list(GetParam().direction), GetParam().after);
   EXPECT_EQ(world.list(std::string_view(GetParam().direction) == "EJ" ? "JE" : "EJ"), Array{G});
 
@@ -188,7 +195,7 @@ TEST_P(MedicalRows, runOnceWhenTheirDataAppears) {
   ASSERT_NE(anotherRun.find(GetParam().flag), nullptr);
   EXPECT_EQ(*anotherRun.find(GetParam().flag), PropertyList(true));
   world.openLists({G}, {G});
-  EXPECT_FALSE(world.medical.insertInstalled()) << "what the user removed is not put back";
+  EXPECT_FALSE(world.insertInstalled()) << "what the user removed is not put back";
   EXPECT_EQ(world.list(GetParam().direction), Array{G});
 }
 
@@ -197,7 +204,7 @@ TEST_P(MedicalRows, doNotRunWhenTheirFlagIsThereWhateverItSays) {
   world.openLists({G}, {G});
   world.install(GetParam().dataKey);
   world.defaults.set(GetParam().flag, false);
-  EXPECT_FALSE(world.medical.insertInstalled());
+  EXPECT_FALSE(world.insertInstalled());
   EXPECT_EQ(world.list(GetParam().direction), Array{G});
 }
 
@@ -212,7 +219,7 @@ TEST(InstalledMedicalDictionaries, aFlagIsSetAndAWriteDueEvenWhenNoListChanged) 
   MedicalWorld world;
   world.openLists({X}, {});
   world.install("TechETekado");
-  EXPECT_TRUE(world.medical.insertInstalled());
+  EXPECT_TRUE(world.insertInstalled());
   EXPECT_EQ(world.list("EJ"), Array{X});
   EXPECT_NE(world.defaults.find("Tekado1stE"), nullptr);
 }
@@ -226,7 +233,7 @@ TEST(InstalledMedicalDictionaries, aFileWithoutStylesStaysWithoutThem) {
     ASSERT_TRUE(PlistFile(world.files, world.stylePath).write(root));
     ASSERT_TRUE(world.store.readUserStyles());
     world.install("TechETekado");
-    EXPECT_TRUE(world.medical.insertInstalled());
+    EXPECT_TRUE(world.insertInstalled());
     EXPECT_NE(world.defaults.find("Tekado1stE"), nullptr);
     EXPECT_EQ(world.store.root(), root);
   }
@@ -236,7 +243,7 @@ TEST(InstalledMedicalDictionaries, aPathThatIsNotAbsoluteMeansNotInstalled) {
   MedicalWorld world;
   world.openLists({G}, {});
   world.setText("TechETekado", ".");
-  EXPECT_FALSE(world.medical.insertInstalled());
+  EXPECT_FALSE(world.insertInstalled());
 }
 
 // The program was started in some folder; where that is must not matter.
@@ -259,7 +266,7 @@ TEST(InstalledMedicalDictionaries, aPathWithoutATextIsNotLookedForInTheWorkingFo
   }
   world.setText("IgakuSougou", "General");
   world.openLists({G}, {G});
-  EXPECT_FALSE(world.medical.insertInstalled());
+  EXPECT_FALSE(world.insertInstalled());
   EXPECT_EQ(world.log, "flush ");
   EXPECT_EQ(world.list("EJ"), Array{G});
 }

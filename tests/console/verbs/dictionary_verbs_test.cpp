@@ -24,14 +24,18 @@ class DictionaryVerbs : public VerbTest {
     EXPECT_EQ(result.err, "");
     EXPECT_EQ(result.status, 0);
   }
-  void expectUsage(const std::vector<std::string>& words, const std::string& reason) const {
-    const auto before = tree();
+  void expectRefused(const std::vector<std::string>& words, const std::string& name, const std::string& parts) const {
+    const auto before = treeButLock();
     const ToolResult result = run(words);
     EXPECT_EQ(result.out, "");
-    EXPECT_EQ(result.err, reason + "\n");
-    EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(tree(), before) << reason;
+    EXPECT_EQ(result.err, told(name, parts));
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(treeButLock(), before) << parts;
   }
+  static constexpr const char* unknown =
+      "there is no such dictionary; the folder of this direction has none of this name; tarvoctl dictionaries lists "
+      "them";
+  static constexpr const char* notLoaded = "is not in the list; the style does not use it; add it first";
 };
 
 TEST_F(DictionaryVerbs, theLoadedOnesAreListedInOrderThenTheOthers) {
@@ -39,13 +43,16 @@ TEST_F(DictionaryVerbs, theLoadedOnesAreListedInOrderThenTheOthers) {
   EXPECT_EQ(result.out, "1  b.TRet\n2  a.TRet\n-  c.TRet\n-  d.TRet\n");
   EXPECT_EQ(result.err, "");
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(lists(3, "je"), "{\"available\":[\"j1.TRet\",\"j3.TRet\"],\"loaded\":[\"j2.TRet\"]}\n");
-  EXPECT_EQ(lists(1, "ej"), "{\"available\":[\"a.TRet\",\"b.TRet\",\"c.TRet\",\"d.TRet\"],\"loaded\":[]}\n");
+  EXPECT_EQ(lists(3, "je"), "{\"available\":[\"j1.TRet\",\"j3.TRet\"],\"loaded\":[\"j2.TRet\"],\"missing\":[]}\n");
+  EXPECT_EQ(lists(1, "ej"),
+            "{\"available\":[\"a.TRet\",\"b.TRet\",\"c.TRet\",\"d.TRet\"],\"loaded\":[],\"missing\":[]}\n");
 }
 
 TEST_F(DictionaryVerbs, vanishedOnesAreNotListed) {
   std::filesystem::remove(root_.folder() / (technical + std::string("EJ/b.TRet")));
   EXPECT_EQ(run({"dictionaries", "0", "ej"}).out, "1  a.TRet\n2  c.TRet\n-  d.TRet\n");
+  EXPECT_EQ(lists(0, "ej"),
+            "{\"available\":[\"d.TRet\"],\"loaded\":[\"a.TRet\",\"c.TRet\"],\"missing\":[\"b.TRet\"]}\n");
 }
 
 TEST_F(DictionaryVerbs, listingOnlyReads) {
@@ -56,19 +63,17 @@ TEST_F(DictionaryVerbs, listingOnlyReads) {
 }
 
 TEST_F(DictionaryVerbs, listingAStyleThatIsNotThere) {
-  for (const char* index : {"4", "-1"}) {
-    const ToolResult result = run({"dictionaries", "--", index, "ej"});
-    EXPECT_EQ(result.err, std::string("there is no style ") + index + "\n");
-    EXPECT_EQ(result.status, 2);
-  }
+  const ToolResult result = run({"dictionaries", "4", "ej"});
+  EXPECT_EQ(result.err, told("4", noSuchStyle));
+  EXPECT_EQ(result.status, 1);
   std::filesystem::remove(root_.home() + "/" + styleFile);
-  EXPECT_EQ(run({"dictionaries", "0", "ej"}).err, "there is no style file that can be read\n");
   EXPECT_EQ(run({"dictionaries", "0", "ej"}).status, 1);
 }
 
 TEST_F(DictionaryVerbs, addedOnesFollowInTheOrderOfThePicker) {
   expectDone({"dictionary", "3", "ej", "add", "D.TRET", "c.TRet"});
-  EXPECT_EQ(lists(3, "ej"), "{\"available\":[],\"loaded\":[\"b.TRet\",\"a.TRet\",\"c.TRet\",\"d.TRet\"]}\n");
+  EXPECT_EQ(lists(3, "ej"),
+            "{\"available\":[],\"loaded\":[\"b.TRet\",\"a.TRet\",\"c.TRet\",\"d.TRet\"],\"missing\":[]}\n");
   EXPECT_NE(style(3).find("\"TD\":[\"b.TRet\",\"a.TRet\",\"c.TRet\",\"d.TRet\"],\"UD\":[\"u.eud2\"]"),
             std::string::npos);
 }
@@ -76,65 +81,92 @@ TEST_F(DictionaryVerbs, addedOnesFollowInTheOrderOfThePicker) {
 TEST_F(DictionaryVerbs, theChoiceOfTheStyleEndsAsItBegan) {
   expectDone({"dictionary", "3", "je", "add", "j1.TRet"});
   EXPECT_EQ(run({"styles"}).out, "0  NomalStyle  MG\n1  Alpha\n2  (divider)\n3  Beta        QB\n");
-  EXPECT_EQ(lists(0, "je"), "{\"available\":[\"j3.TRet\"],\"loaded\":[\"j1.TRet\",\"j2.TRet\"]}\n");
+  EXPECT_EQ(lists(0, "je"), "{\"available\":[\"j3.TRet\"],\"loaded\":[\"j1.TRet\",\"j2.TRet\"],\"missing\":[]}\n");
 }
 
 TEST_F(DictionaryVerbs, aListTakesEightAndNoMore) {
   for (const char* name : {"EJ/e.TRet", "EJ/f.TRet", "EJ/g.TRet", "EJ/h.TRet", "EJ/i.TRet"}) put(name);
-  const ToolResult refused =
-      runInEnglish({"dictionary", "0", "ej", "add", "d.TRet", "e.TRet", "f.TRet", "g.TRet", "h.TRet", "i.TRet"});
-  const std::string reason =
-      "Too many technical dictionaries: A style can use up to 8 technical dictionaries in each direction. Select "
-      "fewer, "
-      "or remove some from the style first.\n";
-  EXPECT_EQ(refused.err, reason);
-  EXPECT_EQ(refused.status, 1);
+  const std::string parts =
+      "the list would be too long; a style uses up to 8 technical dictionaries in each direction; "
+      "add fewer, or remove some first";
+  expectRefused({"dictionary", "add", "0", "ej", "d.TRet", "e.TRet", "f.TRet", "g.TRet", "h.TRet", "i.TRet"},
+                "NomalStyle", parts);
   EXPECT_NE(lists(0, "ej").find("\"loaded\":[\"a.TRet\",\"b.TRet\",\"c.TRet\"]"), std::string::npos);
-  expectDone({"dictionary", "0", "ej", "add", "d.TRet", "e.TRet", "f.TRet", "g.TRet", "h.TRet"});
-  const ToolResult full = runInEnglish({"dictionary", "0", "ej", "add", "i.TRet"});
-  EXPECT_EQ(full.err, reason);
-  EXPECT_EQ(full.status, 1);
+  expectDone({"dictionary", "add", "0", "ej", "d.TRet", "e.TRet", "f.TRet", "g.TRet", "h.TRet"});
+  expectRefused({"dictionary", "add", "0", "ej", "i.TRet"}, "NomalStyle", parts);
 }
 
 TEST_F(DictionaryVerbs, namesThatCannotBeAddedChangeNothing) {
-  expectUsage({"dictionary", "0", "ej", "add", "d.TRet", "x.TRet"}, "there is no dictionary x.TRet");
-  expectUsage({"dictionary", "0", "ej", "add", "A.tret"}, "A.tret is loaded already");
-  expectUsage({"dictionary", "0", "ej", "add", "j3.TRet"}, "there is no dictionary j3.TRet");
+  expectRefused({"dictionary", "add", "0", "ej", "d.TRet", "x.TRet"}, "x.TRet", unknown);
+  expectRefused({"dictionary", "add", "0", "ej", "j3.TRet"}, "j3.TRet", unknown);
 }
 
-TEST_F(DictionaryVerbs, oneIsRemoved) {
-  expectDone({"dictionary", "0", "ej", "remove", "B.TRET"});
+TEST_F(DictionaryVerbs, aNameThatNoStyleFileCanHoldIsNotListedAndRefused) {
+  for (const std::string name : {"x\x01.TRet", "y\xFF.TRet"}) {
+    put("EJ/" + name);
+    EXPECT_EQ(lists(3, "ej").find(name.substr(0, 1)), std::string::npos);
+    const std::string shown = name[0] == 'x' ? "x\\x01.TRet" : "y\\xFF.TRet";
+    expectRefused({"dictionary", "add", "3", "ej", name}, shown,
+                  "cannot be added; a style file cannot hold every character of its name; rename the file");
+  }
+}
+
+TEST_F(DictionaryVerbs, someAreRemoved) {
+  expectDone({"dictionary", "remove", "0", "ej", "B.TRET"});
   EXPECT_NE(style(0).find("\"TD\":[\"a.TRet\",\"c.TRet\"]"), std::string::npos);
-  expectDone({"dictionary", "3", "je", "remove", "j2.TRet"});
+  expectDone({"dictionary", "remove", "0", "ej", "c.TRet", "a.TRet"});
+  EXPECT_EQ(style(0).find("\"TD\":[\"a"), std::string::npos);
+  expectDone({"dictionary", "remove", "3", "je", "j2.TRet"});
   EXPECT_EQ(style(3).find("j2.TRet"), std::string::npos);
-  expectUsage({"dictionary", "3", "je", "remove", "j2.TRet"}, "j2.TRet is not loaded");
+  EXPECT_EQ(run({"dictionary", "remove", "3", "je", "j2.TRet"}).out, "already\n");
+  expectRefused({"dictionary", "remove", "3", "je", "x.TRet"}, "x.TRet", unknown);
+}
+
+TEST_F(DictionaryVerbs, namesWithoutAFileAreToldWhenAnEditDropsThem) {
+  std::filesystem::remove(root_.folder() / (technical + std::string("EJ/b.TRet")));
+  const ToolResult result = run({"dictionary", "add", "0", "ej", "d.TRet"});
+  EXPECT_EQ(result.err,
+            told("b.TRet", "is not in the list any more; its file is gone; put the file back and add it again"));
+  EXPECT_EQ(result.status, 0);
+  EXPECT_NE(style(0).find("\"TD\":[\"a.TRet\",\"c.TRet\",\"d.TRet\"]"), std::string::npos);
+}
+
+TEST_F(DictionaryVerbs, oneWithoutAFileIsRemovedAndTheOthersStayWhenTheWholeFolderIsAway) {
+  std::filesystem::remove_all(root_.folder() / (technical + std::string("EJ")));
+  expectDone({"dictionary", "remove", "0", "ej", "b.TRet"});
+  EXPECT_NE(style(0).find("\"TD\":[\"a.TRet\",\"c.TRet\"]"), std::string::npos);
 }
 
 TEST_F(DictionaryVerbs, oneIsMovedToAPositionCountedFromOne) {
   const std::pair<const char*, const char*> moves[] = {{"3", "[\"b.TRet\",\"c.TRet\",\"a.TRet\"]"},
                                                        {"1", "[\"a.TRet\",\"b.TRet\",\"c.TRet\"]"},
-                                                       {"2", "[\"b.TRet\",\"a.TRet\",\"c.TRet\"]"},
                                                        {"2", "[\"b.TRet\",\"a.TRet\",\"c.TRet\"]"}};
   for (const auto& [position, list] : moves) {
-    expectDone({"dictionary", "0", "ej", "move", "a.TRet", position});
+    expectDone({"dictionary", "move", "0", "ej", "a.TRet", position});
     EXPECT_NE(style(0).find(std::string("\"TD\":") + list), std::string::npos) << style(0);
   }
   for (const char* position : {"0", "4"}) {
-    expectUsage({"dictionary", "0", "ej", "move", "a.TRet", position},
-                std::string("the list has no position ") + position);
+    expectRefused({"dictionary", "move", "0", "ej", "a.TRet", position}, "NomalStyle",
+                  std::string("the list has no position ") + position +
+                      "; positions count the loaded dictionaries from 1; tarvoctl dictionaries lists them");
   }
-  expectUsage({"dictionary", "0", "ej", "move", "d.TRet", "1"}, "d.TRet is not loaded");
+  expectRefused({"dictionary", "move", "0", "ej", "d.TRet", "1"}, "d.TRet", notLoaded);
+  expectRefused({"dictionary", "move", "0", "ej", "x.TRet", "1"}, "x.TRet", unknown);
+}
+
+TEST_F(DictionaryVerbs, theVerbMayStandBehindTheListToo) {
+  expectDone({"dictionary", "3", "ej", "add", "c.TRet"});
+  expectDone({"dictionary", "Beta", "ej", "move", "c.TRet", "1"});
+  expectDone({"dictionary", "name:Beta", "ej", "remove", "a.TRet"});
+  EXPECT_EQ(run({"dictionaries", "B", "ej"}).out, "1  c.TRet\n2  b.TRet\n-  a.TRet\n-  d.TRet\n");
 }
 
 TEST_F(DictionaryVerbs, stylesThatCannotBeEdited) {
-  expectUsage({"dictionary", "9", "ej", "remove", "a.TRet"}, "there is no style 9");
-  expectUsage({"dictionary", "2", "ej", "add", "a.TRet"}, "style 2 is the divider");
+  expectRefused({"dictionary", "remove", "9", "ej", "a.TRet"}, "9", noSuchStyle);
+  expectRefused({"dictionary", "add", "2", "ej", "a.TRet"}, "2", isDividerTold);
   putStyles("no-je.plist");
-  const auto before = tree();
-  const ToolResult damaged = run({"dictionary", "1", "je", "add", "j1.TRet"});
-  EXPECT_EQ(damaged.err, "style 1 is damaged: it lacks the direction of this list\n");
-  EXPECT_EQ(damaged.status, 1);
-  EXPECT_EQ(tree(), before);
+  expectRefused({"dictionary", "add", "1", "je", "j1.TRet"}, "Alpha",
+                "the style is damaged; it lacks the direction JE; import a style in its place");
 }
 
 TEST_F(DictionaryVerbs, aStyleFileWithoutARememberedChoiceIsEditedAll) {
@@ -149,7 +181,7 @@ TEST_F(DictionaryVerbs, theLockIsNeededToChangeAndNotToList) {
   for (const std::vector<std::string>& words :
        {std::vector<std::string>{"dictionary", "0", "ej", "add", "d.TRet"}, {"new", "ej", "user", "N"}}) {
     const ToolResult result = run(words);
-    EXPECT_EQ(result.err, "another manager works on these files\n");
+    EXPECT_EQ(result.err, lockedLine());
     EXPECT_EQ(result.status, 3);
   }
   EXPECT_EQ(run({"dictionaries", "0", "ej"}).status, 0);
@@ -199,22 +231,27 @@ TEST_F(NewVerb, theFileIsTheTemplatesCopyAndNoStyleNamesIt) {
   EXPECT_EQ(style(0), before);
 }
 
+TEST_F(NewVerb, noStyleIsReadOrWritten) {
+  root_.folder().write(std::string("root/Users/taro/") + styleFile, "broken");
+  expectDone({"new", "ej", "user", "N"});
+  EXPECT_EQ(root_.folder().read(std::string("root/Users/taro/") + styleFile), "broken");
+  EXPECT_FALSE(exists("root/Users/taro/Library/Preferences/Wordhaven/TarvoManager.txt"));
+  EXPECT_FALSE(exists("root/Users/taro/Library/Application Support/Wordhaven/TarvoEngine.plist"));
+}
+
 TEST_F(NewVerb, refusedNamesMakeNoFile) {
   root_.folder().write(std::string(userDic) + "there.eud2", "old");
-  const std::tuple<const char*, const char*, const char*> names[] = {
-      {"user", " ", "No name: Enter a name.\n"},
-      {"memory", "", "The memory has no name: Enter a name.\n"},
-      {"user", "a.b",
-       "The name cannot be used: The name of a user dictionary must not contain any of these characters: . : / \\\n"},
-      {"user", "あいうえおかきくけこさしすせそた",
-       "The name is too long: The name of a user dictionary can have up to 30 half-width or 15 full-width "
-       "characters.\n"},
-      {"user", "there",
-       "\"there.eud2\" already exists: The folder of user dictionaries holds a file of this name. Choose another "
-       "name.\n"}};
+  const std::string longName = "あいうえおかきくけこさしすせそた";
+  const std::tuple<const char*, std::string, const char*> names[] = {
+      {"user", " ", "nothing but white space is in it; write a name"},
+      {"memory", "", "nothing but white space is in it; write a name"},
+      {"user", "a.b", "it holds one of . : / \\; leave these characters out"},
+      {"user", "a\\b", "it holds one of . : / \\; leave these characters out"},
+      {"user", longName, "it has more than 30 half-width or 15 full-width characters; shorten it"},
+      {"user", "there", "a file of this name is there; choose another name"}};
   for (const auto& [kind, name, reason] : names) {
     const ToolResult result = runInEnglish({"new", "ej", kind, name});
-    EXPECT_EQ(result.err, reason);
+    EXPECT_EQ(result.err, told(name == " " ? "" : name, std::string("cannot be the name; ") + reason));
     EXPECT_EQ(result.status, 1);
   }
   EXPECT_EQ(root_.folder().names(userDic), std::vector<std::string>{"there.eud2"});
@@ -232,8 +269,8 @@ TEST_F(NewVerb, aMissingTemplateIsTold) {
     std::filesystem::copy_file(TARVO_SOURCE_DIR "/resources/" + name, root_.folder() / ("resources/" + name));
   }
   const ToolResult result = run({"--resources", root_.folder() / "resources", "new", "je", "user", "N"});
-  EXPECT_EQ(result.err, "no file was made: " + (root_.folder() / "resources/JEStationery.jud") +
-                            ": Failure.copy; Cause.missingResource\n");
+  EXPECT_EQ(result.err, told(root_.folder() / "resources/JEStationery.jud",
+                             "cannot be copied; the product lacks it; install TarvoEiwa again"));
   EXPECT_EQ(result.status, 1);
   EXPECT_TRUE(root_.folder().names(userDic).empty());
 }
@@ -241,8 +278,8 @@ TEST_F(NewVerb, aMissingTemplateIsTold) {
 TEST_F(NewVerb, aPlaceThatTakesNoFileIsTold) {
   root_.folder().write(std::string(userDic).substr(0, std::string(userDic).size() - 1), "a file");
   const ToolResult result = run({"new", "ej", "user", "N"});
-  EXPECT_EQ(result.err, "no file was made: " + root_.home() +
-                            "/Library/Application Support/Wordhaven/UserDic/N.eud2: Failure.create; Cause.noFolder\n");
+  EXPECT_EQ(result.err, told(root_.home() + "/Library/Application Support/Wordhaven/UserDic/N.eud2",
+                             "cannot be made; what should be a folder is none"));
   EXPECT_EQ(result.status, 1);
 }
 

@@ -102,25 +102,30 @@ TEST_F(EngineVerbs, stylesThatCannotBeReadAreNotSaidToBeTaken) {
 
 TEST_F(EngineVerbs, aServiceThatIsNotThereIsAFailureOfTheExchange) {
   for (const char* verb : {"push", "pull"}) {
-    const std::string told =
-        "the style service cannot be reached; it keeps its former styles (Failure.reach; Cause.noService)\n";
-    expectSaid({"--engine", "none", "engine", verb}, "", told, 1);
-    expectSaid({"--paths", "fixtures/paths/no-engine-paths.plist", "engine", verb}, "", told, 1);
+    const std::string line =
+        std::string(verb) == "push"
+            ? told("none",
+                   "the styles were not handed over; there is no style service; tarvoctl engine status tells more")
+            : "the style service cannot be reached; it keeps its former styles (Failure.reach; Cause.noService)\n";
+    expectSaid({"--engine", "none", "engine", verb}, "", line, 1);
+    expectSaid({"--paths", "fixtures/paths/no-engine-paths.plist", "engine", verb}, "", line, 1);
   }
 }
 
 TEST_F(EngineVerbs, aServiceThatCannotStoreIsAFailure) {
   fs::create_directories(fs::path(root_.home()) / engineFile / "in its place");
   expectSaid({"engine", "push"}, "",
-             "the style service did not store the styles (" + root_.home() + "/" + engineFile +
-                 ": Failure.write; Cause.isFolder)\n",
-             1);
+             told("local", "the styles were not handed over; it is a folder; tarvoctl engine status tells more"), 1);
 }
 
 TEST_F(EngineVerbs, aFileWithoutStylesIsNotHandedOver) {
   root_.folder().write(std::string("root/Users/taro/") + styleFile,
                        "<plist><dict><key>Selection</key><dict/></dict></plist>");
-  expectSaid({"engine", "push"}, "", "there are no styles to hand over\n", 1);
+  expectSaid({"engine", "push"}, "",
+             told(stylePath(),
+                  "nothing was handed over; the style file holds no styles; install the product's "
+                  "styles"),
+             1);
   EXPECT_FALSE(fs::exists(fs::path(root_.home()) / engineFile));
 }
 

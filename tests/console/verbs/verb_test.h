@@ -39,6 +39,22 @@ class VerbTest : public testing::Test {
   // The same with the texts that people read.
   ToolResult runInEnglish(const std::vector<std::string>& words) const { return run(words, {}); }
   std::string style(int index) const { return run({"style", "show", std::to_string(index), "--json"}).out; }
+  // A failure as it is told: name, what, cause and cure.
+  static std::string told(const std::string& name, const std::string& parts) {
+    return "tarvoctl: " + name + ": " + parts + "\n";
+  }
+  std::string stylePath() const { return root_.home() + "/" + styleFile; }
+  std::string lockedLine() const {
+    return told(
+        root_.home() + "/Library/Preferences/com.wordhaven.TarvoManager.lock",
+        "nothing was done; another manager works on these files; close it, or wait until its command has ended");
+  }
+  // The same without the lock, which a verb that then refuses has made.
+  std::map<std::string, std::string> treeButLock() const {
+    auto all = tree();
+    all.erase("root/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.lock");
+    return all;
+  }
   // Every path below the root, with the bytes of the files.
   std::map<std::string, std::string> tree() const {
     std::map<std::string, std::string> all;
@@ -50,5 +66,10 @@ class VerbTest : public testing::Test {
   }
   const ScenarioRoot root_{"plain"};
 };
+
+inline constexpr const char* noSuchStyle =
+    "there is no such style; none has this index or name; tarvoctl styles lists them";
+inline constexpr const char* isDividerTold =
+    "is the line between styles; it has no options and no dictionaries; name a style";
 
 }  // namespace tarvo::test

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "console/verbs/refusal.h"
+
+#include <array>
+#include <cstdio>
+
+#include "platform/plist/json.h"
+#include "platform/services/failure_text.h"
+#include "platform/text/utf8.h"
+
+namespace tarvo {
+
+namespace {
+
+// "what; cause; cure" in its parts.
+std::array<std::string, 3> partsOf(const std::string& text) {
+  std::array<std::string, 3> parts;
+  std::size_t start = 0;
+  for (std::size_t i = 0; i < parts.size() && start <= text.size(); ++i) {
+    const std::size_t end = i + 1 < parts.size() ? std::min(text.find("; ", start), text.size()) : text.size();
+    parts[i] = text.substr(start, end - start);
+    start = end + 2;
+  }
+  return parts;
+}
+
+// A problem in the four parts of its message.
+struct Told {
+  std::string name, parts;
+};
+
+struct Telling {
+  const Texts& texts;
+  Told operator()(const Refusal& refusal) const {
+    return {refusal.name, filledIn(texts.localized(refusal.key), printable(refusal.detail))};
+  }
+  Told operator()(const UsageError& error) const {
+    const std::string line = told(error, "", texts).substr(2);
+    const std::size_t name = line.find(": ");
+    return {line.substr(0, name), line.substr(name + 2)};
+  }
+  Told operator()(const Failure& failure) const { return {failure.path, failureCauseText(failure, texts)}; }
+};
+
+ExitStatus statusOf(const Problem& problem) {
+  if (const auto* refusal = std::get_if<Refusal>(&problem)) return refusal->status;
+  return std::holds_alternative<UsageError>(problem) ? ExitStatus::usage : ExitStatus::refused;
+}
+
+void print(Console& console, const Told& told) {
+  console.err << "tarvoctl: " << printable(told.name) << ": " << told.parts << '\n';
+}
+
+}  // namespace
+
+ExitStatus tell(Console& console, const Problem& problem) {
+  const Texts texts = console.textsToTell();
+  const Told told = std::visit(Telling{texts}, problem);
+  print(console, told);
+  if (console.json) {
+    const std::array<std::string, 3> parts = partsOf(told.parts);
+    const Json::Object error{{"name", told.name}, {"what", parts[0]}, {"cause", parts[1]}, {"cure", parts[2]}};
+    console.out << writeJson(Json::Object{{"done", false}, {"error", error}}) << '\n';
+  }
+  return statusOf(problem);
+}
+
+void note(Console& console, const Refusal& told) {
+  const Texts texts = console.textsToTell();
+  print(console, Telling{texts}(told));
+}
+
+std::string causeOf(const Failure& failure, const Texts& texts) { return partsOf(failureCauseText(failure, texts))[1]; }
+
+void say(Console& console, const Outcome& outcome) {
+  const bool isSo = outcome.changed.empty();
+  if (!console.json) {
+    if (isSo) console.out << "already\n";
+    return;
+  }
+  Json::Object answer{
+      {"done", true}, {"changed", Json::List(outcome.changed.begin(), outcome.changed.end())}, {"registered", nullptr}};
+  if (outcome.registered) answer["registered"] = *outcome.registered;
+  if (isSo) answer.emplace("already", true);
+  console.out << writeJson(answer) << '\n';
+}
+
+std::string printable(const std::string& name) {
+  std::string text;
+  for (std::size_t at = 0; at < name.size();) {
+    const std::size_t start = at;
+    const char32_t codePoint = nextCodePoint(name, at);
+    if (codePoint >= 0x20 && codePoint != 0x7F && codePoint < invalidByte) {
+      text.append(name, start, at - start);
+      continue;
+    }
+    std::array<char, 8> escaped{};
+    const int length =
+        std::snprintf(escaped.data(), escaped.size(), "\\x%02X", static_cast<unsigned char>(name[start]));
+    text.append(escaped.data(), static_cast<std::size_t>(length));
+  }
+  return text;
+}
+
+}  // namespace tarvo

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "app/usage_error.h"
+#include "console/verbs/command.h"
+#include "platform/services/result.h"
+
+// Why a verb did not do what it was asked to.
+namespace tarvo {
+
+// Well-formed words that cannot be followed.
+struct Refusal {
+  std::string name;    // of what it is about: a style, a dictionary, an application; or a real path
+  std::string key;     // of the text "what; cause; cure"
+  std::string detail;  // fills the text's gap
+  ExitStatus status = ExitStatus::refused;
+};
+
+using Problem = std::variant<Refusal, UsageError, Failure>;
+
+// One line on the error stream, "tarvoctl: NAME: what; cause; cure"; where answers are JSON, the same parts on the
+// other stream too. The status with which the verb ends.
+ExitStatus tell(Console& console, const Problem& failure);
+// The same line for something that is no failure.
+void note(Console& console, const Refusal& told);
+
+// What a verb that changes something says at its end.
+struct Outcome {
+  std::vector<std::string> changed;  // names of what changed; empty: it was so already
+  std::optional<bool> registered;    // whether the style service has it; nothing where it was not asked
+};
+void say(Console& console, const Outcome& outcome);
+
+// Why it failed, without what and where.
+std::string causeOf(const Failure& failure, const Texts& texts);
+
+// A name as people can read it: control characters and bytes that are no UTF-8 are escaped.
+std::string printable(const std::string& name);
+
+}  // namespace tarvo

@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "console/verbs/style_edit_commands.h"
+
+#include <algorithm>
+
+#include "app/product.h"
+#include "app/product_defaults.h"
+#include "console/verbs/option_words.h"
+#include "console/verbs/style_session.h"
+#include "platform/services/locations.h"
+#include "style/sibling_tools.h"
+#include "style/style_edits.h"
+
+namespace tarvo {
+
+namespace {
+
+// The halves that a record must have for these values: a missing one is not made, and nobody would notice.
+std::optional<Problem> lackedHalf(const Dictionary& record, const std::vector<OptionValue>& values) {
+  for (const OptionValue& value : values) {
+    if (record.dictionary(halfKey(value.direction)) != nullptr) continue;
+    return Refusal{styleName(record), "Refusal.NoHalf", std::string(halfKey(value.direction))};
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+ExitStatus StyleSetCommand::run(Console& console) {
+  const std::expected<std::vector<OptionValue>, UsageError> values = readOptionWords(pairs_);
+  if (!values) return tell(console, values.error());
+  StyleSession session(console);
+  return session.edit(style_, [&](int index) -> std::optional<Problem> {
+    if (auto failure = lackedHalf(*session.store().getStyleAtIndex(index), *values)) return failure;
+    setOptions(session.store(), console.product.texts(), index, *values);
+    return std::nullopt;
+  });
+}
+
+ExitStatus StyleUseCommand::run(Console& console) {
+  const std::vector<std::string> ids = toolIds(console.product.texts());
+  for (const std::string& tool : tools_) {
+    if (std::ranges::find(ids, tool) != ids.end()) continue;
+    return tell(console, UsageError{UsageError::Kind::wrongValue, tool, ids, "", "TOOL"});
+  }
+  StyleSession session(console);
+  return session.edit(style_, [&](int index) -> std::optional<Problem> {
+    StyleStore& store = session.store();
+    if (store.getSelection() == nullptr) {
+      return Refusal{console.product.locations().resolve(store.path()), "Refusal.NoSelection", ""};
+    }
+    store.choose(tools_, index);
+    return std::nullopt;
+  });
+}
+
+ExitStatus StyleRenameCommand::run(Console& console) {
+  StyleSession session(console);
+  return session.edit(style_, [&](int index) -> std::optional<Problem> {
+    const std::string standardName = console.product.texts().localized(nomalStyle);
+    if (index == 0) return Refusal{styleName(*session.store().getStyleAtIndex(0)), "Refusal.StandardStyle", ""};
+    const auto renamed = renameStyle(session.store(), index, name_, standardName);
+    if (renamed) return std::nullopt;
+    return Refusal{name_, renamed.error() == NameProblem::empty ? "Refusal.EmptyName" : "Refusal.TakenName", ""};
+  });
+}
+
+ExitStatus StyleImportCommand::run(Console& console) {
+  StyleSession session(console);
+  const std::string file = absolutePath(file_);
+  return session.edit(style_, [&](int index) -> std::optional<Problem> {
+    Result<Dictionary> record = readStyle(console.product.files(), console.product.locations().picked(file));
+    if (!record) return Failure{file, record.error().attempt, record.error().cause};
+    const std::string name = styleName(*session.store().getStyleAtIndex(index));
+    replaceStyle(session.store(), index, std::move(*record), name);
+    return std::nullopt;
+  });
+}
+
+ExitStatus StyleExportCommand::run(Console& console) {
+  StyleSession session(console);
+  const std::string file = absolutePath(file_);
+  return session.read(style_, [&](int index) -> std::optional<Problem> {
+    const std::string path = console.product.locations().picked(file);
+    const Result<> written = writeStyleFile(session.store(), index, console.product.files(), path);
+    return written ? std::nullopt : std::optional<Problem>(written.error());
+  });
+}
+
+}  // namespace tarvo

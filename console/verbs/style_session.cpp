@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "console/verbs/style_session.h"
+
+#include "app/product.h"
+#include "app/program.h"
+#include "app/style_loading.h"
+#include "console/verbs/style_name.h"
+#include "platform/services/engine.h"
+#include "style/style_edits.h"
+
+namespace tarvo {
+
+namespace {
+
+DictController::Services dictionaryServices(Product& product) {
+  return {product.files(), product.texts(), product.bundle(), product.paths()};
+}
+
+}  // namespace
+
+StyleSession::StyleSession(Console& console)
+    : console_(console),
+      engine_(console.product.makeEngine(console.product.files())),
+      defaults_(console.product.files(), userDefaultsPath(console.product.locations())),
+      store_(console.product.files(), *engine_, defaults_, console.product.locations().inHome(std::string(gStylePath)),
+             std::string(gAppSupportStylePlist)),
+      medical_(console.product.files(), console.product.texts(), defaults_, store_),
+      lists_(store_, dictionaryServices(console.product)) {
+  store_.writeOnlyChanges();
+  store_.didWrite = [this] { written_ = true; };
+}
+
+StyleSession::~StyleSession() = default;
+
+std::string StyleSession::pathOfStyles() const { return console_.product.locations().resolve(store_.path()); }
+
+std::optional<Problem> StyleSession::open() {
+  Product& product = console_.product;
+  const std::string lock = product.locations().resolve(lockPath(product.locations()));
+  if (!console_.takeLock(lock)) return Refusal{lock, "Refusal.Locked", "", ExitStatus::locked};
+  const LoadedStyles loaded = loadStyles(store_, medical_, product.files(), product.paths());
+  if (store_.unread()) {
+    return Refusal{pathOfStyles(), "Refusal.UnreadableStyles", causeOf(*store_.unread(), console_.textsToTell())};
+  }
+  if (loaded.failure) return *loaded.failure;
+  inserted_ = loaded.inserted;
+  return std::nullopt;
+}
+
+std::expected<int, Problem> StyleSession::openOn(const std::string& style) {
+  if (const std::optional<UsageError> error = wrongStyleWord(style)) return std::unexpected(*error);
+  if (std::optional<Problem> failure = open()) return std::unexpected(std::move(*failure));
+  return styleNamed(store_.root(), console_.product.texts(), style, false);
+}
+
+ExitStatus StyleSession::edit(const std::string& style, const Operation& operation) {
+  const std::expected<int, Problem> index = openOn(style);
+  if (!index) return tell(console_, index.error());
+  const Dictionary before = *store_.getStyleAtIndex(*index);
+  const Dictionary* selection = store_.getSelection();
+  const Dictionary chosen = selection != nullptr ? *selection : Dictionary{};
+  if (const std::optional<Problem> failure = operation(*index)) return tell(console_, *failure);
+  const std::optional<Dictionary> after = store_.getStyleAtIndex(*index);
+  const bool isChanged = after != before || (selection != nullptr && chosen != *store_.getSelection());
+  return finish(isChanged ? std::vector{styleName(before)} : std::vector<std::string>());
+}
+
+ExitStatus StyleSession::read(const std::string& style, const Operation& operation) {
+  const std::expected<int, Problem> index = openOn(style);
+  if (!index) return tell(console_, index.error());
+  if (const std::optional<Problem> failure = operation(*index)) return tell(console_, *failure);
+  say(console_, {{styleName(*store_.getStyleAtIndex(*index))}, std::nullopt});
+  return ExitStatus::done;
+}
+
+ExitStatus StyleSession::finish(std::vector<std::string> changed) {
+  if (store_.isPending() && !written_) store_.writeTarvoStylePlist();
+  if (store_.unsaved()) return tell(console_, *store_.unsaved());
+  if (!inserted_.empty()) medical_.remember(inserted_);
+  const std::optional<bool> registered = written_ ? registerStyles() : std::nullopt;
+  say(console_, {std::move(changed), registered});
+  return registered == false && engine_->form() != "local" ? ExitStatus::waiting : ExitStatus::done;
+}
+
+std::optional<bool> StyleSession::registerStyles() {
+  if (engine_->form() == "none") return std::nullopt;
+  store_.registerStyles();
+  const std::optional<Result<>>& outcome = store_.registration();
+  if (!outcome) return std::nullopt;
+  if (!*outcome) note(console_, {service(), "Refusal.Waiting", causeOf(outcome->error(), console_.textsToTell())});
+  return outcome->has_value();
+}
+
+std::string StyleSession::service() const {
+  const std::string url = console_.product.engineURL();
+  return url.empty() ? engine_->form() : url;
+}
+
+ExitStatus StyleSession::push() {
+  if (const std::optional<Problem> failure = open()) return tell(console_, *failure);
+  if (store_.isPending()) store_.writeTarvoStylePlist();
+  if (store_.unsaved()) return tell(console_, *store_.unsaved());
+  if (!inserted_.empty()) medical_.remember(inserted_);
+  if (store_.root().array(keyNameStyle) == nullptr) {
+    return tell(console_, Refusal{pathOfStyles(), "Refusal.NothingToPush", ""});
+  }
+  store_.registerStyles();
+  const Result<>& outcome = *store_.registration();
+  if (!outcome) {
+    return tell(console_, Refusal{service(), "Refusal.NotPushed", causeOf(outcome.error(), console_.textsToTell())});
+  }
+  const std::size_t count = store_.root().array(keyNameStyle)->size();
+  if (console_.json) {
+    say(console_, {{service()}, true});
+  } else {
+    console_.out << "handed over " << count << " styles\n";
+  }
+  return ExitStatus::done;
+}
+
+}  // namespace tarvo

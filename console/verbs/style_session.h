@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "console/verbs/refusal.h"
+#include "dict/medical_dictionaries.h"
+#include "dict/named_lists.h"
+#include "platform/services/user_defaults.h"
+#include "style/style_store.h"
+
+namespace tarvo {
+
+class Engine;
+
+// What a verb that changes styles starts: the lock, the styles as a load finds them, one operation on the style that
+// was named, one write of the style file, one registration with the style service. What the load joined travels in that
+// write. Neither the choice of a style nor that of a tool is touched, no window program runs.
+// Duty: this frame, and telling how it went. Not: the operation.
+class StyleSession {
+ public:
+  explicit StyleSession(Console& console);
+  ~StyleSession();
+  StyleSession(const StyleSession&) = delete;
+  StyleSession& operator=(const StyleSession&) = delete;
+
+  StyleStore& store() { return store_; }
+  NamedLists& lists() { return lists_; }
+
+  // The operation: why it cannot be done, and then nothing is written; or nothing.
+  using Operation = std::function<std::optional<Problem>(int index)>;
+  // On the style that the word names (style_name.h).
+  ExitStatus edit(const std::string& style, const Operation& operation);
+  // The same for a verb that writes no styles.
+  ExitStatus read(const std::string& style, const Operation& operation);
+  // Hands all styles to the service, whatever changed.
+  ExitStatus push();
+
+ private:
+  std::optional<Problem> open();
+  std::expected<int, Problem> openOn(const std::string& style);
+  ExitStatus finish(std::vector<std::string> changed);
+  std::optional<bool> registerStyles();
+  std::string pathOfStyles() const;
+  std::string service() const;  // its address, or its form
+  Console& console_;
+  std::unique_ptr<Engine> engine_;
+  UserDefaults defaults_;
+  StyleStore store_;
+  MedicalDictionaries medical_;
+  NamedLists lists_;
+  std::vector<std::string_view> inserted_;
+  bool written_ = false;
+};
+
+}  // namespace tarvo

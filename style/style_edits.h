@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <expected>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/plist/property_list.h"
+#include "platform/services/result.h"
+#include "style/direction.h"
+
+// What an edit does to a style, below the controls and verbs that ask for it. A style is named by its index in the
+// style file, whichever is shown or chosen.
+// Duty: one edit, one write, one registration (StyleStore). Not: asking, telling, showing. An index without a record
+// changes and writes nothing.
+namespace tarvo {
+
+class FileService;
+class StyleStore;
+class Texts;
+
+struct OptionValue {
+  Direction direction;
+  std::string_view key;
+  PropertyList value;
+};
+
+// A half that the record lacks gets no value, and the divider none at all; the record is written back as it is.
+void setOptions(StyleStore& store, const Texts& texts, int index, const std::vector<OptionValue>& values);
+
+enum class NameProblem { empty, taken };
+// Whether no other style and no standard style has that name, letter case aside. styles: null for none. standardName:
+// the display name of the standard style.
+bool isNameFree(const Array* styles, int index, const std::string& name, const std::string& standardName);
+// Gives the style that name without white space at its ends. Nothing is written when the name is refused.
+std::expected<void, NameProblem> renameStyle(StyleStore& store, int index, const std::string& name,
+                                             const std::string& standardName);
+
+// A style as a file of its own: its root is one record. Fails also for one that lacks an option, has one out of range,
+// or is more than a style file could hold. path: in the core's spelling.
+Result<Dictionary> readStyle(const FileService& files, const std::string& path);
+// Puts the record in the style's place, under that name and with the index as its ID.
+void replaceStyle(StyleStore& store, int index, Dictionary record, const std::string& name);
+// Fails also where there is no such style. After a failure the file is as it was.
+Result<> writeStyleFile(const StyleStore& store, int index, FileService& files, const std::string& path);
+
+// The name of a record; "" for one without.
+std::string styleName(const Dictionary& record);
+
+}  // namespace tarvo
