@@ -19,10 +19,11 @@ DictionaryNameChecks::DictionaryNameChecks(TextField& nameField, NewDictionaryRe
 
 const std::string& DictionaryNameChecks::name() const { return nameField_.stringValue(); }
 
-void DictionaryNameChecks::alert(const std::string& header, std::string_view messageKey) {
+void DictionaryNameChecks::alert(const std::string& header, std::string_view messageKey, std::string_view value) {
   const Texts& texts = services_.texts;
   services_.panels.runAlertPanel({.title = header,
-                                  .message = texts.localizedOrEmpty(messageKey),
+                                  .message = value.empty() ? texts.localizedOrEmpty(messageKey)
+                                                           : filledIn(texts.localizedOrEmpty(messageKey), value),
                                   .buttons = {texts.localizedOrEmpty("AlertClose")}});
 }
 
@@ -54,9 +55,11 @@ bool DictionaryNameChecks::checkInvalidName() {
     return true;
   }
   if (request_.kind == DictionaryKind::user || request_.kind == DictionaryKind::memory) {
+    std::string forbidden;
+    for (const std::string_view text : rules_.forbidden) forbidden.append(forbidden.empty() ? "" : " ").append(text);
     services_.panels.beep();
     alert(services_.texts.localizedOrEmpty("invalidNameHeader"),
-          request_.kind == DictionaryKind::user ? "invalidNameUDMessage" : "invalidNameUTMAMessage");
+          request_.kind == DictionaryKind::user ? "invalidNameUDMessage" : "invalidNameUTMAMessage", forbidden);
   }
   return false;
 }

@@ -46,7 +46,8 @@ class DictionaryNameChecks {
  private:
   const std::string& name() const;
   DictionaryNames names() const { return {services_.files, services_.texts, services_.paths}; }
-  void alert(const std::string& header, std::string_view messageKey);
+  // value: fills the message's gap.
+  void alert(const std::string& header, std::string_view messageKey, std::string_view value = "");
   TextField& nameField_;
   NewDictionaryRequest& request_;
   Rules rules_;

@@ -129,6 +129,16 @@ TEST(DictionaryNameChecks, thePickerAllowsABackslashAndKeepsSilentAboutLongNames
   EXPECT_EQ(world.log, Log{});
 }
 
+TEST(DictionaryNameChecks, theAlertNamesTheCharactersThatItsOwnerForbids) {
+  for (const auto& [rules, characters] :
+       {std::pair{paneRules, std::string(". : / \\")}, std::pair{pickerRules, std::string(". : /")}}) {
+    Checks world(rules);
+    world.setText("invalidNameUDMessage", "none of %@");
+    EXPECT_FALSE(world.passes(user, EJ, "A.B"));
+    EXPECT_EQ(world.log, (Log{"beep", "alert «invalidNameHeader» / none of " + characters}));
+  }
+}
+
 TEST(DictionaryNameChecks, oddKindsAreRefusedInSilenceBySheetsOfBothOwners) {
   for (const DictionaryNameChecks::Rules& rules : {paneRules, pickerRules}) {
     Checks world(rules);
