@@ -8,8 +8,9 @@
 #include "app/product.h"
 #include "app/program.h"
 #include "console/verbs/doctor_addins.h"
+#include "console/verbs/refusal.h"
 #include "console/verbs/text_table.h"
-#include "dict/dict_controller.h"
+#include "dict/named_lists.h"
 #include "platform/plist/json.h"
 #include "platform/services/engine.h"
 #include "platform/services/failure_text.h"
@@ -112,6 +113,11 @@ class Examination {
     list.initializeDictController(kind, path, direction);
     const std::size_t usable = list.getAllDictionary().size();
     add(path, what, "ok", std::to_string(usable) + " usable, " + std::to_string(names->size()) + " entries");
+    if (kind != DictionaryKind::technical) return;
+    for (const std::string& name :
+         namesThatCannotBeKept({product_.files(), product_.texts(), product_.bundle(), product_.paths()}, direction)) {
+      add(joinPath(path, printable(name)), "dictionary", "problem", "a style file cannot hold its name: rename it");
+    }
   }
 
   void dictionaries() {

@@ -113,13 +113,6 @@ void VerbProgram::answerFilePanels(const std::string& path) { panels_->answer(pa
 
 const VerbProgram::EngineCalls& VerbProgram::engineCalls() const { return engine_->calls(); }
 
-void VerbProgram::duringModalRun(std::function<void()> act) {
-  shell_.windowHost().step = [act = std::move(act)] {
-    act();
-    return true;
-  };
-}
-
 ExitStatus VerbProgram::runProgram(const std::function<void(Program& program, Hand& hand)>& act) {
   Program program(console_.product.services(console_.product.files(), *engine_, console_.runLoop, *panels_,
                                             shell_.windowHost(), *workspace_));

@@ -32,8 +32,6 @@ class VerbProgram {
 
   // For the verb while it acts. Tells why something is not done.
   void refuse(const std::string& reason);
-  // What is done inside each modal run; it has to end it.
-  void duringModalRun(std::function<void()> act);
   // Every file panel from now on is answered by this path; else it is cancelled.
   void answerFilePanels(const std::string& path);
 

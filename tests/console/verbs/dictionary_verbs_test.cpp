@@ -101,11 +101,12 @@ TEST_F(DictionaryVerbs, namesThatCannotBeAddedChangeNothing) {
   expectRefused({"dictionary", "add", "0", "ej", "j3.TRet"}, "j3.TRet", unknown);
 }
 
-TEST_F(DictionaryVerbs, aNameThatNoStyleFileCanHoldIsNotListedAndRefused) {
+TEST_F(DictionaryVerbs, aNameThatNoStyleFileCanHoldIsNotListedButToldByTheDoctorAndRefused) {
   for (const std::string name : {"x\x01.TRet", "y\xFF.TRet"}) {
     put("EJ/" + name);
     EXPECT_EQ(lists(3, "ej").find(name.substr(0, 1)), std::string::npos);
     const std::string shown = name[0] == 'x' ? "x\\x01.TRet" : "y\\xFF.TRet";
+    EXPECT_NE(run({"doctor"}).out.find(shown + "  a style file cannot hold its name: rename it\n"), std::string::npos);
     expectRefused({"dictionary", "add", "3", "ej", name}, shown,
                   "cannot be added; a style file cannot hold every character of its name; rename the file");
   }

@@ -17,6 +17,16 @@ std::string written(const PropertyList& value, int depth = 0) {
   return out;
 }
 
+TEST(PlistWriter, canHoldExactlyTheTextsThatComeBackAsTheyWere) {
+  for (const std::string& text :
+       {""s, "a & <b>"s, "日本語 🈂"s, "tab\tline\nreturn\r"s, "\x7F"s, "nul\0"s, "bell\x07"s, "\x1F"s, "\xEF\xBF\xBE"s,
+        "\xEF\xBF\xBF"s, "\xEF\xBF\xBD"s, "\xFF"s, "half \xE6\x97"s, "\xED\xA0\x80"s, "\xC0\x80"s}) {
+    const std::optional<PropertyList> read = readPropertyList(writePropertyList(Array{PropertyList(text)}));
+    ASSERT_TRUE(read && read->array() != nullptr && read->array()->size() == 1U);
+    EXPECT_EQ(canHoldText(text), *read->array()->front().string() == text) << text;
+  }
+}
+
 TEST(PlistWriter, writesAWholeFile) {
   Dictionary inner;
   inner.set("名前", "<特許> & \"x\"");
