@@ -26,6 +26,7 @@
 namespace tarvo {
 
 class AppController;
+class ScreenCaution;
 class TManagerController;
 class Texts;
 struct Rooms;
@@ -108,13 +109,19 @@ class Interface {
   void styleRows(const Actors& actors, const Texts& texts);
   void optionRows(Rooms& rooms, const Texts& texts);
   void listRows(Rooms& rooms, const Texts& texts);
+  void tellChosenPages(Rooms& rooms);
   void userListRows(Rooms& rooms);
   void pickerRows(Rooms& rooms, const Texts& texts);
+  void pickerPageRows(TechDicController& controller, const Texts& texts);
+  void hiddenPickerRows();
   void travelRows(const Actors& actors, const Texts& texts);
   void connectionRows(const Actors& actors, const Texts& texts);
   void sheetRows(Rooms& rooms, const Texts& texts);
   void managerRows(const Actors& actors, const Texts& texts);
+  void officeToolRow(Rooms& rooms, const Texts& texts);
+  void screenCautionRows(ScreenCaution& room, const Texts& texts);
   void addinRows(Rooms& rooms, const Texts& texts);
+  void addinCautionRows(Rooms& rooms, const Texts& texts);
   void menuRows(const Actors& actors);
   // A menu command, which both controllers must allow.
   void menuItem(const Actors& actors, MenuItem& menu, int tag, std::string label, Control::Action action);

@@ -29,7 +29,10 @@ void Interface::addinRows(Rooms& rooms, const Texts& texts) {
   onPage(addins.mailCautionButton, Pane::mail, to(rooms.cautions, &CautionWindows::mailButtonAction));
   onPage(addins.scriptEditorButton, Pane::mail, to(rooms.cautions, &CautionWindows::launchAppleScriptEditor));
   onPage(addins.scriptUtilityButton, Pane::mail, to(rooms.cautions, &CautionWindows::launchAppleScriptUtil));
+  addinCautionRows(rooms, texts);
+}
 
+void Interface::addinCautionRows(Rooms& rooms, const Texts& texts) {
   struct Caution {
     Window& window;
     TextField& text;

@@ -46,7 +46,11 @@ void Interface::listRows(Rooms& rooms, const Texts& texts) {
     button(half.remove, to(rooms.lists, &DictionaryListEditing::removeTD));
     ++direction;
   }
-  // A page of the user's own dictionaries shows what lies in the folder at the moment when it comes up.
+  tellChosenPages(rooms);
+}
+
+// A page of the user's own dictionaries shows what lies in the folder at the moment when it comes up.
+void Interface::tellChosenPages(Rooms& rooms) {
   const auto tell = [&rooms](TabView& tab, std::initializer_list<TableView*> readAnew) {
     tab.didSelect = [&rooms, &tab, tables = std::vector(readAnew)](int page) {
       const auto index = static_cast<std::size_t>(page);
@@ -87,16 +91,11 @@ void Interface::userListRows(Rooms& rooms) {
     page.twin.setHidden(true);
     row({.control = page.shown, .tag = tag, .tab = &page.tab, .page = page.page});
     row({.control = page.twin, .tag = tag + UserListRows::pairs, .window = &manager.myWindow});
-    row({.control = page.folder,
-         .tag = page.page,
-         .tab = &page.tab,
-         .page = page.page,
-         .action = to(rooms.picker, &TechDicController::OpenFolder)});
-    row({.control = page.create,
-         .tag = page.newTag,
-         .tab = &page.tab,
-         .page = page.page,
-         .action = to(rooms.newDictionary, &NewDictionary::newUD)});
+    const auto button = [&](Button& control, int sent, Control::Action action) {
+      row({.control = control, .tag = sent, .tab = &page.tab, .page = page.page, .action = std::move(action)});
+    };
+    button(page.folder, page.page, to(rooms.picker, &TechDicController::OpenFolder));
+    button(page.create, page.newTag, to(rooms.newDictionary, &NewDictionary::newUD));
     ++tag;
   }
 }

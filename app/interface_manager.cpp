@@ -25,6 +25,7 @@ void Interface::managerRows(const Actors& actors, const Texts& texts) {
   manager.myWindow.didMove = [&controller] { controller.windowDidMove(); };
   manager.myWindow.close = [&controller] { controller.closeWindow(); };
   std::vector<TabView::Page> pages;
+  pages.reserve(paneRows.size());
   for (const PaneRow& pane : paneRows) pages.push_back({pane.identifier, texts.localized(pane.titleKey)});
   manager.myTabView.setPages(std::move(pages));
   row({.control = manager.myTabView, .window = window});
@@ -47,13 +48,18 @@ void Interface::managerRows(const Actors& actors, const Texts& texts) {
   item(manager.StyleManager, rowOf(Pane::style));
   item(manager.OA, rowOf(Pane::office));
   item(manager.MT, rowOf(Pane::mail));
+  officeToolRow(actors.rooms, texts);
+  screenCautionRows(controller.screenCaution(), texts);
+}
 
+void Interface::officeToolRow(Rooms& rooms, const Texts& texts) {
   row({.control = tools.officeToolPopup,
        .tab = &manager.myTabView,
        .page = tagOf(Pane::office),
        .items =
            [&texts] {
              std::vector<PopUpButton::Item> items;
+             items.reserve(gAppCreatorArray.size());
              for (int i = 0; i < static_cast<int>(gAppCreatorArray.size()); ++i) {
                items.push_back({.title = texts.localized("OfficeTool." + std::to_string(i)),
                                 .tag = i,
@@ -61,18 +67,20 @@ void Interface::managerRows(const Actors& actors, const Texts& texts) {
              }
              return items;
            },
-       .action = to(actors.rooms.toolList, &ToolListFile::changeOfficeTool)});
+       .action = to(rooms.toolList, &ToolListFile::changeOfficeTool)});
+}
 
+void Interface::screenCautionRows(ScreenCaution& room, const Texts& texts) {
   Window* caution = &manager.displayAlertWindow;
   row({.control = *caution, .window = caution});
   caution->setTitle(texts.localized("Label.displayAlertWindow"));
-  caution->close = [&controller] { controller.screenCaution().closeCautionDisplayWindow(); };
+  caution->close = [&room] { room.closeCautionDisplayWindow(); };
   row({.control = manager.displayAlertText, .window = caution, .label = "displayAlertWindow.text"});
   manager.displayAlertText.setStringValue(texts.localized("displayAlertWindow.text"));
   row({.control = manager.noDisplayDialogCheckBox, .window = caution});
   row({.control = manager.displayCloseButton,
        .window = caution,
-       .action = to(controller.screenCaution(), &ScreenCaution::closeCautionDisplayWindow)});
+       .action = to(room, &ScreenCaution::closeCautionDisplayWindow)});
 }
 
 void Interface::menuItem(const Actors& actors, MenuItem& menu, int tag, std::string label, Control::Action action) {

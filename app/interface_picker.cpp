@@ -12,19 +12,8 @@ void Interface::pickerRows(Rooms& rooms, const Texts& texts) {
   Window* window = &picker.myWindow;
   row({.control = *window, .window = window, .label = "Label.pickerWindow"});
   window->close = [&rooms] { rooms.loading.dicWindowCancel(); };
-  picker.myTabView.setPages({{"TDTab", texts.localized("TDTab")}});
-  TabView* page = &picker.myTabView;
-  row({.control = *page, .window = window, .label = "Label.pickerTabView"});
-  row({.control = picker.TDTitleField, .tab = page});
-  row({.control = picker.filterField, .tab = page});
-  picker.filterField.didChange = [&controller] { controller.filterDidChange(); };
-  row({.control = picker.techDicTable, .tab = page});
-  row({.control = picker.selectShownButton, .tab = page, .action = to(controller, &TechDicController::selectShown)});
-  row({.control = picker.selectNoneButton, .tab = page, .action = to(controller, &TechDicController::selectNone)});
-  row({.control = picker.roomText, .tab = page});
   const auto openFolder = to(controller, &TechDicController::OpenFolder);
-  row({.control = picker.openTDFolderButton, .tab = page, .action = openFolder});
-
+  pickerPageRows(controller, texts);
   row({.control = picker.UDTitleField, .window = window});
   row({.control = picker.openUDFolderButton,
        .tag = numberOf(DictionaryKind::user),
@@ -45,7 +34,31 @@ void Interface::pickerRows(Rooms& rooms, const Texts& texts) {
        .window = window,
        .action = to(rooms.loading, &DictionaryLoading::dicWindowCancel)});
 
-  // The user's own dictionaries are shown in the style pane; their lists here have no place in the window.
+  hiddenPickerRows();
+  for (TableView* table : {&picker.techDicTable, &picker.UserDicTable, &picker.UserTMATable}) {
+    table->setColumns({{.identifier = picker_columns::check, .checkBox = true}, {.identifier = picker_columns::name}});
+    table->setDataSource(&controller);
+    table->setDelegate(&controller);
+  }
+}
+
+void Interface::pickerPageRows(TechDicController& controller, const Texts& texts) {
+  picker.myTabView.setPages({{"TDTab", texts.localized("TDTab")}});
+  TabView* page = &picker.myTabView;
+  row({.control = *page, .window = &picker.myWindow, .label = "Label.pickerTabView"});
+  row({.control = picker.TDTitleField, .tab = page});
+  row({.control = picker.filterField, .tab = page});
+  picker.filterField.didChange = [&controller] { controller.filterDidChange(); };
+  row({.control = picker.techDicTable, .tab = page});
+  row({.control = picker.selectShownButton, .tab = page, .action = to(controller, &TechDicController::selectShown)});
+  row({.control = picker.selectNoneButton, .tab = page, .action = to(controller, &TechDicController::selectNone)});
+  row({.control = picker.roomText, .tab = page});
+  row({.control = picker.openTDFolderButton, .tab = page, .action = to(controller, &TechDicController::OpenFolder)});
+}
+
+// The user's own dictionaries are shown in the style pane; their lists here have no place in the window.
+void Interface::hiddenPickerRows() {
+  Window* window = &picker.myWindow;
   row({.control = picker.UserDicTable, .tag = numberOf(DictionaryKind::user), .window = window});
   row({.control = picker.UserTMATable, .tag = numberOf(DictionaryKind::memory), .window = window});
   row({.control = picker.ejEditTDButton, .window = window});
@@ -53,11 +66,6 @@ void Interface::pickerRows(Rooms& rooms, const Texts& texts) {
   for (Control* control : std::initializer_list<Control*>{&picker.UserDicTable, &picker.UserTMATable,
                                                           &picker.ejEditTDButton, &picker.jeEditTDButton}) {
     control->setHidden(true);
-  }
-  for (TableView* table : {&picker.techDicTable, &picker.UserDicTable, &picker.UserTMATable}) {
-    table->setColumns({{.identifier = picker_columns::check, .checkBox = true}, {.identifier = picker_columns::name}});
-    table->setDataSource(&controller);
-    table->setDelegate(&controller);
   }
 }
 

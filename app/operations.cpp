@@ -59,73 +59,66 @@ Answer getInstallStatus(Program& program, Arguments arguments) {
   return addins.getInstallStatus(rows[static_cast<std::size_t>(row)]);
 }
 
-std::vector<Operation> makeOperations() {
-  return {
-      withNumber("style.setupStyleData2", [](Rooms& rooms, int index) { rooms.display.setupStyleData2(index); }),
-      withNumber("style.setSelection", [](Rooms& rooms, int index) { rooms.store.setSelection(index); }),
-      withNumber("style.setSelectSeg", [](Rooms& rooms, int tool) { rooms.chooser.setSelectSeg(tool); }),
-      withNumber("style.doEnabledButtons",
-                 [](Rooms& rooms, int tool) { rooms.chooser.doEnabledButtons(toolForPlace(tool)); }),
-      withNumber("style.writeUpdateDicTarvoPlist",
-                 [](Rooms& rooms, int direction) { rooms.lists.writeUpdateDicTarvoPlist(directionForTag(direction)); }),
-      withNumber("style.updateButton", updateButton),
-      withNumber("style.setSelectedDic",
-                 [](Rooms& rooms, int isEJ) { rooms.loading.setSelectedDic(directionOf(isEJ)); }),
-      withNumber("style.setNonSelectionDic",
-                 [](Rooms& rooms, int isEJ) { rooms.loading.setNonSelectionDic(directionOf(isEJ)); }),
-      {"style.dicWindowOK2", 0,
-       [](Program& program, Arguments) -> Answer {
-         program.rooms().loading.dicWindowOK2();
-         return std::nullopt;
-       }},
-      withNumber("style.openMaxOverAlert",
-                 [](Rooms& rooms, int number) {
-                   if (const auto kind = dictionaryKindForNumber(number)) rooms.alerts.openMaxOverAlert(*kind);
-                 }),
-      answering("style.isStartedApplication",
-                [](Rooms& rooms, int tool) { return rooms.guard.isStartedApplication(tool); }),
-      withNumber("style.alertStartedApplication",
-                 [](Rooms& rooms, int kind) { rooms.guard.alertStartedApplication(kind); }),
-      {"picker.setNotSelectedArray", 1, setNotSelectedArray, true},
-      answering("picker.getCheckedArray",
-                [](Rooms& rooms, int tag) {
-                  const auto kind = dictionaryKindForNumber(tag);
-                  const Names names = kind ? rooms.picker.getCheckedArray(*kind) : Names{};
-                  return Array(names.begin(), names.end());
-                }),
-      {"picker.setCreatedDictionary", 2,
-       [](Program& program, Arguments arguments) -> Answer {
-         const auto kind = dictionaryKindForNumber(leadingInteger(arguments[1]));
-         if (kind) program.rooms().picker.setCreatedDictionary(arguments[0], *kind);
-         return std::nullopt;
-       }},
-      answering("picker.isStartedApplication",
-                [](Rooms& rooms, int tool) { return rooms.picker.isStartedApplication(tool); }),
-      {"style.readImportStyle", 1,
-       [](Program& program, Arguments arguments) -> Answer {
-         return program.styles().readImportStyle(program.services().locations.picked(arguments.front()));
-       },
-       false, true},
-      {"style.getOSVersion", 0, [](Program& program, Arguments) -> Answer { return program.styles().getOSVersion(); }},
-      {"manager.createMailScriptFolder", 0,
-       [](Program& program, Arguments) -> Answer {
-         return program.rooms().mailScripts.createMailScriptFolder().has_value();
-       }},
-      {"manager.getInstallStatus", 1, getInstallStatus},
-  };
-}
+const Operation all[] = {
+    withNumber("style.setupStyleData2", [](Rooms& rooms, int index) { rooms.display.setupStyleData2(index); }),
+    withNumber("style.setSelection", [](Rooms& rooms, int index) { rooms.store.setSelection(index); }),
+    withNumber("style.setSelectSeg", [](Rooms& rooms, int tool) { rooms.chooser.setSelectSeg(tool); }),
+    withNumber("style.doEnabledButtons",
+               [](Rooms& rooms, int tool) { rooms.chooser.doEnabledButtons(toolForPlace(tool)); }),
+    withNumber("style.writeUpdateDicTarvoPlist",
+               [](Rooms& rooms, int direction) { rooms.lists.writeUpdateDicTarvoPlist(directionForTag(direction)); }),
+    withNumber("style.updateButton", updateButton),
+    withNumber("style.setSelectedDic", [](Rooms& rooms, int isEJ) { rooms.loading.setSelectedDic(directionOf(isEJ)); }),
+    withNumber("style.setNonSelectionDic",
+               [](Rooms& rooms, int isEJ) { rooms.loading.setNonSelectionDic(directionOf(isEJ)); }),
+    {"style.dicWindowOK2", 0,
+     [](Program& program, Arguments) -> Answer {
+       program.rooms().loading.dicWindowOK2();
+       return std::nullopt;
+     }},
+    withNumber("style.openMaxOverAlert",
+               [](Rooms& rooms, int number) {
+                 if (const auto kind = dictionaryKindForNumber(number)) rooms.alerts.openMaxOverAlert(*kind);
+               }),
+    answering("style.isStartedApplication",
+              [](Rooms& rooms, int tool) { return rooms.guard.isStartedApplication(tool); }),
+    withNumber("style.alertStartedApplication",
+               [](Rooms& rooms, int kind) { rooms.guard.alertStartedApplication(kind); }),
+    {"picker.setNotSelectedArray", 1, setNotSelectedArray, true},
+    answering("picker.getCheckedArray",
+              [](Rooms& rooms, int tag) {
+                const auto kind = dictionaryKindForNumber(tag);
+                const Names names = kind ? rooms.picker.getCheckedArray(*kind) : Names{};
+                return Array(names.begin(), names.end());
+              }),
+    {"picker.setCreatedDictionary", 2,
+     [](Program& program, Arguments arguments) -> Answer {
+       const auto kind = dictionaryKindForNumber(leadingInteger(arguments[1]));
+       if (kind) program.rooms().picker.setCreatedDictionary(arguments[0], *kind);
+       return std::nullopt;
+     }},
+    answering("picker.isStartedApplication",
+              [](Rooms& rooms, int tool) { return rooms.picker.isStartedApplication(tool); }),
+    {"style.readImportStyle", 1,
+     [](Program& program, Arguments arguments) -> Answer {
+       return program.styles().readImportStyle(program.services().locations.picked(arguments.front()));
+     },
+     false, true},
+    {"style.getOSVersion", 0, [](Program& program, Arguments) -> Answer { return program.styles().getOSVersion(); }},
+    {"manager.createMailScriptFolder", 0,
+     [](Program& program, Arguments) -> Answer {
+       return program.rooms().mailScripts.createMailScriptFolder().has_value();
+     }},
+    {"manager.getInstallStatus", 1, getInstallStatus},
+};
 
 }  // namespace
 
-std::span<const Operation> operations() {
-  static const std::vector<Operation> all = makeOperations();
-  return all;
-}
+std::span<const Operation> operations() { return all; }
 
 const Operation* findOperation(std::string_view name) {
-  const auto all = operations();
-  const auto found = std::find_if(all.begin(), all.end(), [name](const Operation& row) { return row.name == name; });
-  return found != all.end() ? &*found : nullptr;
+  const auto* found = std::ranges::find(all, name, &Operation::name);
+  return found != std::end(all) ? found : nullptr;
 }
 
 }  // namespace tarvo

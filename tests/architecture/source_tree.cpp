@@ -27,7 +27,51 @@ void eachSource(const fs::path& top, Visit visit) {
   }
 }
 
+std::vector<std::string> linesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
+}
+
+// A signature of several lines begins behind what ends something else.
+std::size_t beginOf(const std::vector<std::string>& lines, std::size_t opening) {
+  static const std::regex end(R"(^\s*$|^\s*//|^#|[;{}:]$)");
+  std::size_t first = opening;
+  while (first > 0 && !std::regex_search(lines[first - 1], end)) --first;
+  return first;
+}
+
+// Of nothing or of a class, and no statement, type, table or lambda.
+bool isSignature(const std::string& first, const std::string& last) {
+  static const std::regex form(
+      R"(^( {2})?(?! |if |for |while |switch |else |do |try |return |namespace |class |struct |enum )[^(]*\()");
+  const bool opensOther = last.ends_with("= {") || last.ends_with("({") || last.find('[') != std::string::npos;
+  return std::regex_search(first, form) && !opensOther;
+}
+
 }  // namespace
+
+std::vector<FunctionLength> functionsOf(const std::string& text) {
+  const std::vector<std::string> lines = linesOf(text);
+  std::vector<FunctionLength> functions;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    if (!lines[i].ends_with('{')) continue;
+    const std::size_t first = beginOf(lines, i);
+    if (!isSignature(lines[first], lines[i])) continue;
+    const std::string closing = std::string(lines[first].find_first_not_of(' '), ' ') + '}';
+    std::size_t last = i + 1;
+    while (last < lines.size() && !lines[last].starts_with(closing)) ++last;
+    functions.push_back({static_cast<int>(first + 1), static_cast<int>(last - first + 1)});
+  }
+  return functions;
+}
+
+std::map<std::string, std::vector<FunctionLength>> readFunctions(const std::string& top) {
+  std::map<std::string, std::vector<FunctionLength>> functions;
+  eachSource(top, [&](const std::string& path, const std::string& text) { functions[path] = functionsOf(text); });
+  return functions;
+}
 
 std::vector<Include> includesOf(const std::string& text) {
   static const std::regex form(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"])");

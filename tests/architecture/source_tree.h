@@ -23,6 +23,16 @@ std::vector<Include> includesOf(const std::string& text);
 SourceTree readSourceTree(const std::string& top);
 // Those of the program outside platform/posix whose text holds the word.
 std::vector<std::string> filesThatName(const std::string& top, const std::string& word);
+// Where a function begins, with its first line or the first of its parameters, and how many lines it takes.
+struct FunctionLength {
+  int line = 0;
+  int lines = 0;
+};
+
+// The functions of a text in the project's form: what opens with a brace at the end of a line that belongs to nothing
+// or to a class, and closes with a brace at the same column. Functions on one line are left out.
+std::vector<FunctionLength> functionsOf(const std::string& text);
+std::map<std::string, std::vector<FunctionLength>> readFunctions(const std::string& top);
 // Line counts of the same files.
 std::map<std::string, int> readLineCounts(const std::string& top);
 
