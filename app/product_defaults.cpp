@@ -38,7 +38,7 @@ std::string login() {
 }
 
 std::string systemHome() {
-  const std::string home = environment("HOME");
+  std::string home = environment("HOME");
   if (isAbsolutePath(home)) return home;
   const std::string known = loginHome();
   return !known.empty() ? known : "/";
@@ -79,7 +79,7 @@ std::string missingResource(const std::string& folder) {
 Places findPlaces(const std::optional<std::string>& root, const std::optional<std::string>& home) {
   Places places;
   const std::string namedRoot = root ? *root : environment("TARVO_ROOT");
-  const std::string configured = TARVO_DEFAULT_ROOT;
+  const std::string configured = TARVO_DEFAULT_ROOT;  // NOLINT(readability-redundant-string-init): the build sets it
   if (!namedRoot.empty()) {
     places.root = absolutePath(namedRoot);
   } else {

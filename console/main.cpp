@@ -105,4 +105,5 @@ ExitStatus main(int count, char** words) {
 
 }  // namespace tarvo
 
+// NOLINTNEXTLINE(bugprone-exception-escape): what nobody expected ends the program with its name
 int main(int count, char** words) { return static_cast<int>(tarvo::main(count, words)); }

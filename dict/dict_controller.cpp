@@ -45,7 +45,7 @@ bool DictController::initializeDictionary() {
 
 DictionaryEntry* DictController::entryNamed(const std::string& name) {
   const auto found = positions_.find(caseFolded(name));
-  return found == positions_.end() ? nullptr : &(*entries_)[found->second];
+  return !entries_ || found == positions_.end() ? nullptr : &(*entries_)[found->second];
 }
 
 void DictController::updateDictionary(Names names) {

@@ -50,7 +50,7 @@ void DictionaryListEditing::removeTD(int senderTag) {
   TableView& table = getActiveTableView(direction);
   const std::optional<Names> loaded = controller.selectedDictionary();
   const int row = table.selectedRow();
-  if (!isRowOf(loaded, row)) return;
+  if (!loaded || !isRowOf(loaded, row)) return;
   edits_.remove(placeOf(direction), controller, {(*loaded)[static_cast<std::size_t>(row)]});
   table.reloadData();
   updateButton(direction);

@@ -101,7 +101,7 @@ void MedicalDictionaries::insert(Direction direction, std::string_view word, con
     const MedicalPlaces places = findMedical(list, general, clinical, wordText);
     if (places.hasGeneral && !places.hasDictionary) {
       list.insert(list.begin() + places.lastClinical + 1, name);
-      if (abbreviation) list.push_back(*abbreviation);
+      if (abbreviation) list.emplace_back(*abbreviation);
     }
     half.set(keyNameTD, std::move(list));
     record->set(halfKey(direction), std::move(half));

@@ -24,7 +24,7 @@ std::vector<PageBuilder> paneBuilders(Interface& interface, Binder& binder) {
   using Build = QWidget* (*)(Interface&, Binder&, QWidget*);
   std::vector<PageBuilder> builders;
   for (const Build build : {buildStylePane, buildOfficePane, buildMailPane}) {
-    builders.push_back([&interface, &binder, build](QWidget* parent) { return build(interface, binder, parent); });
+    builders.emplace_back([&interface, &binder, build](QWidget* parent) { return build(interface, binder, parent); });
   }
   return builders;
 }

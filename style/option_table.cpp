@@ -112,6 +112,7 @@ int DetailOption::tagForValue(std::string_view value) const {
 
 std::vector<PopUpButton::Item> itemsFor(const IndexOption& option, const Texts& texts) {
   std::vector<PopUpButton::Item> items;
+  items.reserve(static_cast<std::size_t>(option.itemCount));
   for (int i = 0; i < option.itemCount; ++i) {
     items.push_back({texts.localized(std::string(option.key) + "." + std::to_string(i)), i});
   }

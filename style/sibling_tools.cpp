@@ -10,6 +10,7 @@ std::string toolId(Tool tool, const Texts& texts) { return texts.localized(rowOf
 
 std::vector<std::string> toolIds(const Texts& texts) {
   std::vector<std::string> ids;
+  ids.reserve(siblingTools.size());
   for (const SiblingTool& tool : siblingTools) ids.push_back(texts.localized(tool.key));
   return ids;
 }

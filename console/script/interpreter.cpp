@@ -41,7 +41,7 @@ const char* nameOf(ScenarioSession::Phase phase) {
 
 }  // namespace
 
-Interpreter::Interpreter(ScenarioSession& session, std::string text, std::string file, std::ostream& output)
+Interpreter::Interpreter(ScenarioSession& session, const std::string& text, std::string file, std::ostream& output)
     : session_(session), lines_(split(text)), file_(std::move(file)), output_(output) {}
 
 bool Interpreter::isHeld() const { return session_.panels().isAlertUp(); }

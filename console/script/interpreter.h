@@ -26,7 +26,7 @@ class ScenarioSession;
 class Interpreter {
  public:
   // text: the script, UTF-8. file: its name in messages. output: what printing commands print, one object a line.
-  Interpreter(ScenarioSession& session, std::string text, std::string file, std::ostream& output);
+  Interpreter(ScenarioSession& session, const std::string& text, std::string file, std::ostream& output);
 
   // Runs the next line that holds a command. False: the script is over, by its end or a failure; nothing runs any more.
   // Throws nothing.

@@ -112,7 +112,7 @@ void ScriptedPanels::beginSavePanel(Window& host, const SavePanel& panel,
 void ScriptedPanels::endSavePanel(std::optional<std::string> path) {
   const UpPanel ended = std::move(up_.back());
   up_.pop_back();
-  if (path) path = withPathExtension(std::move(*path), ended.requiredType);
+  if (path) *path = withPathExtension(*path, ended.requiredType);
   recorder_.note({{"panelEnded", "save"}, {"answer", shown(path)}});
   ended.handler(path ? 1 : 0, path.value_or(""));
 }

@@ -199,6 +199,7 @@ ExitStatus DoctorCommand::run(Console& console) {
     return ExitStatus::done;
   }
   std::vector<std::vector<std::string>> rows;
+  rows.reserve(findings.size());
   for (const Finding& finding : findings) rows.push_back({finding.state, finding.what, finding.path, finding.detail});
   writeTable(console.out, rows);
   return ExitStatus::done;

@@ -79,8 +79,8 @@ void EngineLocal::sendRegistStyle(const StyleSet& styles, std::string& updateStr
     const Result<Dictionary> held = readSet();
     (void)held;  // what is there is replaced; a set that cannot be read is kept beside it
   }
-  const bool isLast = *counter_ == std::numeric_limits<std::uint64_t>::max();
-  const std::uint64_t next = isLast ? 1 : *counter_ + 1;
+  const std::uint64_t last = counter_.value_or(0);
+  const std::uint64_t next = last == std::numeric_limits<std::uint64_t>::max() ? 1 : last + 1;
   updateString = makeStamp(next);
   const Result<> made = files_.makeFolder(deletingLastPathComponent(file_.path()));
   // After a failed write the caller's set is newer than what the file holds, and its stamp says so: the old set must
@@ -98,8 +98,9 @@ bool EngineLocal::checkStyle() {
 bool EngineLocal::requestStyle(Array& styles, std::string& localUpdate) {
   Result<Dictionary> set = readSet();
   couldRead_ = set ? Result<>() : Result<>(set.error());
-  Array* held = set ? set->array(styleKey) : nullptr;
-  if (held == nullptr || *counter_ <= counterOf(localUpdate)) return false;
+  if (!set) return false;
+  Array* held = set->array(styleKey);
+  if (held == nullptr || counter_.value_or(0) <= counterOf(localUpdate)) return false;
   styles = std::move(*held);
   localUpdate = *set->string(stampKey);  // a counter above 0 comes from such a text
   return true;

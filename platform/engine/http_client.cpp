@@ -147,7 +147,7 @@ struct HttpClient::Handle {
     set(CURLOPT_HTTPHEADER, headers.get());
     if (request.body.empty()) return;
     set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request.body.size()));
-    set(CURLOPT_POSTFIELDS, request.body.data());
+    set(CURLOPT_POSTFIELDS, &request.body.front());
   }
   void takeInto(HttpAnswer& answer) {
     set(CURLOPT_WRITEFUNCTION, takeBody);

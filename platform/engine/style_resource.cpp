@@ -82,7 +82,7 @@ StyleResource::Storing StyleResource::store(std::string_view bytes, const Front&
   if (!lockToken_.empty()) {
     headers.push_back("If: (" + lockToken_ + ")");
   } else if (before.state == State::nothing) {
-    headers.push_back("If-None-Match: *");
+    headers.emplace_back("If-None-Match: *");
   } else if (!before.tag.empty()) {
     headers.push_back("If-Match: " + before.tag);
   }

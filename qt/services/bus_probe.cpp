@@ -27,7 +27,7 @@ QByteArray socketName() {
   address = address.split(';').first();
   if (!address.startsWith("unix:")) return {};
   for (const QByteArray& pair : address.mid(5).split(',')) {
-    const QByteArray value = QByteArray::fromPercentEncoding(pair.mid(pair.indexOf('=') + 1));
+    QByteArray value = QByteArray::fromPercentEncoding(pair.mid(pair.indexOf('=') + 1));
     if (pair.startsWith("path=")) return value;
     if (pair.startsWith("abstract=")) return QByteArray(1, '\0') + value;
   }

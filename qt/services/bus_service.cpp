@@ -56,7 +56,7 @@ BusService::~BusService() {
   if (!parts_) return;
   parts_->receiver.isOver = true;
   parts_->thread.quit();
-  if (!parts_->thread.wait(patience)) parts_.release();  // it still waits for the bus
+  if (!parts_->thread.wait(patience)) static_cast<void>(parts_.release());  // it still waits for the bus
 }
 
 }  // namespace tarvo
