@@ -34,7 +34,7 @@ TEST_F(Diagnosis, findsNothingInTheWayOfACleanInstall) {
   EXPECT_EQ(of(word).table, "office");
   EXPECT_EQ(of(mail).table, "mail");
   EXPECT_EQ(of(word).item, "/Applications/O11/Office/Startup/Word/Tarvo.dotm");
-  EXPECT_TRUE(files.uses().size() > 0) << "it only lists";
+  EXPECT_FALSE(files.uses().empty()) << "it only lists";
   for (const FaultyFiles::Use& use : files.uses()) EXPECT_EQ(use.operation, FaultyFiles::Operation::list);
 }
 

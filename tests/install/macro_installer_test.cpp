@@ -19,7 +19,7 @@ class Macros : public testing::Test, protected AddinWorld {
   }
   const AddinEntry word = word2011();
   const std::string target = item(word);
-  const std::string content{"macro\0\r\n\xff", 10};
+  const std::string content{"macro\0\r\n\xff", 9};
 };
 
 TEST_F(Macros, areCopiedByteForByte) {

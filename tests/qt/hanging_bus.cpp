@@ -8,8 +8,10 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstddef>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace tarvo::test {
@@ -37,8 +39,8 @@ HangingBus::HangingBus(bool letsIn) : name_("tarvo-hanging-bus-" + QByteArray::n
   std::copy(name_.begin(), name_.end(), address.sun_path + 1);
   const auto size =
       static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + static_cast<std::size_t>(name_.size()));
-  bind(listener_, reinterpret_cast<const sockaddr*>(&address), size);
-  listen(listener_, 8);
+  if (bind(listener_, reinterpret_cast<const sockaddr*>(&address), size) != 0 || listen(listener_, 8) != 0)
+    throw std::system_error(errno, std::generic_category(), "a bus that hangs");
   thread_ = std::thread([this, letsIn] { serve(letsIn); });
 }
 

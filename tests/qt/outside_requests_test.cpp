@@ -59,8 +59,7 @@ struct OutsideRequests : testing::Test, test::TestWindow {
     return found;
   }
   int option() {
-    return static_cast<int>(
-        shell->program().rooms().store.getStyleAtIndex(0)->dictionary("EJ")->find("Opt1")->integerValue());
+    return shell->program().rooms().store.getStyleAtIndex(0)->dictionary("EJ")->find("Opt1")->integerValue();
   }
 
   static QDialog* question() { return dynamic_cast<AlertDialog*>(QApplication::activeModalWidget()); }

@@ -37,7 +37,7 @@ TEST_P(RandomListEdits, keepControlsStoreAndFileAlike) {
   ManualRunLoop clock;
   ScenarioSession session(root_.options(), shell, clock);
   session.start();
-  MemoryWindows& windows = static_cast<MemoryWindows&>(shell.windowHost());
+  MemoryWindows& windows = shell.windowHost();
   PlainLists lists = root_.plainLists();
   std::mt19937 random(seed());
   PlistFile file(session.product().files(), root_.styleFile());

@@ -181,7 +181,7 @@ TEST_F(EngineHttpTest, aRaceThatNobodyNoticesIsSeenAfterwards) {
   web.tags = StyleServer::Tags::same;
   web.hold(payload(two, 3));
   web.afterwards = [this](const SeenRequest& request, int count) {
-    if (request.method == "PUT" && count <= 2) web.hold(payload(same, static_cast<std::uint64_t>(3 + count)));
+    if (request.method == "PUT" && count <= 2) web.hold(payload(same, 3 + static_cast<std::uint64_t>(count)));
   };
   EngineHttp http = engine();
   EXPECT_EQ(registered(http, one), stampOf(one, 6));

@@ -171,8 +171,9 @@ TEST(PlistlibOracle, readsWhatWeWriteAndWritesWhatWeRead) {
   const std::vector<std::string> theirs = split(folder.read("theirs"));
   ASSERT_EQ(theirs.size(), 2U * values);
   for (int i = 0; i < values; ++i) {
-    const auto xml = readPropertyList(theirs[static_cast<std::size_t>(2 * i)]);
-    const auto binary = readPropertyList(theirs[static_cast<std::size_t>(2 * i + 1)]);
+    const std::size_t pair = 2 * static_cast<std::size_t>(i);
+    const auto xml = readPropertyList(theirs[pair]);
+    const auto binary = readPropertyList(theirs[pair + 1]);
     ASSERT_TRUE(xml && binary) << i;
     EXPECT_EQ(normal(*xml, true), normal(generated(i), true)) << lists[static_cast<std::size_t>(i)];
     EXPECT_EQ(normal(*binary, false), normal(generated(i), false)) << lists[static_cast<std::size_t>(i)];
