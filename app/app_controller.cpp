@@ -140,6 +140,6 @@ void AppController::selectTableViewAction(Tool tool) {
   defaults_.synchronize();
 }
 
-int AppController::getOSVersion() const { return systemVersion(services_.files); }
+int AppController::getOSVersion() const { return systemVersion(services_.files, services_.locations); }
 
 }  // namespace tarvo

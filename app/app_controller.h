@@ -9,6 +9,7 @@
 
 #include "app/services.h"
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 #include "style/sibling_tools.h"
 
 // The controller of the style pane.
@@ -42,7 +43,7 @@ class AppController {
   // Lets the user choose a style file and puts it in the place of the chosen style.
   void importStyle();
   // The same for a file that is known. False after an alert; nothing has changed.
-  bool readImportStyle(const std::string& path);
+  bool readImportStyle(const DiskPath& path);
   // Makes the styles here and those of the engine one, and shows them when they came from there.
   void sendPlist();
   // A request of another tool: the bytes of its first item, nothing for a request without one; or its code as text. The

@@ -27,10 +27,10 @@ class Awakening {
 }  // namespace
 
 void AppController::importStyle() {
-  if (const std::optional<std::string> path = rooms_.exchange.chooseImportFile()) readImportStyle(*path);
+  if (const std::optional<DiskPath> path = rooms_.exchange.chooseImportFile()) readImportStyle(*path);
 }
 
-bool AppController::readImportStyle(const std::string& path) {
+bool AppController::readImportStyle(const DiskPath& path) {
   const PopUpButton& stylePopup = interface_.style.stylePopup;
   const int index = stylePopup.indexOfSelectedItem();
   if (!rooms_.exchange.install(path, index, stylePopup.titleOfSelectedItem())) return false;

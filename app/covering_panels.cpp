@@ -17,7 +17,7 @@ int CoveringPanels::runAlertPanel(const Alert& alert) {
   return panels_.runAlertPanel(alert);
 }
 
-std::optional<std::string> CoveringPanels::runOpenPanel(const OpenPanel& panel) {
+std::optional<DiskPath> CoveringPanels::runOpenPanel(const OpenPanel& panel) {
   const Covers::ModalRun run(covers_, nullptr);
   return panels_.runOpenPanel(panel);
 }
@@ -30,9 +30,9 @@ void CoveringPanels::beginAlertSheet(Window& host, const Alert& alert, std::func
 }
 
 void CoveringPanels::beginSavePanel(Window& host, const SavePanel& panel,
-                                    std::function<void(int code, const std::string& path)> handler) {
+                                    std::function<void(int code, const DiskPath& path)> handler) {
   covers_.beginSheet(host, nullptr);
-  panels_.beginSavePanel(host, panel, [this, &host, handler = std::move(handler)](int code, const std::string& path) {
+  panels_.beginSavePanel(host, panel, [this, &host, handler = std::move(handler)](int code, const DiskPath& path) {
     covers_.endSheet(host, nullptr, [&] { handler(code, path); });
   });
 }

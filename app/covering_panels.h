@@ -17,9 +17,9 @@ class CoveringPanels : public Panels {
   void tell(const std::string& text) override;
   int runAlertPanel(const Alert& alert) override;
   void beginAlertSheet(Window& host, const Alert& alert, std::function<void(int button)> handler) override;
-  std::optional<std::string> runOpenPanel(const OpenPanel& panel) override;
+  std::optional<DiskPath> runOpenPanel(const OpenPanel& panel) override;
   void beginSavePanel(Window& host, const SavePanel& panel,
-                      std::function<void(int code, const std::string& path)> handler) override;
+                      std::function<void(int code, const DiskPath& path)> handler) override;
 
  private:
   Panels& panels_;

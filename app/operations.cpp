@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "app/program.h"
-#include "platform/services/locations.h"
 #include "platform/text/text_rules.h"
 
 namespace tarvo {
@@ -101,7 +100,7 @@ const Operation all[] = {
               [](Rooms& rooms, int tool) { return rooms.picker.isStartedApplication(tool); }),
     {"style.readImportStyle", 1,
      [](Program& program, Arguments arguments) -> Answer {
-       return program.styles().readImportStyle(program.services().locations.picked(arguments.front()));
+       return program.styles().readImportStyle(DiskPath(arguments.front()));
      },
      false, true},
     {"style.getOSVersion", 0, [](Program& program, Arguments) -> Answer { return program.styles().getOSVersion(); }},

@@ -23,7 +23,7 @@ struct Operation {
   // leadingInteger.
   std::function<std::optional<PropertyList>(Program&, std::span<const std::string> arguments)> run;
   bool takesMore = false;   // any number of further texts stands before these arguments: a list
-  bool takesPaths = false;  // the arguments are real paths
+  bool takesPaths = false;  // the arguments are paths on this disk
 };
 
 std::span<const Operation> operations();

@@ -19,7 +19,7 @@ namespace {
 
 Locations locationsFor(const ProductOptions& options) {
   Places places = findPlaces(options.root, options.home);
-  return {std::move(places.root), std::move(places.home)};
+  return {places.root.text(), places.home.text()};
 }
 
 std::vector<std::string> languagesFor(const std::string& first) {
@@ -34,12 +34,11 @@ Product::Product(const ProductOptions& options)
       locations_(locationsFor(options)),
       files_(std::make_unique<PosixFiles>(locations_)),
       styleModule_(std::make_unique<LocalStyleModule>()) {
-  const std::string resources =
-      locations_.picked(options.resources ? absolutePath(*options.resources) : defaultResources());
+  const DiskPath resources = options.resources ? absolutePath(*options.resources) : defaultResources();
   bundle_ = std::make_unique<Bundle>(*files_, resources, languagesFor(language_));
   layTexts(options.strings);
   paths_ = std::make_unique<ProductPaths>(locations_, readPaths(options.paths));
-  scripts_ = std::make_unique<BundleScriptRunner>(*files_, paths_->volumeName());
+  scripts_ = std::make_unique<BundleScriptRunner>(*files_, locations_, paths_->volumeName());
   if (engine_ && tarvo::makeEngine(engineURL(), *files_, enginePlaces()) == nullptr) {
     problem_ = "there is no style service of this kind: " + *engine_;
   }
@@ -49,12 +48,12 @@ Product::~Product() = default;
 
 void Product::layTexts(const std::vector<std::string>& strings) {
   overlayShippedTable(texts_, *bundle_, *files_);
-  const Result<> laid = overlayTableFile(texts_, *files_, machineTexts);
+  const Result<> laid = overlayTableFile(texts_, *files_, locations_.onDisk(ProductPath(machineTexts)));
   (void)laid;  // most machines have none
   for (const std::string& file : strings) {
     if (file == "none") {
       texts_.clear();
-    } else if (!overlayTableFile(texts_, *files_, locations_.picked(absolutePath(file)))) {
+    } else if (!overlayTableFile(texts_, *files_, absolutePath(file))) {
       problem_ = "cannot read the texts in " + file;
     }
   }
@@ -62,11 +61,11 @@ void Product::layTexts(const std::vector<std::string>& strings) {
 
 std::optional<Dictionary> Product::readPaths(const std::optional<std::string>& overlay) {
   std::optional<Dictionary> configuration;
-  if (Result<Dictionary> shipped = readDictionary(*files_, joinPath(bundle_->folder(), "WordhavenPaths.plist"))) {
+  if (Result<Dictionary> shipped = readDictionary(*files_, bundle_->folder() / "WordhavenPaths.plist")) {
     configuration = std::move(*shipped);
   }
   if (!overlay) return configuration;
-  const Result<Dictionary> over = readDictionary(*files_, locations_.picked(absolutePath(*overlay)));
+  const Result<Dictionary> over = readDictionary(*files_, absolutePath(*overlay));
   if (!over) {
     problem_ = "cannot read the paths in " + *overlay;
     return configuration;
@@ -77,12 +76,10 @@ std::optional<Dictionary> Product::readPaths(const std::optional<std::string>& o
 }
 
 std::string Product::engineURL() const {
-  return addressForUser(engine_.value_or(paths_->engineURL()), lastPathComponent(locations_.home()));
+  return addressForUser(engine_.value_or(paths_->engineURL()), locations_.home().name());
 }
 
-EnginePlaces Product::enginePlaces() const {
-  return {paths_->localEnginePath(), locations_.resolve(locations_.inHome(".netrc"))};
-}
+EnginePlaces Product::enginePlaces() const { return {paths_->localEnginePath(), locations_.inHome(".netrc")}; }
 
 std::unique_ptr<Engine> Product::makeEngine(FileService& files) {
   std::unique_ptr<Engine> engine = tarvo::makeEngine(engineURL(), files, enginePlaces());

@@ -39,8 +39,9 @@ class Product {
   // What was asked for and could not be had (a text or path list that cannot be read); "" when all is well.
   const std::string& problem() const { return problem_; }
   const std::string& language() const { return language_; }
-  Locations& locations() { return locations_; }
+  const Locations& locations() const { return locations_; }
   FileService& files() { return *files_; }
+  const FileService& files() const { return *files_; }
   Bundle& bundle() { return *bundle_; }
   Texts& texts() { return texts_; }
   ProductPaths& paths() { return *paths_; }

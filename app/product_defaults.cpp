@@ -7,6 +7,7 @@
 #include <initializer_list>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "platform/posix/process.h"
 #include "platform/text/text_rules.h"
@@ -24,12 +25,12 @@ std::string environment(const char* name) {
 
 // A folder of the installed product, as it lies relative to the running program; nothing for a program in its build
 // tree.
-std::optional<std::string> besideProgram(const char* rest) {
+std::optional<DiskPath> besideProgram(const char* rest) {
   std::error_code error;
-  const fs::path own = programFolder();
+  const fs::path own = programFolder().text();
   if (own.empty()) return std::nullopt;
   const fs::path folder = (own / "../share/tarvo-manager" / rest).lexically_normal();
-  return fs::is_directory(folder, error) ? std::optional(folder.string()) : std::nullopt;
+  return fs::is_directory(folder, error) ? std::optional(DiskPath(folder.string())) : std::nullopt;
 }
 
 std::string login() {
@@ -37,25 +38,25 @@ std::string login() {
   return !name.empty() ? name : environment("USER");
 }
 
-std::string systemHome() {
+DiskPath systemHome() {
   std::string home = environment("HOME");
-  if (isAbsolutePath(home)) return home;
-  const std::string known = loginHome();
-  return !known.empty() ? known : "/";
+  if (isAbsolutePath(home)) return DiskPath(std::move(home));
+  DiskPath known = loginHome();
+  return !known.empty() ? known : DiskPath("/");
 }
 
 }  // namespace
 
-std::string programFolder() {
-  const Result<std::string> file = programFile();
-  return file ? deletingLastPathComponent(*file) : "";
+DiskPath programFolder() {
+  const Result<DiskPath> file = programFile();
+  return file ? file->folder() : DiskPath();
 }
 
-std::string absolutePath(const std::string& path) {
+DiskPath absolutePath(const std::string& path) {
   std::error_code error;
   fs::path full = fs::absolute(path, error).lexically_normal();
   if (!full.has_filename() && full != full.root_path()) full = full.parent_path();
-  return full.string();
+  return DiskPath(full.string());
 }
 
 std::string languageFromEnvironment() {
@@ -66,12 +67,12 @@ std::string languageFromEnvironment() {
   return "en";
 }
 
-std::string defaultResources() { return besideProgram("resources").value_or(TARVO_BUILD_RESOURCES); }
+DiskPath defaultResources() { return besideProgram("resources").value_or(DiskPath(TARVO_BUILD_RESOURCES)); }
 
-std::string missingResource(const std::string& folder) {
+DiskPath missingResource(const DiskPath& folder) {
   for (const char* name : {"DefaultAddin.plist", "WordhavenPaths.plist"}) {
     std::error_code error;
-    if (std::string path = joinPath(folder, name); !fs::is_regular_file(path, error)) return path;
+    if (DiskPath path = folder / name; !fs::is_regular_file(path.text(), error)) return path;
   }
   return {};
 }
@@ -83,13 +84,13 @@ Places findPlaces(const std::optional<std::string>& root, const std::optional<st
   if (!namedRoot.empty()) {
     places.root = absolutePath(namedRoot);
   } else {
-    places.root = !configured.empty() ? configured : besideProgram("root").value_or("/");
+    places.root = !configured.empty() ? DiskPath(configured) : besideProgram("root").value_or(DiskPath("/"));
   }
   const std::string namedHome = home ? *home : environment("TARVO_HOME");
   if (!namedHome.empty()) {
     places.home = absolutePath(namedHome);
   } else {
-    places.home = namedRoot.empty() ? systemHome() : joinPath(joinPath(places.root, "Users"), login());
+    places.home = namedRoot.empty() ? systemHome() : places.root / "Users" / login();
   }
   return places;
 }

@@ -5,27 +5,29 @@
 #include <optional>
 #include <string>
 
+#include "platform/text/paths.h"
+
 // Where the product, its resources and the user's home are when the command line does not say so.
 namespace tarvo {
 
-// Where the running program lies; "" when the system does not say.
-std::string programFolder();
+// Where the running program lies; empty when the system does not say.
+DiskPath programFolder();
 
 // A path of the command line, made absolute from the working folder, without a trailing slash.
-std::string absolutePath(const std::string& path);
+DiskPath absolutePath(const std::string& path);
 
 // "ja" or "en", from the locale's environment variables.
 std::string languageFromEnvironment();
 
 // The resource folder that belongs to the running program: beside an installed one, else the source tree it was built
 // from.
-std::string defaultResources();
+DiskPath defaultResources();
 
 // The first file without which nothing works that this folder of resources lacks; "" when all are there.
-std::string missingResource(const std::string& folder);
+DiskPath missingResource(const DiskPath& folder);
 
 struct Places {
-  std::string root, home;  // absolute, without a trailing slash ("/" for no root)
+  DiskPath root, home;  // "/" for no root
 };
 // root, home: what the command line says. Then TARVO_ROOT and TARVO_HOME; then the root configured when the program was
 // built or lying beside an installed one, and the login's home: "<root>/Users/<login>" for a root that the user named.

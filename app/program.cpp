@@ -5,7 +5,6 @@
 #include <cmath>
 #include <utility>
 
-#include "app/picked_applications.h"
 #include "app/window_geometry.h"
 
 namespace tarvo {
@@ -34,9 +33,9 @@ Program::Program(const Services& given)
       manager_(interface_, rooms_, services_, defaults_, notifications_, windows_, [this] { quit(); }),
       styles_(interface_, rooms_, services_, defaults_, notifications_, [this] { quit(); }),
       opening_({interface_, styles_, manager_, panels_, rooms_.connection, windows_, services_.texts}),
-      requests_(services_.runLoop, services_.locations, styles_, opening_) {
+      requests_(services_.runLoop, styles_, opening_) {
   rooms_.connection.didEndAsking = [this] {
-    if (const std::optional<std::string> file = opening_.takeKept()) requests_.openStyleFile(*file);
+    if (const std::optional<DiskPath> file = opening_.takeKept()) requests_.openStyleFile(*file);
   };
 }
 
@@ -46,7 +45,6 @@ bool Program::construct() {
   interface_.connect({rooms_, styles_, manager_}, services_.texts);
   Window& window = interface_.manager.myWindow;
   window.setFrameInPlace(firstFrame(windows_.host(), window));
-  leavePickedApplications(defaults_, services_.locations);
   if (!manager_.init()) return false;
   styles_.init();
   return true;

@@ -6,7 +6,6 @@
 
 #include "app/app_controller.h"
 #include "app/style_file_opening.h"
-#include "platform/services/locations.h"
 #include "platform/services/run_loop.h"
 
 namespace tarvo {
@@ -19,8 +18,8 @@ void RequestQueue::eventText(std::string code) {
   add([this, code = std::move(code)] { styles_.handleCallerCode(code); });
 }
 
-void RequestQueue::openStyleFile(std::string path) {
-  add([this, path = std::move(path)] { opening_.openStyleFile(locations_.picked(path)); });
+void RequestQueue::openStyleFile(DiskPath path) {
+  add([this, path = std::move(path)] { opening_.openStyleFile(path); });
 }
 
 void RequestQueue::activate() {

@@ -8,10 +8,11 @@
 #include <optional>
 #include <string>
 
+#include "platform/text/paths.h"
+
 namespace tarvo {
 
 class AppController;
-class Locations;
 class RunLoop;
 class StyleFileOpening;
 
@@ -22,8 +23,8 @@ class StyleFileOpening;
 class RequestQueue {
  public:
   // Not owned.
-  RequestQueue(RunLoop& runLoop, Locations& locations, AppController& styles, StyleFileOpening& opening)
-      : runLoop_(runLoop), locations_(locations), styles_(styles), opening_(opening) {}
+  RequestQueue(RunLoop& runLoop, AppController& styles, StyleFileOpening& opening)
+      : runLoop_(runLoop), styles_(styles), opening_(opening) {}
   RequestQueue(const RequestQueue&) = delete;
   RequestQueue& operator=(const RequestQueue&) = delete;
 
@@ -31,8 +32,7 @@ class RequestQueue {
   void event(std::optional<std::string> bytes);
   // A caller's code as text, UTF-8.
   void eventText(std::string code);
-  // A style file, by its real path.
-  void openStyleFile(std::string path);
+  void openStyleFile(DiskPath path);
   // The user wants to see the window.
   void activate();
   std::function<void()> bringForward;  // the shell's: what activate() does
@@ -45,7 +45,6 @@ class RequestQueue {
   void wake();
   void handleNext();
   RunLoop& runLoop_;
-  Locations& locations_;
   AppController& styles_;
   StyleFileOpening& opening_;
   std::deque<std::function<void()>> waiting_;

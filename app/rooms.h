@@ -71,8 +71,9 @@ struct Rooms {
   Windows& windows_ = with_.windows;
   PopUpButton& stylePopup_ = interface_.style.stylePopup;
   Window& myWindow_ = interface_.manager.myWindow;
-  const std::string home_ = services_.locations.home();
-  const DictController::Services dictionaryServices_{services_.files, texts_, services_.bundle, services_.paths};
+  const Locations& locations_ = services_.locations;
+  const DictController::Services dictionaryServices_{services_.files, texts_, services_.bundle, services_.paths,
+                                                     locations_};
   const DictionaryNameChecks::Services nameServices_{services_.files, texts_, services_.paths, services_.panels};
   TarvoCommonModule module_{services_.paths};
   NewDictionaryRequest request_;
@@ -80,13 +81,13 @@ struct Rooms {
  public:
   ProcessFlags flags;
   PaneAlerts alerts{services_.panels, texts_};
-  StyleStore store{services_.files, services_.engine, defaults_, services_.locations.inHome(std::string(gStylePath)),
-                   std::string(gAppSupportStylePlist)};
+  StyleStore store{services_.files, services_.engine, defaults_, locations_.inHome(gStylePath),
+                   locations_.onDisk(ProductPath(std::string(gAppSupportStylePlist)))};
   OptionEditing options{store, interface_.options, texts_};
   RunningApplicationGuard guard{services_.workspace, services_.paths};
   DictionaryListEditing lists{store, stylePopup_, interface_.lists, texts_, dictionaryServices_, guard};
   DictionaryTable dictionaryTable{lists, texts_};
-  MedicalDictionaries medical{services_.files, texts_, defaults_, store};
+  MedicalDictionaries medical{services_.files, locations_, texts_, defaults_, store};
   UserLists userLists{dictionaryServices_};
   UserListRows userListRows{interface_.userLists, userLists, dictionaryServices_};
   TechDicController picker{{interface_.picker, windows_, services_.workspace, alerts, guard, with_.notifications},
@@ -102,17 +103,17 @@ struct Rooms {
   StyleDisplay display{store, options, lists, texts_};
   ToolChooser chooser{interface_.style, interface_.options, flags, with_.chooseTool};
   ToolListFile toolList{services_.files, defaults_, module_, interface_.tools, toolListPath(services_.locations)};
-  MailScriptInstaller mailScripts{services_.files, services_.bundle, home_};
-  MacroInstaller macros{services_.files, services_.bundle};
-  AddinLists addins{{services_.files, services_.bundle, defaults_}, home_, mailScripts, interface_.addins};
+  MailScriptInstaller mailScripts{services_.files, services_.bundle, locations_};
+  MacroInstaller macros{services_.files, services_.bundle, locations_};
+  AddinLists addins{{services_.files, services_.bundle, defaults_, locations_}, mailScripts, interface_.addins};
   AddinTable addinTable{{services_.panels, texts_},  addins, macros, mailScripts, interface_.addins,
                         interface_.manager.myTabView};
   OfficeFolderSearch officeSearch{
       {services_.files, services_.locations, services_.panels, texts_, services_.scripts, module_},
       addins,
       mailScripts};
-  OldScripts oldScripts{{services_.files, services_.panels, texts_}, addins, mailScripts, home_};
-  CautionWindows cautions{interface_.addins, windows_, services_.files, services_.workspace};
+  OldScripts oldScripts{{services_.files, services_.panels, texts_}, addins, mailScripts, locations_.home()};
+  CautionWindows cautions{interface_.addins, windows_, services_.files, locations_, services_.workspace};
   ConnectionCheck connection{{interface_.connection, myWindow_, services_.engine, defaults_, with_.notifications,
                               services_.panels, services_.runLoop, windows_, texts_}};
   HelpPages help{services_.bundle, services_.paths, texts_, services_.workspace};

@@ -20,7 +20,7 @@ class Workspace;
 // Everything outside the program that it works with, but for the panels: what the product gives (product.h) and what a
 // shell gives. Not owned.
 struct Surroundings {
-  Locations& locations;
+  const Locations& locations;
   FileService& files;
   Bundle& bundle;
   Texts& texts;

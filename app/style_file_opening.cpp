@@ -15,7 +15,7 @@
 
 namespace tarvo {
 
-void StyleFileOpening::openStyleFile(const std::string& path) {
+void StyleFileOpening::openStyleFile(const DiskPath& path) {
   if (with_.windows.covers().isAnythingUp()) {
     if (with_.connection.isAsking()) kept_ = path;
     return with_.panels.beep();
@@ -24,14 +24,14 @@ void StyleFileOpening::openStyleFile(const std::string& path) {
   if (mayReplace(path)) with_.styles.readImportStyle(path);
 }
 
-std::optional<std::string> StyleFileOpening::takeKept() { return std::exchange(kept_, std::nullopt); }
+std::optional<DiskPath> StyleFileOpening::takeKept() { return std::exchange(kept_, std::nullopt); }
 
-bool StyleFileOpening::mayReplace(const std::string& path) {
+bool StyleFileOpening::mayReplace(const DiskPath& path) {
   const PopUpButton& stylePopup = with_.interface.style.stylePopup;
   if (stylePopup.indexOfSelectedItem() < 0) return true;  // nothing to replace: the import tells so
   const int button = with_.panels.runAlertPanel(
       {.title = filledIn(with_.texts.localized("OpenImportHeader"), stylePopup.titleOfSelectedItem()),
-       .message = filledIn(with_.texts.localized("OpenImportMessage"), lastPathComponent(path)),
+       .message = filledIn(with_.texts.localized("OpenImportMessage"), path.name()),
        .buttons = {with_.texts.localized("OpenImport.Cancel"), with_.texts.localized("OpenImport.Replace")},
        .cancelButton = 0});
   return button == 1;

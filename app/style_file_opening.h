@@ -3,7 +3,8 @@
 #pragma once
 
 #include <optional>
-#include <string>
+
+#include "platform/text/paths.h"
 
 namespace tarvo {
 
@@ -32,15 +33,15 @@ class StyleFileOpening {
   explicit StyleFileOpening(const Collaborators& with) : with_(with) {}
   // Brings the style pane forward and asks whether the chosen style is to be replaced; then as from the import command.
   // While another question or window waits for the user there is only a beep; a file that comes upon the launch's own
-  // question is kept for afterwards. path: in the core's spelling.
-  void openStyleFile(const std::string& path);
+  // question is kept for afterwards.
+  void openStyleFile(const DiskPath& path);
   // The file that was kept last, once.
-  std::optional<std::string> takeKept();
+  std::optional<DiskPath> takeKept();
 
  private:
-  bool mayReplace(const std::string& path);
+  bool mayReplace(const DiskPath& path);
   Collaborators with_;
-  std::optional<std::string> kept_;
+  std::optional<DiskPath> kept_;
 };
 
 }  // namespace tarvo

@@ -11,7 +11,7 @@ namespace tarvo {
 
 namespace {
 
-Result<> makeFolder(FileService& files, const std::string& folder) {
+Result<> makeFolder(FileService& files, const DiskPath& folder) {
   if (files.isThere(folder)) return {};
   return files.makeFolder(folder);
 }

@@ -195,7 +195,7 @@ void TManagerController::applicationWillTerminate() {
   rooms_.addins.storeRows();
 }
 
-int TManagerController::getOSVersion() const { return systemVersion(services_.files); }
+int TManagerController::getOSVersion() const { return systemVersion(services_.files, services_.locations); }
 
 bool TManagerController::allowsMenuItem(std::string_view title) const {
   return mainWindowAllows(title, rooms_.flags, services_.texts) &&

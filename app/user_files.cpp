@@ -10,15 +10,15 @@ namespace {
 constexpr const char* identifier = "com.wordhaven.TarvoManager";
 }
 
-std::string userDefaultsPath(const Locations& locations) {
+DiskPath userDefaultsPath(const Locations& locations) {
   return locations.inHome(std::string("Library/Preferences/") + identifier + ".plist");
 }
 
-std::string lockPath(const Locations& locations) {
+DiskPath lockPath(const Locations& locations) {
   return locations.inHome(std::string("Library/Preferences/") + identifier + ".lock");
 }
 
-std::string toolListPath(const Locations& locations) {
+DiskPath toolListPath(const Locations& locations) {
   return locations.inHome("Library/Preferences/Wordhaven/TarvoManager.txt");
 }
 

@@ -2,15 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
+#include "platform/text/paths.h"
 
 namespace tarvo {
 
 class Locations;
 
-// Where the settings, the lock and the tool list of a user lie, in the core's spelling.
-std::string userDefaultsPath(const Locations& locations);
-std::string lockPath(const Locations& locations);
-std::string toolListPath(const Locations& locations);
+// Where the settings, the lock and the tool list of a user lie.
+DiskPath userDefaultsPath(const Locations& locations);
+DiskPath lockPath(const Locations& locations);
+DiskPath toolListPath(const Locations& locations);
 
 }  // namespace tarvo

@@ -40,7 +40,7 @@ class RealClock : public ScenarioClock {
 // Takes a lock and keeps it as long as it lives itself.
 class HeldLock {
  public:
-  bool operator()(const std::string& path) {
+  bool operator()(const DiskPath& path) {
     lock_.emplace(path);
     return lock_->state() != InstanceLock::State::heldByAnother;
   }
@@ -82,7 +82,7 @@ ExitStatus runScriptFile(const CommandLine& line) {
                                                    ? std::unique_ptr<ScenarioClock>(std::make_unique<RealClock>())
                                                    : std::make_unique<ManualRunLoop>();
   HeldLock lock;
-  return runScript({line.product, folder.lexically_normal().string(), std::ref(lock)}, *clock, line.script,
+  return runScript({line.product, DiskPath(folder.lexically_normal().string()), std::ref(lock)}, *clock, line.script,
                    std::move(text), std::cout, std::cerr);
 }
 
@@ -90,9 +90,9 @@ ExitStatus main(int count, char** words) {
   CommandLine line;
   if (const auto status = readCommandLine(line, {words + 1, words + count}, std::cout, std::cerr)) return *status;
   const auto& resources = line.product.resources;
-  const std::string missing = missingResource(resources ? absolutePath(*resources) : defaultResources());
+  const DiskPath missing = missingResource(resources ? absolutePath(*resources) : defaultResources());
   if (line.needsResources && !missing.empty()) {
-    std::cerr << "tarvoctl: " << missing
+    std::cerr << "tarvoctl: " << missing.text()
               << ": is not there; the folder holds no resources of the product; name another "
               << "one with --resources, or install the product again\n";
     return ExitStatus::refused;

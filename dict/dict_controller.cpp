@@ -25,7 +25,7 @@ int limitOf(DictionaryKind kind) {
 
 }  // namespace
 
-bool DictController::initializeDictController(DictionaryKind kind, std::string dicPath, Direction direction) {
+bool DictController::initializeDictController(DictionaryKind kind, DiskPath dicPath, Direction direction) {
   kind_ = kind;
   dicFolderPath_ = std::move(dicPath);
   direction_ = direction;
@@ -33,7 +33,7 @@ bool DictController::initializeDictController(DictionaryKind kind, std::string d
 }
 
 bool DictController::initializeDictionary() {
-  const DictionaryScan scan{services_.files, services_.texts, dicFolderPath_, kind_, direction_};
+  const DictionaryScan scan{services_.files, services_.texts, services_.locations, dicFolderPath_, kind_, direction_};
   entries_.emplace();
   positions_.clear();
   for (std::string& name : scan.names()) {
@@ -137,7 +137,7 @@ bool DictController::checkMaxOver(const std::optional<Names>& names) const {
   return names && loadedNames().size() + names->size() > static_cast<std::size_t>(limitOf(kind_));
 }
 
-std::string DictController::getDicPath(const std::optional<std::string>& name) const {
+DiskPath DictController::getDicPath(const std::optional<std::string>& name) const {
   if (!name) return {};
   if (kind_ == DictionaryKind::memory) {
     const ProductPaths& paths = services_.paths;
@@ -147,7 +147,7 @@ std::string DictController::getDicPath(const std::optional<std::string>& name) c
       return isEnglish ? paths.tarvoPathMemoryEtoJURL() : paths.tarvoPathMemoryJtoEURL();
     }
   }
-  return joinPath(dicFolderPath_, *name);
+  return dicFolderPath_ / *name;
 }
 
 bool DictController::isCommonName(const std::string& name) const {
@@ -173,10 +173,10 @@ bool DictController::isExitsDic(const std::string& name) {
 
 Result<> DictController::createDictionary(const std::string& name, bool& isLoaded) {
   if (dicFolderPath_.empty()) return Failure{name, Attempt::create, Reason::noPath};  // a list that was never set up
-  const std::string path = getDicPath(name);
+  const DiskPath path = getDicPath(name);
   // What cannot be looked at is not written over; the look says why it cannot.
   if (const Result<FileService::Kind> there = services_.files.kind(path); !there) return there.error();
-  if (isExitsDic2(name)) return Failure{path, Attempt::create, std::make_error_code(std::errc::file_exists)};
+  if (isExitsDic2(name)) return Failure{path.text(), Attempt::create, std::make_error_code(std::errc::file_exists)};
   Result<> made = makeDictionaryFile(services_.files, services_.bundle, path, kind_, direction_);
   if (!made) return made;
   // Loading the new name asks for it again; when there was no template, that must not create it once more.

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 #include "style/dictionary_kind.h"
 
 // The model of one ordered dictionary list: a folder of dictionary files, and which of them are loaded, in which order.
@@ -20,6 +21,7 @@ namespace tarvo {
 
 class Bundle;
 class FileService;
+class Locations;
 class ProductPaths;
 class Texts;
 
@@ -43,16 +45,17 @@ class DictController {
     const Texts& texts;
     const Bundle& bundle;
     const ProductPaths& paths;
+    const Locations& locations;
   };
   explicit DictController(Services services) : services_(services) {}
 
-  bool initializeDictController(DictionaryKind kind, std::string dicPath, Direction direction);
+  bool initializeDictController(DictionaryKind kind, DiskPath dicPath, Direction direction);
   void setKind(DictionaryKind kind) { kind_ = kind; }
   void setDirection(Direction direction) { direction_ = direction; }
-  void setDicFolderPath(std::string path) { dicFolderPath_ = std::move(path); }
+  void setDicFolderPath(DiskPath path) { dicFolderPath_ = std::move(path); }
   DictionaryKind kind() const { return kind_; }
   Direction direction() const { return direction_; }
-  const std::string& dicFolderPath() const { return dicFolderPath_; }
+  const DiskPath& dicFolderPath() const { return dicFolderPath_; }
 
   bool initializeDictionary();  // rescan; true when an entry was found
   // Loads exactly these, in this order, as far as they have an entry and their file still exists. A common dictionary
@@ -67,7 +70,7 @@ class DictController {
   void updateAllDictionary();
   void clearInformation();
   bool checkMaxOver(const std::optional<Names>& names) const;
-  std::string getDicPath(const std::optional<std::string>& name) const;
+  DiskPath getDicPath(const std::optional<std::string>& name) const;
   bool isExitsDic(const std::string& name);  // a common dictionary that is missing is made anew, empty
   bool isExitsDic2(const std::string& name) const;
   // After a failure nothing was created and isLoaded is untouched. isLoaded: whether the list had room for it.
@@ -85,7 +88,7 @@ class DictController {
   bool isBeingCreated(const std::string& name) const;
   Services services_;
   DictionaryKind kind_ = DictionaryKind::technical;
-  std::string dicFolderPath_;
+  DiskPath dicFolderPath_;
   Direction direction_ = Direction::japaneseToEnglish;
   std::optional<std::vector<DictionaryEntry>> entries_;
   std::unordered_map<std::string, std::size_t> positions_;  // of the first entry under a folded name

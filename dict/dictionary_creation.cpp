@@ -9,11 +9,11 @@
 
 namespace tarvo {
 
-Result<> makeDictionaryFile(FileService& files, const Bundle& bundle, const std::string& path, DictionaryKind kind,
+Result<> makeDictionaryFile(FileService& files, const Bundle& bundle, const DiskPath& path, DictionaryKind kind,
                             Direction direction) {
   const bool isEnglish = direction == Direction::englishToJapanese;
-  const std::optional<std::string> stationery = bundle.resource(
-      isEnglish ? "EJStationery" : "JEStationery", std::string(extensionOf(DictionaryKind::user, direction)));
+  const std::optional<DiskPath> stationery = bundle.resource(isEnglish ? "EJStationery" : "JEStationery",
+                                                             std::string(extensionOf(DictionaryKind::user, direction)));
   if (stationery) {
     if (Result<> copied = files.copy(*stationery, path); !copied) return copied;
   }

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 #include "style/dictionary_kind.h"
 
 namespace tarvo {
@@ -16,7 +15,7 @@ class FileService;
 // else "JEStationery.jud", whatever the kind. User dictionaries get their type code and a blank creator.
 // A template that is missing is no failure: then no file is made, which the path alone shows. After a failure nothing
 // is there.
-Result<> makeDictionaryFile(FileService& files, const Bundle& bundle, const std::string& path, DictionaryKind kind,
+Result<> makeDictionaryFile(FileService& files, const Bundle& bundle, const DiskPath& path, DictionaryKind kind,
                             Direction direction);
 
 }  // namespace tarvo

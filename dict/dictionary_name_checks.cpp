@@ -86,7 +86,7 @@ bool DictionaryNameChecks::checkExistsNewDic() {
   const std::optional<DictionaryKind> kind = request_.kind;
   if (kind != DictionaryKind::user && kind != DictionaryKind::memory) return true;
   request_.fDictName = fileNameFor(*kind, request_.direction, name());
-  if (!existsIgnoringCase(services_.files, joinPath(names().folderOf(*kind), request_.fDictName))) return true;
+  if (!existsIgnoringCase(services_.files, names().folderOf(*kind) / request_.fDictName)) return true;
   services_.panels.beep();
   alert("\"" + request_.fDictName + "\"" + services_.texts.localizedOrEmpty("existsDicHeader"),
         kind == DictionaryKind::user ? "existsUDMessage" : "existsUTMAMessage");

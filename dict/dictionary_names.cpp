@@ -20,9 +20,9 @@ bool DictionaryNames::isReserved(DictionaryKind kind, Direction direction, const
   return !key.empty() && equalIgnoringCase(name, texts.localizedOrEmpty(key));
 }
 
-std::string DictionaryNames::folderOf(DictionaryKind kind) const {
+DiskPath DictionaryNames::folderOf(DictionaryKind kind) const {
   if (kind == DictionaryKind::user) return paths.tarvoPathUserDicFolderURL();
-  return kind == DictionaryKind::memory ? paths.tarvoPathUserTmaFolderURL() : std::string();
+  return kind == DictionaryKind::memory ? paths.tarvoPathUserTmaFolderURL() : DiskPath();
 }
 
 std::optional<NewNameProblem> DictionaryNames::problemWith(DictionaryKind kind, Direction direction,
@@ -33,7 +33,7 @@ std::optional<NewNameProblem> DictionaryNames::problemWith(DictionaryKind kind, 
   if (std::any_of(forbidden.begin(), forbidden.end(), isHeld)) return NewNameProblem::forbidden;
   if (isReserved(kind, direction, name)) return NewNameProblem::reserved;
   if (isTooLongForTheEngine(name)) return NewNameProblem::tooLong;
-  const bool exists = existsIgnoringCase(files, joinPath(folderOf(kind), fileNameFor(kind, direction, name)));
+  const bool exists = existsIgnoringCase(files, folderOf(kind) / fileNameFor(kind, direction, name));
   return exists ? std::optional(NewNameProblem::exists) : std::nullopt;
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/text/paths.h"
 #include "style/dictionary_kind.h"
 
 // The rules for the name of a new user dictionary or translation memory, without its extension.
@@ -26,7 +27,7 @@ struct DictionaryNames {
 
   // Whether the user has that dictionary anyway, ignoring case.
   bool isReserved(DictionaryKind kind, Direction direction, const std::string& name) const;
-  std::string folderOf(DictionaryKind kind) const;  // of the user's own; "" for technical ones
+  DiskPath folderOf(DictionaryKind kind) const;  // of the user's own; empty for technical ones
   // The first problem of a name without white space at its ends, in the order of the enumeration.
   std::optional<NewNameProblem> problemWith(DictionaryKind kind, Direction direction, const std::string& name,
                                             std::span<const std::string_view> forbidden) const;

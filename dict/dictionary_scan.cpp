@@ -6,6 +6,7 @@
 
 #include "platform/plist/plist_writer.h"
 #include "platform/services/file_service.h"
+#include "platform/services/locations.h"
 #include "platform/services/texts.h"
 #include "platform/text/text_rules.h"
 
@@ -31,7 +32,9 @@ class MedicalFilter {
 
   bool keeps(const std::string& name) const {
     for (const MedicalFile& file : medicalFiles) {
-      if (name == file.name) return !scan_.files.isAbsent(scan_.texts.localized(file.dataPathKey));
+      if (name != file.name) continue;
+      const ProductPath data(scan_.texts.localized(file.dataPathKey));
+      return !scan_.files.isAbsent(scan_.locations.onDisk(data));
     }
     return !equalIgnoringCase(name, displayName_) && !equalIgnoringCase(name, abbreviationName_);
   }
@@ -47,7 +50,7 @@ bool isOfKind(const DictionaryScan& scan, const std::string& name) {
   if (scan.kind != DictionaryKind::technical) return is(extensionOf(scan.kind, scan.direction));
   if (!canHoldText(name)) return false;  // a style could not keep it
   // The type code is asked for last: it costs a look at the disk.
-  return is("TRet") || is("jtd") || scan.files.typeCode(joinPath(scan.folder, name)) == technicalType;
+  return is("TRet") || is("jtd") || scan.files.typeCode(scan.folder / name) == technicalType;
 }
 
 }  // namespace

@@ -5,18 +5,21 @@
 #include <string>
 #include <vector>
 
+#include "platform/text/paths.h"
 #include "style/dictionary_kind.h"
 
 namespace tarvo {
 
 class FileService;
+class Locations;
 class Texts;
 
 // What to look for in a folder of dictionaries.
 struct DictionaryScan {
   const FileService& files;
   const Texts& texts;
-  std::string folder;  // absolute
+  const Locations& locations;
+  DiskPath folder;
   DictionaryKind kind = DictionaryKind::technical;
   Direction direction = Direction::japaneseToEnglish;
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/services/file_service.h"
+#include "platform/services/locations.h"
 #include "platform/services/texts.h"
 #include "platform/services/user_defaults.h"
 #include "platform/text/text_rules.h"
@@ -44,15 +45,16 @@ Kind copyOr(const Kind* value) {
 
 }  // namespace
 
-MedicalDictionaries::MedicalDictionaries(FileService& files, const Texts& texts, UserDefaults& defaults,
-                                         StyleStore& store)
-    : files_(files), texts_(texts), defaults_(defaults), store_(store) {}
+MedicalDictionaries::MedicalDictionaries(const FileService& files, const Locations& locations, const Texts& texts,
+                                         UserDefaults& defaults, StyleStore& store)
+    : files_(files), locations_(locations), texts_(texts), defaults_(defaults), store_(store) {}
 
 std::vector<std::string_view> MedicalDictionaries::insertInstalled() {
   std::vector<std::string_view> flags;
   // A flag that is there counts, whatever it says: what a user has removed from a list is not put back.
   const auto isDue = [&](std::string_view dataPathKey, std::string_view flag) {
-    return files_.isThere(texts_.localized(dataPathKey)) && defaults_.find(flag) == nullptr;
+    const DiskPath data = locations_.onDisk(ProductPath(texts_.localized(dataPathKey)));
+    return files_.isThere(data) && defaults_.find(flag) == nullptr;
   };
   if (isDue("TechECorwell6", "Corwell1stE")) {
     insertCorwell(Direction::englishToJapanese, "cwl.TRet", "cwla.TRet");

@@ -14,13 +14,15 @@
 namespace tarvo {
 
 class FileService;
+class Locations;
 class StyleStore;
 class Texts;
 class UserDefaults;
 
 class MedicalDictionaries {
  public:
-  MedicalDictionaries(FileService& files, const Texts& texts, UserDefaults& defaults, StyleStore& store);
+  MedicalDictionaries(const FileService& files, const Locations& locations, const Texts& texts, UserDefaults& defaults,
+                      StyleStore& store);
   // Inserts those that are installed and were never inserted. The flags of those that were: where there are any, a list
   // may have changed and the style file has to be written.
   std::vector<std::string_view> insertInstalled();
@@ -34,7 +36,8 @@ class MedicalDictionaries {
   // word: text key of the word that tells the dictionary in a list.
   void insert(Direction direction, std::string_view word, const std::string& name,
               const std::optional<std::string>& abbreviation);
-  FileService& files_;
+  const FileService& files_;
+  const Locations& locations_;
   const Texts& texts_;
   UserDefaults& defaults_;
   StyleStore& store_;

@@ -17,7 +17,7 @@ namespace {
 
 using Kind = ListProblem::Kind;
 
-std::string folderOf(const DictController::Services& services, Direction direction) {
+DiskPath folderOf(const DictController::Services& services, Direction direction) {
   return direction == Direction::englishToJapanese ? services.paths.tarvoPathTechnicalDicEngFolderURL()
                                                    : services.paths.tarvoPathTechnicalDicJpnFolderURL();
 }

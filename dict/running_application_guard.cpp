@@ -12,8 +12,8 @@
 namespace tarvo {
 
 bool RunningApplicationGuard::isStartedApplication(int tool) {
-  const std::vector<std::string> running = workspace_.launchedApplications();
-  const std::string path = paths_.tarvoPathGetAppleyPath(tool);
+  const std::vector<ProductPath> running = workspace_.launchedApplications();
+  const ProductPath path = paths_.tarvoPathGetAppleyPath(tool);
   return !path.empty() && std::find(running.begin(), running.end(), path) != running.end();
 }
 

@@ -127,7 +127,7 @@ void TechDicController::showRoom() {
 void TechDicController::OpenFolder(int senderTag) {
   const std::optional<DictionaryKind> kind = dictionaryKindForNumber(senderTag);
   if (!kind) return;
-  std::string folder;
+  DiskPath folder;
   switch (*kind) {
     case DictionaryKind::technical:
       folder = request_.direction == Direction::englishToJapanese ? paths_.tarvoPathTechnicalDicEngFolderURL()

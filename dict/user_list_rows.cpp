@@ -18,7 +18,7 @@ int UserListRows::numberOfRowsInTableView(TableView& table) {
   if (&table == shown_[pair]) {
     // A model of its own, so that looking does not touch what the lists have loaded.
     DictController folder(services_);
-    const std::string& path = lists_[pair]->dicFolderPath();
+    const DiskPath& path = lists_[pair]->dicFolderPath();
     if (!path.empty()) folder.initializeDictController(lists_[pair]->kind(), path, lists_[pair]->direction());
     rows_[pair] = folder.getAllDictionary();
   } else {

@@ -15,9 +15,9 @@ UserLists::UserLists(DictController::Services services)
       services_(services) {}
 
 void UserLists::setUp() {
-  const std::string dictionaries = services_.paths.tarvoPathUserDicFolderURL();
-  const std::string memories = services_.paths.tarvoPathUserTmaFolderURL();
-  for (const std::string& folder : {dictionaries, memories}) {
+  const DiskPath dictionaries = services_.paths.tarvoPathUserDicFolderURL();
+  const DiskPath memories = services_.paths.tarvoPathUserTmaFolderURL();
+  for (const DiskPath& folder : {dictionaries, memories}) {
     if (services_.files.isThere(folder)) continue;
     const Result<> made = services_.files.makeFolder(folder);
     (void)made;  // the lists of a folder that is not there are empty; a dictionary that is made in it tells why

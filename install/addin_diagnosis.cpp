@@ -15,10 +15,10 @@ using namespace addin_keys;
 using Kind = FileService::Kind;
 using Obstacle = std::optional<Failure>;
 
-Obstacle obstacle(const std::string& path, Attempt attempt, std::error_code cause) {
-  return Failure{path, attempt, cause};
+Obstacle obstacle(const DiskPath& path, Attempt attempt, std::error_code cause) {
+  return Failure{path.text(), attempt, cause};
 }
-Obstacle obstacle(const std::string& path, Attempt attempt, std::errc cause) {
+Obstacle obstacle(const DiskPath& path, Attempt attempt, std::errc cause) {
   return obstacle(path, attempt, std::make_error_code(cause));
 }
 template <class T>
@@ -28,27 +28,25 @@ Obstacle obstacle(const Result<T>& result) {
 
 class Look {
  public:
-  Look(const AddinEntry& entry, const FileService& files, const Bundle& bundle)
+  Look(const AddinEntry& entry, const FileService& files, const Locations& locations, const Bundle& bundle)
       : entry_(entry), files_(files), source_(addinSource(entry, bundle)) {
     found_ = {.table = isMailAddin(entry) ? "mail" : "office",
               .name = addinText(entry, appName),
               .version = addinText(entry, appVersion),
-              .application = addinText(entry, appPath),
-              .folder = addinText(entry, installFolderPath),
-              .item = installedItemPath(entry),
+              .places = placesOf(entry, locations, files),
               .missing = {},
               .obstacle = {},
               .removalObstacle = {},
               .isMarked = isMarkedInstalled(entry)};
-    there_ = files.kind(found_.item);
-    folder_ = files.kind(found_.folder);
+    there_ = files.kind(found_.places.item);
+    folder_ = files.kind(found_.places.folder);
     found_.isThere = there_ ? *there_ != Kind::absent : found_.isMarked;
   }
 
   AddinDiagnosis all() {
-    require(found_.application);
+    require(found_.places.application);
     if (!source_) found_.missing.push_back(addinText(entry_, installMacroName));
-    require(found_.folder);
+    require(found_.places.folder);
     found_.obstacle = common();
     if (!found_.obstacle) found_.obstacle = isMailAddin(entry_) ? ofScripts() : ofMacro();
     if (found_.isThere) found_.removalObstacle = ofRemoval();
@@ -56,32 +54,33 @@ class Look {
   }
 
  private:
-  void require(const std::string& path) {
-    if (files_.isAbsent(path)) found_.missing.push_back(path);
+  void require(const DiskPath& path) {
+    if (files_.isAbsent(path)) found_.missing.push_back(path.text());
   }
-  bool isLink(const std::string& path) const { return files_.ownKind(path) == Kind::link; }
+  bool isLink(const DiskPath& path) const { return files_.ownKind(path) == Kind::link; }
 
   Obstacle common() const {
-    if (!isAbsolutePath(found_.folder)) return obstacle(found_.name, Attempt::install, Reason::noInstallFolder);
+    if (!isAbsolutePath(found_.places.folder.text()))
+      return Failure{found_.name, Attempt::install, Reason::noInstallFolder};
     if (!source_) return obstacle(source_);
     if (!folder_) return obstacle(folder_);
     if (!there_) return obstacle(there_);
     if (*folder_ != Kind::absent && *folder_ != Kind::folder) {
-      return obstacle(found_.folder, Attempt::install, std::errc::not_a_directory);
+      return obstacle(found_.places.folder, Attempt::install, std::errc::not_a_directory);
     }
     if (*folder_ == Kind::folder) {
-      if (const Result<> writable = files_.checkWritable(found_.folder); !writable) return writable.error();
+      if (const Result<> writable = files_.checkWritable(found_.places.folder); !writable) return writable.error();
     }
-    if (isLink(found_.item)) return obstacle(found_.item, Attempt::install, Reason::linkInTheWay);
+    if (isLink(found_.places.item)) return obstacle(found_.places.item, Attempt::install, Reason::linkInTheWay);
     return std::nullopt;
   }
 
   Obstacle ofMacro() const {
     if (*folder_ == Kind::absent) {
-      return obstacle(found_.folder, Attempt::install, std::errc::no_such_file_or_directory);
+      return obstacle(found_.places.folder, Attempt::install, std::errc::no_such_file_or_directory);
     }
     if (!found_.isThere) return std::nullopt;
-    return obstacle(found_.item, Attempt::install, std::errc::file_exists);
+    return obstacle(found_.places.item, Attempt::install, std::errc::file_exists);
   }
 
   Obstacle ofScripts() {
@@ -89,12 +88,12 @@ class Look {
     if (!scripts) return obstacle(scripts);
     if (scripts->empty()) return obstacle(*source_, Attempt::install, Reason::emptyResource);
     if (!found_.isThere) return std::nullopt;
-    if (*there_ != Kind::folder) return obstacle(found_.item, Attempt::install, std::errc::not_a_directory);
+    if (*there_ != Kind::folder) return obstacle(found_.places.item, Attempt::install, std::errc::not_a_directory);
     Obstacle taken;
     for (const std::string& script : *scripts) {
-      const std::string path = joinPath(found_.item, script);
+      const DiskPath path = found_.places.item / script;
       if (files_.isAbsent(path)) {
-        found_.missing.push_back(path);
+        found_.missing.push_back(path.text());
         found_.isPartial = true;
       } else if (!taken) {
         taken = obstacle(path, Attempt::install, std::errc::file_exists);
@@ -105,30 +104,31 @@ class Look {
 
   Obstacle ofRemoval() const {
     if (!there_) return obstacle(there_);
-    if (const Result<> writable = files_.checkWritable(found_.folder); !writable) return writable.error();
+    if (const Result<> writable = files_.checkWritable(found_.places.folder); !writable) return writable.error();
     if (!isMailAddin(entry_)) return std::nullopt;
-    if (isLink(found_.item)) return obstacle(found_.item, Attempt::uninstall, Reason::linkInTheWay);
-    if (*there_ != Kind::folder) return obstacle(found_.item, Attempt::uninstall, std::errc::not_a_directory);
-    const Result<std::vector<std::string>> names = files_.list(found_.item);
+    if (isLink(found_.places.item)) return obstacle(found_.places.item, Attempt::uninstall, Reason::linkInTheWay);
+    if (*there_ != Kind::folder) return obstacle(found_.places.item, Attempt::uninstall, std::errc::not_a_directory);
+    const Result<std::vector<std::string>> names = files_.list(found_.places.item);
     if (!names) return obstacle(names);
     for (const std::string& name : *names) {
-      const std::string path = joinPath(found_.item, name);
+      const DiskPath path = found_.places.item / name;
       if (files_.isAbsent(path)) return obstacle(path, Attempt::uninstall, Reason::deadLink);
     }
-    return obstacle(files_.checkWritable(found_.item));
+    return obstacle(files_.checkWritable(found_.places.item));
   }
 
   const AddinEntry& entry_;
   const FileService& files_;
-  Result<std::string> source_;
+  Result<DiskPath> source_;
   Result<Kind> there_, folder_;
   AddinDiagnosis found_;
 };
 
 }  // namespace
 
-AddinDiagnosis diagnoseAddin(const AddinEntry& entry, const FileService& files, const Bundle& bundle) {
-  return Look(entry, files, bundle).all();
+AddinDiagnosis diagnoseAddin(const AddinEntry& entry, const FileService& files, const Locations& locations,
+                             const Bundle& bundle) {
+  return Look(entry, files, locations, bundle).all();
 }
 
 }  // namespace tarvo

@@ -18,11 +18,10 @@ class FileService;
 struct AddinDiagnosis {
   std::string table;  // "office" or "mail"
   std::string name, version;
-  std::string application;           // path; listed only while it exists
-  std::string folder;                // install folder
-  std::string item;                  // where the macro or the script folder goes; "" when the record names none
-  std::vector<std::string> missing;  // paths that should be there: application, resource, folder, scripts left out
-  std::optional<Failure> obstacle;   // why an install would fail now
+  AddinPlaces places;
+  std::vector<std::string>
+      missing;  // that should be there, on this disk: application, resource, folder, scripts left out
+  std::optional<Failure> obstacle;         // why an install would fail now
   std::optional<Failure> removalObstacle;  // the same of a removal; nothing also when nothing is there
   bool isMarked = false;                   // what the row says
   bool isThere = false;                    // what the disk says; what was known last where it cannot be looked at
@@ -31,6 +30,7 @@ struct AddinDiagnosis {
 };
 
 // entry: a row, or a record with an absolute install folder. Changes nothing.
-AddinDiagnosis diagnoseAddin(const AddinEntry& entry, const FileService& files, const Bundle& bundle);
+AddinDiagnosis diagnoseAddin(const AddinEntry& entry, const FileService& files, const Locations& locations,
+                             const Bundle& bundle);
 
 }  // namespace tarvo

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "platform/services/bundle.h"
+#include "platform/services/locations.h"
 #include "platform/text/text_rules.h"
 
 namespace tarvo {
@@ -29,21 +30,26 @@ std::string addinItemName(const AddinEntry& entry) {
   return name == "/" || name == "." || name == ".." ? "" : name;
 }
 
-Result<std::string> addinSource(const AddinEntry& entry, const Bundle& bundle) {
+Result<DiskPath> addinSource(const AddinEntry& entry, const Bundle& bundle) {
   const std::string& named = addinText(entry, addin_keys::installMacroName);
   const std::string name = addinItemName(entry), subfolder = deletingLastPathComponent(named);
   if (name.empty()) return Failure{addinText(entry, addin_keys::appName), Attempt::install, Reason::nothingNamed};
   // A folder of scripts has no extension: "Tarvo 1.0" is one name.
-  std::optional<std::string> source =
-      isMailAddin(entry) ? bundle.resource(name, "", subfolder)
-                         : bundle.resource(deletingPathExtension(name), pathExtension(name), subfolder);
+  std::optional<DiskPath> source = isMailAddin(entry)
+                                       ? bundle.resource(name, "", subfolder)
+                                       : bundle.resource(deletingPathExtension(name), pathExtension(name), subfolder);
   if (source) return std::move(*source);
-  return Failure{joinPath(bundle.folder(), named), Attempt::install, Reason::missingResource};
+  return Failure{(bundle.folder() / named).text(), Attempt::install, Reason::missingResource};
 }
 
-std::string installedItemPath(const AddinEntry& entry) {
-  const std::string name = addinItemName(entry);
-  return name.empty() ? "" : joinPath(addinText(entry, addin_keys::installFolderPath), name);
+AddinPlaces placesOf(const AddinEntry& entry, const Locations& locations, const FileService& files) {
+  const std::string path = addinText(entry, addin_keys::appPath),
+                    stored = addinText(entry, addin_keys::installFolderPath);
+  AddinPlaces places{storedPath(path, locations, files), locations.onDisk(ProductPath(stored)), {}};
+  const bool isPicked = places.application != locations.onDisk(ProductPath(path));
+  if (isPicked && DiskPath(stored).isIn(places.application.folder())) places.folder = DiskPath(stored);
+  if (const std::string name = addinItemName(entry); !name.empty()) places.item = places.folder / name;
+  return places;
 }
 
 }  // namespace tarvo

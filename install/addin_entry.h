@@ -7,6 +7,7 @@
 
 #include "platform/plist/property_list.h"
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 
 // One application that can take an add-in: an Office program and its macro, or a mail program and its folder of
 // scripts. Records come from the shipped list ("DefaultAddin.plist") and from the settings ("Office"); keys that nobody
@@ -14,6 +15,8 @@
 namespace tarvo {
 
 class Bundle;
+class FileService;
+class Locations;
 
 using AddinEntry = Dictionary;
 
@@ -42,8 +45,13 @@ bool isMarkedInstalled(const AddinEntry& entry);  // what "InstallStatus" says
 std::string addinItemName(const AddinEntry& entry);
 // What is installed: the macro or the folder of scripts in the product's resources. Fails when it is missing, or the
 // record names no item.
-Result<std::string> addinSource(const AddinEntry& entry, const Bundle& bundle);
-// Where the item is installed; "" when the record names no item.
-std::string installedItemPath(const AddinEntry& entry);
+Result<DiskPath> addinSource(const AddinEntry& entry, const Bundle& bundle);
+// Where a record's application and what belongs to it lie on this disk. Records hold paths of the product; those of an
+// application that the user picked outside the product's root are real ones, and with it those below its folder.
+struct AddinPlaces {
+  DiskPath application, folder;  // folder: to install into
+  DiskPath item;                 // the installed one; empty when the record names none
+};
+AddinPlaces placesOf(const AddinEntry& entry, const Locations& locations, const FileService& files);
 
 }  // namespace tarvo

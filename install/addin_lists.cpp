@@ -9,6 +9,7 @@
 #include "install/mail_script_installer.h"
 #include "platform/services/bundle.h"
 #include "platform/services/file_service.h"
+#include "platform/services/locations.h"
 #include "platform/services/plist_file.h"
 #include "platform/services/user_defaults.h"
 #include "platform/text/text_rules.h"
@@ -30,9 +31,12 @@ std::vector<AddinLists::SharedEntry> entriesOf(const Array& values) {
 
 }  // namespace
 
-AddinLists::AddinLists(Services services, std::string home, const MailScriptInstaller& mailScripts,
-                       AddinOutlets& outlets)
-    : services_(services), home_(std::move(home)), mailScripts_(mailScripts), outlets_(outlets) {}
+AddinLists::AddinLists(Services services, const MailScriptInstaller& mailScripts, AddinOutlets& outlets)
+    : services_(services), mailScripts_(mailScripts), outlets_(outlets) {}
+
+AddinPlaces AddinLists::placesOf(const AddinEntry& entry) const {
+  return tarvo::placesOf(entry, services_.locations, services_.files);
+}
 
 bool AddinLists::loadAddinPlist() {
   fDefaultOfficeSetArray = readShipped();
@@ -52,7 +56,7 @@ bool AddinLists::loadAddinPlist() {
 }
 
 std::optional<std::vector<AddinLists::SharedEntry>> AddinLists::readShipped() const {
-  const std::optional<std::string> path = services_.bundle.resource("DefaultAddin", "plist");
+  const std::optional<DiskPath> path = services_.bundle.resource("DefaultAddin", "plist");
   if (!path) return std::nullopt;
   const Result<Dictionary> root = readDictionary(services_.files, *path);
   const Array* records = root ? root->array(office) : nullptr;
@@ -74,7 +78,8 @@ void AddinLists::joinOutlook() {
 }
 
 void AddinLists::prefixHome(AddinEntry& entry) const {
-  entry.set(installFolderPath, joinPath(home_, addinText(entry, installFolderPath)));
+  const DiskPath folder = services_.locations.inHome(addinText(entry, installFolderPath));
+  entry.set(installFolderPath, services_.locations.inProduct(folder).text());
 }
 
 bool AddinLists::searchOfficeApplication() {
@@ -84,7 +89,7 @@ bool AddinLists::searchOfficeApplication() {
   for (const SharedEntry& candidate : fOfficeArray) {
     AddinEntry entry = *candidate;
     // One that cannot be looked at stays listed: at the end of the run the others are forgotten.
-    if (services_.files.isAbsent(addinText(entry, appPath))) continue;
+    if (services_.files.isAbsent(placesOf(entry).application)) continue;
     entry.set(installStatus, getInstallStatus(entry));
     if (!isMailAddin(entry)) {
       fOfficeAddinArray.push_back(std::move(entry));
@@ -97,7 +102,7 @@ bool AddinLists::searchOfficeApplication() {
 }
 
 bool AddinLists::getInstallStatus(const AddinEntry& entry) const {
-  const Result<FileService::Kind> there = services_.files.kind(installedItemPath(entry));
+  const Result<FileService::Kind> there = services_.files.kind(placesOf(entry).item);
   return there ? *there != FileService::Kind::absent : isMarkedInstalled(entry);
 }
 

@@ -19,6 +19,7 @@ namespace tarvo {
 
 class Bundle;
 class FileService;
+class Locations;
 class MailScriptInstaller;
 class UserDefaults;
 struct AddinOutlets;
@@ -29,10 +30,11 @@ class AddinLists {
     FileService& files;
     const Bundle& bundle;
     UserDefaults& defaults;
+    const Locations& locations;
   };
   using SharedEntry = std::shared_ptr<AddinEntry>;
-  // home: in the core's spelling.
-  AddinLists(Services services, std::string home, const MailScriptInstaller& mailScripts, AddinOutlets& outlets);
+  AddinLists(Services services, const MailScriptInstaller& mailScripts, AddinOutlets& outlets);
+  AddinPlaces placesOf(const AddinEntry& entry) const;
 
   // Builds the candidates. False: neither a remembered nor a shipped list, nothing can be done.
   bool loadAddinPlist();
@@ -58,7 +60,6 @@ class AddinLists {
   void joinOutlook();
   void prefixHome(AddinEntry& entry) const;
   Services services_;
-  std::string home_;
   const MailScriptInstaller& mailScripts_;
   AddinOutlets& outlets_;
 };

@@ -10,7 +10,7 @@
 namespace tarvo {
 
 Window& CautionWindows::mailCaution() const {
-  return systemVersion(files_) < 106 ? outlets_.alertWindow : outlets_.alertWindowSL;
+  return systemVersion(files_, locations_) < 106 ? outlets_.alertWindow : outlets_.alertWindowSL;
 }
 
 void CautionWindows::mailButtonAction() { windows_.orderFront(mailCaution()); }

@@ -5,6 +5,7 @@
 namespace tarvo {
 
 class FileService;
+class Locations;
 class Window;
 class Windows;
 class Workspace;
@@ -14,8 +15,9 @@ struct AddinOutlets;
 // The mail pane's caution depends on the system version: up to 10.5 `alertWindow`, later `alertWindowSL`.
 class CautionWindows {
  public:
-  CautionWindows(AddinOutlets& outlets, Windows& windows, const FileService& files, Workspace& workspace)
-      : outlets_(outlets), windows_(windows), files_(files), workspace_(workspace) {}
+  CautionWindows(AddinOutlets& outlets, Windows& windows, const FileService& files, const Locations& locations,
+                 Workspace& workspace)
+      : outlets_(outlets), windows_(windows), files_(files), locations_(locations), workspace_(workspace) {}
   void mailButtonAction();
   void closeCautionWindow();
   void selectPowerPoint();
@@ -29,6 +31,7 @@ class CautionWindows {
   AddinOutlets& outlets_;
   Windows& windows_;
   const FileService& files_;
+  const Locations& locations_;
   Workspace& workspace_;
 };
 

@@ -9,12 +9,12 @@
 
 namespace tarvo {
 
-Result<> createDirectoryFromPath(FileService& files, const std::string& relativePath, const std::string& parentPath) {
+Result<> createDirectoryFromPath(FileService& files, const std::string& relativePath, const DiskPath& parentPath) {
   std::istringstream components(relativePath);
-  std::string current = parentPath;
+  DiskPath current = parentPath;
   for (std::string component; std::getline(components, component, '/');) {
     if (component.empty()) continue;
-    current = joinPath(current, component);
+    current = current / component;
     if (files.isThere(current)) continue;
     if (Result<> made = files.makeFolder(current); !made) return made;
   }

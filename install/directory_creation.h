@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 
 namespace tarvo {
 
@@ -12,6 +13,6 @@ class FileService;
 
 // Makes each missing level of a relative path below a base folder, with mode 0777. Anything that is there counts as
 // present, even a plain file. Stops at the first level that cannot be made.
-Result<> createDirectoryFromPath(FileService& files, const std::string& relativePath, const std::string& parentPath);
+Result<> createDirectoryFromPath(FileService& files, const std::string& relativePath, const DiskPath& parentPath);
 
 }  // namespace tarvo

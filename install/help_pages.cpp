@@ -27,7 +27,7 @@ bool hasScheme(const std::string& address) {
 }  // namespace
 
 void HelpPages::showHelp() {
-  if (const std::optional<std::string> page = bundle_.resource("index", "htm", "Help")) workspace_.openFile(*page);
+  if (const std::optional<DiskPath> page = bundle_.resource("index", "htm", "Help")) workspace_.openFile(*page);
 }
 
 void HelpPages::GotoRegiandSupportPage() { showIndicatePage(paths_.tarvoPathSupportURL()); }

@@ -7,13 +7,13 @@
 namespace tarvo {
 
 Result<> MacroInstaller::installOfficeMacro(const AddinEntry& entry) {
-  const Result<std::string> source = addinSource(entry, bundle_);
+  const Result<DiskPath> source = addinSource(entry, bundle_);
   if (!source) return source.error();
-  return files_.copy(*source, installedItemPath(entry));
+  return files_.copy(*source, placesOf(entry, locations_, files_).item);
 }
 
 Result<> MacroInstaller::unInstallOfficeMacro(const AddinEntry& entry) {
-  const std::string path = installedItemPath(entry);
+  const DiskPath path = placesOf(entry, locations_, files_).item;
   const Result<FileService::Kind> there = files_.kind(path);
   if (!there) return there.error();
   if (*there == FileService::Kind::absent) return {};

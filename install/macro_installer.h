@@ -14,7 +14,8 @@ class FileService;
 // The folder belongs to the application and is never made here; nothing there is ever overwritten.
 class MacroInstaller {
  public:
-  MacroInstaller(FileService& files, const Bundle& bundle) : files_(files), bundle_(bundle) {}
+  MacroInstaller(FileService& files, const Bundle& bundle, const Locations& locations)
+      : files_(files), bundle_(bundle), locations_(locations) {}
   // Fails without such a macro among the resources, without the folder, over something of that name, and when the copy
   // fails.
   Result<> installOfficeMacro(const AddinEntry& entry);
@@ -24,6 +25,7 @@ class MacroInstaller {
  private:
   FileService& files_;
   const Bundle& bundle_;
+  const Locations& locations_;
 };
 
 }  // namespace tarvo

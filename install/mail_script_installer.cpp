@@ -6,6 +6,7 @@
 
 #include "install/directory_creation.h"
 #include "platform/services/file_service.h"
+#include "platform/services/locations.h"
 #include "platform/services/system_version.h"
 #include "platform/text/text_rules.h"
 
@@ -14,59 +15,62 @@ namespace tarvo {
 namespace {
 
 // Below the home.
-const char* folderForSystem(const FileService& files) {
-  return systemVersion(files) < 104 ? "Library/Scripts/Mail Scripts" : "Library/Scripts/Applications/Mail";
+const char* folderForSystem(const FileService& files, const Locations& locations) {
+  return systemVersion(files, locations) < 104 ? "Library/Scripts/Mail Scripts" : "Library/Scripts/Applications/Mail";
 }
 
 // What a link leads to is not the product's.
-Result<> checkNoLink(const FileService& files, const std::string& path, Attempt attempt) {
+Result<> checkNoLink(const FileService& files, const DiskPath& path, Attempt attempt) {
   const Result<FileService::Kind> own = files.ownKind(path);
   if (!own) return own.error();
-  if (*own == FileService::Kind::link) return Failure{path, attempt, Reason::linkInTheWay};
+  if (*own == FileService::Kind::link) return Failure{path.text(), attempt, Reason::linkInTheWay};
   return {};
 }
 
 }  // namespace
 
 Result<> MailScriptInstaller::createMailScriptFolder() {
-  return createDirectoryFromPath(files_, folderForSystem(files_), home_);
+  return createDirectoryFromPath(files_, folderForSystem(files_, locations_), locations_.home());
 }
 
-std::string MailScriptInstaller::mailScriptFolder() const { return joinPath(home_, folderForSystem(files_)); }
+DiskPath MailScriptInstaller::mailScriptFolder() const {
+  return locations_.inHome(folderForSystem(files_, locations_));
+}
 
 bool MailScriptInstaller::isMailScriptFolder(const AddinEntry& entry) const {
-  return !files_.isAbsent(addinText(entry, addin_keys::installFolderPath));
+  return !files_.isAbsent(placesOf(entry, locations_, files_).folder);
 }
 
 Result<> MailScriptInstaller::installMailScript(const AddinEntry& entry) {
-  const Result<std::string> source = addinSource(entry, bundle_);
+  const Result<DiskPath> source = addinSource(entry, bundle_);
+  const AddinPlaces places = placesOf(entry, locations_, files_);
   const std::string name = addinItemName(entry);
   if (name.empty()) return source.error();
-  const Result<> made = createDirectoryFromPath(files_, name, addinText(entry, addin_keys::installFolderPath));
+  const Result<> made = createDirectoryFromPath(files_, name, places.folder);
   if (!source) return source.error();
-  Result<> copied = copyScripts(*source, installedItemPath(entry));
+  Result<> copied = copyScripts(*source, places.item);
   return !copied && !made ? made : copied;  // without the folder no copy can be
 }
 
-Result<> MailScriptInstaller::copyScripts(const std::string& source, const std::string& target) {
+Result<> MailScriptInstaller::copyScripts(const DiskPath& source, const DiskPath& target) {
   const Result<std::vector<std::string>> names = files_.list(source);
   if (!names) return names.error();
-  Result<> copied = Failure{source, Attempt::install, Reason::emptyResource};
+  Result<> copied = Failure{source.text(), Attempt::install, Reason::emptyResource};
   for (const std::string& item : *names) {
-    const std::string from = joinPath(source, item);
+    const DiskPath from = source / item;
     if (files_.isAbsent(from)) continue;
     copied = checkNoLink(files_, target, Attempt::install);
-    if (copied) copied = files_.copy(from, joinPath(target, item));
+    if (copied) copied = files_.copy(from, target / item);
     if (!copied) return copied;
   }
   return copied;
 }
 
 Result<> MailScriptInstaller::unInstallMailScript(const AddinEntry& entry) {
-  return unInstallScript(installedItemPath(entry));
+  return unInstallScript(placesOf(entry, locations_, files_).item);
 }
 
-Result<> MailScriptInstaller::unInstallScript(const std::string& folder) {
+Result<> MailScriptInstaller::unInstallScript(const DiskPath& folder) {
   const Result<std::vector<std::string>> names = files_.list(folder);
   if (!names) return names.error();
   const Result<> emptied = removeScripts(folder, *names);
@@ -77,12 +81,12 @@ Result<> MailScriptInstaller::unInstallScript(const std::string& folder) {
   return own ? removed : own;
 }
 
-Result<> MailScriptInstaller::removeScripts(const std::string& folder, const std::vector<std::string>& names) {
+Result<> MailScriptInstaller::removeScripts(const DiskPath& folder, const std::vector<std::string>& names) {
   Result<> emptied;
   for (const std::string& item : names) {
-    const std::string path = joinPath(folder, item);
+    const DiskPath path = folder / item;
     if (files_.isAbsent(path)) {  // listed, and leads nowhere
-      if (emptied) emptied = Failure{path, Attempt::uninstall, Reason::deadLink};
+      if (emptied) emptied = Failure{path.text(), Attempt::uninstall, Reason::deadLink};
       continue;
     }
     if (Result<> own = checkNoLink(files_, folder, Attempt::uninstall); !own) return own;

@@ -19,13 +19,12 @@ class FileService;
 // is not the product's.
 class MailScriptInstaller {
  public:
-  // home: in the core's spelling.
-  MailScriptInstaller(FileService& files, const Bundle& bundle, std::string home)
-      : files_(files), bundle_(bundle), home_(std::move(home)) {}
+  MailScriptInstaller(FileService& files, const Bundle& bundle, const Locations& locations)
+      : files_(files), bundle_(bundle), locations_(locations) {}
 
   // Makes Apple Mail's script folder for the running system version.
   Result<> createMailScriptFolder();
-  std::string mailScriptFolder() const;  // that folder
+  DiskPath mailScriptFolder() const;  // that folder
   // Whether anything, a file too, may be where the record's scripts go: programs without it are not listed. A folder
   // that cannot be looked at counts as there.
   bool isMailScriptFolder(const AddinEntry& entry) const;
@@ -35,14 +34,14 @@ class MailScriptInstaller {
   Result<> unInstallMailScript(const AddinEntry& entry);
   // Removes what lies in the folder, up to the first failure, then the folder itself if that left it empty. Whether
   // that is done is the answer; the failure is the first one.
-  Result<> unInstallScript(const std::string& folder);
+  Result<> unInstallScript(const DiskPath& folder);
 
  private:
-  Result<> copyScripts(const std::string& source, const std::string& target);
-  Result<> removeScripts(const std::string& folder, const std::vector<std::string>& names);
+  Result<> copyScripts(const DiskPath& source, const DiskPath& target);
+  Result<> removeScripts(const DiskPath& folder, const std::vector<std::string>& names);
   FileService& files_;
   const Bundle& bundle_;
-  std::string home_;
+  const Locations& locations_;
 };
 
 }  // namespace tarvo

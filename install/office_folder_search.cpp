@@ -31,17 +31,17 @@ bool isOfficeCreator(const std::string& creator) { return creator == "MSWD" || c
 }  // namespace
 
 void OfficeFolderSearch::SelectOfficeFolder() {
-  const std::optional<std::string> chosen = services_.panels.runOpenPanel(
+  const std::optional<DiskPath> chosen = services_.panels.runOpenPanel(
       {.title = services_.texts.localized("SelectOfficeFolder"), .types = {}, .foldersOnly = true});
-  if (chosen) searchFolder(services_.locations.picked(*chosen));
+  if (chosen) searchFolder(*chosen);
 }
 
-void OfficeFolderSearch::searchFolder(const std::string& folder) {
+void OfficeFolderSearch::searchFolder(const DiskPath& folder) {
   const auto names = services_.files.list(folder);
   if (!names) return;
   for (const std::string& name : *names) {
-    const std::string path = joinPath(folder, name);
-    const Result<Dictionary> information = readDictionary(services_.files, path + "/Contents/Info.plist");
+    const DiskPath path = folder / name;
+    const Result<Dictionary> information = readDictionary(services_.files, path / "Contents/Info.plist");
     if (!information || addinText(*information, "CFBundlePackageType") != "APPL") continue;
     if (!lists_.fDefaultOfficeSetArray) continue;
     const int version = getApplicationVer(path);
@@ -53,43 +53,44 @@ void OfficeFolderSearch::searchFolder(const std::string& folder) {
   lists_.reloadTables();
 }
 
-int OfficeFolderSearch::getApplicationVer(const std::string& path) {
+int OfficeFolderSearch::getApplicationVer(const DiskPath& path) {
   // Each line feed stands between two blanks, as the script service expects it.
   const std::string source = "tell application \"Finder\" \n set appInfo to info for file \"" +
-                             services_.module.unixPathToClassic(path) +
+                             services_.module.unixPathToClassic(services_.locations.inProduct(path)) +
                              "\" \n set appVer to short version of appInfo \n end tell";
   const std::optional<std::string> version = services_.scripts.runScript(source);
   return version ? leadingInteger(*version) : 0;
 }
 
-bool OfficeFolderSearch::getAddOfficeDictionary(const AddinEntry& shipped, int version, const std::string& path,
-                                                const std::string& signature, const std::string& folder) {
+bool OfficeFolderSearch::getAddOfficeDictionary(const AddinEntry& shipped, int version, const DiskPath& path,
+                                                const std::string& signature, const DiskPath& folder) {
   if (version != office2011 || addinText(shipped, appVersion) != "2011") return false;
   if (signature != addinText(shipped, appCreator)) return false;
   if (isOfficeCreator(signature)) return addOfficeRow(shipped, path, folder);
   return signature == outlookCreator && addMailRow(shipped, path);
 }
 
-bool OfficeFolderSearch::addOfficeRow(const AddinEntry& shipped, const std::string& path, const std::string& folder) {
+bool OfficeFolderSearch::addOfficeRow(const AddinEntry& shipped, const DiskPath& path, const DiskPath& folder) {
   std::vector<AddinEntry>& rows = lists_.fOfficeAddinArray;
-  const auto isListed = [&path](const AddinEntry& row) { return addinText(row, appPath) == path; };
+  const std::string stored = services_.locations.inProduct(path).text();
+  const auto isListed = [&stored](const AddinEntry& row) { return addinText(row, appPath) == stored; };
   if (std::any_of(rows.begin(), rows.end(), isListed)) return false;
   rows.push_back(rowFor(shipped, path, folder));
   return true;
 }
 
-bool OfficeFolderSearch::addMailRow(const AddinEntry& shipped, const std::string& path) {
+bool OfficeFolderSearch::addMailRow(const AddinEntry& shipped, const DiskPath& path) {
   if (!mailScripts_.isMailScriptFolder(shipped)) return true;
-  if (!lists_.fMailAddinArray.empty() && addinText(shipped, appPath) == path) return false;
+  if (!lists_.fMailAddinArray.empty() && addinText(shipped, appPath) == services_.locations.inProduct(path).text())
+    return false;
   lists_.fMailAddinArray.push_back(rowFor(shipped, path, services_.locations.home()));
   return true;
 }
 
-AddinEntry OfficeFolderSearch::rowFor(const AddinEntry& shipped, const std::string& path,
-                                      const std::string& base) const {
+AddinEntry OfficeFolderSearch::rowFor(const AddinEntry& shipped, const DiskPath& path, const DiskPath& base) const {
   AddinEntry row = shipped;
-  row.set(appPath, path);
-  row.set(installFolderPath, joinPath(base, addinText(shipped, installFolderName)));
+  row.set(appPath, services_.locations.inProduct(path).text());
+  row.set(installFolderPath, services_.locations.inProduct(base / addinText(shipped, installFolderName)).text());
   row.set(installStatus, lists_.getInstallStatus(row));
   return row;
 }

@@ -24,7 +24,7 @@ class OfficeFolderSearch {
  public:
   struct Services {
     FileService& files;
-    Locations& locations;
+    const Locations& locations;
     Panels& panels;
     const Texts& texts;
     ScriptRunner& scripts;
@@ -37,17 +37,17 @@ class OfficeFolderSearch {
   void SelectOfficeFolder();
   // The whole number before the first dot of an application's version, as the desktop's script service tells it; 0 when
   // it tells nothing.
-  int getApplicationVer(const std::string& path);
+  int getApplicationVer(const DiskPath& path);
   // Adds a row for the application at path when the shipped record fits it. signature: the bundle's four characters.
   // True: the record fits, though for a mail program without a script folder nothing was added.
-  bool getAddOfficeDictionary(const AddinEntry& shipped, int version, const std::string& path,
-                              const std::string& signature, const std::string& folder);
+  bool getAddOfficeDictionary(const AddinEntry& shipped, int version, const DiskPath& path,
+                              const std::string& signature, const DiskPath& folder);
 
  private:
-  void searchFolder(const std::string& folder);
-  bool addOfficeRow(const AddinEntry& shipped, const std::string& path, const std::string& folder);
-  bool addMailRow(const AddinEntry& shipped, const std::string& path);
-  AddinEntry rowFor(const AddinEntry& shipped, const std::string& path, const std::string& base) const;
+  void searchFolder(const DiskPath& folder);
+  bool addOfficeRow(const AddinEntry& shipped, const DiskPath& path, const DiskPath& folder);
+  bool addMailRow(const AddinEntry& shipped, const DiskPath& path);
+  AddinEntry rowFor(const AddinEntry& shipped, const DiskPath& path, const DiskPath& base) const;
   Services services_;
   AddinLists& lists_;
   const MailScriptInstaller& mailScripts_;

@@ -37,7 +37,7 @@ bool isOf(const OldGeneration& generation, const AddinEntry& entry) {
 
 }  // namespace
 
-OldScripts::OldScripts(Services services, AddinLists& lists, MailScriptInstaller& mailScripts, std::string home)
+OldScripts::OldScripts(Services services, AddinLists& lists, MailScriptInstaller& mailScripts, DiskPath home)
     : services_(services), lists_(lists), mailScripts_(mailScripts), home_(std::move(home)) {}
 
 void OldScripts::OldscriptUninstall() {
@@ -58,10 +58,10 @@ void OldScripts::OldscriptUninstall() {
 }
 
 bool OldScripts::removeFor(const AddinEntry& shipped, const char* oldFolderKey) {
-  const std::string base = joinPath(home_, addinText(shipped, installFolderName));
+  const DiskPath base = home_ / addinText(shipped, installFolderName);
   const std::string name = addinItemName(shipped);
-  if (name.empty() || !services_.files.isThere(joinPath(base, services_.texts.localized(oldFolderKey)))) return false;
-  return mailScripts_.unInstallScript(joinPath(base, name)).has_value();  // old scripts that stay are not told
+  if (name.empty() || !services_.files.isThere(base / services_.texts.localized(oldFolderKey))) return false;
+  return mailScripts_.unInstallScript(base / name).has_value();  // old scripts that stay are not told
 }
 
 void OldScripts::tell(const std::string& removed) {

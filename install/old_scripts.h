@@ -24,8 +24,8 @@ class OldScripts {
     Panels& panels;
     const Texts& texts;
   };
-  // home: in the core's spelling.
-  OldScripts(Services services, AddinLists& lists, MailScriptInstaller& mailScripts, std::string home);
+  // home: the user's.
+  OldScripts(Services services, AddinLists& lists, MailScriptInstaller& mailScripts, DiskPath home);
   // Once a launch. The mail rows' states are computed anew in any case.
   void OldscriptUninstall();
 
@@ -35,7 +35,7 @@ class OldScripts {
   Services services_;
   AddinLists& lists_;
   MailScriptInstaller& mailScripts_;
-  std::string home_;
+  DiskPath home_;
 };
 
 }  // namespace tarvo

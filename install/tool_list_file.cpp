@@ -36,13 +36,13 @@ void appendLine(std::string& text, std::string_view key, std::string_view value)
 }  // namespace
 
 ToolListFile::ToolListFile(FileService& files, UserDefaults& defaults, const TarvoCommonModule& module,
-                           ToolListOutlets& outlets, std::string path)
+                           ToolListOutlets& outlets, DiskPath path)
     : files_(files),
       defaults_(defaults),
       module_(module),
       outlets_(outlets),
       path_(std::move(path)),
-      written_(Failure{path_, Attempt::write, Reason::nothingChosen}) {}
+      written_(Failure{path_.text(), Attempt::write, Reason::nothingChosen}) {}
 
 void ToolListFile::restoreTool() {
   const std::string* stored = defaults_.string("Tool_Path");
@@ -69,7 +69,7 @@ void ToolListFile::writeOffieTool() {
   appendLine(text, "Server_Path", serverCreator);
   appendLine(text, "Cache_Path", module_.unixPathToClassic(module_.preferencesWordhavenCache()));
   appendLine(text, "Setting_Path", styleManagerCreator);
-  appendLine(text, "Helpfile_Path", module_.unixPathToClassic(addInHelpPath));
+  appendLine(text, "Helpfile_Path", module_.unixPathToClassic(ProductPath(addInHelpPath)));
   appendLine(text, "Tool_Name", title);
   appendLine(text, "Tool_Path", creator);
   appendLine(text, "Tool_Action", std::to_string(action.number));

@@ -8,6 +8,7 @@
 
 #include "platform/controls/controls.h"
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 
 // The tool-list file, from which the installed Office macros learn which tool a button starts.
 // Eight lines "key=value" with CR LF, Shift_JIS without a byte-order mark, written whole.
@@ -30,8 +31,8 @@ class ToolListFile {
  public:
   // path: of the file.
   ToolListFile(FileService& files, UserDefaults& defaults, const TarvoCommonModule& module, ToolListOutlets& outlets,
-               std::string path);
-  const std::string& path() const { return path_; }
+               DiskPath path);
+  const DiskPath& path() const { return path_; }
   // Selects the tool stored under "Tool_Path": the first one when nothing is stored; an unknown code leaves the pop-up
   // alone.
   void restoreTool();
@@ -46,7 +47,7 @@ class ToolListFile {
   UserDefaults& defaults_;
   const TarvoCommonModule& module_;
   ToolListOutlets& outlets_;
-  std::string path_;
+  DiskPath path_;
   Result<> written_;
 };
 

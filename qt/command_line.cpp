@@ -23,7 +23,7 @@ CommandTable tableFor(CommandLine& line) {
 CommandLine readCommandLine(const std::vector<std::string>& words) {
   CommandLine line;
   line.error = readWords(tableFor(line), words).error;
-  for (std::string& file : line.files) file = absolutePath(file);
+  for (std::string& file : line.files) file = absolutePath(file).text();
   return line;
 }
 

@@ -187,7 +187,7 @@ void answerByDefault(QObject& owner) {
   timer->start(settling);
 }
 
-bool takeGuidedTour(Shell& shell, Product& product, const std::string& folder) {
+bool takeGuidedTour(Shell& shell, const std::string& folder) {
   const QString place = QDir().absoluteFilePath(toQString(folder));
   if (!QDir().mkpath(place)) {
     std::cerr << "tarvo-manager: tour: cannot make the folder " << folder << '\n';
@@ -198,7 +198,7 @@ bool takeGuidedTour(Shell& shell, Product& product, const std::string& folder) {
   shell.program().quit();
   if (!isWalked) return false;
   for (const QString& path : tour.pictures()) std::cout << path.toStdString() << '\n';
-  std::cout << product.locations().resolve(shell.program().rooms().store.path()) << '\n';
+  std::cout << shell.program().rooms().store.path().text() << '\n';
   return true;
 }
 

@@ -31,13 +31,13 @@ constexpr int tries = 50;  // to enter, while another start is coming up
 constexpr std::chrono::milliseconds betweenTries(20);
 
 BusIdentity identityOf(const CommandLine& line, const Locations& locations) {
-  const auto real = [](const std::string& path) { return std::filesystem::weakly_canonical(path).string(); };
-  return {line.busName.value_or(defaultBusName), real(locations.resolve(locations.home())), real(locations.root())};
+  const auto real = [](const DiskPath& path) { return std::filesystem::weakly_canonical(path.text()).string(); };
+  return {line.busName.value_or(defaultBusName), real(locations.home()), real(locations.root())};
 }
 
 // Takes the lock, or hands what this start is to do to the manager that has it: then the answer is the status to end
 // with. A manager that is coming up has the lock before its name on the bus; a lock of the console tool is soon free.
-std::optional<int> enter(std::optional<InstanceLock>& lock, const CommandLine& line, const std::string& lockFile,
+std::optional<int> enter(std::optional<InstanceLock>& lock, const CommandLine& line, const DiskPath& lockFile,
                          const BusIdentity& identity) {
   for (int i = 0; i < tries; ++i) {
     lock.emplace(lockFile);
@@ -48,7 +48,7 @@ std::optional<int> enter(std::optional<InstanceLock>& lock, const CommandLine& l
     if (handover != Handover::nobody) break;
     std::this_thread::sleep_for(betweenTries);
   }
-  return tell(locked, "the styles of this user are open in another program (it holds " + lockFile + ")");
+  return tell(locked, "the styles of this user are open in another program (it holds " + lockFile.text() + ")");
 }
 
 int runManager(const CommandLine& line, int& argc, char** argv) {
@@ -57,7 +57,7 @@ int runManager(const CommandLine& line, int& argc, char** argv) {
   if (!product.problem().empty()) return tell(misused, product.problem());
   const BusIdentity identity = identityOf(line, product.locations());
   std::optional<InstanceLock> lock;
-  const auto status = enter(lock, line, product.locations().resolve(lockPath(product.locations())), identity);
+  const auto status = enter(lock, line, lockPath(product.locations()), identity);
   if (status) return *status;
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("tarvo-manager"));
@@ -73,7 +73,7 @@ int runManager(const CommandLine& line, int& argc, char** argv) {
   if (line.tour) answerByDefault(duringStart.emplace());
   if (!shell.start()) return failed;
   duringStart.reset();
-  if (line.tour) return takeGuidedTour(shell, product, *line.tour) ? done : failed;
+  if (line.tour) return takeGuidedTour(shell, *line.tour) ? done : failed;
   shell.run();
   return done;
 }

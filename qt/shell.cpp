@@ -29,16 +29,15 @@ std::vector<PageBuilder> paneBuilders(Interface& interface, Binder& binder) {
   return builders;
 }
 
-Shell::Shell(Product& product, QApplication& application, std::function<std::vector<std::string>()> running)
+Shell::Shell(Product& product, QApplication& application, std::function<std::vector<ProductPath>()> running)
     : product_(product),
       application_(application),
       engine_(product.makeEngine(product.files())),
       panels_({[this](Window& window) { return windows_.widgetOf(window); },
-               [this](QDialog& sheet, Window& host) { windows_.hang(sheet, host); },
-               [&product](const std::string& path) { return product.locations().resolve(path); }}),
-      workspace_({product.locations(), product.files(), product.paths()}, std::move(running)),
+               [this](QDialog& sheet, Window& host) { windows_.hang(sheet, host); }}),
+      workspace_({product.files(), product.paths()}, std::move(running)),
       program_(product.services(product.files(), *engine_, runLoop_, panels_, windows_, workspace_)),
-      binder_(product.texts(), product.bundle(), product.locations(), schemeFromEnvironment()) {
+      binder_(product.texts(), product.bundle(), schemeFromEnvironment()) {
   QApplication::setQuitOnLastWindowClosed(false);  // closing the window asks the program, which alone ends the loop
 }
 
@@ -80,7 +79,7 @@ void Shell::listen(const BusIdentity& identity) {
 
 void Shell::openFiles(const std::vector<std::string>& paths) {
   if (paths.empty()) return;
-  program_.requests().openStyleFile(paths.front());
+  program_.requests().openStyleFile(DiskPath(paths.front()));
   if (paths.size() > 1) panels_.beep();
 }
 
@@ -102,7 +101,7 @@ void Shell::customizeToolbar() {
 void Shell::tellUnsavedStyles() {
   StyleStore& store = program_.rooms().store;
   store.didWrite = [this, &store] {
-    const QString path = toQString(product_.locations().resolve(store.path()));
+    const QString path = toQString(store.path().text());
     windows_.mainWindow()->setNotice(store.isSaved() ? QString() : binder_.localized("NotSavedYet") + path);
   };
 }

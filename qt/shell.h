@@ -30,7 +30,7 @@ std::vector<PageBuilder> paneBuilders(Interface& interface, Binder& binder);
 class Shell {
  public:
   // running: the application bundles that run now. Product and application outlive the shell.
-  Shell(Product& product, QApplication& application, std::function<std::vector<std::string>()> running);
+  Shell(Product& product, QApplication& application, std::function<std::vector<ProductPath>()> running);
   ~Shell();
   Shell(const Shell&) = delete;
   Shell& operator=(const Shell&) = delete;

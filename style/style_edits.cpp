@@ -70,13 +70,13 @@ std::expected<void, NameProblem> renameStyle(StyleStore& store, int index, const
   return {};
 }
 
-Result<Dictionary> readStyle(const FileService& files, const std::string& path) {
+Result<Dictionary> readStyle(const FileService& files, const DiskPath& path) {
   Result<Dictionary> record = readDictionary(files, path);
   if (!record) return record;
   const auto options = storedOptions();
   const auto isHeld = [&record](const IndexOption& option) { return holds(*record, option); };
   if (!std::all_of(options.begin(), options.end(), isHeld) || !fitsStyleFile(*record)) {
-    return Failure{path, Attempt::read, Reason::noStyle};
+    return Failure{path.text(), Attempt::read, Reason::noStyle};
   }
   return record;
 }
@@ -87,9 +87,9 @@ void replaceStyle(StyleStore& store, int index, Dictionary record, const std::st
   store.setStyle(index, std::move(record));
 }
 
-Result<> writeStyleFile(const StyleStore& store, int index, FileService& files, const std::string& path) {
+Result<> writeStyleFile(const StyleStore& store, int index, FileService& files, const DiskPath& path) {
   const std::optional<Dictionary> record = store.getStyleAtIndex(index);
-  if (!record) return Failure{path, Attempt::write, Reason::noStyle};
+  if (!record) return Failure{path.text(), Attempt::write, Reason::noStyle};
   return files.write(path, writePropertyList(*record));
 }
 

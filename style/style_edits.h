@@ -9,6 +9,7 @@
 
 #include "platform/plist/property_list.h"
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 #include "style/direction.h"
 
 // What an edit does to a style, below the controls and verbs that ask for it. A style is named by its index in the
@@ -39,12 +40,12 @@ std::expected<void, NameProblem> renameStyle(StyleStore& store, int index, const
                                              const std::string& standardName);
 
 // A style as a file of its own: its root is one record. Fails also for one that lacks an option, has one out of range,
-// or is more than a style file could hold. path: in the core's spelling.
-Result<Dictionary> readStyle(const FileService& files, const std::string& path);
+// or is more than a style file could hold.
+Result<Dictionary> readStyle(const FileService& files, const DiskPath& path);
 // Puts the record in the style's place, under that name and with the index as its ID.
 void replaceStyle(StyleStore& store, int index, Dictionary record, const std::string& name);
 // Fails also where there is no such style. After a failure the file is as it was.
-Result<> writeStyleFile(const StyleStore& store, int index, FileService& files, const std::string& path);
+Result<> writeStyleFile(const StyleStore& store, int index, FileService& files, const DiskPath& path);
 
 // The name of a record; "" for one without.
 std::string styleName(const Dictionary& record);

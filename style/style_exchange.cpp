@@ -27,14 +27,11 @@ std::string fileNameFor(std::string styleName) {
 
 }  // namespace
 
-std::optional<std::string> StyleExchange::chooseImportFile() {
-  const std::optional<std::string> path =
-      with_.panels.runOpenPanel({.title = with_.texts.localized("Select Import Style File"), .types = {extension}});
-  if (!path) return std::nullopt;
-  return with_.locations.picked(*path);
+std::optional<DiskPath> StyleExchange::chooseImportFile() {
+  return with_.panels.runOpenPanel({.title = with_.texts.localized("Select Import Style File"), .types = {extension}});
 }
 
-bool StyleExchange::install(const std::string& path, int index, const std::string& title) {
+bool StyleExchange::install(const DiskPath& path, int index, const std::string& title) {
   Result<Dictionary> record = readStyle(with_.files, path);
   if (!record || !with_.store.getStyleAtIndex(index)) {
     with_.alerts.runAlertWithText(with_.texts.localized("ImportPlistErrorHeader"),
@@ -79,13 +76,13 @@ void StyleExchange::askWhereToExport(int index, Window& host) {
                                .requiredType = extension,
                                .folder = with_.locations.home(),
                                .name = fileNameFor(styleName(*record))},
-                              [this](int returnCode, const std::string& path) { didEndSaveSheet(returnCode, path); });
+                              [this](int returnCode, const DiskPath& path) { didEndSaveSheet(returnCode, path); });
 }
 
-void StyleExchange::didEndSaveSheet(int returnCode, const std::string& path) {
+void StyleExchange::didEndSaveSheet(int returnCode, const DiskPath& path) {
   if (returnCode != 1) return;
   const int index = with_.stylePopup.indexOfSelectedItem();
-  if (!writeStyleFile(with_.store, index, with_.files, with_.locations.picked(path))) tellThatNothingWasExported();
+  if (!writeStyleFile(with_.store, index, with_.files, path)) tellThatNothingWasExported();
 }
 
 void StyleExchange::tellThatNothingWasExported() {

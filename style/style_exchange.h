@@ -7,10 +7,10 @@
 
 #include "platform/controls/controls.h"
 #include "platform/controls/windows.h"
+#include "platform/text/paths.h"
 
 // Styles as files of their own ("*.whstyle"): a property list whose root is one record of the style file.
 // Duty: check such a file and put it in a style's place; ask where to export and write. Not: showing what came in.
-// Paths of panels are the user's; every other path is in the core's spelling.
 namespace tarvo {
 
 class FileService;
@@ -38,7 +38,7 @@ class StyleExchange {
     Window& myWindow;  // the main window
     StyleStore& store;
     FileService& files;
-    Locations& locations;
+    const Locations& locations;
     Panels& panels;
     PaneAlerts& alerts;
     Windows& windows;
@@ -47,10 +47,10 @@ class StyleExchange {
   explicit StyleExchange(const Collaborators& with) : with_(with) {}
 
   // Asks for one style file; nothing when the user cancels.
-  std::optional<std::string> chooseImportFile();
+  std::optional<DiskPath> chooseImportFile();
   // Reads the file and puts it in the place of the style at the index, under the title; one write. False after an
   // alert: the file is no style, or its options are out of range, or no style stands there, and nothing has changed.
-  bool install(const std::string& path, int index, const std::string& title);
+  bool install(const DiskPath& path, int index, const std::string& title);
 
   // Asks where to export the chosen style, once the window is free.
   void exportStyle();
@@ -63,7 +63,7 @@ class StyleExchange {
 
  private:
   void askWhereToExport(int index, Window& host);
-  void didEndSaveSheet(int returnCode, const std::string& path);
+  void didEndSaveSheet(int returnCode, const DiskPath& path);
   void tellThatNothingWasExported();
   Collaborators with_;
 };

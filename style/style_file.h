@@ -15,8 +15,8 @@ namespace tarvo {
 // the records that changed. Not: holding the styles.
 class StyleFile {
  public:
-  StyleFile(FileService& files, std::string path) : file_(files, std::move(path)) {}
-  const std::string& path() const { return file_.path(); }
+  StyleFile(FileService& files, DiskPath path) : file_(files, std::move(path)) {}
+  const DiskPath& path() const { return file_.path(); }
   Result<Dictionary> read() { return file_.read(); }
   // After a failure the file is as it was.
   Result<> write(const Dictionary& root);

@@ -8,8 +8,7 @@
 
 namespace tarvo {
 
-StyleStore::StyleStore(FileService& files, Engine& engine, UserDefaults& defaults, std::string path,
-                       std::string seedPath)
+StyleStore::StyleStore(FileService& files, Engine& engine, UserDefaults& defaults, DiskPath path, DiskPath seedPath)
     : file_(files, std::move(path)), seed_(files, std::move(seedPath)), registration_(engine, defaults) {}
 
 Result<> StyleStore::readFrom(StyleFile& file) {

@@ -21,7 +21,7 @@ namespace tarvo {
 class StyleStore {
  public:
   // path: the user's style file. seedPath: the copy that comes with the product.
-  StyleStore(FileService& files, Engine& engine, UserDefaults& defaults, std::string path, std::string seedPath);
+  StyleStore(FileService& files, Engine& engine, UserDefaults& defaults, DiskPath path, DiskPath seedPath);
 
   // Replaces the root by the user's file, or by the seed. After a failure the root stays.
   Result<> readUserStyles();
@@ -65,7 +65,7 @@ class StyleStore {
   // How the last registration ended; nothing before the first that had styles to hand over.
   const std::optional<Result<>>& registration() const { return registration_.outcome(); }
   std::function<void()> didWrite;  // told after each write, before the engine is
-  const std::string& path() const { return file_.path(); }
+  const DiskPath& path() const { return file_.path(); }
 
   // While start-up or a take-over from the engine is running nothing is registered. It is running at first.
   bool isAwakening() const { return awakening_; }

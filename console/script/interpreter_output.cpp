@@ -58,7 +58,7 @@ std::string hexadecimal(std::string_view bytes) {
   return out;
 }
 
-void addContent(Json::Object& object, const FileService& files, const std::string& path) {
+void addContent(Json::Object& object, const FileService& files, const DiskPath& path) {
   if (const auto names = files.list(path)) {
     object.emplace("names", Json::List(names->begin(), names->end()));
     return;
@@ -85,9 +85,9 @@ const char* kindOf(std::filesystem::file_type type) {
 
 void disk(Interpreter& interpreter, ScriptLine& line) {
   ScenarioSession& session = interpreter.session();
-  const std::string path = session.path(takeWord(line, "a path"));
+  const DiskPath path = session.path(takeWord(line, "a path"));
   takeEnd(line);
-  const std::filesystem::path real = session.product().locations().resolve(path);
+  const std::filesystem::path real = path.text();
   std::error_code error;
   const std::filesystem::file_type type = std::filesystem::symlink_status(real, error).type();
   Json::Object object{{"path", session.recorder().shown(path)}, {"kind", kindOf(type)}};
@@ -113,7 +113,7 @@ void call(Interpreter& interpreter, ScriptLine& line) {
                       (operation->takesMore ? " or more" : "") + " arguments");
   }
   if (operation->takesPaths) {
-    for (std::string& argument : arguments) argument = interpreter.session().realPath(argument);
+    for (std::string& argument : arguments) argument = interpreter.session().path(argument).text();
   }
   const std::optional<PropertyList> result = operation->run(interpreter.session().program(), arguments);
   interpreter.beginPrinting();

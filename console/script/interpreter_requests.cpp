@@ -62,7 +62,7 @@ void answer(Interpreter& interpreter, ScriptLine& line) {
     takeEnd(line);
     panels.answerCancel();
   } else if (kind == "open" || kind == "save") {
-    const std::string path = interpreter.session().realPath(takeWord(line, "a path"));
+    const DiskPath path = interpreter.session().path(takeWord(line, "a path"));
     takeEnd(line);
     kind == "open" ? panels.answerOpen(path) : panels.answerSave(path);
   } else {

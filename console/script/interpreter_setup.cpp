@@ -36,12 +36,12 @@ void advance(Interpreter& interpreter, ScriptLine& line) {
 }
 
 // Of a style file, or a list that is nothing else.
-Array stylesOf(ScenarioSession& session, const std::string& path) {
+Array stylesOf(ScenarioSession& session, const DiskPath& path) {
   const Result<std::string> bytes = session.product().files().read(path);
   const std::optional<PropertyList> list = bytes ? readPropertyList(*bytes) : std::nullopt;
   const Array* styles = list ? list->array() : nullptr;
   if (list && list->dictionary() != nullptr) styles = list->dictionary()->array(keyNameStyle);
-  if (styles == nullptr) throw ScriptError("there are no styles in " + path);
+  if (styles == nullptr) throw ScriptError("there are no styles in " + path.text());
   return *styles;
 }
 
@@ -58,7 +58,7 @@ void engine(Interpreter& interpreter, ScriptLine& line) {
     } while (!line.atEnd());
     scripted.queueProbes(answers);
   } else if (word == "holds") {
-    const std::string file = session.path(takeWord(line, "a file"));
+    const DiskPath file = session.path(takeWord(line, "a file"));
     scripted.hold(stylesOf(session, file), takeWord(line, "a stamp"));
   } else if (word == "empty") {
     scripted.holdNothing();
@@ -77,8 +77,11 @@ void screen(Interpreter& interpreter, ScriptLine& line) {
 
 void running(Interpreter& interpreter, ScriptLine& line) {
   ScenarioSession& session = interpreter.session();
-  std::vector<std::string> paths;
-  for (const std::string& path : line.words()) paths.push_back(session.path(path));
+  std::vector<ProductPath> paths;
+  for (const std::string& word : line.words()) {
+    const bool isSpelled = isAbsolutePath(word);  // as the product spells it: what runs is told so
+    paths.push_back(isSpelled ? ProductPath(word) : session.product().locations().inProduct(session.path(word)));
+  }
   session.workspace().running = std::move(paths);
 }
 
@@ -116,28 +119,32 @@ void defaultValue(Interpreter& interpreter, ScriptLine& line) {
   });
 }
 
-void require(const Result<>& done, const std::string& path) {
-  if (!done) throw ScriptError("the disk refused that for " + path + ": " + done.error().cause.message());
+[[noreturn]] void refused(const ScenarioSession& session, const DiskPath& path, const std::error_code& cause) {
+  const std::string shown = session.product().locations().shown(path);
+  throw ScriptError("the disk refused that for " + shown + ": " + cause.message());
 }
 
-void makeFolderOf(FileService& files, const std::string& path) {
-  require(files.makeFolder(deletingLastPathComponent(path)), path);
+void require(const ScenarioSession& session, const Result<>& done, const DiskPath& path) {
+  if (!done) refused(session, path, done.error().cause);
 }
 
-void changeMode(ScenarioSession& session, const std::string& path, const std::string& octal) {
+void makeFolderOf(ScenarioSession& session, const DiskPath& path) {
+  require(session, session.product().files().makeFolder(path.folder()), path);
+}
+
+void changeMode(const ScenarioSession& session, const DiskPath& path, const std::string& octal) {
   unsigned mode = 0;
   const char* end = octal.data() + octal.size();
   if (std::from_chars(octal.data(), end, mode, 8).ptr != end) throw ScriptError(octal + " is no mode");
   std::error_code error;
-  std::filesystem::permissions(session.product().locations().resolve(path), static_cast<std::filesystem::perms>(mode),
-                               error);
-  if (error) throw ScriptError("the disk refused that for " + path + ": " + error.message());
+  std::filesystem::permissions(path.text(), static_cast<std::filesystem::perms>(mode), error);
+  if (error) refused(session, path, error);
 }
 
-void changeType(FileService& files, const std::string& path, const std::string& code) {
+void changeType(ScenarioSession& session, const DiskPath& path, const std::string& code) {
   if (code.size() != 4) throw ScriptError(code + " is no type code");
   const char letters[5] = {code[0], code[1], code[2], code[3], '\0'};
-  require(files.setCodes(path, fourCharCode(letters), 0), path);
+  require(session, session.product().files().setCodes(path, fourCharCode(letters), 0), path);
 }
 
 void refuse(ScenarioSession& session, ScriptLine& line) {
@@ -159,26 +166,26 @@ void file(Interpreter& interpreter, ScriptLine& line) {
   } else if (word == "refuse") {
     refuse(session, line);
   } else if (word == "copy") {
-    const std::string from = path();
-    const std::string to = path();
-    makeFolderOf(disk, to);
-    require(disk.copy(from, to), to);
+    const DiskPath from = path();
+    const DiskPath to = path();
+    makeFolderOf(session, to);
+    require(session, disk.copy(from, to), to);
   } else if (word == "remove") {
-    const std::string target = path();
-    require(disk.remove(target), target);
+    const DiskPath target = path();
+    require(session, disk.remove(target), target);
   } else if (word == "write") {
-    const std::string target = path();
-    makeFolderOf(disk, target);
-    require(disk.write(target, takeWord(line, "a text")), target);
+    const DiskPath target = path();
+    makeFolderOf(session, target);
+    require(session, disk.write(target, takeWord(line, "a text")), target);
   } else if (word == "folder") {
-    const std::string target = path();
-    require(disk.makeFolder(target), target);
+    const DiskPath target = path();
+    require(session, disk.makeFolder(target), target);
   } else if (word == "mode") {
-    const std::string target = path();
+    const DiskPath target = path();
     changeMode(session, target, takeWord(line, "a mode"));
   } else if (word == "type") {
-    const std::string target = path();
-    changeType(disk, target, takeWord(line, "a type code"));
+    const DiskPath target = path();
+    changeType(session, target, takeWord(line, "a type code"));
   } else {
     throw ScriptError("a file cannot be told to " + word);
   }

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "app/program.h"
-#include "platform/text/text_rules.h"
 
 namespace tarvo {
 
@@ -51,28 +50,28 @@ void Recorder::observeWindows(Program& program) {
   };
 }
 
-std::optional<Failure> RecordedFiles::refusal(Operation operation, const std::string& path, Attempt attempt) const {
+std::optional<Failure> RecordedFiles::refusal(Operation operation, const DiskPath& path, Attempt attempt) const {
   for (const Refusal& refusal : refused_) {
-    if (refusal.operation != operation || !isBelow(path, refusal.path)) continue;
-    return Failure{path, attempt, std::make_error_code(std::errc::permission_denied)};
+    if (refusal.operation != operation || !path.isIn(refusal.path)) continue;
+    return Failure{path.text(), attempt, std::make_error_code(std::errc::permission_denied)};
   }
   return std::nullopt;
 }
 
-void RecordedFiles::noteWrite(const std::string& path, bool written) {
+void RecordedFiles::noteWrite(const DiskPath& path, bool written) {
   const auto named = names_.find(path);
   const std::string name = named != names_.end() ? named->second : recorder_.shown(path);
   if (!name.empty()) recorder_.note({{written ? "wrote" : "writeFailed", name}});
 }
 
-Result<> RecordedFiles::write(const std::string& path, std::string_view bytes) {
+Result<> RecordedFiles::write(const DiskPath& path, std::string_view bytes) {
   const auto refused = refusal(Operation::write, path, Attempt::write);
   Result<> written = refused ? *refused : disk_.write(path, bytes);
   noteWrite(path, written.has_value());
   return written;
 }
 
-Result<> RecordedFiles::keepUnreadable(const std::string& path) {
+Result<> RecordedFiles::keepUnreadable(const DiskPath& path) {
   const auto refused = refusal(Operation::copy, path, Attempt::keep);
   Result<> kept = refused ? *refused : disk_.keepUnreadable(path);
   // The file is not replaced then: that is how its write fails.
@@ -80,28 +79,28 @@ Result<> RecordedFiles::keepUnreadable(const std::string& path) {
   return kept;
 }
 
-Result<std::vector<std::string>> RecordedFiles::list(const std::string& folder) const {
+Result<std::vector<std::string>> RecordedFiles::list(const DiskPath& folder) const {
   if (const auto refused = refusal(Operation::list, folder, Attempt::list)) return *refused;
   return disk_.list(folder);
 }
 
-Result<> RecordedFiles::makeFolder(const std::string& path) {
+Result<> RecordedFiles::makeFolder(const DiskPath& path) {
   if (const auto refused = refusal(Operation::make, path, Attempt::makeFolder)) return *refused;
   return disk_.makeFolder(path);
 }
 
-Result<> RecordedFiles::copy(const std::string& from, const std::string& to) {
+Result<> RecordedFiles::copy(const DiskPath& from, const DiskPath& to) {
   if (const auto refused = refusal(Operation::copy, from, Attempt::copy)) return *refused;
   if (const auto refused = refusal(Operation::copy, to, Attempt::create)) return *refused;
   return disk_.copy(from, to);
 }
 
-Result<> RecordedFiles::remove(const std::string& path) {
+Result<> RecordedFiles::remove(const DiskPath& path) {
   if (const auto refused = refusal(Operation::remove, path, Attempt::remove)) return *refused;
   return disk_.remove(path);
 }
 
-Result<> RecordedFiles::removeEmptyFolder(const std::string& path) {
+Result<> RecordedFiles::removeEmptyFolder(const DiskPath& path) {
   if (const auto refused = refusal(Operation::remove, path, Attempt::remove)) return *refused;
   return disk_.removeEmptyFolder(path);
 }

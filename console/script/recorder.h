@@ -27,7 +27,7 @@ class Recorder {
   // The events since the last call.
   std::vector<Json> take();
   // Paths as the log shows them.
-  std::string shown(const std::string& path) const { return locations_.shown(path); }
+  std::string shown(const DiskPath& path) const { return locations_.shown(path); }
   // Attaches itself to what a program tells: settings, notifications, windows.
   void observe(Program& program);
   // While it is off nothing is noted: the script acts, not the program.
@@ -46,38 +46,38 @@ class RecordedFiles : public FileService {
   enum class Operation { write, copy, remove, make, list };
   RecordedFiles(FileService& disk, Recorder& recorder) : disk_(disk), recorder_(recorder) {}
   // How the log names a file; "" leaves its writes out of the log.
-  void name(const std::string& path, std::string name) { names_[path] = std::move(name); }
+  void name(const DiskPath& path, std::string name) { names_[path] = std::move(name); }
   // Makes such operations at and below the path fail.
-  void refuse(Operation operation, const std::string& path) { refused_.push_back({operation, path}); }
+  void refuse(Operation operation, const DiskPath& path) { refused_.push_back({operation, path}); }
   void allow() { refused_.clear(); }
 
-  Result<Kind> kind(const std::string& path) const override { return disk_.kind(path); }
-  Result<Kind> ownKind(const std::string& path) const override { return disk_.ownKind(path); }
-  Result<> checkWritable(const std::string& folder) const override { return disk_.checkWritable(folder); }
-  Result<std::string> read(const std::string& path) const override { return disk_.read(path); }
-  Result<> write(const std::string& path, std::string_view bytes) override;
-  Result<> keepUnreadable(const std::string& path) override;
-  Result<std::vector<std::string>> list(const std::string& folder) const override;
-  Result<> makeFolder(const std::string& path) override;
-  Result<> copy(const std::string& from, const std::string& to) override;
-  Result<> remove(const std::string& path) override;
-  Result<> removeEmptyFolder(const std::string& path) override;
-  Result<FourCharCode> typeCode(const std::string& path) const override { return disk_.typeCode(path); }
-  Result<> setCodes(const std::string& path, FourCharCode type, FourCharCode creator) override {
+  Result<Kind> kind(const DiskPath& path) const override { return disk_.kind(path); }
+  Result<Kind> ownKind(const DiskPath& path) const override { return disk_.ownKind(path); }
+  Result<> checkWritable(const DiskPath& folder) const override { return disk_.checkWritable(folder); }
+  Result<std::string> read(const DiskPath& path) const override { return disk_.read(path); }
+  Result<> write(const DiskPath& path, std::string_view bytes) override;
+  Result<> keepUnreadable(const DiskPath& path) override;
+  Result<std::vector<std::string>> list(const DiskPath& folder) const override;
+  Result<> makeFolder(const DiskPath& path) override;
+  Result<> copy(const DiskPath& from, const DiskPath& to) override;
+  Result<> remove(const DiskPath& path) override;
+  Result<> removeEmptyFolder(const DiskPath& path) override;
+  Result<FourCharCode> typeCode(const DiskPath& path) const override { return disk_.typeCode(path); }
+  Result<> setCodes(const DiskPath& path, FourCharCode type, FourCharCode creator) override {
     return disk_.setCodes(path, type, creator);
   }
 
  private:
   // As the disk itself refuses.
-  std::optional<Failure> refusal(Operation operation, const std::string& path, Attempt attempt) const;
-  void noteWrite(const std::string& path, bool written);
+  std::optional<Failure> refusal(Operation operation, const DiskPath& path, Attempt attempt) const;
+  void noteWrite(const DiskPath& path, bool written);
   struct Refusal {
     Operation operation;
-    std::string path;
+    DiskPath path;
   };
   FileService& disk_;
   Recorder& recorder_;
-  std::map<std::string, std::string> names_;
+  std::map<DiskPath, std::string> names_;
   std::vector<Refusal> refused_;
 };
 
@@ -117,11 +117,11 @@ class RecordedScripts : public ScriptRunner {
 class RecordedWorkspace : public Workspace {
  public:
   explicit RecordedWorkspace(Recorder& recorder) : recorder_(recorder) {}
-  std::vector<std::string> running;  // what launchedApplications answers
-  void openFile(const std::string& path) override { recorder_.note({{"opened", recorder_.shown(path)}}); }
+  std::vector<ProductPath> running;  // what launchedApplications answers
+  void openFile(const DiskPath& path) override { recorder_.note({{"opened", recorder_.shown(path)}}); }
   void openAddress(const std::string& address) override { recorder_.note({{"address", address}}); }
   void launchApplication(const std::string& name) override { recorder_.note({{"launched", name}}); }
-  std::vector<std::string> launchedApplications() override { return running; }
+  std::vector<ProductPath> launchedApplications() override { return running; }
 
  private:
   Recorder& recorder_;

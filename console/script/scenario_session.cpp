@@ -23,8 +23,7 @@ ScenarioSession::ScenarioSession(const ScenarioOptions& options, ScenarioShell& 
       workspace_(recorder_),
       scripts_(product_.scripts(), recorder_),
       usesConfigured_(options.product.engine.has_value()) {
-  product_.locations().leaveAsIs(folder_);
-  files_.name(product_.locations().inHome(std::string(gStylePath)), "styles");
+  files_.name(product_.locations().inHome(gStylePath), "styles");
   files_.name(toolListPath(product_.locations()), "tool list");
   files_.name(userDefaultsPath(product_.locations()), "");
   files_.name(product_.paths().localEnginePath(), "");
@@ -44,7 +43,7 @@ Program& ScenarioSession::program() {
 
 void ScenarioSession::takeLock() {
   const Locations& locations = product_.locations();
-  lockedOut_ = takeLock_ && !takeLock_(locations.resolve(lockPath(locations)));
+  lockedOut_ = takeLock_ && !takeLock_(lockPath(locations));
   if (lockedOut_) throw ScriptError("another manager works on these files");
   takeLock_ = {};
 }
@@ -82,10 +81,11 @@ void ScenarioSession::kill() {
   phase_ = Phase::none;
 }
 
-std::string ScenarioSession::path(const std::string& text) {
-  if (text.starts_with("root:/")) return text.substr(5);
-  if (text.starts_with("home:/")) return product_.locations().inHome(text.substr(6));
-  return isAbsolutePath(text) ? text : joinPath(folder_, text);
+DiskPath ScenarioSession::path(const std::string& text) const {
+  const Locations& locations = product_.locations();
+  if (text.starts_with("root:/")) return locations.onDisk(ProductPath(text.substr(5)));
+  if (text.starts_with("home:/")) return locations.inHome(text.substr(6));
+  return isAbsolutePath(text) ? DiskPath(text) : folder_ / text;
 }
 
 }  // namespace tarvo

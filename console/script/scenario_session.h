@@ -19,10 +19,10 @@ class Program;
 
 struct ScenarioOptions {
   ProductOptions product;  // without an engine: the scripted one
-  std::string folder;      // relative paths of the script start here; absolute
-  // Takes the lock of a user's files at this real path for the rest of the script. False: another process holds it.
+  DiskPath folder;         // relative paths of the script start here
+  // Takes the lock of a user's files at this path for the rest of the script. False: another process holds it.
   // Empty: the script has the files to itself anyway.
-  std::function<bool(const std::string& path)> takeLock = {};
+  std::function<bool(const DiskPath& path)> takeLock = {};
 };
 
 // The program under a script and everything around it: the product, the recorded services, the shell.
@@ -51,6 +51,7 @@ class ScenarioSession {
   bool hasHand() const { return constructed_; }
 
   Product& product() { return product_; }
+  const Product& product() const { return product_; }
   ScenarioShell& shell() { return shell_; }
   ScenarioClock& clock() { return clock_; }
   Recorder& recorder() { return recorder_; }
@@ -59,10 +60,8 @@ class ScenarioSession {
   ScriptedPanels& panels() { return panels_; }
   ScriptedEngine& engine();  // throws ScriptError where --engine named another one
 
-  // A path of a script in the core's spelling: "root:/…", "home:/…", absolute, or relative to the script's folder.
-  std::string path(const std::string& text);
-  // The same as the user sees it: what a file panel answers.
-  std::string realPath(const std::string& text) { return product_.locations().resolve(path(text)); }
+  // A path of a script: "root:/…", "home:/…", absolute, or relative to the script's folder.
+  DiskPath path(const std::string& text) const;
 
  private:
   void drop();
@@ -70,8 +69,8 @@ class ScenarioSession {
   Product product_;
   ScenarioShell& shell_;
   ScenarioClock& clock_;
-  std::string folder_;
-  std::function<bool(const std::string&)> takeLock_;
+  DiskPath folder_;
+  std::function<bool(const DiskPath&)> takeLock_;
   Recorder recorder_;
   RecordedFiles files_;
   ScriptedEngine scripted_;

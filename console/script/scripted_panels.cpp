@@ -56,9 +56,9 @@ void ScriptedPanels::beginAlertSheet(Window& host, const Alert& alert, std::func
   });
 }
 
-void ScriptedPanels::answerOpen(std::string path) { files_.push_back({Kind::open, std::move(path)}); }
+void ScriptedPanels::answerOpen(DiskPath path) { files_.push_back({Kind::open, std::move(path)}); }
 
-void ScriptedPanels::answerSave(std::string path) {
+void ScriptedPanels::answerSave(DiskPath path) {
   if (!up_.empty()) return endSavePanel(std::move(path));
   files_.push_back({Kind::save, std::move(path)});
 }
@@ -77,11 +77,11 @@ std::optional<ScriptedPanels::FileAnswer> ScriptedPanels::takeAnswer(Kind kind) 
   return answer;
 }
 
-Json ScriptedPanels::shown(const std::optional<std::string>& path) const {
+Json ScriptedPanels::shown(const std::optional<DiskPath>& path) const {
   return path ? Json(recorder_.shown(*path)) : Json();
 }
 
-std::optional<std::string> ScriptedPanels::runOpenPanel(const OpenPanel& panel) {
+std::optional<DiskPath> ScriptedPanels::runOpenPanel(const OpenPanel& panel) {
   const std::optional<FileAnswer> answer = takeAnswer(Kind::open);
   if (!answer) {
     fail("nothing answers the open panel \"" + panel.title + '"');
@@ -95,9 +95,9 @@ std::optional<std::string> ScriptedPanels::runOpenPanel(const OpenPanel& panel) 
 }
 
 void ScriptedPanels::beginSavePanel(Window& host, const SavePanel& panel,
-                                    std::function<void(int code, const std::string& path)> handler) {
+                                    std::function<void(int code, const DiskPath& path)> handler) {
   std::optional<FileAnswer> answer = takeAnswer(Kind::save);
-  if (answer && answer->path) answer->path = withPathExtension(std::move(*answer->path), panel.requiredType);
+  if (answer && answer->path) answer->path = DiskPath(withPathExtension(answer->path->text(), panel.requiredType));
   Json::Object event{{"kind", "save"}, {"over", host.name()}};
   if (answer) event.emplace("answer", shown(answer->path));
   if (!panel.title.empty()) event.emplace("title", panel.title);
@@ -105,16 +105,16 @@ void ScriptedPanels::beginSavePanel(Window& host, const SavePanel& panel,
   if (!panel.folder.empty()) event.emplace("folder", recorder_.shown(panel.folder));
   if (!panel.name.empty()) event.emplace("name", panel.name);
   recorder_.note({{"panel", std::move(event)}});
-  if (answer) return handler(answer->path ? 1 : 0, answer->path.value_or(""));
+  if (answer) return handler(answer->path ? 1 : 0, answer->path.value_or(DiskPath()));
   up_.push_back({panel.requiredType, std::move(handler)});
 }
 
-void ScriptedPanels::endSavePanel(std::optional<std::string> path) {
+void ScriptedPanels::endSavePanel(std::optional<DiskPath> path) {
   const UpPanel ended = std::move(up_.back());
   up_.pop_back();
-  if (path) *path = withPathExtension(*path, ended.requiredType);
+  if (path) path = DiskPath(withPathExtension(path->text(), ended.requiredType));
   recorder_.note({{"panelEnded", "save"}, {"answer", shown(path)}});
-  ended.handler(path ? 1 : 0, path.value_or(""));
+  ended.handler(path ? 1 : 0, path.value_or(DiskPath()));
 }
 
 }  // namespace tarvo

@@ -22,9 +22,9 @@ class ScriptedPanels : public Panels {
  public:
   ScriptedPanels(Recorder& recorder, ScenarioShell& shell) : recorder_(recorder), shell_(shell) {}
   void answerAlert(int button) { alerts_.push_back(button); }  // 0 the first
-  void answerOpen(std::string path);
+  void answerOpen(DiskPath path);
   // For the save panel that came up last, else for the next one. The panel adds its type to a path that lacks it.
-  void answerSave(std::string path);
+  void answerSave(DiskPath path);
   // For the save panel that came up last, else for the next open or save panel.
   void answerCancel();
   bool hasAnswers() const { return !alerts_.empty() || !files_.empty(); }
@@ -36,24 +36,24 @@ class ScriptedPanels : public Panels {
   void tell(const std::string& text) override;
   int runAlertPanel(const Alert& alert) override;
   void beginAlertSheet(Window& host, const Alert& alert, std::function<void(int button)> handler) override;
-  std::optional<std::string> runOpenPanel(const OpenPanel& panel) override;
+  std::optional<DiskPath> runOpenPanel(const OpenPanel& panel) override;
   void beginSavePanel(Window& host, const SavePanel& panel,
-                      std::function<void(int code, const std::string& path)> handler) override;
+                      std::function<void(int code, const DiskPath& path)> handler) override;
 
  private:
   enum class Kind { open, save };
   struct FileAnswer {
-    std::optional<Kind> kind;         // nothing: either
-    std::optional<std::string> path;  // nothing: cancelled
+    std::optional<Kind> kind;      // nothing: either
+    std::optional<DiskPath> path;  // nothing: cancelled
   };
   struct UpPanel {
     std::string requiredType;
-    std::function<void(int code, const std::string& path)> handler;
+    std::function<void(int code, const DiskPath& path)> handler;
   };
   int nextAnswer(const Alert& alert, const Window* host);
   std::optional<FileAnswer> takeAnswer(Kind kind);
-  void endSavePanel(std::optional<std::string> path);
-  Json shown(const std::optional<std::string>& path) const;
+  void endSavePanel(std::optional<DiskPath> path);
+  Json shown(const std::optional<DiskPath>& path) const;
   void fail(std::string reason);
   Recorder& recorder_;
   ScenarioShell& shell_;

@@ -21,18 +21,20 @@ namespace {
 using namespace addin_keys;
 using Rows = std::vector<AddinEntry>;
 
-Json jsonOf(const AddinEntry& row, const char* table, const Locations& locations) {
+Json jsonOf(const AddinEntry& row, const char* table, const Product& product) {
+  const AddinPlaces places = placesOf(row, product.locations(), product.files());
   return Json::Object{{"table", table},
                       {"name", addinText(row, appName)},
                       {"version", addinText(row, appVersion)},
                       {"creator", addinText(row, appCreator)},
-                      {"path", locations.shown(addinText(row, appPath))},
-                      {"folder", locations.shown(addinText(row, installFolderPath))},
+                      {"path", product.locations().shown(places.application)},
+                      {"folder", product.locations().shown(places.folder)},
                       {"installed", isMarkedInstalled(row)}};
 }
 
-std::vector<std::string> lineOf(const AddinEntry& row, const char* first, const Locations& locations) {
-  return {first, addinText(row, appName), addinText(row, appVersion), locations.shown(addinText(row, appPath))};
+std::vector<std::string> lineOf(const AddinEntry& row, const char* first, const Product& product) {
+  const DiskPath application = placesOf(row, product.locations(), product.files()).application;
+  return {first, addinText(row, appName), addinText(row, appVersion), product.locations().shown(application)};
 }
 
 std::optional<AddinsRead> read(Console& console) {
@@ -53,19 +55,20 @@ struct Match {
 // What a user asks for. The name may also be the path of the application: as listed, as remembered, or on the disk.
 struct Asked {
   std::string name, version;
-  const Locations& locations;
+  const Product& product;
   bool means(const AddinEntry& row) const {
     if (!version.empty() && addinText(row, appVersion) != version) return false;
-    const std::string path = addinText(row, appPath);
-    return name == addinText(row, appName) || name == path || name == locations.shown(path) ||
-           name == locations.resolve(path);
+    const DiskPath path = placesOf(row, product.locations(), product.files()).application;
+    return name == addinText(row, appName) || name == addinText(row, appPath) || name == path.text() ||
+           name == product.locations().shown(path);
   }
 };
 
 // A search may add an application twice. Asked for by its path, it makes no difference which row is ticked.
 bool isRepeated(const AddinEntry& row, const AddinEntry& first, const std::string& name) {
   return addinText(row, appName) != name && addinText(row, appPath) == addinText(first, appPath) &&
-         installedItemPath(row) == installedItemPath(first);
+         addinText(row, installFolderPath) == addinText(first, installFolderPath) &&
+         addinItemName(row) == addinItemName(first);
 }
 
 Match findRow(const Rows& office, const Rows& mail, const Asked& asked) {
@@ -99,13 +102,13 @@ std::string problemWith(const Match& match, const Asked& asked) {
 ExitStatus AddinsCommand::run(Console& console) {
   const std::optional<AddinsRead> addins = read(console);
   if (!addins) return ExitStatus::refused;
-  const Locations& locations = console.product.locations();
+  const Product& product = console.product;
   Json::List list;
   std::vector<std::vector<std::string>> lines;
   for (const auto& [rows, table] : {std::pair(&addins->office, "office"), std::pair(&addins->mail, "mail")}) {
     for (const AddinEntry& row : *rows) {
-      list.push_back(jsonOf(row, table, locations));
-      lines.push_back(lineOf(row, isMarkedInstalled(row) ? "installed" : "-", locations));
+      list.push_back(jsonOf(row, table, product));
+      lines.push_back(lineOf(row, isMarkedInstalled(row) ? "installed" : "-", product));
     }
   }
   if (json_) {
@@ -119,7 +122,7 @@ ExitStatus AddinsCommand::run(Console& console) {
 ExitStatus AddinTickCommand::run(Console& console) {
   const std::optional<AddinsRead> addins = read(console);
   if (!addins) return ExitStatus::refused;
-  const Asked asked{name_, version_, console.product.locations()};
+  const Asked asked{name_, version_, console.product};
   const Match known = findRow(addins->office, addins->mail, asked);
   if (const std::string problem = problemWith(known, asked); !problem.empty()) {
     console.err << problem << '\n';
@@ -147,9 +150,8 @@ ExitStatus AddinTickCommand::run(Console& console) {
 }
 
 ExitStatus AddinSearchCommand::run(Console& console) {
-  const std::string folder = absolutePath(folder_);
-  Locations& locations = console.product.locations();
-  const Result<FileService::Kind> kind = console.product.files().kind(locations.picked(folder));
+  const DiskPath folder = absolutePath(folder_);
+  const Result<FileService::Kind> kind = console.product.files().kind(folder);
   if (kind != FileService::Kind::folder) {
     console.err << (kind ? "there is no folder " + folder_ : failureText(kind.error(), console.product.texts()))
                 << '\n';
@@ -158,17 +160,17 @@ ExitStatus AddinSearchCommand::run(Console& console) {
   VerbProgram verb(console);
   verb.answerFilePanels(folder);
   return verb.run([&](Program& program, Hand& hand) {
-    const auto names = console.product.files().list(locations.picked(folder));
+    const auto names = console.product.files().list(folder);
     if (!names) return verb.refuse(failureText(names.error(), console.product.texts()));
     AddinLists& lists = program.rooms().addins;
     const std::size_t office = lists.fOfficeAddinArray.size(), mail = lists.fMailAddinArray.size();
     hand.press(program.interface().addins.officeSearchButton);
     std::vector<std::vector<std::string>> lines;
     for (std::size_t i = office; i < lists.fOfficeAddinArray.size(); ++i) {
-      lines.push_back(lineOf(lists.fOfficeAddinArray[i], "added", locations));
+      lines.push_back(lineOf(lists.fOfficeAddinArray[i], "added", console.product));
     }
     for (std::size_t i = mail; i < lists.fMailAddinArray.size(); ++i) {
-      lines.push_back(lineOf(lists.fMailAddinArray[i], "added", locations));
+      lines.push_back(lineOf(lists.fMailAddinArray[i], "added", console.product));
     }
     writeTable(console.out, lines);
     if (lines.empty()) {

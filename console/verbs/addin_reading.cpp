@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "app/picked_applications.h"
 #include "app/product.h"
 #include "app/program.h"
 #include "platform/services/file_service.h"
@@ -14,10 +13,10 @@ namespace tarvo {
 namespace {
 
 // Whether a start would list this mail program: it makes Apple Mail's folder before it looks.
-bool isListed(const AddinEntry& entry, const FileService& files, const MailScriptInstaller& mailScripts) {
-  if (files.isAbsent(addinText(entry, addin_keys::appPath))) return false;
-  const std::string folder = addinText(entry, addin_keys::installFolderPath);
-  return mailScripts.isMailScriptFolder(entry) || folder == mailScripts.mailScriptFolder();
+bool isListed(const AddinEntry& entry, const AddinPlaces& places, const FileService& files,
+              const MailScriptInstaller& mailScripts) {
+  if (files.isAbsent(places.application)) return false;
+  return mailScripts.isMailScriptFolder(entry) || places.folder == mailScripts.mailScriptFolder();
 }
 
 // A remembered list leaves out what was not there at the end of an earlier run.
@@ -29,7 +28,7 @@ std::vector<AddinEntry> forgottenIn(const AddinLists& lists, const FileService& 
     const bool isCandidate = std::any_of(
         lists.fOfficeArray.begin(), lists.fOfficeArray.end(),
         [&](const AddinLists::SharedEntry& candidate) { return addinText(*candidate, addin_keys::appPath) == path; });
-    if (!isCandidate && files.isThere(path)) forgotten.push_back(*shipped);
+    if (!isCandidate && files.isThere(lists.placesOf(*shipped).application)) forgotten.push_back(*shipped);
   }
   return forgotten;
 }
@@ -38,17 +37,15 @@ std::vector<AddinEntry> forgottenIn(const AddinLists& lists, const FileService& 
 
 std::optional<AddinsRead> readAddins(Product& product) {
   FileService& files = product.files();
-  const std::string home = product.locations().home();
   AddinOutlets outlets;
   UserDefaults defaults(files, userDefaultsPath(product.locations()));
-  leavePickedApplications(defaults, product.locations());
-  const MailScriptInstaller mailScripts(files, product.bundle(), home);
-  AddinLists lists({files, product.bundle(), defaults}, home, mailScripts, outlets);
+  const MailScriptInstaller mailScripts(files, product.bundle(), product.locations());
+  AddinLists lists({files, product.bundle(), defaults, product.locations()}, mailScripts, outlets);
   if (!lists.searchOfficeApplication()) return std::nullopt;
   AddinsRead read{{}, forgottenIn(lists, files), std::move(lists.fOfficeAddinArray), {}};
   for (const AddinLists::SharedEntry& candidate : lists.fOfficeArray) {
     read.candidates.push_back(*candidate);
-    if (!isMailAddin(*candidate) || !isListed(*candidate, files, mailScripts)) continue;
+    if (!isMailAddin(*candidate) || !isListed(*candidate, lists.placesOf(*candidate), files, mailScripts)) continue;
     AddinEntry row = *candidate;
     row.set(addin_keys::installStatus, lists.getInstallStatus(row));
     read.mail.push_back(std::move(row));

@@ -9,6 +9,7 @@
 
 #include "platform/services/result.h"
 #include "platform/services/texts.h"
+#include "platform/text/paths.h"
 
 namespace tarvo {
 
@@ -24,10 +25,10 @@ struct Console {
   RunLoop& runLoop;
   std::ostream& out;
   std::ostream& err;
-  // Takes the lock at this real path for the rest of the process. False: another process holds it.
-  std::function<bool(const std::string& path)> takeLock;
+  // Takes the lock at this path for the rest of the process. False: another process holds it.
+  std::function<bool(const DiskPath& path)> takeLock;
   // Becomes that program with these words; answers only when it cannot.
-  std::function<Failure(const std::string& file, std::vector<std::string> words)> become;
+  std::function<Failure(const DiskPath& file, std::vector<std::string> words)> become;
   // The shipped texts in the language that was asked for, in which failures are told.
   std::function<Texts()> textsToTell;
   bool json = false;           // answers are JSON

@@ -52,7 +52,8 @@ ExitStatus DictionariesCommand::run(Console& console) {
   Product& product = console.product;
   const Dictionary& record = *(*styles.root->array(keyNameStyle))[static_cast<std::size_t>(*index)].dictionary();
   const ListContents contents =
-      readList({product.files(), product.texts(), product.bundle(), product.paths()}, record, list_.direction);
+      readList({product.files(), product.texts(), product.bundle(), product.paths(), product.locations()}, record,
+               list_.direction);
   if (console.json) {
     console.out << writeJson(Json::Object{{"loaded", jsonFrom(contents.loaded)},
                                           {"available", jsonFrom(contents.available)},

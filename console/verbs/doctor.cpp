@@ -42,14 +42,14 @@ class Examination {
   }
 
  private:
-  void add(const std::string& path, const char* what, const char* state, std::string detail) {
+  void add(const DiskPath& path, const char* what, const char* state, std::string detail) {
     findings_.push_back({product_.locations().shown(path), what, state, std::move(detail)});
   }
 
   std::string causeOf(const Failure& failure) const { return failureCauseText(failure, product_.texts()); }
 
   // A property list whose root is a dictionary; nothing when there is none, and then it is noted.
-  std::optional<Dictionary> list(const std::string& path, const char* what, const char* whenMissing) {
+  std::optional<Dictionary> list(const DiskPath& path, const char* what, const char* whenMissing) {
     Result<Dictionary> values = readDictionary(product_.files(), path);
     if (values) return std::move(*values);
     if (product_.files().isAbsent(path)) {
@@ -60,13 +60,13 @@ class Examination {
     return std::nullopt;
   }
 
-  void keys(const std::string& path, const char* what, const char* whenMissing) {
+  void keys(const DiskPath& path, const char* what, const char* whenMissing) {
     if (const auto values = list(path, what, whenMissing)) {
       add(path, what, "ok", std::to_string(values->size()) + " keys");
     }
   }
 
-  void styleFile(const std::string& path, const char* what, const char* whenMissing) {
+  void styleFile(const DiskPath& path, const char* what, const char* whenMissing) {
     const std::optional<Dictionary> root = list(path, what, whenMissing);
     if (!root) return;
     const Array* styles = root->array(keyNameStyle);
@@ -76,9 +76,9 @@ class Examination {
   }
 
   void styles() {
-    styleFile(product_.locations().inHome(std::string(gStylePath)), "styles", "made at the first start");
-    styleFile(std::string(gAppSupportStylePlist), "styles that came with the product",
-              "there is nothing to start with");
+    styleFile(product_.locations().inHome(gStylePath), "styles", "made at the first start");
+    styleFile(product_.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist))),
+              "styles that came with the product", "there is nothing to start with");
   }
 
   void settings() {
@@ -89,14 +89,14 @@ class Examination {
   void resources() {
     const Bundle& bundle = product_.bundle();
     folder(bundle.folder(), "resources");
-    keys(joinPath(bundle.folder(), "WordhavenPaths.plist"), "paths", "the manager cannot start");
+    keys(bundle.folder() / "WordhavenPaths.plist", "paths", "the manager cannot start");
     for (const std::string& language : bundle.languages()) {
-      keys(bundle.folder() + "/" + language + ".lproj/Localizable.strings", "texts", "keys are shown instead");
+      keys(bundle.folder() / (language + ".lproj/Localizable.strings"), "texts", "keys are shown instead");
     }
-    keys(machineTexts, "texts of this machine", "none are needed");
+    keys(product_.locations().onDisk(ProductPath(machineTexts)), "texts of this machine", "none are needed");
   }
 
-  void folder(const std::string& path, const char* what) {
+  void folder(const DiskPath& path, const char* what) {
     const auto names = product_.files().list(path);
     if (names) {
       add(path, what, "ok", std::to_string(names->size()) + " entries");
@@ -106,17 +106,19 @@ class Examination {
     }
   }
 
-  void dictionaryFolder(const std::string& path, const char* what, DictionaryKind kind, Direction direction) {
+  void dictionaryFolder(const DiskPath& path, const char* what, DictionaryKind kind, Direction direction) {
     const auto names = product_.files().list(path);
     if (!names) return folder(path, what);
-    DictController list({product_.files(), product_.texts(), product_.bundle(), product_.paths()});
+    DictController list(
+        {product_.files(), product_.texts(), product_.bundle(), product_.paths(), product_.locations()});
     list.initializeDictController(kind, path, direction);
     const std::size_t usable = list.getAllDictionary().size();
     add(path, what, "ok", std::to_string(usable) + " usable, " + std::to_string(names->size()) + " entries");
     if (kind != DictionaryKind::technical) return;
-    for (const std::string& name :
-         namesThatCannotBeKept({product_.files(), product_.texts(), product_.bundle(), product_.paths()}, direction)) {
-      add(joinPath(path, printable(name)), "dictionary", "problem", "a style file cannot hold its name: rename it");
+    for (const std::string& name : namesThatCannotBeKept(
+             {product_.files(), product_.texts(), product_.bundle(), product_.paths(), product_.locations()},
+             direction)) {
+      add(path / printable(name), "dictionary", "problem", "a style file cannot hold its name: rename it");
     }
   }
 
@@ -140,14 +142,14 @@ class Examination {
     for (const char* key : {"TechECorwell6", "TechJCorwell6", "TechETekado", "TechJTekado"}) {
       const std::string path = product_.texts().localized(key);
       if (isAbsolutePath(path)) {
-        plain(path, "medical dictionary", "is not installed");
+        plain(product_.locations().onDisk(ProductPath(path)), "medical dictionary", "is not installed");
       } else {
         findings_.push_back({path, "medical dictionary", "missing", "is not installed"});
       }
     }
   }
 
-  void plain(const std::string& path, const char* what, const char* whenMissing) {
+  void plain(const DiskPath& path, const char* what, const char* whenMissing) {
     const Result<Kind> kind = product_.files().kind(path);
     if (!kind) return add(path, what, "problem", causeOf(kind.error()));
     const bool exists = *kind != Kind::absent;
@@ -155,15 +157,16 @@ class Examination {
   }
 
   void rest() {
-    const std::string version = "/System/Library/CoreServices/SystemVersion.plist";
+    const DiskPath version =
+        product_.locations().onDisk(ProductPath("/System/Library/CoreServices/SystemVersion.plist"));
     if (list(version, "system version", "counts as 0")) {
-      const int number = systemVersion(product_.files());
+      const int number = systemVersion(product_.files(), product_.locations());
       add(version, "system version", number != 0 ? "ok" : "problem", std::to_string(number));
     }
     plain(toolListPath(product_.locations()), "tool list", "written at every start");
     engine();
     const Bundle& bundle = product_.bundle();
-    plain(bundle.resource("index", "htm", "Help").value_or(joinPath(bundle.folder(), "Help/index.htm")), "help",
+    plain(bundle.resource("index", "htm", "Help").value_or(bundle.folder() / "Help/index.htm"), "help",
           "the help command does nothing");
   }
 

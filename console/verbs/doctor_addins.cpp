@@ -19,30 +19,31 @@ class Examination {
   std::vector<Finding> all() {
     const std::optional<AddinsRead> addins = readAddins(product_);
     if (!addins) {
-      findings_.push_back({product_.bundle().folder() + "/DefaultAddin.plist", "applications that take add-ins",
+      findings_.push_back({(product_.bundle().folder() / "DefaultAddin.plist").text(), "applications that take add-ins",
                            "problem", "the manager cannot start without a list of them"});
       return std::move(findings_);
     }
     for (const AddinEntry& entry : addins->candidates) {
       const bool isRemembered = entry.find(addin_keys::installStatus) != nullptr;
-      examine(diagnoseAddin(entry, product_.files(), product_.bundle()), isRemembered);
+      examine(diagnoseAddin(entry, product_.files(), product_.locations(), product_.bundle()), isRemembered);
     }
     for (const AddinEntry& entry : addins->forgotten) {
-      add(addinText(entry, addin_keys::appPath), addinText(entry, addin_keys::appName), "problem",
+      add(placesOf(entry, product_.locations(), product_.files()).application, addinText(entry, addin_keys::appName),
+          "problem",
           "is not listed: it was not there at the end of an earlier run; without the setting Office it comes back");
     }
     return std::move(findings_);
   }
 
  private:
-  void add(const std::string& path, const std::string& what, const char* state, std::string detail) {
+  void add(const DiskPath& path, const std::string& what, const char* state, std::string detail) {
     findings_.push_back({product_.locations().shown(path), what, state, std::move(detail)});
   }
 
   void examine(const AddinDiagnosis& addin, bool isRemembered) {
-    const Result<FileService::Kind> kind = product_.files().kind(addin.application);
+    const Result<FileService::Kind> kind = product_.files().kind(addin.places.application);
     const bool isAbsent = kind == FileService::Kind::absent;
-    add(addin.application, addin.name,
+    add(addin.places.application, addin.name,
         !kind      ? "problem"
         : isAbsent ? "missing"
                    : "ok",
@@ -55,12 +56,12 @@ class Examination {
   }
 
   void folder(const AddinDiagnosis& addin) {
-    const bool exists = !product_.files().isAbsent(addin.folder);
+    const bool exists = !product_.files().isAbsent(addin.places.folder);
     // What is installed is in its own way; that is no fault.
     const bool isInstalled = addin.isThere && !addin.isPartial;
     const bool fails = addin.obstacle && !isInstalled;
     const char* whenMissing = addin.table == "mail" ? "is not listed without it" : "";
-    add(addin.folder, "install folder of " + addin.name,
+    add(addin.places.folder, "install folder of " + addin.name,
         !exists ? "missing"
         : fails ? "problem"
                 : "ok",
@@ -81,7 +82,7 @@ class Examination {
       detail += "; a removal would fail: " + failureText(*addin.removalObstacle, product_.texts());
     }
     const bool isProblem = addin.isPartial || differs || addin.removalObstacle;
-    add(addin.item, (addin.table == "mail" ? "scripts of " : "macro of ") + addin.name,
+    add(addin.places.item, (addin.table == "mail" ? "scripts of " : "macro of ") + addin.name,
         isProblem       ? "problem"
         : addin.isThere ? "ok"
                         : "missing",
@@ -91,7 +92,8 @@ class Examination {
   static std::string lacking(const AddinDiagnosis& addin) {
     std::string names;
     for (const std::string& path : addin.missing) {
-      if (path.starts_with(addin.item + "/")) names += (names.empty() ? "" : ", ") + path.substr(addin.item.size() + 1);
+      if (path.starts_with(addin.places.item.text() + "/"))
+        names += (names.empty() ? "" : ", ") + path.substr(addin.places.item.text().size() + 1);
     }
     return names;
   }

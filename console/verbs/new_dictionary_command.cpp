@@ -41,9 +41,9 @@ std::string templateOf(Direction direction) {
 
 ExitStatus NewDictionaryCommand::run(Console& console) {
   Product& product = console.product;
-  const std::string lock = product.locations().resolve(lockPath(product.locations()));
-  if (!console.takeLock(lock)) return tell(console, Refusal{lock, "Refusal.Locked", "", ExitStatus::locked});
-  UserLists lists({product.files(), product.texts(), product.bundle(), product.paths()});
+  const DiskPath lock = lockPath(product.locations());
+  if (!console.takeLock(lock)) return tell(console, Refusal{lock.text(), "Refusal.Locked", "", ExitStatus::locked});
+  UserLists lists({product.files(), product.texts(), product.bundle(), product.paths(), product.locations()});
   lists.setUp();
   const std::string name = trimmed(name_);
   const DictionaryNames names{product.files(), product.texts(), product.paths()};
@@ -57,8 +57,8 @@ ExitStatus NewDictionaryCommand::run(Console& console) {
   if (!made) return tell(console, made.error());
   // Without its template a dictionary counts as made, and there is no file.
   if (product.files().isAbsent(list.getDicPath(fileName))) {
-    const std::string path = product.bundle().folder() + "/" + templateOf(direction_);
-    return tell(console, Failure{path, Attempt::copy, Reason::missingResource});
+    const DiskPath path = product.bundle().folder() / templateOf(direction_);
+    return tell(console, Failure{path.text(), Attempt::copy, Reason::missingResource});
   }
   say(console, {{fileName}, std::nullopt});
   return ExitStatus::done;

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 constexpr const char* windowProgram = "tarvo-manager";
 
 std::optional<std::string> findWindowProgram() {
-  const fs::path own = programFolder();
+  const fs::path own = programFolder().text();
   for (const fs::path& folder : {own, own / "../qt"}) {
     const fs::path program = (folder / windowProgram).lexically_normal();
     std::error_code error;
@@ -32,14 +32,15 @@ std::optional<std::string> findWindowProgram() {
 ExitStatus OpenCommand::run(Console& console) {
   const std::optional<std::string> program = findWindowProgram();
   if (!program) {
-    console.err << windowProgram << " is not there: it belongs beside this program, in " << programFolder() << '\n';
+    console.err << windowProgram << " is not there: it belongs beside this program, in " << programFolder().text()
+                << '\n';
     return ExitStatus::refused;
   }
   std::vector<std::string> words{*program};
   words.insert(words.end(), options_.begin(), options_.end());
   words.push_back("--open=" + code_);
   console.out.flush();
-  console.err << failureText(console.become(*program, std::move(words)), console.product.texts()) << '\n';
+  console.err << failureText(console.become(DiskPath(*program), std::move(words)), console.product.texts()) << '\n';
   return ExitStatus::refused;
 }
 

@@ -48,7 +48,7 @@ ExitStatus StyleUseCommand::run(Console& console) {
   return session.edit(style_, [&](int index) -> std::optional<Problem> {
     StyleStore& store = session.store();
     if (store.getSelection() == nullptr) {
-      return Refusal{console.product.locations().resolve(store.path()), "Refusal.NoSelection", ""};
+      return Refusal{store.path().text(), "Refusal.NoSelection", ""};
     }
     store.choose(tools_, index);
     return std::nullopt;
@@ -68,10 +68,10 @@ ExitStatus StyleRenameCommand::run(Console& console) {
 
 ExitStatus StyleImportCommand::run(Console& console) {
   StyleSession session(console);
-  const std::string file = absolutePath(file_);
+  const DiskPath file = absolutePath(file_);
   return session.edit(style_, [&](int index) -> std::optional<Problem> {
-    Result<Dictionary> record = readStyle(console.product.files(), console.product.locations().picked(file));
-    if (!record) return Failure{file, record.error().attempt, record.error().cause};
+    Result<Dictionary> record = readStyle(console.product.files(), file);
+    if (!record) return Failure{file.text(), record.error().attempt, record.error().cause};
     const std::string name = styleName(*session.store().getStyleAtIndex(index));
     replaceStyle(session.store(), index, std::move(*record), name);
     return std::nullopt;
@@ -80,10 +80,9 @@ ExitStatus StyleImportCommand::run(Console& console) {
 
 ExitStatus StyleExportCommand::run(Console& console) {
   StyleSession session(console);
-  const std::string file = absolutePath(file_);
+  const DiskPath file = absolutePath(file_);
   return session.read(style_, [&](int index) -> std::optional<Problem> {
-    const std::string path = console.product.locations().picked(file);
-    const Result<> written = writeStyleFile(session.store(), index, console.product.files(), path);
+    const Result<> written = writeStyleFile(session.store(), index, console.product.files(), file);
     return written ? std::nullopt : std::optional<Problem>(written.error());
   });
 }

@@ -11,17 +11,17 @@ namespace tarvo {
 
 ReadStyles readStyles(Console& console) {
   Product& product = console.product;
-  const std::string path = product.locations().inHome(std::string(gStylePath));
+  const DiskPath path = product.locations().inHome(gStylePath);
   Result<Dictionary> users = readDictionary(product.files(), path);
   if (users) return {std::move(*users)};
   const bool isUnreadable = !isAbsence(users.error());
-  const std::string real = product.locations().resolve(path);
-  Result<Dictionary> products = readDictionary(product.files(), std::string(gAppSupportStylePlist));
+  Result<Dictionary> products =
+      readDictionary(product.files(), product.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist))));
   if (!products && !isUnreadable) return {std::nullopt, tell(console, products.error())};
-  if (!products) return {std::nullopt, tell(console, Failure{real, Attempt::read, users.error().cause})};
+  if (!products) return {std::nullopt, tell(console, Failure{path.text(), Attempt::read, users.error().cause})};
   if (!isUnreadable) return {std::move(*products)};
   const std::string cause = causeOf(users.error(), console.textsToTell());
-  note(console, Refusal{real, "Refusal.ProductsStyles", cause});
+  note(console, Refusal{path.text(), "Refusal.ProductsStyles", cause});
   return {std::move(*products), ExitStatus::refused};
 }
 

@@ -14,7 +14,7 @@ namespace tarvo {
 namespace {
 
 DictController::Services dictionaryServices(Product& product) {
-  return {product.files(), product.texts(), product.bundle(), product.paths()};
+  return {product.files(), product.texts(), product.bundle(), product.paths(), product.locations()};
 }
 
 }  // namespace
@@ -23,9 +23,9 @@ StyleSession::StyleSession(Console& console)
     : console_(console),
       engine_(console.product.makeEngine(console.product.files())),
       defaults_(console.product.files(), userDefaultsPath(console.product.locations())),
-      store_(console.product.files(), *engine_, defaults_, console.product.locations().inHome(std::string(gStylePath)),
-             std::string(gAppSupportStylePlist)),
-      medical_(console.product.files(), console.product.texts(), defaults_, store_),
+      store_(console.product.files(), *engine_, defaults_, console.product.locations().inHome(gStylePath),
+             console.product.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist)))),
+      medical_(console.product.files(), console.product.locations(), console.product.texts(), defaults_, store_),
       lists_(store_, dictionaryServices(console.product)) {
   store_.writeOnlyChanges();
   store_.didWrite = [this] { written_ = true; };
@@ -33,12 +33,12 @@ StyleSession::StyleSession(Console& console)
 
 StyleSession::~StyleSession() = default;
 
-std::string StyleSession::pathOfStyles() const { return console_.product.locations().resolve(store_.path()); }
+const std::string& StyleSession::pathOfStyles() const { return store_.path().text(); }
 
 std::optional<Problem> StyleSession::open() {
   Product& product = console_.product;
-  const std::string lock = product.locations().resolve(lockPath(product.locations()));
-  if (!console_.takeLock(lock)) return Refusal{lock, "Refusal.Locked", "", ExitStatus::locked};
+  const DiskPath lock = lockPath(product.locations());
+  if (!console_.takeLock(lock)) return Refusal{lock.text(), "Refusal.Locked", "", ExitStatus::locked};
   const LoadedStyles loaded = loadStyles(store_, medical_, product.files(), product.paths());
   if (store_.unread()) {
     return Refusal{pathOfStyles(), "Refusal.UnreadableStyles", causeOf(*store_.unread(), console_.textsToTell())};

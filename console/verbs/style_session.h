@@ -46,7 +46,7 @@ class StyleSession {
   std::expected<int, Problem> openOn(const std::string& style);
   ExitStatus finish(std::vector<std::string> changed);
   std::optional<bool> registerStyles();
-  std::string pathOfStyles() const;
+  const std::string& pathOfStyles() const;
   std::string service() const;  // its address, or its form
   Console& console_;
   std::unique_ptr<Engine> engine_;

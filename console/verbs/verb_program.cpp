@@ -17,7 +17,7 @@ class VerbProgram::ToldPanels : public Panels {
     err_ << reason << '\n';
     refused_ = true;
   }
-  void answer(const std::string& path) { path_ = path; }
+  void answer(const DiskPath& path) { path_ = path; }
   void beep() override {}
   void tell(const std::string& text) override { err_ << text << '\n'; }
   int runAlertPanel(const Alert& alert) override {
@@ -27,14 +27,14 @@ class VerbProgram::ToldPanels : public Panels {
   void beginAlertSheet(Window&, const Alert& alert, std::function<void(int)> handler) override {
     handler(runAlertPanel(alert));
   }
-  std::optional<std::string> runOpenPanel(const OpenPanel&) override { return path_; }
-  void beginSavePanel(Window&, const SavePanel&, std::function<void(int, const std::string&)> handler) override {
-    handler(path_ ? 1 : 0, path_.value_or(""));
+  std::optional<DiskPath> runOpenPanel(const OpenPanel&) override { return path_; }
+  void beginSavePanel(Window&, const SavePanel&, std::function<void(int, const DiskPath&)> handler) override {
+    handler(path_ ? 1 : 0, path_.value_or(DiskPath()));
   }
 
  private:
   std::ostream& err_;
-  std::optional<std::string> path_;
+  std::optional<DiskPath> path_;
   bool refused_ = false;
 };
 
@@ -82,10 +82,10 @@ class VerbProgram::ToldEngine : public Engine {
 class VerbProgram::ToldWorkspace : public Workspace {
  public:
   explicit ToldWorkspace(std::ostream& err) : err_(err) {}
-  void openFile(const std::string& path) override { err_ << "would open " << path << '\n'; }
+  void openFile(const DiskPath& path) override { err_ << "would open " << path.text() << '\n'; }
   void openAddress(const std::string& address) override { err_ << "would open " << address << '\n'; }
   void launchApplication(const std::string& name) override { err_ << "would start " << name << '\n'; }
-  std::vector<std::string> launchedApplications() override { return {}; }
+  std::vector<ProductPath> launchedApplications() override { return {}; }
 
  private:
   std::ostream& err_;
@@ -102,14 +102,14 @@ VerbProgram::~VerbProgram() = default;
 
 ExitStatus VerbProgram::run(const std::function<void(Program& program, Hand& hand)>& act) {
   const Locations& locations = console_.product.locations();
-  const std::string lock = locations.resolve(lockPath(locations));
-  if (!console_.takeLock(lock)) return tell(console_, Refusal{lock, "Refusal.Locked", "", ExitStatus::locked});
+  const DiskPath lock = lockPath(locations);
+  if (!console_.takeLock(lock)) return tell(console_, Refusal{lock.text(), "Refusal.Locked", "", ExitStatus::locked});
   return runProgram(act);
 }
 
 void VerbProgram::refuse(const std::string& reason) { panels_->refuse(reason); }
 
-void VerbProgram::answerFilePanels(const std::string& path) { panels_->answer(path); }
+void VerbProgram::answerFilePanels(const DiskPath& path) { panels_->answer(path); }
 
 const VerbProgram::EngineCalls& VerbProgram::engineCalls() const { return engine_->calls(); }
 

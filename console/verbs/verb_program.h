@@ -33,7 +33,7 @@ class VerbProgram {
   // For the verb while it acts. Tells why something is not done.
   void refuse(const std::string& reason);
   // Every file panel from now on is answered by this path; else it is cancelled.
-  void answerFilePanels(const std::string& path);
+  void answerFilePanels(const DiskPath& path);
 
   // A newer set that the service handed out.
   struct Offer {

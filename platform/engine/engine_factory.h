@@ -7,14 +7,15 @@
 #include <string_view>
 
 #include "platform/services/engine.h"
+#include "platform/text/paths.h"
 
 namespace tarvo {
 
 class FileService;
 
 struct EnginePlaces {
-  std::string localPath;  // of the local engine's file
-  std::string netrc;      // real path of the user's credentials for style services
+  DiskPath localPath;  // of the local engine's file
+  DiskPath netrc;      // the user's credentials for style services
 };
 
 // The address of one user, from one that is configured for many machines: each "{user}" in it stands for the user's

@@ -70,7 +70,7 @@ std::string encode(const StyleSet& styles, const std::string& stamp) {
 
 }  // namespace
 
-EngineLocal::EngineLocal(FileService& files, std::string path) : files_(files), file_(files, std::move(path)) {}
+EngineLocal::EngineLocal(FileService& files, DiskPath path) : files_(files), file_(files, std::move(path)) {}
 
 bool EngineLocal::checkConnectionWithCurl() { return true; }
 
@@ -82,7 +82,7 @@ void EngineLocal::sendRegistStyle(const StyleSet& styles, std::string& updateStr
   const std::uint64_t last = counter_.value_or(0);
   const std::uint64_t next = last == std::numeric_limits<std::uint64_t>::max() ? 1 : last + 1;
   updateString = makeStamp(next);
-  const Result<> made = files_.makeFolder(deletingLastPathComponent(file_.path()));
+  const Result<> made = files_.makeFolder(file_.path().folder());
   // After a failed write the caller's set is newer than what the file holds, and its stamp says so: the old set must
   // not come back over it.
   didRegister_ = file_.write(encode(styles, updateString));

@@ -21,8 +21,8 @@ class FileService;
 
 class EngineLocal : public Engine {
  public:
-  // path: of the file, in the core's spelling; its folder is made on demand.
-  EngineLocal(FileService& files, std::string path);
+  // path: of the file; its folder is made on demand.
+  EngineLocal(FileService& files, DiskPath path);
   bool checkConnectionWithCurl() override;
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override;
   bool checkStyle() override;

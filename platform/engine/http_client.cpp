@@ -133,14 +133,14 @@ struct HttpClient::Handle {
     set(CURLOPT_URL, place.address.c_str());
     set(CURLOPT_PROTOCOLS_STR, "http,https");
     set(CURLOPT_NOSIGNAL, 1L);
-    set(CURLOPT_QUICK_EXIT, 1L);       // a name service that hangs is not waited for either
-    if (std::ifstream(place.netrc)) {  // else there are no credentials
+    set(CURLOPT_QUICK_EXIT, 1L);              // a name service that hangs is not waited for either
+    if (std::ifstream(place.netrc.text())) {  // else there are no credentials
       set(CURLOPT_NETRC, static_cast<long>(CURL_NETRC_REQUIRED));
-      set(CURLOPT_NETRC_FILE, place.netrc.c_str());
+      set(CURLOPT_NETRC_FILE, place.netrc.text().c_str());
     }
     set(CURLOPT_SSL_VERIFYPEER, 1L);
     set(CURLOPT_SSL_VERIFYHOST, 2L);
-    if (!place.authorities.empty()) set(CURLOPT_CAINFO, place.authorities.c_str());
+    if (!place.authorities.empty()) set(CURLOPT_CAINFO, place.authorities.text().c_str());
   }
   void ask(const HttpRequest& request, const HeaderList& headers) {
     set(CURLOPT_CUSTOMREQUEST, request.method.c_str());

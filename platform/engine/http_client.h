@@ -10,6 +10,8 @@
 #include <system_error>
 #include <vector>
 
+#include "platform/text/paths.h"
+
 // Requests to one address over HTTP/1.1 or HTTP/2 (RFC 9110), with or without TLS.
 // Duty: send one request and wait for its answer, no longer than told; keep the connection for the next one. Not: what
 // an answer means. Certificates and host names are always verified; credentials come from the user's netrc alone, never
@@ -19,9 +21,9 @@
 namespace tarvo {
 
 struct HttpPlace {
-  std::string address;      // see isHttpAddress()
-  std::string netrc;        // real path; may be missing
-  std::string authorities;  // PEM file of the certificates to trust instead of the system's; "" for the system's
+  std::string address;   // see isHttpAddress()
+  DiskPath netrc;        // may be missing
+  DiskPath authorities;  // PEM file of the certificates to trust instead of the system's; empty for the system's
 };
 
 // Whether it begins with http:// or https://, has a host, and names neither a user nor a password.

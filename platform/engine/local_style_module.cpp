@@ -6,13 +6,13 @@ namespace tarvo {
 
 void LocalStyleModule::tarvoStyleInitialize() { initialized_ = true; }
 
-void LocalStyleModule::tarvoStyleSetTStyleUrl(const std::string& stylePath) { stylePath_ = stylePath; }
+void LocalStyleModule::tarvoStyleSetTStyleUrl(const DiskPath& stylePath) { stylePath_ = stylePath; }
 
-void LocalStyleModule::tarvoStyleSetTechDictUrl(const std::string& englishFolder, const std::string& japaneseFolder) {
+void LocalStyleModule::tarvoStyleSetTechDictUrl(const DiskPath& englishFolder, const DiskPath& japaneseFolder) {
   technicalEnglishFolder_ = englishFolder;
   technicalJapaneseFolder_ = japaneseFolder;
 }
 
-void LocalStyleModule::tarvoStyleSetUserDictUrl(const std::string& folder) { userDictionaryFolder_ = folder; }
+void LocalStyleModule::tarvoStyleSetUserDictUrl(const DiskPath& folder) { userDictionaryFolder_ = folder; }
 
 }  // namespace tarvo

@@ -10,19 +10,19 @@ namespace tarvo {
 class LocalStyleModule : public StyleModule {
  public:
   void tarvoStyleInitialize() override;
-  void tarvoStyleSetTStyleUrl(const std::string& stylePath) override;
-  void tarvoStyleSetTechDictUrl(const std::string& englishFolder, const std::string& japaneseFolder) override;
-  void tarvoStyleSetUserDictUrl(const std::string& folder) override;
+  void tarvoStyleSetTStyleUrl(const DiskPath& stylePath) override;
+  void tarvoStyleSetTechDictUrl(const DiskPath& englishFolder, const DiskPath& japaneseFolder) override;
+  void tarvoStyleSetUserDictUrl(const DiskPath& folder) override;
 
   bool isInitialized() const { return initialized_; }
-  const std::string& stylePath() const { return stylePath_; }
-  const std::string& technicalEnglishFolder() const { return technicalEnglishFolder_; }
-  const std::string& technicalJapaneseFolder() const { return technicalJapaneseFolder_; }
-  const std::string& userDictionaryFolder() const { return userDictionaryFolder_; }
+  const DiskPath& stylePath() const { return stylePath_; }
+  const DiskPath& technicalEnglishFolder() const { return technicalEnglishFolder_; }
+  const DiskPath& technicalJapaneseFolder() const { return technicalJapaneseFolder_; }
+  const DiskPath& userDictionaryFolder() const { return userDictionaryFolder_; }
 
  private:
   bool initialized_ = false;
-  std::string stylePath_, technicalEnglishFolder_, technicalJapaneseFolder_, userDictionaryFolder_;
+  DiskPath stylePath_, technicalEnglishFolder_, technicalJapaneseFolder_, userDictionaryFolder_;
 };
 
 }  // namespace tarvo

@@ -26,16 +26,17 @@ std::optional<std::string> sized(Get get) {
 
 }  // namespace
 
-Result<std::string> attribute(const std::string& path, const char* name) {
-  auto value = sized([&](char* buffer, std::size_t size) { return ::getxattr(path.c_str(), name, buffer, size); });
+Result<std::string> attribute(const DiskPath& path, const char* name) {
+  auto value =
+      sized([&](char* buffer, std::size_t size) { return ::getxattr(path.text().c_str(), name, buffer, size); });
   if (value) return std::move(*value);
   if (errno == ENODATA || errno == ENOTSUP) return std::string();
-  return systemFailure(path, Attempt::look);
+  return systemFailure(path.text(), Attempt::look);
 }
 
-Result<> setAttribute(const std::string& path, const char* name, std::string_view value) {
-  if (::setxattr(path.c_str(), name, value.data(), value.size(), 0) == 0) return {};
-  return systemFailure(path, Attempt::setCodes);
+Result<> setAttribute(const DiskPath& path, const char* name, std::string_view value) {
+  if (::setxattr(path.text().c_str(), name, value.data(), value.size(), 0) == 0) return {};
+  return systemFailure(path.text(), Attempt::setCodes);
 }
 
 void copyAttributes(int from, int to) {

@@ -6,13 +6,14 @@
 #include <string_view>
 
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 
 // Extended attributes of files (names such as "user.com.apple.FinderInfo"). Disks may refuse them.
 namespace tarvo {
 
 // "" when there is none, also on a disk that keeps none.
-Result<std::string> attribute(const std::string& path, const char* name);
-Result<> setAttribute(const std::string& path, const char* name, std::string_view value);
+Result<std::string> attribute(const DiskPath& path, const char* name);
+Result<> setAttribute(const DiskPath& path, const char* name, std::string_view value);
 // Copies all that can be copied from one open file to another; what the system refuses is left out.
 void copyAttributes(int from, int to);
 

@@ -4,6 +4,7 @@
 
 #include <string_view>
 
+#include "platform/services/locations.h"
 #include "platform/services/plist_file.h"
 
 namespace tarvo {
@@ -33,7 +34,8 @@ std::optional<std::string> BundleScriptRunner::runScript(const std::string& sour
   const std::optional<std::string> classic = quotedPath(source);
   const std::optional<std::string> path = classic ? pathFromClassic(*classic, bootVolume_) : std::nullopt;
   if (!path) return std::nullopt;
-  const Result<Dictionary> information = readDictionary(files_, *path + "/Contents/Info.plist");
+  const Result<Dictionary> information =
+      readDictionary(files_, storedPath(*path, locations_, files_) / "Contents/Info.plist");
   const std::string* version = information ? information->string("CFBundleShortVersionString") : nullptr;
   return version != nullptr ? std::optional(*version) : std::nullopt;
 }

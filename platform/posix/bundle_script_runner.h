@@ -10,17 +10,20 @@
 namespace tarvo {
 
 class FileService;
+class Locations;
 
 // Answers the one script that the product asks of the desktop: the short version of an application, by its classic
-// path. Duty: turn that path back into a real one and read "CFBundleShortVersionString" of its Contents/Info.plist.
+// path. Duty: find the application (storedPath) and read "CFBundleShortVersionString" of its Contents/Info.plist.
 // Not: running scripts; every other text, and a path with a double quote, has no result.
 class BundleScriptRunner : public ScriptRunner {
  public:
-  BundleScriptRunner(FileService& files, std::string bootVolume) : files_(files), bootVolume_(std::move(bootVolume)) {}
+  BundleScriptRunner(const FileService& files, const Locations& locations, std::string bootVolume)
+      : files_(files), locations_(locations), bootVolume_(std::move(bootVolume)) {}
   std::optional<std::string> runScript(const std::string& source) override;
 
  private:
-  FileService& files_;
+  const FileService& files_;
+  const Locations& locations_;
   std::string bootVolume_;
 };
 

@@ -128,13 +128,14 @@ bool isFolderItself(const std::string& path) {
 
 }  // namespace
 
-Result<> copyTree(const std::string& from, const std::string& to) {
-  if (isFolderItself(from) && isInside(to, from)) return Failure{from, Attempt::copy, Reason::intoItself};
-  return copyAny({AT_FDCWD, from, from}, {AT_FDCWD, to, to});
+Result<> copyTree(const DiskPath& from, const DiskPath& to) {
+  const std::string &source = from.text(), &target = to.text();
+  if (isFolderItself(source) && isInside(target, source)) return Failure{source, Attempt::copy, Reason::intoItself};
+  return copyAny({AT_FDCWD, source, source}, {AT_FDCWD, target, target});
 }
 
-Result<> copyFile(const std::string& from, const std::string& to) {
-  return copyRegular({AT_FDCWD, from, from}, {AT_FDCWD, to, to}, 0);
+Result<> copyFile(const DiskPath& from, const DiskPath& to) {
+  return copyRegular({AT_FDCWD, from.text(), from.text()}, {AT_FDCWD, to.text(), to.text()}, 0);
 }
 
 }  // namespace tarvo

@@ -20,7 +20,7 @@ void put(std::string& info, std::size_t position, FourCharCode code) {
 
 }  // namespace
 
-Result<FourCharCode> finderType(const std::string& path) {
+Result<FourCharCode> finderType(const DiskPath& path) {
   const Result<std::string> info = attribute(path, finderInfo);
   if (!info) return info.error();
   if (info->size() < typeAt + codeSize) return FourCharCode{0};
@@ -29,7 +29,7 @@ Result<FourCharCode> finderType(const std::string& path) {
   return code;
 }
 
-Result<> setFinderCodes(const std::string& path, FourCharCode type, FourCharCode creator) {
+Result<> setFinderCodes(const DiskPath& path, FourCharCode type, FourCharCode creator) {
   Result<std::string> info = attribute(path, finderInfo);
   if (!info) return info.error();
   info->resize(std::max(info->size(), finderInfoSize));

@@ -9,10 +9,10 @@
 
 // Type and creator codes in the extended attribute "user.com.apple.FinderInfo": 32 bytes, the type at 0 and the creator
 // at 4, big-endian; the rest belongs to the desktop and is kept. Source of the layout: struct FileInfo of the Finder
-// interface, and the attribute's name as file servers store it on Linux. Real absolute paths; links are followed.
+// interface, and the attribute's name as file servers store it on Linux. Links are followed.
 namespace tarvo {
 
-Result<FourCharCode> finderType(const std::string& path);  // 0 for none
-Result<> setFinderCodes(const std::string& path, FourCharCode type, FourCharCode creator);
+Result<FourCharCode> finderType(const DiskPath& path);  // 0 for none
+Result<> setFinderCodes(const DiskPath& path, FourCharCode type, FourCharCode creator);
 
 }  // namespace tarvo

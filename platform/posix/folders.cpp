@@ -45,20 +45,20 @@ Result<> removeAt(int base, const std::string& name, const std::string& path) {
 
 }  // namespace
 
-Result<> makeFolders(const std::string& path) {
-  if (isFolder(path)) return {};
-  const std::string above = deletingLastPathComponent(path);
-  if (above.empty() || above == path) return Failure{path, Attempt::makeFolder, Reason::noPath};
+Result<> makeFolders(const DiskPath& path) {
+  if (isFolder(path.text())) return {};
+  const DiskPath above = path.folder();
+  if (above.empty() || above == path) return Failure{path.text(), Attempt::makeFolder, Reason::noPath};
   if (Result<> made = makeFolders(above); !made) return made;
-  if (::mkdir(path.c_str(), 0777) != 0) {
-    if (errno == EEXIST && isFolder(path)) return {};
+  if (::mkdir(path.text().c_str(), 0777) != 0) {
+    if (errno == EEXIST && isFolder(path.text())) return {};
     errno = errno == EEXIST ? ENOTDIR : errno;
-    return systemFailure(path, Attempt::makeFolder);
+    return systemFailure(path.text(), Attempt::makeFolder);
   }
-  if (::chmod(path.c_str(), 0777) == 0) return {};
-  return systemFailure(path, Attempt::makeFolder);
+  if (::chmod(path.text().c_str(), 0777) == 0) return {};
+  return systemFailure(path.text(), Attempt::makeFolder);
 }
 
-Result<> removeTree(const std::string& path) { return removeAt(AT_FDCWD, path, path); }
+Result<> removeTree(const DiskPath& path) { return removeAt(AT_FDCWD, path.text(), path.text()); }
 
 }  // namespace tarvo

@@ -13,9 +13,9 @@
 
 namespace tarvo {
 
-InstanceLock::InstanceLock(const std::string& path) {
-  if (!isAbsolutePath(path) || !makeFolders(deletingLastPathComponent(path))) return;
-  file_ = Descriptor(::open(path.c_str(), O_RDONLY | O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, 0666));
+InstanceLock::InstanceLock(const DiskPath& path) {
+  if (!isAbsolutePath(path.text()) || !makeFolders(path.folder())) return;
+  file_ = Descriptor(::open(path.text().c_str(), O_RDONLY | O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, 0666));
   struct stat status{};
   if (!file_ || ::fstat(file_.get(), &status) != 0 || !S_ISREG(status.st_mode)) return;
   if (::flock(file_.get(), LOCK_EX | LOCK_NB) == 0) {

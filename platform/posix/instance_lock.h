@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-
 #include "platform/posix/descriptor.h"
+#include "platform/text/paths.h"
 
 // The lock that keeps two programs from writing one user's files. It lies on a file, lasts as long as this object and
 // ends with the process, however that ends. The file itself stays.
@@ -13,8 +12,8 @@ namespace tarvo {
 class InstanceLock {
  public:
   enum class State { held, heldByAnother, unavailable };  // unavailable: the disk gives none; the program goes without
-  // Tries once and does not wait. path: absolute, a real path; folders for it are made with mode 0777.
-  explicit InstanceLock(const std::string& path);
+  // Tries once and does not wait. Folders for the file are made with mode 0777.
+  explicit InstanceLock(const DiskPath& path);
   State state() const { return state_; }
 
  private:

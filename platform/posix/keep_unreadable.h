@@ -2,16 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 
 namespace tarvo {
 
 // Keeps the present bytes of a regular file beside it as "<name>.unreadable", then ".unreadable.2" to ".unreadable.5";
 // with all five taken the fifth is replaced. A hard link where the disk can, so that a full disk is no obstacle, else a
 // copy. Bytes that are kept already are not kept twice. A link at the path is followed; the kept file lies beside the
-// link. path: absolute, a real path.
-Result<> keepUnreadableFile(const std::string& path);
+// link.
+Result<> keepUnreadableFile(const DiskPath& path);
 
 }  // namespace tarvo

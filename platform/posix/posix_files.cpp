@@ -30,112 +30,115 @@ FileService::Kind kindOf(mode_t mode) {
   return S_ISDIR(mode) ? FileService::Kind::folder : FileService::Kind::other;
 }
 
+// Without trailing slashes; a failure of the attempt for a path that names nothing.
+Result<DiskPath> named(const DiskPath& path, Attempt attempt) {
+  std::string text = path.text();
+  // The system would cut a path at a zero byte and so name another file.
+  if (!isAbsolutePath(text) || text.find('\0') != std::string::npos) return Failure{text, attempt, Reason::noPath};
+  while (text.size() > 1 && text.ends_with('/')) text.pop_back();
+  return DiskPath(std::move(text));
+}
+
 // flags: as for fstatat.
-Result<FileService::Kind> look(const Result<std::string>& name, int flags) {
+Result<FileService::Kind> look(const Result<DiskPath>& name, int flags) {
   if (!name) return FileService::Kind::absent;  // such a path names nothing
   struct stat status{};
-  if (::fstatat(AT_FDCWD, name->c_str(), &status, flags) == 0) return kindOf(status.st_mode);
+  if (::fstatat(AT_FDCWD, name->text().c_str(), &status, flags) == 0) return kindOf(status.st_mode);
   if (errno == ENOENT || errno == ENOTDIR) return FileService::Kind::absent;
-  return systemFailure(*name, Attempt::look);
+  return systemFailure(name->text(), Attempt::look);
 }
 
 }  // namespace
 
 PosixFiles::PosixFiles(const Locations& locations) : locations_(locations) {}
 
-Result<std::string> PosixFiles::real(const std::string& path, Attempt attempt) const {
-  // The system would cut a path at a zero byte and so name another file.
-  if (!isAbsolutePath(path) || path.find('\0') != std::string::npos) return Failure{path, attempt, Reason::noPath};
-  std::string real = locations_.resolve(path);
-  while (real.size() > 1 && real.ends_with('/')) real.pop_back();
-  return real;
+Result<FileService::Kind> PosixFiles::kind(const DiskPath& path) const { return look(named(path, Attempt::look), 0); }
+
+Result<FileService::Kind> PosixFiles::ownKind(const DiskPath& path) const {
+  return look(named(path, Attempt::look), AT_SYMLINK_NOFOLLOW);
 }
 
-Result<FileService::Kind> PosixFiles::kind(const std::string& path) const { return look(real(path, Attempt::look), 0); }
-
-Result<FileService::Kind> PosixFiles::ownKind(const std::string& path) const {
-  return look(real(path, Attempt::look), AT_SYMLINK_NOFOLLOW);
-}
-
-Result<> PosixFiles::checkWritable(const std::string& folder) const {
-  const Result<std::string> name = real(folder, Attempt::write);
+Result<> PosixFiles::checkWritable(const DiskPath& folder) const {
+  const Result<DiskPath> name = named(folder, Attempt::write);
   if (!name) return name.error();
-  if (::access(name->c_str(), W_OK | X_OK) == 0) return {};
-  return systemFailure(*name, Attempt::write);
+  if (::access(name->text().c_str(), W_OK | X_OK) == 0) return {};
+  return systemFailure(name->text(), Attempt::write);
 }
 
-Result<std::string> PosixFiles::read(const std::string& path) const {
-  const Result<std::string> name = real(path, Attempt::read);
+Result<std::string> PosixFiles::read(const DiskPath& path) const {
+  const Result<DiskPath> name = named(path, Attempt::read);
   if (!name) return name.error();
   // Non-blocking: opening a pipe for reading would wait for a writer.
-  const Descriptor file(::open(name->c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  const Descriptor file(::open(name->text().c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
   struct stat status{};
-  if (!file || ::fstat(file.get(), &status) != 0) return systemFailure(*name, Attempt::read);
-  if (!S_ISREG(status.st_mode)) return Failure{*name, Attempt::read, Reason::noRegularFile};
+  if (!file || ::fstat(file.get(), &status) != 0) return systemFailure(name->text(), Attempt::read);
+  if (!S_ISREG(status.st_mode)) return Failure{name->text(), Attempt::read, Reason::noRegularFile};
   auto bytes = readAll(file.get(), static_cast<std::size_t>(status.st_size), maximumFileSize);
-  if (!bytes) return systemFailure(*name, Attempt::read);
+  if (!bytes) return systemFailure(name->text(), Attempt::read);
   return std::move(*bytes);
 }
 
-Result<> PosixFiles::write(const std::string& path, std::string_view bytes) {
-  const Result<std::string> name = real(path, Attempt::write);
+Result<> PosixFiles::write(const DiskPath& path, std::string_view bytes) {
+  const Result<DiskPath> name = named(path, Attempt::write);
   if (!name) return name.error();
-  if (path.ends_with('/')) return Failure{*name, Attempt::write, std::make_error_code(std::errc::is_a_directory)};
+  if (path.text().ends_with('/'))
+    return Failure{name->text(), Attempt::write, std::make_error_code(std::errc::is_a_directory)};
   return replaceFile(*name, bytes);
 }
 
-Result<> PosixFiles::keepUnreadable(const std::string& path) {
-  const Result<std::string> name = real(path, Attempt::keep);
+Result<> PosixFiles::keepUnreadable(const DiskPath& path) {
+  const Result<DiskPath> name = named(path, Attempt::keep);
   if (!name) return name.error();
   return keepUnreadableFile(*name);
 }
 
-Result<std::vector<std::string>> PosixFiles::list(const std::string& folder) const {
-  const Result<std::string> name = real(folder, Attempt::list);
+Result<std::vector<std::string>> PosixFiles::list(const DiskPath& folder) const {
+  const Result<DiskPath> name = named(folder, Attempt::list);
   if (!name) return name.error();
-  const Descriptor open = openFolder(AT_FDCWD, *name);
+  const Descriptor open = openFolder(AT_FDCWD, name->text());
   auto names = open ? namesIn(open.get()) : std::nullopt;
-  if (!names) return systemFailure(*name, Attempt::list);
+  if (!names) return systemFailure(name->text(), Attempt::list);
   std::sort(names->begin(), names->end());
   return std::move(*names);
 }
 
-Result<> PosixFiles::makeFolder(const std::string& path) {
-  const Result<std::string> name = real(path, Attempt::makeFolder);
+Result<> PosixFiles::makeFolder(const DiskPath& path) {
+  const Result<DiskPath> name = named(path, Attempt::makeFolder);
   if (!name) return name.error();
   return makeFolders(*name);
 }
 
-Result<> PosixFiles::copy(const std::string& from, const std::string& to) {
-  const Result<std::string> source = real(from, Attempt::copy), target = real(to, Attempt::create);
+Result<> PosixFiles::copy(const DiskPath& from, const DiskPath& to) {
+  const Result<DiskPath> source = named(from, Attempt::copy), target = named(to, Attempt::create);
   if (!source) return source.error();
   if (!target) return target.error();
   return copyTree(*source, *target);
 }
 
-Result<> PosixFiles::remove(const std::string& path) {
-  const Result<std::string> name = real(path, Attempt::remove);
+Result<> PosixFiles::remove(const DiskPath& path) {
+  const Result<DiskPath> name = named(path, Attempt::remove);
   if (!name) return name.error();
   // The whole product is never what is meant.
-  if (*name == "/" || *name == locations_.root()) return Failure{*name, Attempt::remove, Reason::wholeProduct};
+  if (name->text() == "/" || *name == locations_.root())
+    return Failure{name->text(), Attempt::remove, Reason::wholeProduct};
   return removeTree(*name);
 }
 
-Result<> PosixFiles::removeEmptyFolder(const std::string& path) {
-  const Result<std::string> name = real(path, Attempt::remove);
+Result<> PosixFiles::removeEmptyFolder(const DiskPath& path) {
+  const Result<DiskPath> name = named(path, Attempt::remove);
   if (!name) return name.error();
-  if (::rmdir(name->c_str()) == 0) return {};
-  return systemFailure(*name, Attempt::remove);
+  if (::rmdir(name->text().c_str()) == 0) return {};
+  return systemFailure(name->text(), Attempt::remove);
 }
 
-Result<FourCharCode> PosixFiles::typeCode(const std::string& path) const {
-  const Result<std::string> name = real(path, Attempt::look);
+Result<FourCharCode> PosixFiles::typeCode(const DiskPath& path) const {
+  const Result<DiskPath> name = named(path, Attempt::look);
   if (!name) return name.error();
   return finderType(*name);
 }
 
-Result<> PosixFiles::setCodes(const std::string& path, FourCharCode type, FourCharCode creator) {
-  const Result<std::string> name = real(path, Attempt::setCodes);
+Result<> PosixFiles::setCodes(const DiskPath& path, FourCharCode type, FourCharCode creator) {
+  const Result<DiskPath> name = named(path, Attempt::setCodes);
   if (!name) return name.error();
   return setFinderCodes(*name, type, creator);
 }

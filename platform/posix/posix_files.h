@@ -4,31 +4,30 @@
 
 #include "platform/services/file_service.h"
 
-// The real disk of a POSIX system. Every path goes through Locations first.
+// The real disk of a POSIX system.
 namespace tarvo {
 
 class Locations;
 
 class PosixFiles : public FileService {
  public:
+  // The folder in which the whole product lies is never removed.
   explicit PosixFiles(const Locations& locations);
-  Result<Kind> kind(const std::string& path) const override;
-  Result<Kind> ownKind(const std::string& path) const override;
-  Result<> checkWritable(const std::string& folder) const override;
-  Result<std::string> read(const std::string& path) const override;
-  Result<> write(const std::string& path, std::string_view bytes) override;
-  Result<> keepUnreadable(const std::string& path) override;
-  Result<std::vector<std::string>> list(const std::string& folder) const override;
-  Result<> makeFolder(const std::string& path) override;
-  Result<> copy(const std::string& from, const std::string& to) override;
-  Result<> remove(const std::string& path) override;
-  Result<> removeEmptyFolder(const std::string& path) override;
-  Result<FourCharCode> typeCode(const std::string& path) const override;
-  Result<> setCodes(const std::string& path, FourCharCode type, FourCharCode creator) override;
+  Result<Kind> kind(const DiskPath& path) const override;
+  Result<Kind> ownKind(const DiskPath& path) const override;
+  Result<> checkWritable(const DiskPath& folder) const override;
+  Result<std::string> read(const DiskPath& path) const override;
+  Result<> write(const DiskPath& path, std::string_view bytes) override;
+  Result<> keepUnreadable(const DiskPath& path) override;
+  Result<std::vector<std::string>> list(const DiskPath& folder) const override;
+  Result<> makeFolder(const DiskPath& path) override;
+  Result<> copy(const DiskPath& from, const DiskPath& to) override;
+  Result<> remove(const DiskPath& path) override;
+  Result<> removeEmptyFolder(const DiskPath& path) override;
+  Result<FourCharCode> typeCode(const DiskPath& path) const override;
+  Result<> setCodes(const DiskPath& path, FourCharCode type, FourCharCode creator) override;
 
  private:
-  // The real path without trailing slashes; a failure of the attempt for a path that names nothing.
-  Result<std::string> real(const std::string& path, Attempt attempt) const;
   const Locations& locations_;
 };
 

@@ -10,12 +10,12 @@
 
 namespace tarvo {
 
-Result<std::string> programFile() {
+Result<DiskPath> programFile() {
   constexpr const char* link = "/proc/self/exe";
   std::array<char, PATH_MAX> content{};
   const ssize_t size = ::readlink(link, content.data(), content.size());
   if (size < 0) return systemFailure(link, Attempt::read);
-  return std::string(content.data(), static_cast<std::size_t>(size));
+  return DiskPath(std::string(content.data(), static_cast<std::size_t>(size)));
 }
 
 std::string loginName() {
@@ -23,17 +23,17 @@ std::string loginName() {
   return entry != nullptr && entry->pw_name != nullptr ? entry->pw_name : "";
 }
 
-std::string loginHome() {
+DiskPath loginHome() {
   const passwd* entry = ::getpwuid(::getuid());
-  return entry != nullptr && entry->pw_dir != nullptr ? entry->pw_dir : "";
+  return DiskPath(entry != nullptr && entry->pw_dir != nullptr ? entry->pw_dir : "");
 }
 
-Failure becomeProgram(const std::string& file, std::vector<std::string> words) {
+Failure becomeProgram(const DiskPath& file, std::vector<std::string> words) {
   std::vector<char*> arguments;
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
-  ::execv(file.c_str(), arguments.data());
-  return systemFailure(file, Attempt::start);
+  ::execv(file.text().c_str(), arguments.data());
+  return systemFailure(file.text(), Attempt::start);
 }
 
 }  // namespace tarvo

@@ -6,16 +6,17 @@
 #include <vector>
 
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 
 // This process and the user it runs for, as the system knows them.
 namespace tarvo {
 
 // The file that runs, links resolved. Source: /proc/self/exe.
-Result<std::string> programFile();
+Result<DiskPath> programFile();
 std::string loginName();  // "" when the system knows none
-std::string loginHome();  // the same
+DiskPath loginHome();     // empty when it knows none
 // Becomes the program: its file and the words of its command line, the program's name first. Answers only when that
 // cannot be.
-Failure becomeProgram(const std::string& file, std::vector<std::string> words);
+Failure becomeProgram(const DiskPath& file, std::vector<std::string> words);
 
 }  // namespace tarvo

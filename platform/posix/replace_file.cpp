@@ -85,8 +85,8 @@ bool fill(int folder, const std::string& name, const Target& target, Descriptor 
 
 }  // namespace
 
-Result<> replaceFile(const std::string& path, std::string_view bytes) {
-  const Result<Target> target = findTarget(path);
+Result<> replaceFile(const DiskPath& path, std::string_view bytes) {
+  const Result<Target> target = findTarget(path.text());
   if (!target) return target.error();
   if (target->path.ends_with('/')) return notWritten(target->path, std::errc::is_a_directory);
   const Descriptor folder = openFolder(AT_FDCWD, deletingLastPathComponent(target->path));

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 
 namespace tarvo {
 
@@ -14,7 +15,7 @@ namespace tarvo {
 // is synced. A final symbolic link is followed (a chain too) and stays; the target of a dangling one is created. An
 // existing regular file hands its mode, owner and extended attributes to the new one, as far as the system allows; a
 // new file gets 0666 less the umask. Fails when the target is anything but a regular file or any step before the
-// renaming fails: the target is as it was and the temporary file is gone. path: absolute, a real path.
-Result<> replaceFile(const std::string& path, std::string_view bytes);
+// renaming fails: the target is as it was and the temporary file is gone.
+Result<> replaceFile(const DiskPath& path, std::string_view bytes);
 
 }  // namespace tarvo

@@ -34,23 +34,23 @@ std::string bundleAround(const std::string& program) {
 }
 
 // The system answers paths without links; the root may be spelled with some.
-std::string coreSpelling(const Locations& locations, const std::string& path) {
-  const std::unique_ptr<char, decltype(&std::free)> root(::realpath(locations.root().c_str(), nullptr), &std::free);
-  const std::string folder = root ? root.get() : locations.root();
-  if (folder == "/" || !isBelow(path, folder)) return path;
-  return path.substr(folder.size());
+Locations withoutLinks(const Locations& locations) {
+  const std::string& root = locations.root().text();
+  const std::unique_ptr<char, decltype(&std::free)> real(::realpath(root.c_str(), nullptr), &std::free);
+  return {real ? real.get() : root, locations.home().text()};
 }
 
 }  // namespace
 
-std::vector<std::string> runningApplications(const Locations& locations) {
+std::vector<ProductPath> runningApplications(const Locations& locations) {
+  const Locations real = withoutLinks(locations);
   const Descriptor processes = openFolder(AT_FDCWD, "/proc");
   const auto names = processes ? namesIn(processes.get()) : std::nullopt;
-  std::set<std::string> bundles;
+  std::set<ProductPath> bundles;
   for (const std::string& name : names.value_or(std::vector<std::string>{})) {
     if (!std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; })) continue;
     const std::string bundle = bundleAround(programOf(processes.get(), name));
-    if (!bundle.empty()) bundles.insert(coreSpelling(locations, bundle));
+    if (!bundle.empty()) bundles.insert(real.inProduct(DiskPath(bundle)));
   }
   return {bundles.begin(), bundles.end()};
 }

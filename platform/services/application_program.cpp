@@ -11,21 +11,21 @@ namespace {
 
 bool isPlainName(const std::string& name) { return !name.empty() && name.find('/') == std::string::npos; }
 
-std::string programName(const FileService& files, const std::string& bundle) {
-  const Result<Dictionary> information = readDictionary(files, joinPath(bundle, "Contents/Info.plist"));
+std::string programName(const FileService& files, const DiskPath& bundle) {
+  const Result<Dictionary> information = readDictionary(files, bundle / "Contents/Info.plist");
   const std::string* named = information ? information->string("CFBundleExecutable") : nullptr;
-  return named != nullptr && isPlainName(*named) ? *named : deletingPathExtension(lastPathComponent(bundle));
+  return named != nullptr && isPlainName(*named) ? *named : deletingPathExtension(bundle.name());
 }
 
 }  // namespace
 
-std::optional<std::string> applicationProgram(const FileService& files, const std::vector<std::string>& folders,
-                                              const std::string& name) {
+std::optional<DiskPath> applicationProgram(const FileService& files, const std::vector<DiskPath>& folders,
+                                           const std::string& name) {
   if (!isPlainName(name)) return std::nullopt;
-  for (const std::string& folder : folders) {
-    std::string program = joinPath(folder, name);
+  for (const DiskPath& folder : folders) {
+    DiskPath program = folder / name;
     if (files.kind(program) == FileService::Kind::folder) {
-      program = joinPath(program, "Contents/MacOS/" + programName(files, program));
+      program = program / ("Contents/MacOS/" + programName(files, program));
     }
     if (files.kind(program) == FileService::Kind::file) return program;
   }

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/text/paths.h"
+
 namespace tarvo {
 
 class FileService;
@@ -14,7 +16,7 @@ class FileService;
 // order. An application is a program file itself, or a bundle: a folder whose program lies in Contents/MacOS under the
 // text of "CFBundleExecutable" in its Contents/Info.plist, else under the bundle's name without extension. Nothing
 // where no folder is known to hold one, and for a name that is a path.
-std::optional<std::string> applicationProgram(const FileService& files, const std::vector<std::string>& folders,
-                                              const std::string& name);
+std::optional<DiskPath> applicationProgram(const FileService& files, const std::vector<DiskPath>& folders,
+                                           const std::string& name);
 
 }  // namespace tarvo

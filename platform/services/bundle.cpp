@@ -9,25 +9,25 @@
 
 namespace tarvo {
 
-Bundle::Bundle(const FileService& files, std::string folder, std::vector<std::string> languages)
+Bundle::Bundle(const FileService& files, DiskPath folder, std::vector<std::string> languages)
     : files_(files), folder_(std::move(folder)), languages_(std::move(languages)) {}
 
-std::optional<std::string> Bundle::resource(std::string_view name, std::string_view type,
-                                            std::string_view subfolder) const {
+std::optional<DiskPath> Bundle::resource(std::string_view name, std::string_view type,
+                                         std::string_view subfolder) const {
   if (name.empty()) return std::nullopt;
   std::string file(name);
   if (!type.empty()) file.append(".").append(type);
   const std::string below = joinPath(subfolder, file);
-  std::string path = joinPath(folder_, below);
+  DiskPath path = folder_ / below;
   if (!files_.isAbsent(path)) return path;
   for (const std::string& language : languages_) {
-    path = joinPath(joinPath(folder_, language + ".lproj"), below);
+    path = folder_ / (language + ".lproj") / below;
     if (!files_.isAbsent(path)) return path;
   }
   return std::nullopt;
 }
 
-std::optional<std::string> Bundle::image(std::string_view name) const {
+std::optional<DiskPath> Bundle::image(std::string_view name) const {
   return resource(deletingPathExtension(name), "svg", "images");
 }
 

@@ -9,10 +9,10 @@ namespace tarvo {
 
 TarvoCommonModule::TarvoCommonModule(const ProductPaths& paths) : paths_(paths) {}
 
-std::string TarvoCommonModule::unixPathToClassic(const std::string& path) const {
-  return classicPath(path, paths_.volumeName());
+std::string TarvoCommonModule::unixPathToClassic(const ProductPath& path) const {
+  return classicPath(path.text(), paths_.volumeName());
 }
 
-std::string TarvoCommonModule::preferencesWordhavenCache() const { return paths_.preferencesWordhavenCache(); }
+ProductPath TarvoCommonModule::preferencesWordhavenCache() const { return paths_.preferencesWordhavenCache(); }
 
 }  // namespace tarvo

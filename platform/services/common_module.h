@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "platform/text/paths.h"
+
 namespace tarvo {
 
 class ProductPaths;
@@ -12,8 +14,8 @@ class ProductPaths;
 class TarvoCommonModule {
  public:
   explicit TarvoCommonModule(const ProductPaths& paths);
-  std::string unixPathToClassic(const std::string& path) const;
-  std::string preferencesWordhavenCache() const;
+  std::string unixPathToClassic(const ProductPath& path) const;
+  ProductPath preferencesWordhavenCache() const;
 
  private:
   const ProductPaths& paths_;

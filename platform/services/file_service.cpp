@@ -8,21 +8,21 @@
 
 namespace tarvo {
 
-bool FileService::isThere(const std::string& path) const {
+bool FileService::isThere(const DiskPath& path) const {
   const Result<Kind> found = kind(path);
   return found && *found != Kind::absent;
 }
 
-bool FileService::isAbsent(const std::string& path) const { return kind(path) == Kind::absent; }
+bool FileService::isAbsent(const DiskPath& path) const { return kind(path) == Kind::absent; }
 
-bool existsIgnoringCase(const FileService& files, const std::string& path) {
+bool existsIgnoringCase(const FileService& files, const DiskPath& path) {
   if (!files.isAbsent(path)) return true;
-  const std::string folder = deletingLastPathComponent(path);
-  const std::string name = lastPathComponent(path);
+  const DiskPath folder = path.folder();
+  const std::string name = path.name();
   // Where the folder cannot be listed the exact name alone counts.
   const Result<std::vector<std::string>> names = files.list(folder);
   return names && std::any_of(names->begin(), names->end(), [&](const std::string& other) {
-           return equalIgnoringCase(other, name) && !files.isAbsent(joinPath(folder, other));
+           return equalIgnoringCase(other, name) && !files.isAbsent(folder / other);
          });
 }
 

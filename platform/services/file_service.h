@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 
-// The disk, as the program needs it. Paths are absolute, in the core's spelling: implementations put the product's and
-// the system's paths below the configured root (see locations.h). A path that is empty or not absolute names nothing.
+// The disk, as the program needs it. A path that is empty or not absolute names nothing.
 // No operation throws or reports to the user; the caller decides what a failure means. "Not there" is an answer,
 // "cannot be looked at" a failure.
 namespace tarvo {
@@ -29,47 +29,47 @@ class FileService {
 
   enum class Kind { absent, file, folder, link, other };
   // What lies at the path after following links; a dangling link is absent.
-  virtual Result<Kind> kind(const std::string& path) const = 0;
+  virtual Result<Kind> kind(const DiskPath& path) const = 0;
   // What lies at the path itself: a link is a link, a dangling one too.
-  virtual Result<Kind> ownKind(const std::string& path) const = 0;
+  virtual Result<Kind> ownKind(const DiskPath& path) const = 0;
   // Two questions, since neither is the opposite of the other: what cannot be looked at is neither known to be there
   // nor known not to be.
-  bool isThere(const std::string& path) const;
-  bool isAbsent(const std::string& path) const;
+  bool isThere(const DiskPath& path) const;
+  bool isAbsent(const DiskPath& path) const;
   // Whether things may be made in a folder, as far as permissions tell; the failure says why not.
-  virtual Result<> checkWritable(const std::string& folder) const = 0;
+  virtual Result<> checkWritable(const DiskPath& folder) const = 0;
 
   // The whole content of a regular file. Never blocks on a pipe or a device.
-  virtual Result<std::string> read(const std::string& path) const = 0;
+  virtual Result<std::string> read(const DiskPath& path) const = 0;
   // Replaces or creates the file in one step (temporary file beside it, fsync, rename, fsync of the folder). Follows a
   // final symbolic link; keeps mode, owner and extended attributes of an existing regular file. Refuses a target that
   // is no regular file. After a failure whatever was there is unchanged and no temporary file is left.
-  virtual Result<> write(const std::string& path, std::string_view bytes) = 0;
+  virtual Result<> write(const DiskPath& path, std::string_view bytes) = 0;
   // Keeps the present bytes of a regular file beside it as "<name>.unreadable" (then ".unreadable.2" to ".5", the fifth
   // being replaced), by a hard link where the disk can, else by a copy.
-  virtual Result<> keepUnreadable(const std::string& path) = 0;
+  virtual Result<> keepUnreadable(const DiskPath& path) = 0;
 
   // Names in a folder without "." and "..", hidden ones included, ascending by UTF-8 bytes.
-  virtual Result<std::vector<std::string>> list(const std::string& folder) const = 0;
+  virtual Result<std::vector<std::string>> list(const DiskPath& folder) const = 0;
   // Creates the folder and missing ones above it, each with mode 0777 whatever the umask. Done also when it is there.
-  virtual Result<> makeFolder(const std::string& path) = 0;
+  virtual Result<> makeFolder(const DiskPath& path) = 0;
   // Copies a file, folder (with everything in it) or link with mode and attributes; fails when anything is at the
   // target. A file whose copy fails is removed; what was finished before it stays.
-  virtual Result<> copy(const std::string& from, const std::string& to) = 0;
+  virtual Result<> copy(const DiskPath& from, const DiskPath& to) = 0;
   // Removes a file, a link, or a folder with everything in it; links are not followed. Stops at the first failure.
-  virtual Result<> remove(const std::string& path) = 0;
+  virtual Result<> remove(const DiskPath& path) = 0;
   // Removes a folder that is empty.
-  virtual Result<> removeEmptyFolder(const std::string& path) = 0;
+  virtual Result<> removeEmptyFolder(const DiskPath& path) = 0;
 
   // Type code of a file, 0 when none is kept.
-  virtual Result<FourCharCode> typeCode(const std::string& path) const = 0;
+  virtual Result<FourCharCode> typeCode(const DiskPath& path) const = 0;
   // Sets type and creator, keeping the file's other attributes. Fails where the disk keeps none.
-  virtual Result<> setCodes(const std::string& path, FourCharCode type, FourCharCode creator) = 0;
+  virtual Result<> setCodes(const DiskPath& path, FourCharCode type, FourCharCode creator) = 0;
 };
 
 // Whether a name may lie in the folder: the exact name, else any name equal to it ignoring case. Dictionary names are
 // compared ignoring case, and users move dictionaries between disks that do and disks that do not. A name that cannot
 // be looked at counts as there: nothing may be made over it, and nothing that names it is dropped.
-bool existsIgnoringCase(const FileService& files, const std::string& path);
+bool existsIgnoringCase(const FileService& files, const DiskPath& path);
 
 }  // namespace tarvo

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/services/locations.h"
 
-#include <algorithm>
 #include <utility>
 
-#include "platform/text/text_rules.h"
+#include "platform/services/file_service.h"
 
 namespace tarvo {
 namespace {
@@ -16,55 +15,42 @@ std::string asFolder(std::string path) {
 }
 
 // What follows a folder in a path below it: "" or "/…".
-std::string restBelow(const std::string& path, const std::string& folder) {
-  return folder == "/" ? path : path.substr(folder.size());
+std::string restBelow(const DiskPath& path, const DiskPath& folder) {
+  return folder.text() == "/" ? path.text() : path.text().substr(folder.text().size());
 }
 
 }  // namespace
 
-Locations::Locations(std::string root, std::string home) : root_(asFolder(std::move(root))) {
-  home = asFolder(std::move(home));
-  home_ = coreSpelling(home);
-  if (!isBelow(home, root_)) leaveAsIs(home);
+Locations::Locations(std::string root, std::string home)
+    : root_(asFolder(std::move(root))), home_(asFolder(std::move(home))) {}
+
+DiskPath Locations::onDisk(const ProductPath& path) const {
+  DiskPath same(path.text());
+  if (root_.text() == "/" || !isAbsolutePath(path.text()) || same.isIn(root_)) return same;
+  if (home_.text() != "/" && same.isIn(home_)) return same;
+  return path.text() == "/" ? root_ : root_ + path.text();
 }
 
-std::string Locations::inHome(const std::string& rest) const { return joinPath(home_, rest); }
-
-std::string Locations::resolve(const std::string& path) const {
-  const auto holds = [&path](const std::string& folder) { return isBelow(path, folder); };
-  if (root_ == "/" || !isAbsolutePath(path) || holds(root_)) return path;
-  if (std::any_of(asTheyAre_.begin(), asTheyAre_.end(), holds)) return path;
-  return path == "/" ? root_ : root_ + path;
-}
-
-std::string Locations::coreSpelling(const std::string& path) const {
-  if (root_ == "/" || !isBelow(path, root_)) return path;
+ProductPath Locations::inProduct(const DiskPath& path) const {
+  if (root_.text() == "/" || !path.isIn(root_)) return ProductPath(path.text());
   const std::string rest = restBelow(path, root_);
-  return rest.empty() ? "/" : rest;
+  return ProductPath(rest.empty() ? "/" : rest);
 }
 
-void Locations::leaveAsIs(const std::string& path) {
-  const std::string folder = asFolder(path);
-  const auto holds = [&folder](const std::string& known) { return isBelow(folder, known); };
-  if (folder == "/" || std::any_of(asTheyAre_.begin(), asTheyAre_.end(), holds)) return;
-  asTheyAre_.push_back(folder);
-}
-
-std::string Locations::picked(const std::string& path) {
-  if (!isBelow(path, root_)) leaveAsIs(path);
-  return coreSpelling(path);
-}
-
-std::string Locations::shown(const std::string& path) const {
-  std::string real = resolve(path);
-  const auto tagged = [&real](const char* tag, const std::string& folder) {
-    const std::string rest = restBelow(real, folder);
+std::string Locations::shown(const DiskPath& path) const {
+  const auto tagged = [&path](const char* tag, const DiskPath& folder) {
+    const std::string rest = restBelow(path, folder);
     return std::string(tag) + (rest.empty() ? "/" : rest);
   };
-  const std::string home = resolve(home_);
-  if (isBelow(real, home)) return tagged("home:", home);
-  if (root_ != "/" && isBelow(real, root_)) return tagged("root:", root_);
-  return real;
+  if (home_.text() != "/" && path.isIn(home_)) return tagged("home:", home_);
+  if (root_.text() != "/" && path.isIn(root_)) return tagged("root:", root_);
+  return path.text();
+}
+
+DiskPath storedPath(const std::string& text, const Locations& locations, const FileService& files) {
+  DiskPath below = locations.onDisk(ProductPath(text));
+  const DiskPath itself(text);
+  return files.isAbsent(below) && files.isThere(itself) ? itself : below;
 }
 
 }  // namespace tarvo

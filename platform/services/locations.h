@@ -3,39 +3,38 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
-// Where paths lie. The core spells the product's and the system's absolute paths as the platform knows them
-// ("/Library/…"); with a product root they are meant below that folder, so that a whole installed product can live
-// anywhere. Duty: turn the core's spelling into a real path and back. Not: touching the disk. Resolving twice changes
-// nothing.
+#include "platform/text/paths.h"
+
+// Where the product lies. With a root its paths are meant below that folder, so that a whole installed product can live
+// anywhere. Duty: turn a path of the product into one of this disk and back. Not: touching the disk.
 namespace tarvo {
 
 class Locations {
  public:
-  // root: an existing folder, absolute, or "/" for none. home: the user's home as a real path. Both without a trailing
-  // slash.
+  // root: an existing folder, or "/" for none. home: the user's; it may lie outside the root.
   Locations(std::string root, std::string home);
-  const std::string& root() const { return root_; }
-  // The home in the core's spelling: without the root when it lies below it.
-  const std::string& home() const { return home_; }
+  const DiskPath& root() const { return root_; }
+  const DiskPath& home() const { return home_; }
   // A path below the home.
-  std::string inHome(const std::string& rest) const;
+  DiskPath inHome(std::string_view rest) const { return home_ / rest; }
 
-  // The real path. Paths below the root stay; so do those below a folder that was made known by leaveAsIs.
-  std::string resolve(const std::string& path) const;
-  // The core's spelling of a real path.
-  std::string coreSpelling(const std::string& path) const;
-  // Real paths at or below this one are used as they are: the home outside the root, resources, temporary folders.
-  void leaveAsIs(const std::string& path);
-  // The answer of a panel in the core's spelling; one outside the root is left as it is from now on.
-  std::string picked(const std::string& path);
+  // A path that lies below the root, or in a home outside it, stays.
+  DiskPath onDisk(const ProductPath& path) const;
+  // Without the root; a path outside it stays.
+  ProductPath inProduct(const DiskPath& path) const;
   // For people: "home:/…", "root:/…" (only with a root other than "/"), or the absolute path.
-  std::string shown(const std::string& path) const;
+  std::string shown(const DiskPath& path) const;
 
  private:
-  std::string root_, home_;
-  std::vector<std::string> asTheyAre_;
+  DiskPath root_, home_;
 };
+
+class FileService;
+
+// A path that an earlier run stored: one of the product, or that of an application which the user picked outside the
+// root. What lies below the root comes first; where that is known to hold nothing, and something lies at the path
+// itself, that is meant.
+DiskPath storedPath(const std::string& text, const Locations& locations, const FileService& files);
 
 }  // namespace tarvo

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/text/paths.h"
+
 namespace tarvo {
 
 class Window;
@@ -23,10 +25,12 @@ struct OpenPanel {
   bool foldersOnly = false;
 };
 struct SavePanel {
-  std::string title, requiredType, folder, name;
+  std::string title, requiredType;
+  DiskPath folder;
+  std::string name;
 };
 
-// Alerts, file panels and the beep. Paths are answered as the user picked them (see Locations::picked). What begins as
+// Alerts, file panels and the beep. What begins as
 // a sheet returns at once; its handler is told once. The host has no other sheet: who opens one has asked Covers.
 class Panels {
  public:
@@ -36,9 +40,8 @@ class Panels {
   virtual void tell(const std::string& text) = 0;
   virtual int runAlertPanel(const Alert&) = 0;  // blocks; index of the button
   virtual void beginAlertSheet(Window& host, const Alert&, std::function<void(int button)>) = 0;
-  virtual std::optional<std::string> runOpenPanel(const OpenPanel&) = 0;  // blocks; nothing: cancelled
-  virtual void beginSavePanel(Window& host, const SavePanel&,
-                              std::function<void(int code, const std::string& path)>) = 0;
+  virtual std::optional<DiskPath> runOpenPanel(const OpenPanel&) = 0;  // blocks; nothing: cancelled
+  virtual void beginSavePanel(Window& host, const SavePanel&, std::function<void(int code, const DiskPath& path)>) = 0;
 };
 
 }  // namespace tarvo

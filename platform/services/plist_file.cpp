@@ -11,16 +11,16 @@
 
 namespace tarvo {
 
-Result<Dictionary> readDictionary(const FileService& files, const std::string& path) {
+Result<Dictionary> readDictionary(const FileService& files, const DiskPath& path) {
   const Result<std::string> bytes = files.read(path);
   if (!bytes) return bytes.error();
   std::optional<PropertyList> root = readPropertyList(*bytes);
-  if (!root) return Failure{path, Attempt::read, Reason::noPropertyList};
-  if (root->dictionary() == nullptr) return Failure{path, Attempt::read, Reason::noDictionary};
+  if (!root) return Failure{path.text(), Attempt::read, Reason::noPropertyList};
+  if (root->dictionary() == nullptr) return Failure{path.text(), Attempt::read, Reason::noDictionary};
   return std::move(*root->dictionary());
 }
 
-PlistFile::PlistFile(FileService& files, std::string path) : files_(files), path_(std::move(path)) {}
+PlistFile::PlistFile(FileService& files, DiskPath path) : files_(files), path_(std::move(path)) {}
 
 Result<Dictionary> PlistFile::read() {
   Result<Dictionary> root = readDictionary(files_, path_);

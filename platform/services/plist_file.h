@@ -6,6 +6,7 @@
 
 #include "platform/plist/property_list.h"
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 
 // One property-list file whose root is a dictionary.
 // Duty: read it, replace it whole, and see to it that bytes that could not be read are kept beside it (FileService::
@@ -15,12 +16,12 @@ namespace tarvo {
 class FileService;
 
 // The root dictionary of a property-list file that is only read.
-Result<Dictionary> readDictionary(const FileService& files, const std::string& path);
+Result<Dictionary> readDictionary(const FileService& files, const DiskPath& path);
 
 class PlistFile {
  public:
-  PlistFile(FileService& files, std::string path);
-  const std::string& path() const { return path_; }
+  PlistFile(FileService& files, DiskPath path);
+  const DiskPath& path() const { return path_; }
   // The root dictionary. Fails when the file is missing, cannot be looked at or read, is no property list, or has
   // another kind of root.
   Result<Dictionary> read();
@@ -31,7 +32,7 @@ class PlistFile {
  private:
   bool mayHoldBytes() const;
   FileService& files_;
-  std::string path_;
+  DiskPath path_;
   bool mustKeep_ = false;  // there are, or may be, bytes that nobody could read, and no kept copy of them yet
 };
 

@@ -24,77 +24,87 @@ int ProductPaths::tarvoPathLoadDictAndHelper(int) {
 
 void ProductPaths::tarvoPathTerminate() { --users_; }
 
-std::string ProductPaths::tarvoPathPreferencesFolderURL() const {
-  return path("tarvoPathPreferencesFolderURL", "~/Library/Preferences/Wordhaven");
+DiskPath ProductPaths::tarvoPathPreferencesFolderURL() const {
+  return onDisk("tarvoPathPreferencesFolderURL", "~/Library/Preferences/Wordhaven");
 }
 
-std::string ProductPaths::tarvoPathTechnicalDicEngFolderURL() const {
-  return path("tarvoPathTechnicalDicEngFolderURL", "/Library/Application Support/Wordhaven/TarvoEiwa/TechDic/EJ");
+DiskPath ProductPaths::tarvoPathTechnicalDicEngFolderURL() const {
+  return onDisk("tarvoPathTechnicalDicEngFolderURL", "/Library/Application Support/Wordhaven/TarvoEiwa/TechDic/EJ");
 }
 
-std::string ProductPaths::tarvoPathTechnicalDicJpnFolderURL() const {
-  return path("tarvoPathTechnicalDicJpnFolderURL", "/Library/Application Support/Wordhaven/TarvoEiwa/TechDic/JE");
+DiskPath ProductPaths::tarvoPathTechnicalDicJpnFolderURL() const {
+  return onDisk("tarvoPathTechnicalDicJpnFolderURL", "/Library/Application Support/Wordhaven/TarvoEiwa/TechDic/JE");
 }
 
-std::string ProductPaths::tarvoPathUserDicFolderURL() const {
-  return path("tarvoPathUserDicFolderURL", "~/Library/Application Support/Wordhaven/UserDic");
+DiskPath ProductPaths::tarvoPathUserDicFolderURL() const {
+  return onDisk("tarvoPathUserDicFolderURL", "~/Library/Application Support/Wordhaven/UserDic");
 }
 
-std::string ProductPaths::tarvoPathUserTmaFolderURL() const {
-  return path("tarvoPathUserTmaFolderURL", "~/Library/Application Support/Wordhaven/UserTMA");
+DiskPath ProductPaths::tarvoPathUserTmaFolderURL() const {
+  return onDisk("tarvoPathUserTmaFolderURL", "~/Library/Application Support/Wordhaven/UserTMA");
 }
 
 std::string ProductPaths::tarvoPathMemoryEtoJTitle() const { return text("tarvoPathMemoryEtoJTitle", ""); }
 std::string ProductPaths::tarvoPathMemoryJtoETitle() const { return text("tarvoPathMemoryJtoETitle", ""); }
-std::string ProductPaths::tarvoPathMemoryEtoJURL() const { return path("tarvoPathMemoryEtoJURL", ""); }
-std::string ProductPaths::tarvoPathMemoryJtoEURL() const { return path("tarvoPathMemoryJtoEURL", ""); }
+DiskPath ProductPaths::tarvoPathMemoryEtoJURL() const { return onDisk("tarvoPathMemoryEtoJURL", ""); }
+DiskPath ProductPaths::tarvoPathMemoryJtoEURL() const { return onDisk("tarvoPathMemoryJtoEURL", ""); }
 
-std::string ProductPaths::tarvoPathTranslationStylePathURL() const {
-  return path("tarvoPathTranslationStylePathURL", joinPath(tarvoPathPreferencesFolderURL(), "TarvoStyle2009.plist"));
+DiskPath ProductPaths::tarvoPathTranslationStylePathURL() const {
+  return onDisk("tarvoPathTranslationStylePathURL", (tarvoPathPreferencesFolderURL() / "TarvoStyle2009.plist").text());
 }
 
 std::string ProductPaths::tarvoPathSupportURL() const { return text("tarvoPathSupportURL", ""); }
 std::string ProductPaths::tarvoPathHomepageURL() const { return text("tarvoPathHomepageURL", ""); }
 
-std::string ProductPaths::tarvoPathGetAppleyPath(int tool) const {
+ProductPath ProductPaths::tarvoPathGetAppleyPath(int tool) const {
   return path("tarvoPathGetAppleyPath." + std::to_string(tool), "");
 }
 
-std::string ProductPaths::preferencesWordhavenCache() const {
+ProductPath ProductPaths::preferencesWordhavenCache() const {
   return path("preferencesWordhavenCache", "~/Library/Preferences/Wordhaven/Cache");
 }
 
 std::string ProductPaths::volumeName() const { return text("VolumeName", "Macintosh HD"); }
 std::string ProductPaths::engineURL() const { return text("EngineURL", ""); }
 
-std::string ProductPaths::localEnginePath() const {
-  return path("LocalEnginePath", "~/Library/Application Support/Wordhaven/TarvoEngine.plist");
+DiskPath ProductPaths::localEnginePath() const {
+  return onDisk("LocalEnginePath", "~/Library/Application Support/Wordhaven/TarvoEngine.plist");
 }
 
-std::vector<std::string> ProductPaths::applicationFolders() const {
-  return pathList("ApplicationFolders", {"/Applications", "/Applications/Utilities", "~/Applications"});
+std::vector<DiskPath> ProductPaths::applicationFolders() const {
+  std::vector<DiskPath> folders;
+  for (const ProductPath& folder :
+       pathList("ApplicationFolders", {"/Applications", "/Applications/Utilities", "~/Applications"})) {
+    folders.push_back(locations_.onDisk(folder));
+  }
+  return folders;
 }
 
-std::vector<std::string> ProductPaths::runningApplications() const { return pathList("RunningApplications", {}); }
+std::vector<ProductPath> ProductPaths::runningApplications() const { return pathList("RunningApplications", {}); }
 
-std::string ProductPaths::path(std::string_view key, std::string_view otherwise) const {
+ProductPath ProductPaths::path(std::string_view key, std::string_view otherwise) const {
   return spelled(text(key, otherwise));
 }
 
-std::string ProductPaths::spelled(const std::string& configured) const {
-  if (configured == "~" || configured.starts_with("~/")) return locations_.inHome(configured.substr(1));
-  return locations_.coreSpelling(configured);
+DiskPath ProductPaths::onDisk(std::string_view key, std::string_view otherwise) const {
+  return locations_.onDisk(path(key, otherwise));
 }
 
-std::vector<std::string> ProductPaths::pathList(std::string_view key, std::vector<std::string> otherwise) const {
-  std::vector<std::string> paths = std::move(otherwise);
-  if (const Array* configured = configuration_.array(key)) {
-    paths.clear();
-    for (const PropertyList& path : *configured) {
-      if (path.string() != nullptr) paths.push_back(*path.string());
-    }
+ProductPath ProductPaths::spelled(const std::string& configured) const {
+  const bool isInHome = configured == "~" || configured.starts_with("~/");
+  return locations_.inProduct(isInHome ? locations_.inHome(configured.substr(1)) : DiskPath(configured));
+}
+
+std::vector<ProductPath> ProductPaths::pathList(std::string_view key, const std::vector<std::string>& otherwise) const {
+  std::vector<ProductPath> paths;
+  const Array* configured = configuration_.array(key);
+  if (configured == nullptr) {
+    for (const std::string& path : otherwise) paths.push_back(spelled(path));
+    return paths;
   }
-  for (std::string& path : paths) path = spelled(path);
+  for (const PropertyList& path : *configured) {
+    if (path.string() != nullptr) paths.push_back(spelled(*path.string()));
+  }
   return paths;
 }
 

@@ -8,10 +8,12 @@
 #include <vector>
 
 #include "platform/plist/property_list.h"
+#include "platform/text/paths.h"
 
 // The path module: where the product's files lie, from one property list "WordhavenPaths.plist" (one key per function)
 // with an optional second one laid over it. Values begin with "/" (the product's root) or "~/" (the user's home). Duty:
-// answer paths and addresses in the core's spelling. Not: testing whether anything is there.
+// answer them on this disk, or, where they are stored, shown or compared, as the product spells them; answer addresses.
+// Not: testing whether anything is there.
 namespace tarvo {
 
 class Locations;
@@ -30,32 +32,33 @@ class ProductPaths {
   void tarvoPathTerminate();
   bool isInitialized() const { return users_ > 0; }
 
-  std::string tarvoPathPreferencesFolderURL() const;
-  std::string tarvoPathTechnicalDicEngFolderURL() const;
-  std::string tarvoPathTechnicalDicJpnFolderURL() const;
-  std::string tarvoPathUserDicFolderURL() const;
-  std::string tarvoPathUserTmaFolderURL() const;
+  DiskPath tarvoPathPreferencesFolderURL() const;
+  DiskPath tarvoPathTechnicalDicEngFolderURL() const;
+  DiskPath tarvoPathTechnicalDicJpnFolderURL() const;
+  DiskPath tarvoPathUserDicFolderURL() const;
+  DiskPath tarvoPathUserTmaFolderURL() const;
   std::string tarvoPathMemoryEtoJTitle() const;
   std::string tarvoPathMemoryJtoETitle() const;
-  std::string tarvoPathMemoryEtoJURL() const;
-  std::string tarvoPathMemoryJtoEURL() const;
-  std::string tarvoPathTranslationStylePathURL() const;
+  DiskPath tarvoPathMemoryEtoJURL() const;
+  DiskPath tarvoPathMemoryJtoEURL() const;
+  DiskPath tarvoPathTranslationStylePathURL() const;
   std::string tarvoPathSupportURL() const;  // an address, "" when none is configured
   std::string tarvoPathHomepageURL() const;
   // Application path of one of the product's tools, keys "tarvoPathGetAppleyPath.<number>"; "" for an unknown tool.
-  std::string tarvoPathGetAppleyPath(int tool) const;
+  ProductPath tarvoPathGetAppleyPath(int tool) const;
 
-  std::string preferencesWordhavenCache() const;         // the product's cache folder
+  ProductPath preferencesWordhavenCache() const;         // the product's cache folder
   std::string volumeName() const;                        // of the boot volume, for classic paths
   std::string engineURL() const;                         // style service as configured; "" for the local engine
-  std::string localEnginePath() const;                   // the local engine's file
-  std::vector<std::string> applicationFolders() const;   // where an application is looked for by its name, in order
-  std::vector<std::string> runningApplications() const;  // that count as running, whatever the system says
+  DiskPath localEnginePath() const;                      // the local engine's file
+  std::vector<DiskPath> applicationFolders() const;      // where an application is looked for by its name, in order
+  std::vector<ProductPath> runningApplications() const;  // that count as running, whatever the system says
 
  private:
-  std::string path(std::string_view key, std::string_view otherwise) const;
-  std::string spelled(const std::string& configured) const;
-  std::vector<std::string> pathList(std::string_view key, std::vector<std::string> otherwise) const;
+  ProductPath path(std::string_view key, std::string_view otherwise) const;
+  DiskPath onDisk(std::string_view key, std::string_view otherwise) const;
+  ProductPath spelled(const std::string& configured) const;
+  std::vector<ProductPath> pathList(std::string_view key, const std::vector<std::string>& otherwise) const;
   std::string text(std::string_view key, std::string_view otherwise) const;
   const Locations& locations_;
   Dictionary configuration_;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
+#include "platform/text/paths.h"
 
 namespace tarvo {
 
@@ -11,9 +11,9 @@ class StyleModule {
  public:
   virtual ~StyleModule() = default;
   virtual void tarvoStyleInitialize() = 0;
-  virtual void tarvoStyleSetTStyleUrl(const std::string& stylePath) = 0;
-  virtual void tarvoStyleSetTechDictUrl(const std::string& englishFolder, const std::string& japaneseFolder) = 0;
-  virtual void tarvoStyleSetUserDictUrl(const std::string& folder) = 0;
+  virtual void tarvoStyleSetTStyleUrl(const DiskPath& stylePath) = 0;
+  virtual void tarvoStyleSetTechDictUrl(const DiskPath& englishFolder, const DiskPath& japaneseFolder) = 0;
+  virtual void tarvoStyleSetUserDictUrl(const DiskPath& folder) = 0;
 };
 
 }  // namespace tarvo

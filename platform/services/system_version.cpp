@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "platform/services/locations.h"
 #include "platform/services/plist_file.h"
 #include "platform/text/text_rules.h"
 
@@ -22,8 +23,9 @@ double numberOf(const PropertyList& version) {
 
 }  // namespace
 
-int systemVersion(const FileService& files) {
-  const Result<Dictionary> root = readDictionary(files, systemVersionFile);
+int systemVersion(const FileService& files, const Locations& locations) {
+  const DiskPath path = locations.onDisk(ProductPath(systemVersionFile));
+  const Result<Dictionary> root = readDictionary(files, path);
   const PropertyList* version = root ? root->find("ProductVersion") : nullptr;
   if (version == nullptr) return 0;
   // In double, not wider: 10.6 times ten must round to 106.

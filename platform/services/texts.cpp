@@ -31,7 +31,7 @@ std::string Texts::localizedOrEmpty(std::string_view key) const {
   return text != nullptr ? *text : std::string();
 }
 
-Result<> overlayTableFile(Texts& texts, const FileService& files, const std::string& path) {
+Result<> overlayTableFile(Texts& texts, const FileService& files, const DiskPath& path) {
   const Result<Dictionary> table = readDictionary(files, path);
   if (!table) return table.error();
   texts.overlay(*table);
@@ -40,8 +40,7 @@ Result<> overlayTableFile(Texts& texts, const FileService& files, const std::str
 
 void overlayShippedTable(Texts& texts, const Bundle& bundle, const FileService& files) {
   for (const std::string& language : bundle.languages()) {
-    const std::string folder = joinPath(bundle.folder(), language + ".lproj");
-    if (overlayTableFile(texts, files, joinPath(folder, "Localizable.strings"))) return;
+    if (overlayTableFile(texts, files, bundle.folder() / (language + ".lproj/Localizable.strings"))) return;
   }
 }
 

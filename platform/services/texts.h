@@ -9,6 +9,7 @@
 
 #include "platform/plist/property_list.h"
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 
 // The localized texts: key to text. Tables are laid one over another; a later one wins.
 namespace tarvo {
@@ -43,6 +44,6 @@ class FileService;
 // has one.
 void overlayShippedTable(Texts& texts, const Bundle& bundle, const FileService& files);
 // Lays the property list at the path over the texts.
-Result<> overlayTableFile(Texts& texts, const FileService& files, const std::string& path);
+Result<> overlayTableFile(Texts& texts, const FileService& files, const DiskPath& path);
 
 }  // namespace tarvo

@@ -5,11 +5,10 @@
 #include <utility>
 
 #include "platform/services/file_service.h"
-#include "platform/text/text_rules.h"
 
 namespace tarvo {
 
-UserDefaults::UserDefaults(FileService& files, std::string path) : files_(files), file_(files, std::move(path)) {
+UserDefaults::UserDefaults(FileService& files, DiskPath path) : files_(files), file_(files, std::move(path)) {
   Result<Dictionary> values = file_.read();
   if (values) {
     values_ = std::move(*values);
@@ -35,7 +34,7 @@ void UserDefaults::remove(std::string_view key) {
 void UserDefaults::synchronize() {
   if (observer) observer({}, nullptr);
   if (!changed_) return;
-  const Result<> made = files_.makeFolder(deletingLastPathComponent(file_.path()));
+  const Result<> made = files_.makeFolder(file_.path().folder());
   const Result<> written = file_.write(values_);
   changed_ = !written;
   unwritten_.reset();

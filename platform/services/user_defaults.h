@@ -16,7 +16,7 @@ namespace tarvo {
 
 class UserDefaults {
  public:
-  UserDefaults(FileService& files, std::string path);
+  UserDefaults(FileService& files, DiskPath path);
   const PropertyList* find(std::string_view key) const { return values_.find(key); }
   const std::string* string(std::string_view key) const { return values_.string(key); }
   void set(std::string_view key, PropertyList value);

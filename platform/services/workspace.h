@@ -5,16 +5,18 @@
 #include <string>
 #include <vector>
 
+#include "platform/text/paths.h"
+
 namespace tarvo {
 
 // What the desktop does for the program. Every failure is silent.
 class Workspace {
  public:
   virtual ~Workspace() = default;
-  virtual void openFile(const std::string& path) = 0;        // a file or folder, with its usual program
+  virtual void openFile(const DiskPath& path) = 0;           // a file or folder, with its usual program
   virtual void openAddress(const std::string& address) = 0;  // in the user's browser
   virtual void launchApplication(const std::string& name) = 0;
-  virtual std::vector<std::string> launchedApplications() = 0;  // paths of the application bundles that run now
+  virtual std::vector<ProductPath> launchedApplications() = 0;  // the application bundles that run now
 };
 
 }  // namespace tarvo

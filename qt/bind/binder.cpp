@@ -3,22 +3,21 @@
 #include "qt/bind/binder.h"
 
 #include "platform/services/bundle.h"
-#include "platform/services/locations.h"
 #include "platform/services/texts.h"
 #include "qt/look/icons.h"
 
 namespace tarvo {
 
-Binder::Binder(const Texts& texts, const Bundle& bundle, const Locations& locations, Scheme scheme)
-    : texts_(texts), bundle_(bundle), locations_(locations), scheme_(scheme) {}
+Binder::Binder(const Texts& texts, const Bundle& bundle, Scheme scheme)
+    : texts_(texts), bundle_(bundle), scheme_(scheme) {}
 
 QString Binder::localized(std::string_view key) const { return toQString(texts_.localized(key)); }
 
 QIcon Binder::icon(std::string_view image) {
   const auto known = icons_.find(image);
   if (known != icons_.end()) return known->second;
-  const std::optional<std::string> path = image.empty() ? std::nullopt : bundle_.image(image);
-  return icons_[std::string(image)] = path ? tarvo::icon(toQString(locations_.resolve(*path)), scheme_) : QIcon();
+  const std::optional<DiskPath> path = image.empty() ? std::nullopt : bundle_.image(image);
+  return icons_[std::string(image)] = path ? tarvo::icon(toQString(path->text()), scheme_) : QIcon();
 }
 
 }  // namespace tarvo

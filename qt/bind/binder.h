@@ -42,7 +42,6 @@ namespace tarvo {
 
 class Bundle;
 class Interface;
-class Locations;
 class Texts;
 class Toolbar;
 class Window;
@@ -52,7 +51,7 @@ using PageBuilder = std::function<QWidget*(QWidget* parent)>;  // of one page; c
 class Binder {
  public:
   // What it is given outlives the binder, the binder outlives the widgets.
-  Binder(const Texts& texts, const Bundle& bundle, const Locations& locations, Scheme scheme);
+  Binder(const Texts& texts, const Bundle& bundle, Scheme scheme);
   Binder(const Binder&) = delete;
   Binder& operator=(const Binder&) = delete;
 
@@ -89,7 +88,6 @@ class Binder {
  private:
   const Texts& texts_;
   const Bundle& bundle_;
-  const Locations& locations_;
   Scheme scheme_;
   Registry registry_;
   std::map<std::string, QIcon, std::less<>> icons_;

@@ -16,7 +16,7 @@ namespace tarvo {
 struct BusRequests {
   // Before every other request too: the window comes to the front. token: the desktop's leave to do so, may be empty.
   std::function<void(std::string token)> activate;
-  std::function<void(std::vector<std::string> paths)> openFiles;  // absolute real paths, at least one
+  std::function<void(std::vector<std::string> paths)> openFiles;  // absolute, at least one
   std::function<void(std::string code)> openTool;
   std::function<void(std::optional<std::string> bytes)> handleEvent;  // nothing: a request without a first item
 };

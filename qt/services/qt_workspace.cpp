@@ -8,16 +8,15 @@
 #include <utility>
 
 #include "platform/services/application_program.h"
-#include "platform/services/locations.h"
 #include "platform/services/product_paths.h"
 
 namespace tarvo {
 
-QtWorkspace::QtWorkspace(Services services, std::function<std::vector<std::string>()> running)
+QtWorkspace::QtWorkspace(Services services, std::function<std::vector<ProductPath>()> running)
     : services_(services), running_(std::move(running)) {}
 
-void QtWorkspace::openFile(const std::string& path) {
-  QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(services_.locations.resolve(path))));
+void QtWorkspace::openFile(const DiskPath& path) {
+  QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path.text())));
 }
 
 void QtWorkspace::openAddress(const std::string& address) {
@@ -26,12 +25,12 @@ void QtWorkspace::openAddress(const std::string& address) {
 
 void QtWorkspace::launchApplication(const std::string& name) {
   const auto program = applicationProgram(services_.files, services_.paths.applicationFolders(), name);
-  if (program) QProcess::startDetached(QString::fromStdString(services_.locations.resolve(*program)), {});
+  if (program) QProcess::startDetached(QString::fromStdString(program->text()), {});
 }
 
-std::vector<std::string> QtWorkspace::launchedApplications() {
-  std::vector<std::string> all = running_();
-  for (std::string& counted : services_.paths.runningApplications()) all.push_back(std::move(counted));
+std::vector<ProductPath> QtWorkspace::launchedApplications() {
+  std::vector<ProductPath> all = running_();
+  for (ProductPath& counted : services_.paths.runningApplications()) all.push_back(std::move(counted));
   return all;
 }
 

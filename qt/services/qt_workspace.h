@@ -9,7 +9,6 @@
 namespace tarvo {
 
 class FileService;
-class Locations;
 class ProductPaths;
 
 // The desktop's own ways to open files and addresses. Applications are looked for by name in the product's application
@@ -17,20 +16,19 @@ class ProductPaths;
 class QtWorkspace : public Workspace {
  public:
   struct Services {
-    const Locations& locations;
-    FileService& files;
+    const FileService& files;
     const ProductPaths& paths;
   };
   // running: the applications that run now.
-  QtWorkspace(Services services, std::function<std::vector<std::string>()> running);
-  void openFile(const std::string& path) override;
+  QtWorkspace(Services services, std::function<std::vector<ProductPath>()> running);
+  void openFile(const DiskPath& path) override;
   void openAddress(const std::string& address) override;
   void launchApplication(const std::string& name) override;
-  std::vector<std::string> launchedApplications() override;
+  std::vector<ProductPath> launchedApplications() override;
 
  private:
   Services services_;
-  std::function<std::vector<std::string>()> running_;
+  std::function<std::vector<ProductPath>()> running_;
 };
 
 }  // namespace tarvo

@@ -13,7 +13,7 @@ namespace tarvo {
 // What a start of the program asks the manager for, besides showing itself.
 struct StartRequest {
   std::optional<std::string> code;  // a caller's code
-  std::vector<std::string> files;   // style files, absolute real paths
+  std::vector<std::string> files;   // style files, absolute
 };
 
 enum class Handover {

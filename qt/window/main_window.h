@@ -36,7 +36,7 @@ class MainWindow : public QWidget {
   void setNotice(const QString& text);
 
   std::function<void()> toolbarChangedHeight;
-  std::function<void(std::vector<std::string> paths)> styleFilesDropped;  // real paths, at least one
+  std::function<void(std::vector<std::string> paths)> styleFilesDropped;  // at least one
 
  private:
   void fitPane();

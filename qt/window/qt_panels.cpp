@@ -15,9 +15,9 @@
 namespace tarvo {
 namespace {
 
-std::string chosenPath(const QFileDialog& dialog) {
+DiskPath chosenPath(const QFileDialog& dialog) {
   const QStringList files = dialog.selectedFiles();
-  return files.isEmpty() ? std::string() : files.first().toStdString();
+  return DiskPath(files.isEmpty() ? std::string() : files.first().toStdString());
 }
 
 }  // namespace
@@ -40,7 +40,7 @@ void QtPanels::beginAlertSheet(Window& host, const Alert& alert, std::function<v
   surroundings_.hang(*dialog, host);
 }
 
-std::optional<std::string> QtPanels::runOpenPanel(const OpenPanel& panel) {
+std::optional<DiskPath> QtPanels::runOpenPanel(const OpenPanel& panel) {
   QFileDialog dialog(QApplication::activeWindow(), toQString(panel.title));
   dialog.setFileMode(panel.foldersOnly ? QFileDialog::Directory : QFileDialog::ExistingFile);
   if (panel.foldersOnly) dialog.setOption(QFileDialog::ShowDirsOnly);
@@ -51,13 +51,11 @@ std::optional<std::string> QtPanels::runOpenPanel(const OpenPanel& panel) {
 }
 
 void QtPanels::beginSavePanel(Window& host, const SavePanel& panel,
-                              std::function<void(int code, const std::string& path)> ended) {
-  SavePanel real = panel;
-  real.folder = surroundings_.realPath(panel.folder);
-  auto* dialog = new SaveSheet(real, surroundings_.host(host));
+                              std::function<void(int code, const DiskPath& path)> ended) {
+  auto* dialog = new SaveSheet(panel, surroundings_.host(host));
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   QObject::connect(dialog, &QDialog::finished, dialog, [dialog, ended = std::move(ended)](int code) {
-    ended(code == QDialog::Accepted ? 1 : 0, code == QDialog::Accepted ? dialog->path() : std::string());
+    ended(code == QDialog::Accepted ? 1 : 0, code == QDialog::Accepted ? dialog->path() : DiskPath());
   });
   surroundings_.hang(*dialog, host);
 }

@@ -16,18 +16,17 @@ class QtPanels : public Panels {
  public:
   // How panels find their surroundings.
   struct Surroundings {
-    std::function<QWidget*(Window&)> host;                    // the widget of a window, null when it has none (yet)
-    std::function<void(QDialog&, Window& host)> hang;         // opens a dialog as a sheet over it
-    std::function<std::string(const std::string&)> realPath;  // of a path in the core's spelling
+    std::function<QWidget*(Window&)> host;             // the widget of a window, null when it has none (yet)
+    std::function<void(QDialog&, Window& host)> hang;  // opens a dialog as a sheet over it
   };
   explicit QtPanels(Surroundings surroundings);
   void beep() override;
   void tell(const std::string& text) override;
   int runAlertPanel(const Alert& alert) override;
   void beginAlertSheet(Window& host, const Alert& alert, std::function<void(int button)> ended) override;
-  std::optional<std::string> runOpenPanel(const OpenPanel& panel) override;
+  std::optional<DiskPath> runOpenPanel(const OpenPanel& panel) override;
   void beginSavePanel(Window& host, const SavePanel& panel,
-                      std::function<void(int code, const std::string& path)> ended) override;
+                      std::function<void(int code, const DiskPath& path)> ended) override;
 
  private:
   Surroundings surroundings_;

@@ -28,7 +28,7 @@ QString nameFilter(const std::vector<std::string>& types) {
 }
 
 SaveSheet::SaveSheet(const SavePanel& panel, QWidget* parent)
-    : QFileDialog(parent, toQString(panel.title), toQString(panel.folder)), type_(panel.requiredType) {
+    : QFileDialog(parent, toQString(panel.title), toQString(panel.folder.text())), type_(panel.requiredType) {
   setObjectName(QStringLiteral("savePanel"));
   setOption(DontUseNativeDialog);  // which would be a window of its own
   arrangeFilePanel(*this);
@@ -39,9 +39,9 @@ SaveSheet::SaveSheet(const SavePanel& panel, QWidget* parent)
   selectFile(toQString(withPathExtension(panel.name, type_)));
 }
 
-std::string SaveSheet::path() const {
+DiskPath SaveSheet::path() const {
   const QStringList files = selectedFiles();
-  return files.isEmpty() ? std::string() : files.first().toStdString();
+  return DiskPath(files.isEmpty() ? std::string() : files.first().toStdString());
 }
 
 // A folder's name leads into the folder.

@@ -15,7 +15,7 @@ class SaveSheet : public QFileDialog {
  public:
   SaveSheet(const SavePanel& panel, QWidget* parent);
   // Valid once it was accepted.
-  std::string path() const;
+  DiskPath path() const;
   void accept() override;
 
  private:

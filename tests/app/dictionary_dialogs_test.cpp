@@ -138,14 +138,14 @@ TEST_F(DictionaryDialogs, folderButtonsOpenTheFolderOfTheirKind) {
         &pane.jeTMAFolderButton, &picker.openTMAFolderButton, &picker.openTDFolderButton}) {
     button->userPress();
   }
-  const std::string user = paths.tarvoPathUserDicFolderURL(), memory = paths.tarvoPathUserTmaFolderURL();
+  const std::string user = paths.tarvoPathUserDicFolderURL().text(), memory = paths.tarvoPathUserTmaFolderURL().text();
   EXPECT_EQ(test_.workspace.opened, (std::vector<std::string>{user, user, user, memory, memory, memory,
-                                                              paths.tarvoPathTechnicalDicEngFolderURL()}));
+                                                              paths.tarvoPathTechnicalDicEngFolderURL().text()}));
 }
 
 TEST_F(DictionaryDialogs, areOpenToScriptsByName) {
   ASSERT_TRUE(test_.program().start());
-  test_.workspace.running = {test_.product->paths().tarvoPathGetAppleyPath(4)};
+  test_.workspace.running = {test_.product->paths().tarvoPathGetAppleyPath(4).text()};
   EXPECT_EQ(call("picker.isStartedApplication", {"4"}), PropertyList(true));
   EXPECT_EQ(call("style.isStartedApplication", {"4"}), PropertyList(true));
   EXPECT_EQ(call("style.isStartedApplication", {"5"}), PropertyList(false));

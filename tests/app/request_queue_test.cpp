@@ -152,7 +152,7 @@ TEST_F(RequestsTest, areServedWhileAModalWindowIsUp) {
 
 TEST_F(RequestsTest, oneThatAsksTheUserEndsBeforeTheNextBegins) {
   start();
-  requests().openStyleFile("/missing.whstyle");
+  requests().openStyleFile(DiskPath("/missing.whstyle"));
   requests().eventText("tQB8");
   std::string toolWhileUp;
   test_.panels.whileUp = [&] {
@@ -166,7 +166,7 @@ TEST_F(RequestsTest, oneThatAsksTheUserEndsBeforeTheNextBegins) {
 
 TEST_F(RequestsTest, thatComeWhileOneAsksTheUserWaitForItsEnd) {
   start();
-  requests().openStyleFile("/missing.whstyle");
+  requests().openStyleFile(DiskPath("/missing.whstyle"));
   std::string toolWhileUp;
   test_.panels.whileUp = [&] {
     test_.panels.whileUp = nullptr;

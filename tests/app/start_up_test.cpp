@@ -47,11 +47,12 @@ TEST(StartUp, tellsTheStyleModuleWhereEverythingLiesInOrder) {
                     around.runLoop, around.windowHost, around.workspace, around.scripts},
                    test.panels});
   ASSERT_TRUE(program.construct());
-  const std::string product = "/Library/Application Support/Wordhaven/TarvoEiwa/TechDic/";
+  const std::string product = test.root / "Library/Application Support/Wordhaven/TarvoEiwa/TechDic/";
+  const std::string home = test.root / "Users/taro";
   EXPECT_EQ(test.log, (Log{"tarvoStyleInitialize",
-                           "tarvoStyleSetTStyleUrl /Users/taro/Library/Preferences/Wordhaven/TarvoStyle2009.plist",
+                           "tarvoStyleSetTStyleUrl " + home + "/Library/Preferences/Wordhaven/TarvoStyle2009.plist",
                            "tarvoStyleSetTechDictUrl " + product + "EJ " + product + "JE",
-                           "tarvoStyleSetUserDictUrl /Users/taro/Library/Application Support/Wordhaven/UserDic"}));
+                           "tarvoStyleSetUserDictUrl " + home + "/Library/Application Support/Wordhaven/UserDic"}));
   EXPECT_TRUE(around.paths.isInitialized());
 }
 

@@ -17,12 +17,12 @@ namespace {
 class WatchedFiles : public FaultyFiles {
  public:
   using FaultyFiles::FaultyFiles;
-  Result<std::string> read(const std::string& path) const override {
-    reads.push_back(path);
+  Result<std::string> read(const DiskPath& path) const override {
+    reads.push_back(path.text());
     return FaultyFiles::read(path);
   }
-  Result<> write(const std::string& path, std::string_view bytes) override {
-    writes.push_back(path);
+  Result<> write(const DiskPath& path, std::string_view bytes) override {
+    writes.push_back(path.text());
     return FaultyFiles::write(path, bytes);
   }
   mutable std::vector<std::string> reads;
@@ -38,7 +38,7 @@ TEST(StyleFile, isReadOnceAndNotWrittenAtTheEnd) {
   Program program(test.product->services(files, test.engine, test.runLoop, test.panels, test.host, test.workspace));
   ASSERT_TRUE(program.start());
   Interface& interface = program.interface();
-  const std::string path = "/Users/taro/" + std::string(TestProgram::stylePath);
+  const std::string path = test.root / test.inHome(TestProgram::stylePath);
   const auto uses = [&path](const std::vector<std::string>& paths) {
     return std::count(paths.begin(), paths.end(), path);
   };
@@ -49,7 +49,7 @@ TEST(StyleFile, isReadOnceAndNotWrittenAtTheEnd) {
     interface.naming.StyleNameEditButton.userPress();
     interface.naming.styleNameField.userType("Name " + std::to_string(i));
     interface.naming.snOKButton.userPress();
-    program.styles().readImportStyle("/in.whstyle");
+    program.styles().readImportStyle(test.root.at("in.whstyle"));
     program.styles().handleCallerCode(i % 2 == 0 ? "tQB8" : "tMG8");
   }
   EXPECT_GE(uses(files.writes) - writesAtStart, 20);

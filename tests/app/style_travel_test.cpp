@@ -33,7 +33,9 @@ class StyleTravel : public testing::Test {
     ASSERT_TRUE(test_.interface().style.stylePopup.userChoose(index));
     test_.log.clear();
   }
-  bool import(const std::string& path) { return test_.program().styles().readImportStyle(path); }
+  bool import(const std::string& path) {
+    return test_.program().styles().readImportStyle(test_.product->locations().onDisk(ProductPath(path)));
+  }
   Dictionary record(int index) { return *test_.program().rooms().store.getStyleAtIndex(index); }
   std::vector<int> options() {
     std::vector<int> all;
@@ -139,14 +141,14 @@ TEST_F(StyleTravel, needsTheStylePane) {
 TEST_F(StyleTravel, asksBeforeAnOpenedFileReplacesAStyle) {
   start();
   choose(3);
-  test_.program().requests().openStyleFile(test_.root / "in.whstyle");
+  test_.program().requests().openStyleFile(test_.root.at("in.whstyle"));
   fileWith(importedStyle());
   EXPECT_EQ(test_.log, Log{question}) << "the default button cancels";
   EXPECT_EQ(test_.panels.alerts.back().buttons, (std::vector<std::string>{"OpenImport.Cancel", "OpenImport.Replace"}));
   EXPECT_EQ(PropertyList(record(3)), sampleRoot().array("Style")->at(3));
   test_.panels.buttons = {1};
   test_.log.clear();
-  test_.program().requests().openStyleFile(test_.root / "in.whstyle");
+  test_.program().requests().openStyleFile(test_.root.at("in.whstyle"));
   EXPECT_EQ(test_.log, (Log{question, "wrote", "unreachable"}));
   EXPECT_EQ(*record(3).string("K"), "v");
 }
@@ -157,7 +159,7 @@ TEST(OpenedStyleFile, isNamedTogetherWithTheStyleItReplaces) {
   test.engine.probes = {true, false};
   ASSERT_TRUE(test.program().start());
   test.interface().style.stylePopup.userChoose(3);
-  test.program().requests().openStyleFile(test.root / "特許.whstyle");
+  test.program().requests().openStyleFile(test.root.at("特許.whstyle"));
   const Alert& asked = test.panels.alerts.back();
   EXPECT_NE(asked.title.find("Beta"), std::string::npos) << asked.title;
   EXPECT_NE(asked.message.find("特許.whstyle"), std::string::npos) << asked.message;
@@ -167,7 +169,7 @@ TEST(OpenedStyleFile, isNamedTogetherWithTheStyleItReplaces) {
 TEST_F(StyleTravel, bringsTheStylePaneForwardForAnOpenedFile) {
   start();
   test_.program().manager().changeOfficeToolbar();
-  test_.program().requests().openStyleFile(test_.root / "in.whstyle");
+  test_.program().requests().openStyleFile(test_.root.at("in.whstyle"));
   EXPECT_EQ(interface().manager.myTabView.selectedPage(), 0);
   EXPECT_EQ(interface().manager.toolbar.selectedItemIdentifier(), "StyleManager");
 }
@@ -178,7 +180,7 @@ TEST_F(StyleTravel, beepsWhenAFileIsOpenedWhileSomethingWaitsForTheUser) {
   fileWith(importedStyle());
   const auto open = [&] {
     test_.log.clear();
-    test_.program().requests().openStyleFile(path);
+    test_.program().requests().openStyleFile(DiskPath(path));
     EXPECT_EQ(test_.log, Log{"beep"});
   };
   interface().newDictionary.newEJUDMenu.userChoose();
@@ -194,13 +196,13 @@ TEST_F(StyleTravel, beepsWhenAFileIsOpenedWhileSomethingWaitsForTheUser) {
   interface().addins.officeSearchButton.userPress();
   test_.panels.whileUp = nullptr;
   test_.log.clear();
-  test_.program().requests().openStyleFile(path);
+  test_.program().requests().openStyleFile(DiskPath(path));
   EXPECT_EQ(test_.log, Log{question}) << "nothing waits any more";
 }
 
 TEST_F(StyleTravel, keepsAFileForTheTimeAfterTheLaunchsQuestion) {
   start({false});
-  test_.program().requests().openStyleFile(test_.root / "in.whstyle");
+  test_.program().requests().openStyleFile(test_.root.at("in.whstyle"));
   EXPECT_EQ(test_.log, Log{"beep"});
   test_.panels.endAlertSheet(1);
   EXPECT_EQ(test_.log, (Log{"beep", question}));
@@ -212,7 +214,8 @@ TEST_F(StyleTravel, exchangesStylesBeforeTheFileThatWasKeptComes) {
   start({true, true});
   fileWith(importedStyle());
   test_.runLoop.holds = true;
-  for (const char* file : {"other.whstyle", "in.whstyle"}) test_.program().requests().openStyleFile(test_.root / file);
+  for (const char* file : {"other.whstyle", "in.whstyle"})
+    test_.program().requests().openStyleFile(test_.root.at(file));
   test_.runLoop.run();
   interface().connection.sslOKButton.userPress();
   test_.runLoop.run();
@@ -223,7 +226,7 @@ TEST_F(StyleTravel, keepsAFileAlsoUntilThePanelThatFollowsAFailure) {
   start({false});
   test_.panels.endAlertSheet(0);
   test_.runLoop.advance(2);
-  test_.program().requests().openStyleFile(test_.root / "in.whstyle");
+  test_.program().requests().openStyleFile(test_.root.at("in.whstyle"));
   EXPECT_EQ(test_.log, Log{"beep"});
   test_.log.clear();
   interface().connection.sslOKButton.userPress();

@@ -31,8 +31,8 @@ void expect(bool done, const char* what) {
 void measure(const std::string& resources, const std::string& place, int count) {
   const Locations locations("/", place);
   PosixFiles files(locations);
-  const Bundle bundle(files, resources, {"en"});
-  MailScriptInstaller installer(files, bundle, place);
+  const Bundle bundle(files, DiskPath(resources), {"en"});
+  MailScriptInstaller installer(files, bundle, locations);
   AddinEntry entry;
   entry.set(addin_keys::installMacroName, "Scripts/Many");
   entry.set(addin_keys::installFolderPath, place);

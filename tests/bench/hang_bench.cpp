@@ -147,7 +147,7 @@ class HangBench {
     options_.engine = service.address();
     Product product(options_);
     answerTheService(product);
-    Shell shell(product, application_, [] { return std::vector<std::string>(); });
+    Shell shell(product, application_, [] { return std::vector<tarvo::ProductPath>(); });
     if (stage.action != Action::start && !shell.start()) throw std::runtime_error("the window did not start");
     prepare(shell, stage.action);
     letEventsPass();

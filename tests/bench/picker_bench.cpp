@@ -93,7 +93,7 @@ int main(int argc, char** argv) {
   Product product(ProductOptions{.root = argv[1], .home = argv[2], .language = "en"});
   QApplication application(argc, argv);
   applyLook(Scheme::light, product.language());
-  Shell shell(product, application, [] { return std::vector<std::string>(); });
+  Shell shell(product, application, [] { return std::vector<tarvo::ProductPath>(); });
   if (!shell.start()) return 1;
   QTimer::singleShot(0, &application, [&] {
     PickerBench(shell, argv[3], std::stoi(argv[4])).run();

@@ -30,16 +30,16 @@ class QuietPanels : public Panels {
   void tell(const std::string&) override {}
   int runAlertPanel(const Alert& alert) override { throw std::logic_error(alert.title + " " + alert.message); }
   void beginAlertSheet(Window&, const Alert& alert, std::function<void(int)>) override { runAlertPanel(alert); }
-  std::optional<std::string> runOpenPanel(const OpenPanel&) override { return std::nullopt; }
-  void beginSavePanel(Window&, const SavePanel&, std::function<void(int, const std::string&)>) override {}
+  std::optional<DiskPath> runOpenPanel(const OpenPanel&) override { return std::nullopt; }
+  void beginSavePanel(Window&, const SavePanel&, std::function<void(int, const DiskPath&)>) override {}
 };
 
 class QuietWorkspace : public Workspace {
  public:
-  void openFile(const std::string&) override {}
+  void openFile(const DiskPath&) override {}
   void openAddress(const std::string&) override {}
   void launchApplication(const std::string&) override {}
-  std::vector<std::string> launchedApplications() override { return {}; }
+  std::vector<ProductPath> launchedApplications() override { return {}; }
 };
 
 }  // namespace tarvo

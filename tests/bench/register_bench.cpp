@@ -33,7 +33,7 @@ void mustBe(bool held, const char* what) {
 class RegisterBench {
  public:
   RegisterBench(const char* address, const char* styleFile)
-      : styles_(stylesIn(styleFile)), engine_({address, "", ""}), client_({address, "", ""}) {
+      : styles_(stylesIn(styleFile)), engine_({address, {}, {}}), client_({address, {}, {}}) {
     for (const PropertyList& style : styles_) appendValue(encoded_.emplace_back(), style, 2);
     bytes_ = StylePayload({styles_, encoded_}).bytes(1);
   }

@@ -101,7 +101,7 @@ int main(int argc, char** argv) {
   Product product(ProductOptions{.root = argv[1], .home = argv[2], .language = "en", .engine = "none"});
   QApplication application(argc, argv);
   applyLook(Scheme::light, product.language());
-  Shell shell(product, application, [] { return std::vector<std::string>(); });
+  Shell shell(product, application, [] { return std::vector<tarvo::ProductPath>(); });
   shell.listen({name, argv[2], argv[1]});
   if (!shell.start()) return 1;
   int status = 0;

@@ -49,8 +49,10 @@ class ScanBench {
     std::vector<double> scans, floors;
     for (int i = 0; i < count; ++i) {
       DictController list(services());
-      scans.push_back(milliseconds(
-          [&] { list.initializeDictController(DictionaryKind::technical, folder_, Direction::englishToJapanese); }));
+      scans.push_back(milliseconds([&] {
+        list.initializeDictController(DictionaryKind::technical, product_.locations().onDisk(ProductPath(folder_)),
+                                      Direction::englishToJapanese);
+      }));
       floors.push_back(milliseconds([&] { entries_ = listBarely(bare_); }));
       if (list.getAllDictionary().size() != entries_) throw std::runtime_error("the scan missed an entry");
     }
@@ -66,13 +68,14 @@ class ScanBench {
     return options;
   }
   DictController::Services services() {
-    return {product_.files(), product_.texts(), product_.bundle(), product_.paths()};
+    return {product_.files(), product_.texts(), product_.bundle(), product_.paths(), product_.locations()};
   }
   void measureMemory() {
     entries_ = listBarely(bare_);
     const std::size_t before = mallinfo2().uordblks;
     DictController list(services());
-    list.initializeDictController(DictionaryKind::technical, folder_, Direction::englishToJapanese);
+    list.initializeDictController(DictionaryKind::technical, product_.locations().onDisk(ProductPath(folder_)),
+                                  Direction::englishToJapanese);
     const Names offered = list.notSelectedDictionary();
     if (offered.size() != entries_) throw std::runtime_error("the scan missed an entry");
     bytes_ = mallinfo2().uordblks - before;

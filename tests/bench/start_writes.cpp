@@ -15,25 +15,23 @@
 
 // What a start writes until its window comes up: start_writes ROOT HOME LANGUAGE FOLDER
 // Starts the program on the product and keeps the bytes of each write in FOLDER. Prints a line for each in their order:
-// "KEPT<tab>TARGET", both real paths.
+// "KEPT<tab>TARGET".
 namespace {
 
 using namespace tarvo;
 
 class KeptWrites : public test::FaultyFiles {
  public:
-  KeptWrites(Product& product, std::string folder)
-      : FaultyFiles(product.files()), locations_(product.locations()), folder_(std::move(folder)) {}
+  KeptWrites(Product& product, std::string folder) : FaultyFiles(product.files()), folder_(std::move(folder)) {}
 
-  Result<> write(const std::string& path, std::string_view bytes) override {
+  Result<> write(const DiskPath& path, std::string_view bytes) override {
     const std::string kept = folder_ + "/" + std::to_string(count_++);
     std::ofstream(kept, std::ios::binary) << bytes;
-    std::printf("%s\t%s\n", kept.c_str(), locations_.resolve(path).c_str());
+    std::printf("%s\t%s\n", kept.c_str(), path.text().c_str());
     return FaultyFiles::write(path, bytes);
   }
 
  private:
-  const Locations& locations_;
   std::string folder_;
   int count_ = 0;
 };

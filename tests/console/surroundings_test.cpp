@@ -23,6 +23,7 @@ class Surroundings : public testing::Test {
     for (const Json& event : recorder_.take()) all += writeJson(event) + "\n";
     return all;
   }
+  DiskPath at(const std::string& path) const { return DiskPath(folder_.path() + path); }
   const TemporaryFolder folder_;
   Locations locations_{folder_.path(), folder_ / "home"};
   PosixFiles disk_{locations_};
@@ -31,17 +32,17 @@ class Surroundings : public testing::Test {
 };
 
 TEST_F(Surroundings, writesAreNotedByNameOrPath) {
-  files_.name("/styles", "styles");
-  files_.name("/settings", "");
-  for (const char* path : {"/styles", "/settings", "/other"}) EXPECT_TRUE(files_.write(path, "x"));
-  EXPECT_FALSE(files_.write("/home/missing/x", "x"));
+  files_.name(at("/styles"), "styles");
+  files_.name(at("/settings"), "");
+  for (const char* path : {"/styles", "/settings", "/other"}) EXPECT_TRUE(files_.write(at(path), "x"));
+  EXPECT_FALSE(files_.write(at("/home/missing/x"), "x"));
   EXPECT_EQ(log(), "{\"wrote\":\"styles\"}\n{\"wrote\":\"root:/other\"}\n{\"writeFailed\":\"home:/missing/x\"}\n");
   EXPECT_EQ(log(), "");
 }
 
 TEST_F(Surroundings, nothingIsNotedWhileTheScriptActs) {
   recorder_.setOn(false);
-  ASSERT_TRUE(files_.write("/a", "x"));
+  ASSERT_TRUE(files_.write(at("/a"), "x"));
   recorder_.setOn(true);
   EXPECT_EQ(log(), "");
 }
@@ -52,21 +53,21 @@ TEST_F(Surroundings, theDiskRefusesAtAndBelowAPathUntilItIsAllowed) {
   folder_.write("ab", "old");
   for (const Operation operation :
        {Operation::write, Operation::copy, Operation::remove, Operation::make, Operation::list}) {
-    files_.refuse(operation, "/a");
+    files_.refuse(operation, at("/a"));
   }
-  EXPECT_EQ(files_.write("/a/b/file", "new").error(),
-            (Failure{"/a/b/file", Attempt::write, std::make_error_code(std::errc::permission_denied)}));
-  EXPECT_FALSE(files_.copy("/ab", "/a/copy"));
-  EXPECT_FALSE(files_.copy("/a/b", "/copy"));
-  EXPECT_FALSE(files_.remove("/a/b/file"));
-  EXPECT_FALSE(files_.removeEmptyFolder("/a/b"));
-  EXPECT_FALSE(files_.makeFolder("/a/new"));
-  EXPECT_FALSE(files_.list("/a").has_value());
-  EXPECT_TRUE(files_.write("/ab", "new"));
+  EXPECT_EQ(files_.write(at("/a/b/file"), "new").error(),
+            (Failure{folder_ / "a/b/file", Attempt::write, std::make_error_code(std::errc::permission_denied)}));
+  EXPECT_FALSE(files_.copy(at("/ab"), at("/a/copy")));
+  EXPECT_FALSE(files_.copy(at("/a/b"), at("/copy")));
+  EXPECT_FALSE(files_.remove(at("/a/b/file")));
+  EXPECT_FALSE(files_.removeEmptyFolder(at("/a/b")));
+  EXPECT_FALSE(files_.makeFolder(at("/a/new")));
+  EXPECT_FALSE(files_.list(at("/a")).has_value());
+  EXPECT_TRUE(files_.write(at("/ab"), "new"));
   EXPECT_EQ(folder_.read("a/b/file"), "old");
   files_.allow();
-  EXPECT_TRUE(files_.write("/a/b/file", "new"));
-  EXPECT_TRUE(files_.list("/a").has_value());
+  EXPECT_TRUE(files_.write(at("/a/b/file"), "new"));
+  EXPECT_TRUE(files_.list(at("/a")).has_value());
 }
 
 TEST_F(Surroundings, theEngineStartsUnreachableAndEmpty) {
@@ -143,7 +144,7 @@ TEST_F(Surroundings, anAlertSheetNamesItsWindow) {
 TEST_F(Surroundings, anOpenPanelWithoutAnAnswerFailsTheScript) {
   MemoryShell shell;
   ScriptedPanels panels(recorder_, shell);
-  panels.answerSave("/other/x");
+  panels.answerSave(at("/other/x"));
   EXPECT_FALSE(panels.runOpenPanel({"Import", {}, false}));
   EXPECT_EQ(panels.failure(), "nothing answers the open panel \"Import\"");
 }
@@ -151,13 +152,13 @@ TEST_F(Surroundings, anOpenPanelWithoutAnAnswerFailsTheScript) {
 TEST_F(Surroundings, openPanelsTakeTheirAnswersInOrder) {
   MemoryShell shell;
   ScriptedPanels panels(recorder_, shell);
-  panels.answerSave("/home/for a save panel");
-  panels.answerOpen("/home/a.x");
+  panels.answerSave(at("/home/for a save panel"));
+  panels.answerOpen(at("/home/a.x"));
   panels.answerCancel();
-  panels.answerOpen("/b");
-  EXPECT_EQ(panels.runOpenPanel({"T", {"x"}, false}), "/home/a.x");
+  panels.answerOpen(at("/b"));
+  EXPECT_EQ(panels.runOpenPanel({"T", {"x"}, false}), at("/home/a.x"));
   EXPECT_EQ(panels.runOpenPanel({"", {}, false}), std::nullopt);
-  EXPECT_EQ(panels.runOpenPanel({"F", {}, true}), "/b");
+  EXPECT_EQ(panels.runOpenPanel({"F", {}, true}), at("/b"));
   EXPECT_TRUE(panels.hasAnswers());
   EXPECT_EQ(log(),
             "{\"panel\":{\"answer\":\"home:/a.x\",\"kind\":\"open\",\"title\":\"T\",\"types\":[\"x\"]}}\n"
@@ -175,18 +176,19 @@ class SavePanels : public Surroundings {
   ScriptedPanels panels_{recorder_, shell_};
   std::string ended_;
   void begin(Window& host) {
-    panels_.beginSavePanel(host, {"", "whstyle", "/home", "Beta"},
-                           [this](int code, const std::string& path) { ended_ += std::to_string(code) + path + ';'; });
+    panels_.beginSavePanel(host, {"", "whstyle", at("/home"), "Beta"}, [this](int code, const DiskPath& path) {
+      ended_ += std::to_string(code) + locations_.shown(path) + ';';
+    });
   }
 };
 
 TEST_F(SavePanels, takeAQueuedAnswerAtOnceAndAddTheirType) {
-  panels_.answerOpen("/for an open panel");
-  panels_.answerSave("/home/a.b");
+  panels_.answerOpen(at("/for an open panel"));
+  panels_.answerSave(at("/home/a.b"));
   panels_.answerCancel();
-  panels_.answerSave("/x.WHStyle");
+  panels_.answerSave(at("/x.WHStyle"));
   for (int i = 0; i < 3; ++i) begin(outlets_.window);
-  EXPECT_EQ(ended_, "1/home/a.b.whstyle;0;1/x.WHStyle;");
+  EXPECT_EQ(ended_, "1home:/a.b.whstyle;0;1root:/x.WHStyle;");
   const std::string rest =
       R"("folder":"home:/","kind":"save","name":"Beta","over":"manager.myWindow","types":["whstyle"]}})"
       "\n";
@@ -200,12 +202,12 @@ TEST_F(SavePanels, stayUpUntilTheyAreAnswered) {
   EXPECT_EQ(log(),
             R"({"panel":{"folder":"home:/","kind":"save","name":"Beta","over":"manager.myWindow","types":["whstyle"]}})"
             "\n");
-  panels_.answerSave("/x/Beta");
-  EXPECT_EQ(ended_, "1/x/Beta.whstyle;");
+  panels_.answerSave(at("/x/Beta"));
+  EXPECT_EQ(ended_, "1root:/x/Beta.whstyle;");
   EXPECT_EQ(log(), "{\"answer\":\"root:/x/Beta.whstyle\",\"panelEnded\":\"save\"}\n");
   begin(outlets_.other);
   panels_.answerCancel();
-  EXPECT_EQ(ended_, "1/x/Beta.whstyle;0;");
+  EXPECT_EQ(ended_, "1root:/x/Beta.whstyle;0;");
   EXPECT_NE(log().find("{\"answer\":null,\"panelEnded\":\"save\"}"), std::string::npos);
   EXPECT_FALSE(panels_.hasAnswers());
 }
@@ -213,10 +215,10 @@ TEST_F(SavePanels, stayUpUntilTheyAreAnswered) {
 TEST_F(SavePanels, areAnsweredFromTheLastOneOn) {
   begin(outlets_.window);
   begin(outlets_.other);
-  panels_.answerSave("/x");
-  EXPECT_EQ(ended_, "1/x.whstyle;");
+  panels_.answerSave(at("/x"));
+  EXPECT_EQ(ended_, "1root:/x.whstyle;");
   panels_.answerCancel();
-  EXPECT_EQ(ended_, "1/x.whstyle;0;");
+  EXPECT_EQ(ended_, "1root:/x.whstyle;0;");
   panels_.answerCancel();
   EXPECT_TRUE(panels_.hasAnswers()) << "kept for the next panel";
 }
@@ -231,11 +233,11 @@ TEST_F(SavePanels, goWithTheirProgram) {
 
 TEST_F(Surroundings, theDesktopIsOnlyNoted) {
   RecordedWorkspace workspace(recorder_);
-  workspace.openFile("/home/a");
+  workspace.openFile(at("/home/a"));
   workspace.openAddress("https://support.example/");
   workspace.launchApplication("Script Editor");
-  workspace.running = {"/Applications/Mail.app"};
-  EXPECT_EQ(workspace.launchedApplications(), std::vector<std::string>{"/Applications/Mail.app"});
+  workspace.running = {ProductPath("/Applications/Mail.app")};
+  EXPECT_EQ(workspace.launchedApplications(), std::vector{ProductPath("/Applications/Mail.app")});
   EXPECT_EQ(log(),
             "{\"opened\":\"home:/a\"}\n{\"address\":\"https://support.example/\"}\n{\"launched\":\"Script Editor\"}\n");
 }

@@ -282,7 +282,7 @@ TEST(DictController, theBuiltInMemoriesAreLeftOutOfAllNamesOnly) {
   titles.set("tarvoPathMemoryJtoETitle", "mainj.ETM");
   const ProductPaths paths(world.locations, titles);
   world.put({"main.etm", "mainj.etm", "own.etm"});
-  DictController controller({world.files, world.texts, world.bundle, paths});
+  DictController controller({world.files, world.texts, world.bundle, paths, world.locations});
   controller.initializeDictController(memory, world.dictionaryFolder(), EJ);
   EXPECT_EQ(controller.getAllDictionary(), Names{"own.etm"});
   EXPECT_EQ(controller.notSelectedDictionary(), (Names{"main.etm", "mainj.etm", "own.etm"}));
@@ -304,7 +304,7 @@ TEST_P(DictionaryPaths, areBelowTheFolderButForTheOwnBuiltInMemory) {
   const DictController controller = world.list(GetParam().kind, GetParam().direction);
   const std::string& expected = GetParam().path;
   const bool isWhole = expected.empty() || expected.front() == '/';
-  EXPECT_EQ(controller.getDicPath(GetParam().name), isWhole ? expected : world.path(expected));
+  EXPECT_EQ(controller.getDicPath(GetParam().name).text(), isWhole ? expected : world.path(expected));
 }
 
 INSTANTIATE_TEST_SUITE_P(DictController, DictionaryPaths,

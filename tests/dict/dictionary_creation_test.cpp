@@ -24,17 +24,17 @@ std::string codesOn(const std::string& path) {
 class CountingFiles : public PosixFiles {
  public:
   using PosixFiles::PosixFiles;
-  Result<FourCharCode> typeCode(const std::string& path) const override {
+  Result<FourCharCode> typeCode(const DiskPath& path) const override {
     ++attributeReads;
     return PosixFiles::typeCode(path);
   }
-  Result<std::vector<std::string>> list(const std::string& folder) const override {
+  Result<std::vector<std::string>> list(const DiskPath& folder) const override {
     ++listings;
     return PosixFiles::list(folder);
   }
-  Result<> setCodes(const std::string& path, FourCharCode, FourCharCode) override {
+  Result<> setCodes(const DiskPath& path, FourCharCode, FourCharCode) override {
     ++codesRefused;
-    return Failure{path, Attempt::setCodes, std::make_error_code(std::errc::not_supported)};
+    return Failure{path.text(), Attempt::setCodes, std::make_error_code(std::errc::not_supported)};
   }
   mutable int attributeReads = 0, listings = 0;
   int codesRefused = 0;
@@ -109,12 +109,12 @@ TEST(DictionaryCreation, aMissingFolderIsAFailureThatChangesNothing) {
   DictionaryWorld world;
   world.put({"a.eud2"});
   DictController controller = world.list(user);
-  std::filesystem::remove_all(world.dictionaryFolder());
+  std::filesystem::remove_all(world.dictionaryFolder().text());
   bool isLoaded = true;
   EXPECT_FALSE(controller.createDictionary("n.eud2", isLoaded));
   EXPECT_TRUE(isLoaded);
   EXPECT_EQ(entryNames(controller), Names{"a.eud2"}) << "nothing is scanned again";
-  EXPECT_FALSE(std::filesystem::exists(world.dictionaryFolder()));
+  EXPECT_FALSE(std::filesystem::exists(world.dictionaryFolder().text()));
 }
 
 TEST(DictionaryCreation, aListThatWasNeverSetUpCreatesNothing) {

@@ -37,7 +37,7 @@ TEST(DictionaryScan, aFolderThatVanishesLeavesNoEntriesOfTheLastScan) {
   world.put({"a.TRet"});
   DictController controller = world.list();
   controller.updateDictionary({"a.TRet"});
-  std::filesystem::remove_all(world.dictionaryFolder());
+  std::filesystem::remove_all(world.dictionaryFolder().text());
   EXPECT_FALSE(controller.initializeDictionary());
   ASSERT_TRUE(controller.allDictionaries());
   EXPECT_TRUE(controller.allDictionaries()->empty());
@@ -48,7 +48,7 @@ TEST(DictionaryScan, aFolderThatIsNoAbsolutePathListsNothing) {
   DictionaryWorld world;
   DictController controller(world.services());
   for (const char* folder : {"", ".", "dictionaries"}) {
-    EXPECT_FALSE(controller.initializeDictController(technical, folder, EJ)) << folder;
+    EXPECT_FALSE(controller.initializeDictController(technical, DiskPath(folder), EJ)) << folder;
   }
 }
 
@@ -113,7 +113,7 @@ class TypeCodes : public testing::Test {
   void putWithType(const DictionaryWorld& world, const char* name, FourCharCode type) {
     world.put({name});
     DictionaryWorld& writable = const_cast<DictionaryWorld&>(world);
-    ASSERT_TRUE(writable.files.setCodes(world.path(name), type, blankCreator));
+    ASSERT_TRUE(writable.files.setCodes(DiskPath(world.path(name)), type, blankCreator));
   }
 };
 

@@ -28,7 +28,7 @@ inline constexpr Direction EJ = Direction::englishToJapanese, JE = Direction::ja
 // differs from its key.
 struct DictionaryWorld {
   explicit DictionaryWorld(const std::string& above = std::filesystem::temp_directory_path().string())
-      : folder(above), locations("/", folder.path()), files(locations), bundle(files, folder / "resources", {"en"}) {
+      : folder(above), locations("/", folder.path()), files(locations), bundle(files, folder.at("resources"), {"en"}) {
     for (const char* key : {"TechECorwell6", "TechJCorwell6", "NameJCorwell6", "NameJCorwellAbbrev", "NameECorwell6",
                             "NameECorwellAbbrev", "EJCommonUD", "JECommonUD", "EJCommonUTMA", "JECommonUTMA"}) {
       setText(key, "«" + std::string(key) + "»");
@@ -48,9 +48,9 @@ struct DictionaryWorld {
   }
   void take(const std::string& name) const { std::filesystem::remove_all(path(name)); }
   std::string path(const std::string& name) const { return folder / ("dictionaries/" + name); }
-  std::string dictionaryFolder() const { return folder / "dictionaries"; }
+  DiskPath dictionaryFolder() const { return folder.at("dictionaries"); }
   DictController::Services services() { return servicesOver(files); }
-  DictController::Services servicesOver(FileService& other) { return {other, texts, bundle, paths}; }
+  DictController::Services servicesOver(FileService& other) { return {other, texts, bundle, paths, locations}; }
   DictController list(DictionaryKind kind = technical, Direction direction = EJ) {
     DictController controller(services());
     controller.initializeDictController(kind, dictionaryFolder(), direction);

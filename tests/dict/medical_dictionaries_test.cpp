@@ -50,7 +50,7 @@ struct MedicalWorld : StylePaneWorld {
     return !flags.empty();
   }
 
-  MedicalDictionaries medical{files, texts, defaults, store};
+  MedicalDictionaries medical{files, locations, texts, defaults, store};
   std::string log;
 };
 
@@ -191,7 +191,7 @@ TEST_P(MedicalRows, runOnceWhenTheirDataAppears) {
   EXPECT_EQ(world.list(GetParam().direction), GetParam().after);
   EXPECT_EQ(world.list(std::string_view(GetParam().direction) == "EJ" ? "JE" : "EJ"), Array{G});
 
-  const UserDefaults anotherRun(world.files, world.folder / "defaults.plist");
+  const UserDefaults anotherRun(world.files, world.folder.at("defaults.plist"));
   ASSERT_NE(anotherRun.find(GetParam().flag), nullptr);
   EXPECT_EQ(*anotherRun.find(GetParam().flag), PropertyList(true));
   world.openLists({G}, {G});

@@ -33,7 +33,7 @@ class NewDictionaryTest : public testing::Test {
     world_.takeLog();
     world_.newDictionary.newDicOKButtonAction();
   }
-  bool isThere(const std::string& path) const { return world_.files.isThere(path); }
+  bool isThere(const std::string& path) const { return world_.files.isThere(DiskPath(path)); }
   PickerWorld world_;
 };
 
@@ -132,7 +132,7 @@ TEST_F(NewDictionaryTest, eachKindAndDirectionLandsInItsFolderAndSavesTheList) {
                         {13, world_.memoryFolder() + "/N.jtm", "jeTMATable", DictionaryWorld::japaneseTemplate, 2}};
   for (const Made& made : cases) {
     create(made.tag, "N");
-    EXPECT_EQ(world_.files.read(made.path), made.content);
+    EXPECT_EQ(world_.files.read(DiskPath(made.path)), made.content);
     Log log = world_.takeLog();
     ASSERT_EQ(log.size(), 5U);
     EXPECT_EQ(log[1], "posted " + lastPathComponent(made.path));

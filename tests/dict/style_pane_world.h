@@ -76,7 +76,7 @@ struct StylePaneWorld : DictionaryWorld {
   }
   void showLists(const Names& english, const Names& japanese) {
     editing.ejTDController().initializeDictController(technical, dictionaryFolder(), EJ);
-    editing.jeTDController().initializeDictController(technical, folder / "japanese", JE);
+    editing.jeTDController().initializeDictController(technical, folder.at("japanese"), JE);
     editing.ejTDController().updateDictionary(english);
     editing.jeTDController().updateDictionary(japanese);
     outlets.ejTDTable.reloadData();
@@ -103,10 +103,10 @@ struct StylePaneWorld : DictionaryWorld {
     return list != nullptr ? *list : Array{"(absent)"};
   }
 
-  std::string stylePath = folder / "styles.plist";
+  DiskPath stylePath = folder.at("styles.plist");
   EngineNone engine;
-  UserDefaults defaults{files, folder / "defaults.plist"};
-  StyleStore store{files, engine, defaults, stylePath, folder / "seed.plist"};
+  UserDefaults defaults{files, folder.at("defaults.plist")};
+  StyleStore store{files, engine, defaults, stylePath, folder.at("seed.plist")};
   MenuOutlets menu;
   FakeWorkspace workspace;
   ListOutlets outlets;

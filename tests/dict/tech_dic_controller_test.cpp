@@ -157,15 +157,15 @@ TEST(TechDicController, runsModallyForADirectionAndKeepsItsLists) {
 
 TEST(TechDicController, opensTheFolderOfAKindInTheDirectionItWasOpenedFor) {
   PickerWorld world;
-  const std::string english = world.paths.tarvoPathTechnicalDicEngFolderURL();
-  const std::string japanese = world.paths.tarvoPathTechnicalDicJpnFolderURL();
+  const std::string english = world.paths.tarvoPathTechnicalDicEngFolderURL().text();
+  const std::string japanese = world.paths.tarvoPathTechnicalDicJpnFolderURL().text();
   world.controller.OpenFolder(0);
   world.controller.openJEList();
   world.controller.OpenFolder(0);
   world.controller.openEJList();
   for (const int tag : {0, 1, 2, 3, -1}) world.controller.OpenFolder(tag);
-  EXPECT_EQ(world.workspace.opened, (Names{english, japanese, english, world.paths.tarvoPathUserDicFolderURL(),
-                                           world.paths.tarvoPathUserTmaFolderURL()}));
+  EXPECT_EQ(world.workspace.opened, (Names{english, japanese, english, world.paths.tarvoPathUserDicFolderURL().text(),
+                                           world.paths.tarvoPathUserTmaFolderURL().text()}));
 }
 
 TEST(TechDicController, theFilterHidesRowsAndChangesNoTick) {
@@ -315,7 +315,7 @@ TEST(TechDicController, aCreatedDictionaryOfAnotherKindIsLost) {
 
 TEST(TechDicController, aRunningDictionaryToolIsToldAfterTheListHasChanged) {
   PickerWorld world;
-  world.workspace.running = {world.paths.tarvoPathGetAppleyPath(4)};
+  world.workspace.running = {world.paths.tarvoPathGetAppleyPath(4).text()};
   ASSERT_FALSE(world.workspace.running.front().empty());
   EXPECT_TRUE(world.controller.isStartedApplication(4));
   world.controller.setCreatedDictionary("m", user);

@@ -18,7 +18,7 @@ class Diagnosis : public testing::Test, protected AddinWorld {
     resource("Mail/Tarvo/a.scpt", "a");
     resource("Mail/Tarvo/b.scpt", "b");
   }
-  AddinDiagnosis of(const AddinEntry& entry) const { return diagnoseAddin(entry, files, bundle); }
+  AddinDiagnosis of(const AddinEntry& entry) const { return diagnoseAddin(entry, files, locations, bundle); }
   const AddinEntry word = word2011();
   const AddinEntry mail = with(appleMail(), installFolderPath, installFolder(appleMail()));
 };
@@ -33,15 +33,15 @@ TEST_F(Diagnosis, findsNothingInTheWayOfACleanInstall) {
   }
   EXPECT_EQ(of(word).table, "office");
   EXPECT_EQ(of(mail).table, "mail");
-  EXPECT_EQ(of(word).item, "/Applications/O11/Office/Startup/Word/Tarvo.dotm");
+  EXPECT_EQ(of(word).places.item, real("/Applications/O11/Office/Startup/Word/Tarvo.dotm"));
   EXPECT_FALSE(files.uses().empty()) << "it only lists";
   for (const FaultyFiles::Use& use : files.uses()) EXPECT_EQ(use.operation, FaultyFiles::Operation::list);
 }
 
 TEST_F(Diagnosis, namesEverythingThatIsMissing) {
   const AddinDiagnosis found = of(with(word, installMacroName, "Macros/2011/None.dotm"));
-  EXPECT_EQ(found.missing,
-            (Rows{"/Applications/O11/Word.app", "Macros/2011/None.dotm", "/Applications/O11/Office/Startup/Word"}));
+  EXPECT_EQ(found.missing, (Rows{real("/Applications/O11/Word.app").text(), "Macros/2011/None.dotm",
+                                 real("/Applications/O11/Office/Startup/Word").text()}));
   EXPECT_EQ(found.obstacle->cause, Reason::missingResource);
 }
 
@@ -66,14 +66,14 @@ TEST_F(Diagnosis, tellsWhyScriptsCannotBeInstalled) {
   const AddinDiagnosis partial = of(mail);
   EXPECT_TRUE(partial.isPartial);
   EXPECT_TRUE(partial.differs());
-  EXPECT_EQ(partial.missing, Rows{partial.item + "/a.scpt"});
+  EXPECT_EQ(partial.missing, Rows{(partial.places.item / "a.scpt").text()});
   EXPECT_EQ(partial.obstacle->cause, std::errc::file_exists);
-  EXPECT_EQ(partial.obstacle->path, partial.item + "/b.scpt");
-  ASSERT_TRUE(disk.remove(partial.item));
+  EXPECT_EQ(partial.obstacle->path, (partial.places.item / "b.scpt").text());
+  ASSERT_TRUE(disk.remove(partial.places.item));
   folder.makeFolder(item(mail));
   EXPECT_FALSE(of(mail).obstacle) << "an empty folder is in nobody's way";
   EXPECT_TRUE(of(mail).isPartial);
-  ASSERT_TRUE(disk.remove(partial.item));
+  ASSERT_TRUE(disk.remove(partial.places.item));
   folder.write(item(mail), "");
   EXPECT_EQ(of(mail).obstacle->cause, std::errc::not_a_directory);
   folder.makeFolder("resources/Mail/Empty");
@@ -85,7 +85,8 @@ TEST_F(Diagnosis, tellsWhyScriptsCannotBeInstalled) {
 TEST_F(Diagnosis, ofScriptsWithoutTheirFolderSeesNothingInTheWay) {
   const AddinDiagnosis found = of(mail);
   EXPECT_FALSE(found.obstacle) << "the folder is made";
-  EXPECT_EQ(found.missing, (Rows{"/Applications/Mail.app", "/Users/taro/Library/Scripts/Applications/Mail"}));
+  EXPECT_EQ(found.missing, (Rows{real("/Applications/Mail.app").text(),
+                                 real("/Users/taro/Library/Scripts/Applications/Mail").text()}));
 }
 
 TEST_F(Diagnosis, tellsWhyScriptsCannotBeRemovedAndAgreesWithARemoval) {

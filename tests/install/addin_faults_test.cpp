@@ -166,9 +166,9 @@ class Trial {
   bool status() { return *table().cell("Value", 0).checked; }
   // What the box would show after another start; nothing when the row would not be listed.
   std::optional<bool> nextStatus() {
-    UserDefaults fresh(world_.disk, "/nowhere.plist");
+    UserDefaults fresh(world_.disk, DiskPath("/nowhere.plist"));
     AddinOutlets outlets;
-    AddinLists lists({world_.disk, world_.bundle, fresh}, AddinWorld::home, world_.mailScripts, outlets);
+    AddinLists lists({world_.disk, world_.bundle, fresh, world_.locations}, world_.mailScripts, outlets);
     EXPECT_TRUE(lists.searchOfficeApplication());
     const std::vector<AddinEntry>& rows = kind_.isMail ? lists.fMailAddinArray : lists.fOfficeAddinArray;
     return rows.empty() ? std::nullopt : std::optional(isMarkedInstalled(rows[0]));
@@ -181,12 +181,11 @@ class Trial {
   std::string message(const char* end) const {
     return std::string("«") + kind_.prefix() + (on_ ? "Install" : "UnInstall") + end + "»";
   }
-  std::string real(const std::string& path) const { return world_.locations.resolve(path); }
-  std::string installFolder() const { return real(AddinWorld::installFolder(kind_.entry())); }
+  std::string installFolder() const { return world_.real(AddinWorld::installFolder(kind_.entry())).text(); }
   std::map<std::string, std::string> outside() const { return everythingBut(world_.folder.path(), installFolder()); }
 
   Result<> suffer(Fault fault, const Use& use, const Perform& perform) const {
-    const std::string target = real(use.path);
+    const std::string& target = use.path;
     switch (fault) {
       case Fault::fullDisk: {
         if (use.operation == Operation::makeFolder) return FaultyFiles::forbid(use, perform);
@@ -298,14 +297,14 @@ TEST(FaultyOldScripts, areSilentAndLeaveTheRowTrue) {
     for (const char* name : {"/a", "/b", "/sub/c"}) world.folder.write(item + name, "old");
     world.folder.makeFolder(item + "/../«MailTarvoFolderName»");
     ASSERT_TRUE(world.lists.searchOfficeApplication());
-    const std::string installFolder = world.locations.resolve(AddinWorld::installFolder(appleMail()));
+    const std::string installFolder = world.real(AddinWorld::installFolder(appleMail())).text();
     const auto before = everythingBut(world.folder.path(), installFolder);
     bool wasDisturbed = false;
     world.files.disturb(use, [&](const Use& disturbed, const Perform& perform) {
       wasDisturbed = true;
       return FaultyFiles::forbid(disturbed, perform);
     });
-    OldScripts({world.files, world.panels, world.texts}, world.lists, world.mailScripts, AddinWorld::home)
+    OldScripts({world.files, world.panels, world.texts}, world.lists, world.mailScripts, world.locations.home())
         .OldscriptUninstall();
     EXPECT_EQ(before, everythingBut(world.folder.path(), installFolder)) << use;
     EXPECT_EQ(isMarkedInstalled(world.lists.fMailAddinArray.at(0)), world.folder.exists(item)) << use;

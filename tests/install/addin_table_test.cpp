@@ -31,7 +31,7 @@ class AddinTables : public testing::Test, protected AddinWorld {
 };
 
 TEST_F(AddinTables, keepWhyATickFailedWithItsRow) {
-  const Failure failure{"/Applications/O11/Office/Startup/Word/Tarvo.dotm", Attempt::write,
+  const Failure failure{real("/Applications/O11/Office/Startup/Word/Tarvo.dotm").text(), Attempt::write,
                         std::make_error_code(std::errc::permission_denied)};
   failFirstUse();
   office.userTick(0, true);

@@ -75,7 +75,6 @@ struct AddinWorld {
   static constexpr const char* settings = "/Users/taro/Library/Preferences/manager.plist";
 
   AddinWorld() {
-    locations.leaveAsIs(folder / "resources");
     folder.makeFolder("root/Users/taro");
     folder.makeFolder("resources");
     panes.tab.setPages({{"StyleManager", "1"}, {"OA", "2"}, {"MT", "3"}});
@@ -116,6 +115,7 @@ struct AddinWorld {
     overlay.set(key, text);
     texts.overlay(overlay);
   }
+  DiskPath real(const std::string& path) const { return locations.onDisk(ProductPath(path)); }
   static std::string inRoot(const std::string& path) { return "root" + path; }  // for folder
   // Where a record, shipped or loaded, installs to.
   static std::string installFolder(const AddinEntry& entry) {
@@ -158,16 +158,16 @@ struct AddinWorld {
   Locations locations{folder / "root", folder / "root/Users/taro"};
   PosixFiles disk{locations};
   FaultyFiles files{disk};
-  Bundle bundle{files, folder / "resources", {"en"}};
+  Bundle bundle{files, folder.at("resources"), {"en"}};
   Texts texts;
-  UserDefaults defaults{files, settings};
+  UserDefaults defaults{files, real(settings)};
   AddinOutlets outlets;
   Panes panes;
   Log log;
   FakePanels panels{log};
-  MailScriptInstaller mailScripts{files, bundle, home};
-  MacroInstaller macros{files, bundle};
-  AddinLists lists{{files, bundle, defaults}, home, mailScripts, outlets};
+  MailScriptInstaller mailScripts{files, bundle, locations};
+  MacroInstaller macros{files, bundle, locations};
+  AddinLists lists{{files, bundle, defaults, locations}, mailScripts, outlets};
   AddinTable table{{panels, texts}, lists, macros, mailScripts, outlets, panes.tab};
 };
 

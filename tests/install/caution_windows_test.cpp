@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "install/addin_outlets.h"
+#include "platform/services/locations.h"
 #include "tests/support/fake_shell.h"
 #include "tests/support/memory_files.h"
 
@@ -23,7 +24,8 @@ class Cautions : public testing::Test {
   FakeRunLoop runLoop;
   Windows windows{host, runLoop};
   FakeWorkspace workspace;
-  CautionWindows cautions{outlets, windows, files, workspace};
+  Locations locations{"/", "/home"};
+  CautionWindows cautions{outlets, windows, files, locations, workspace};
 };
 
 TEST_F(Cautions, dependOnTheSystemVersion) {

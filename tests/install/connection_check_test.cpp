@@ -53,7 +53,7 @@ class ConnectionCheckTest : public testing::Test {
   FakeHost host_;
   FakeRunLoop runLoop_;
   Texts texts_;
-  UserDefaults defaults_{files_, "/defaults.plist"};
+  UserDefaults defaults_{files_, DiskPath("/defaults.plist")};
   NotificationCenter notifications_;
   Windows windows_{host_, runLoop_};
   Main main_;

@@ -14,7 +14,9 @@ namespace {
 
 class DirectoryCreation : public testing::Test {
  protected:
-  Result<> make(const std::string& relativePath) { return createDirectoryFromPath(files, relativePath, folder.path()); }
+  Result<> make(const std::string& relativePath) {
+    return createDirectoryFromPath(files, relativePath, DiskPath(folder.path()));
+  }
   TemporaryFolder folder;
   Locations locations{"/", folder.path()};
   PosixFiles files{locations};
@@ -40,7 +42,7 @@ TEST_F(DirectoryCreation, leavesLevelsThatAreThereAlone) {
 }
 
 TEST_F(DirectoryCreation, makesTheMissingBaseToo) {
-  EXPECT_TRUE(createDirectoryFromPath(files, "a", folder / "new base"));
+  EXPECT_TRUE(createDirectoryFromPath(files, "a", folder.at("new base")));
   EXPECT_TRUE(folder.exists("new base/a"));
 }
 

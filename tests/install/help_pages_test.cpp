@@ -45,7 +45,7 @@ class HelpPagesTest : public testing::Test {
   }
 
   MemoryFiles files_;
-  Bundle bundle_{files_, "/resources", {"ja", "en"}};
+  Bundle bundle_{files_, DiskPath("/resources"), {"ja", "en"}};
   Locations locations_{"/", "/home"};
   Texts texts_;
   FakeWorkspace workspace_;

@@ -26,12 +26,12 @@ class MailScriptFolder : public testing::Test {
     folder.write(systemVersionFile, "<plist version=\"1.0\"><dict><key>ProductVersion</key><string>" + version +
                                         "</string></dict></plist>");
   }
-  Result<> create() { return MailScriptInstaller(files, bundle, "/Users/taro").createMailScriptFolder(); }
+  Result<> create() { return MailScriptInstaller(files, bundle, locations).createMailScriptFolder(); }
 
   TemporaryFolder folder;
   Locations locations{folder.path(), folder / "Users/taro"};
   PosixFiles files{locations};
-  Bundle bundle{files, folder / "resources", {"en"}};
+  Bundle bundle{files, folder.at("resources"), {"en"}};
 };
 
 struct VersionCase {
@@ -45,7 +45,7 @@ TEST_F(MailScriptFolder, liesWhereTheSystemVersionPutsIt) {
                                {"10.10", oldFolder, newFolder},
                                {"no number", oldFolder, newFolder}};
   for (const VersionCase& running : cases) {
-    ASSERT_TRUE(files.remove("/Users"));
+    ASSERT_TRUE(files.remove(folder.at("Users")));
     folder.makeFolder("Users/taro");
     runOn(running.version);
     EXPECT_TRUE(create()) << running.version;
@@ -149,7 +149,7 @@ TEST_F(MailScripts, leaveOutWhatIsNotThereInTheProduct) {
 }
 
 TEST_F(MailScripts, makeTheInstallFolderThatHasVanished) {
-  ASSERT_TRUE(disk.remove("/Users/taro/Library"));
+  ASSERT_TRUE(disk.remove(real("/Users/taro/Library")));
   EXPECT_TRUE(install());
   EXPECT_EQ(folder.mode(inRoot(installFolder(mail))), 0777U);
   EXPECT_EQ(folder.names(target), (Rows{"a.scpt", "b.scpt", "sub"}));

@@ -115,7 +115,7 @@ class OddWorld : public AddinWorld {
   }
 
   void use() {
-    OldScripts({files, panels, texts}, lists, mailScripts, home).OldscriptUninstall();
+    OldScripts({files, panels, texts}, lists, mailScripts, locations.home()).OldscriptUninstall();
     for (const int page : {1, 2}) {
       panes.tab.selectPage(page);
       TableView& view = page == 1 ? outlets.officeTableView : outlets.mailTableView;
@@ -127,13 +127,13 @@ class OddWorld : public AddinWorld {
     if (lists.fDefaultOfficeSetArray) {
       for (const AddinLists::SharedEntry& shipped : *lists.fDefaultOfficeSetArray) {
         for (const char* creator : {"MSWD", "OPIM"}) {
-          search_.getAddOfficeDictionary(*shipped, 14, "/Applications/Word.app", creator, "/Startup");
+          search_.getAddOfficeDictionary(*shipped, 14, real("/Applications/Word.app"), creator, real("/Startup"));
         }
       }
     }
     lists.reloadTables();
     for (const auto* rows : {&lists.fOfficeAddinArray, &lists.fMailAddinArray}) {
-      for (const AddinEntry& row : *rows) diagnoseAddin(row, files, bundle);
+      for (const AddinEntry& row : *rows) diagnoseAddin(row, files, locations, bundle);
     }
   }
 
@@ -146,7 +146,7 @@ class OddWorld : public AddinWorld {
     for (std::size_t i = 0; i < before.size(); ++i) {
       EXPECT_EQ(with(lists.fOfficeAddinArray[i], installStatus, false), with(before[i], installStatus, false));
     }
-    UserDefaults fromDisk(disk, settings);
+    UserDefaults fromDisk(disk, real(settings));
     EXPECT_NE(fromDisk.find(office), nullptr);
   }
 

@@ -43,7 +43,7 @@ class FolderSearch : public testing::Test, protected AddinWorld {
     folder.write(inRoot(chosen) + "/" + name + "/Contents/Info.plist", writePropertyList(information));
   }
   bool offer(const AddinEntry& shipped, int version, const std::string& signature) {
-    return search.getAddOfficeDictionary(shipped, version, chosen + "/App.app", signature, chosen);
+    return search.getAddOfficeDictionary(shipped, version, real(chosen) / "App.app", signature, real(chosen));
   }
   std::string pathOf(const AddinEntry& row) const { return addinText(row, appPath); }
   std::string placeOf(const AddinEntry& row) const { return addinText(row, installFolderPath); }
@@ -57,7 +57,7 @@ class FolderSearch : public testing::Test, protected AddinWorld {
 };
 
 TEST_F(FolderSearch, asksTheDesktopForAVersionInFourLines) {
-  EXPECT_EQ(search.getApplicationVer("/Volumes/D/Office/Word.app"), 14);
+  EXPECT_EQ(search.getApplicationVer(real("/Volumes/D/Office/Word.app")), 14);
   ASSERT_EQ(scripts.sources.size(), 1U);
   EXPECT_EQ(scripts.sources[0],
             "tell application \"Finder\" \n set appInfo to info for file \"D:Office:Word.app\" \n set appVer to short "
@@ -71,7 +71,7 @@ TEST_F(FolderSearch, readsTheLeadingNumberOfAVersion) {
   } cases[] = {{"14.0.0", 14}, {"14", 14}, {"12.3", 12}, {" 14", 14}, {"v14", 0}, {std::nullopt, 0}, {"", 0}};
   for (const auto& one : cases) {
     scripts.answer = one.answer;
-    EXPECT_EQ(search.getApplicationVer("/a"), one.version) << one.answer.value_or("nothing");
+    EXPECT_EQ(search.getApplicationVer(real("/a")), one.version) << one.answer.value_or("nothing");
   }
 }
 

@@ -25,7 +25,7 @@ class OldScriptsTest : public testing::Test, protected AddinWorld {
     ASSERT_TRUE(lists.searchOfficeApplication());
     old.OldscriptUninstall();
   }
-  OldScripts old{{files, panels, texts}, lists, mailScripts, home};
+  OldScripts old{{files, panels, texts}, lists, mailScripts, locations.home()};
 };
 
 constexpr const char* mailName = "MailTarvoFolderName";
@@ -117,7 +117,7 @@ TEST_F(OldScriptsTest, stayWithoutAShippedList) {
   setUp({appleMail()});
   leaveOld(appleMail(), mailName);
   remember({with(appleMail(), installFolderPath, installFolder(appleMail()))});
-  ASSERT_TRUE(disk.remove(folder / "resources/DefaultAddin.plist"));
+  ASSERT_TRUE(disk.remove(folder.at("resources/DefaultAddin.plist")));
   launch();
   EXPECT_TRUE(isLeft(appleMail()));
   EXPECT_EQ(log, Log{});

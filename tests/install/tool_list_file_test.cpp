@@ -27,8 +27,8 @@ constexpr const char* listFolder = "Users/taro/Library/Preferences/Wordhaven";
 class NotingFiles : public PosixFiles {
  public:
   NotingFiles(const Locations& locations, std::string& log) : PosixFiles(locations), log_(log) {}
-  Result<> write(const std::string& path, std::string_view bytes) override {
-    log_ += "write:" + path.substr(path.rfind('/') + 1) + " ";
+  Result<> write(const DiskPath& path, std::string_view bytes) override {
+    log_ += "write:" + path.name() + " ";
     return PosixFiles::write(path, bytes);
   }
 
@@ -60,9 +60,9 @@ class ToolList : public testing::Test {
   NotingFiles files{locations, log};
   ProductPaths paths{locations, Dictionary{}};
   TarvoCommonModule module{paths};
-  UserDefaults defaults{files, "/Users/taro/Library/Preferences/manager.plist"};
+  UserDefaults defaults{files, folder.at("Users/taro/Library/Preferences/manager.plist")};
   ToolListOutlets outlets;
-  ToolListFile toolList{files, defaults, module, outlets, "/Users/taro/Library/Preferences/Wordhaven/TarvoManager.txt"};
+  ToolListFile toolList{files, defaults, module, outlets, folder.at(listFile)};
 };
 
 TEST_F(ToolList, isEightLinesInOneFixedForm) {
@@ -109,7 +109,7 @@ TEST_F(ToolList, theChoiceIsRememberedBeforeTheFileIsWritten) {
   EXPECT_EQ(*defaults.find("Tool_Path"), PropertyList("tUD8"));
   EXPECT_EQ(*defaults.find("Tool_Action"), PropertyList(2));
   EXPECT_EQ(*defaults.find("Tool_Parameter"), PropertyList("doSearch"));
-  const UserDefaults anotherRun(files, "/Users/taro/Library/Preferences/manager.plist");
+  const UserDefaults anotherRun(files, folder.at("Users/taro/Library/Preferences/manager.plist"));
   EXPECT_EQ(*anotherRun.find("Tool_Action"), PropertyList(2));
 }
 
@@ -196,7 +196,7 @@ TEST_F(ToolList, isWrittenAnewThoughNothingChanged) {
 }
 
 TEST_F(ToolList, withoutItsFolderIsNotWrittenAndTheFolderNotMade) {
-  ASSERT_TRUE(files.remove("/Users/taro/Library/Preferences/Wordhaven"));
+  ASSERT_TRUE(files.remove(folder.at("Users/taro/Library/Preferences/Wordhaven")));
   choose(2);
   EXPECT_FALSE(folder.exists(listFolder));
   EXPECT_EQ(*defaults.find("Tool_Path"), PropertyList("tUD8"));

@@ -44,7 +44,7 @@ struct BoundControls {
   TemporaryFolder root;
   Product product{ProductOptions{.root = root.path(), .language = "en", .resources = TARVO_SOURCE_DIR "/resources"}};
   SampleOutlets outlets;
-  Binder binder{product.texts(), product.bundle(), product.locations(), Scheme::light};
+  Binder binder{product.texts(), product.bundle(), Scheme::light};
   QWidget window;
 
   BoundControls() {

@@ -52,9 +52,7 @@ struct DictionaryPage : testing::Test, test::TestWindow {
     hand->press(interface().newDictionary.ejUDNewButton);
     settle();
   }
-  QString folderOfDictionaries() {
-    return toQString(product->locations().resolve(product->paths().tarvoPathUserDicFolderURL()));
-  }
+  QString folderOfDictionaries() { return toQString(product->paths().tarvoPathUserDicFolderURL().text()); }
 
   std::optional<test::QtHand> hand;
 };

@@ -31,8 +31,7 @@ struct PanelsTest : testing::Test {
   AlertDialog& alert() { return *dynamic_cast<AlertDialog*>(QApplication::activeModalWidget()); }
   SomeOutlets outlets;
   QWidget host;
-  QtPanels panels{{[this](Window&) { return &host; }, [this](QDialog& sheet, Window&) { openSheet(sheet, host, 30); },
-                   [this](const std::string& path) { return folder / path; }}};
+  QtPanels panels{{[this](Window&) { return &host; }, [this](QDialog& sheet, Window&) { openSheet(sheet, host, 30); }}};
   test::TemporaryFolder folder;
   const Alert question{"Replace?", "The style is replaced.", {"Cancel", "Replace"}, ""};
 };
@@ -92,8 +91,8 @@ TEST_F(PanelsTest, aSavePanelIsASheetWhoseAnswerHasTheType) {
   folder.makeFolder("styles");
   for (const Saved& each : saved) {
     std::string answer;
-    panels.beginSavePanel(outlets.window, {"", each.type, "styles", each.name},
-                          [&](int code, const std::string& path) { answer = std::to_string(code) + " " + path; });
+    panels.beginSavePanel(outlets.window, {"", each.type, folder.at("styles"), each.name},
+                          [&](int code, const DiskPath& path) { answer = std::to_string(code) + " " + path.text(); });
     auto* sheet = dynamic_cast<SaveSheet*>(sheetOver(host));
     ASSERT_NE(sheet, nullptr);
     EXPECT_EQ(sheet->geometry().top(), host.mapToGlobal(QPoint(0, 30)).y());
@@ -111,8 +110,8 @@ TEST_F(PanelsTest, aCancelledSavePanelHasNoPath) {
   host.show();
   folder.makeFolder("styles");
   std::string answer;
-  panels.beginSavePanel(outlets.window, {"", "whstyle", "styles", "Beta"},
-                        [&](int code, const std::string& path) { answer = std::to_string(code) + path; });
+  panels.beginSavePanel(outlets.window, {"", "whstyle", folder.at("styles"), "Beta"},
+                        [&](int code, const DiskPath& path) { answer = std::to_string(code) + path.text(); });
   QTest::keyClick(sheetOver(host), Qt::Key_Escape);
   EXPECT_EQ(answer, "0");
 }
@@ -121,8 +120,8 @@ TEST_F(PanelsTest, aFolderThatIsTypedIsEntered) {
   host.show();
   folder.makeFolder("styles/inner");
   std::string answer;
-  panels.beginSavePanel(outlets.window, {"", "whstyle", "styles", "Beta"},
-                        [&](int code, const std::string&) { answer = std::to_string(code); });
+  panels.beginSavePanel(outlets.window, {"", "whstyle", folder.at("styles"), "Beta"},
+                        [&](int code, const DiskPath&) { answer = std::to_string(code); });
   auto* sheet = dynamic_cast<SaveSheet*>(sheetOver(host));
   sheet->findChild<QLineEdit*>("fileNameEdit")->setText("inner");
   sheet->accept();
@@ -146,7 +145,7 @@ TEST_F(PanelsTest, anOpenPanelTakesFilesOfItsTypeInAnyCase) {
     panel->findChild<QLineEdit*>("fileNameEdit")->setText(path);
     QMetaObject::invokeMethod(panel, "accept");
   });
-  EXPECT_EQ(panels.runOpenPanel({.title = "Select", .types = {"whstyle"}}), path.toStdString());
+  EXPECT_EQ(panels.runOpenPanel({.title = "Select", .types = {"whstyle"}}), DiskPath(path.toStdString()));
   QTimer::singleShot(0, &host, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
   EXPECT_EQ(panels.runOpenPanel({.title = "Select", .types = {"whstyle"}}), std::nullopt);
 }
@@ -160,7 +159,7 @@ TEST_F(PanelsTest, aFolderPanelTakesAFolder) {
     panel->findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(folder / "styles"));
     QMetaObject::invokeMethod(panel, "accept");
   });
-  EXPECT_EQ(panels.runOpenPanel({.title = "Select", .foldersOnly = true}), folder / "styles");
+  EXPECT_EQ(panels.runOpenPanel({.title = "Select", .foldersOnly = true}), folder.at("styles"));
 }
 
 TEST_F(PanelsTest, escapeIsTheButtonThatTheAlertNames) {

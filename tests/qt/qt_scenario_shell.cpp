@@ -48,12 +48,11 @@ void pressLater(int button) {
 QtScenarioShell::QtScenarioShell()
     : windows_(screen),
       panels_({[this](Window& window) { return windows_.widgetOf(window); },
-               [this](QDialog& sheet, Window& host) { windows_.hang(sheet, host); },
-               [](const std::string& path) { return path; }}) {}
+               [this](QDialog& sheet, Window& host) { windows_.hang(sheet, host); }}) {}
 
 void QtScenarioShell::programConstructed(Program& program) {
   const Services& services = program.services();
-  binder_.emplace(services.texts, services.bundle, services.locations, Scheme::light);
+  binder_.emplace(services.texts, services.bundle, Scheme::light);
   hand_.emplace(binder_->registry());
   windows_.open(program.interface(), program.windows(), *binder_, paneBuilders(program.interface(), *binder_));
   addDialogs(windows_, program.interface(), *binder_);

@@ -26,7 +26,7 @@ std::string textOf(const std::string& path) {
 std::string failureOf(const ScenarioFile& file, const ScenarioRoot& root, const std::string& text) {
   QtScenarioShell shell;
   ManualRunLoop clock;
-  ScenarioSession session({.product = scenarioProduct(file, root), .folder = file.folder}, shell, clock);
+  ScenarioSession session({.product = scenarioProduct(file, root), .folder = DiskPath(file.folder)}, shell, clock);
   if (!session.problem().empty()) return session.problem();
   std::ostringstream output;
   Interpreter interpreter(session, text, file.path, output);

@@ -118,7 +118,7 @@ TEST_F(SecondStart, theSamePlacesInOtherWordsAreTheSame) {
 
 TEST_F(SecondStart, whileTheFirstIsComingUpLosesNothing) {
   manager_ = std::make_unique<Manager>(product.options());
-  const std::string lock = product.folder / "root/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.lock";
+  const DiskPath lock = product.folder.at("root/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.lock");
   for (int i = 0; i < 5000 && InstanceLock(lock).state() == InstanceLock::State::held; ++i) QThread::msleep(1);
   const test::Ran second = start(product.options() + QStringList{"--open", "tGD8"});
   EXPECT_EQ(second.status, 0) << second.err;

@@ -70,8 +70,8 @@ TEST(QtWorkspace, startsAnApplicationByItsNameAndListsWhatRuns) {
   Dictionary list;
   list.set("RunningApplications", Array{"/Counted.app"});
   const ProductPaths paths(locations, list);
-  QtWorkspace workspace({locations, files, paths}, [] { return std::vector<std::string>{"/Runs.app"}; });
-  EXPECT_EQ(workspace.launchedApplications(), (std::vector<std::string>{"/Runs.app", "/Counted.app"}));
+  QtWorkspace workspace({files, paths}, [] { return std::vector{ProductPath("/Runs.app")}; });
+  EXPECT_EQ(workspace.launchedApplications(), (std::vector{ProductPath("/Runs.app"), ProductPath("/Counted.app")}));
 
   const std::string program = "Applications/Utilities/Some Editor.app/Contents/MacOS/Some Editor";
   const std::string trace = folder / "started";
@@ -104,8 +104,8 @@ TEST(CommandLine, takesOtherWordsAsFiles) {
   EXPECT_FALSE(line.error);
   ASSERT_EQ(line.files.size(), 3U);
   EXPECT_EQ(line.files[0], "/a/x.whstyle");
-  EXPECT_EQ(line.files[1], absolutePath("日本 1.whstyle"));
-  EXPECT_EQ(line.files[2], absolutePath("--odd"));
+  EXPECT_EQ(line.files[1], absolutePath("日本 1.whstyle").text());
+  EXPECT_EQ(line.files[2], absolutePath("--odd").text());
   EXPECT_EQ(line.product.home, "/h");
   EXPECT_FALSE(line.busName);
 }

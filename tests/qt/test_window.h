@@ -38,7 +38,7 @@ class TestWindow {
       answered.set("ConnectServer", true);
       folder.write(settings, writePropertyList(answered));
     }
-    shell.emplace(*product, *qApp, [] { return std::vector<std::string>(); });
+    shell.emplace(*product, *qApp, [] { return std::vector<ProductPath>(); });
     if (prepare) prepare();
     started = shell->start();
     settle();

@@ -247,7 +247,7 @@ TEST_F(MainWindowTest, aToolbarItemActsAgainAndStaysChosen) {
 
 TEST_F(MainWindowTest, whatCouldNotBeSavedIsSaidUntilItIs) {
   start();
-  const std::string path = product->locations().resolve(shell->program().rooms().store.path());
+  const std::string path = shell->program().rooms().store.path().text();
   std::filesystem::rename(path, path + ".away");
   std::filesystem::create_directory(path);  // nothing can replace a folder
   shell->program().rooms().store.writeTarvoStylePlist();
@@ -287,18 +287,18 @@ TEST_F(MainWindowTest, theTourLeavesPicturesAndEndsTheProgram) {
   asksAboutTheService = true;
   start();
   testing::internal::CaptureStdout();
-  EXPECT_TRUE(takeGuidedTour(*shell, *product, folder / "pictures"));
+  EXPECT_TRUE(takeGuidedTour(*shell, folder / "pictures"));
   const std::string printed = testing::internal::GetCapturedStdout();
   EXPECT_TRUE(shell->program().isTerminated());
   EXPECT_EQ(folder.names("pictures").size(), 9U);
-  EXPECT_NE(printed.find(product->locations().resolve(shell->program().rooms().store.path())), std::string::npos);
+  EXPECT_NE(printed.find(shell->program().rooms().store.path().text()), std::string::npos);
 }
 
 TEST_F(MainWindowTest, aTourThatCannotLeavePicturesFails) {
   start();
   folder.write("pictures", "a file");
   testing::internal::CaptureStderr();
-  EXPECT_FALSE(takeGuidedTour(*shell, *product, folder / "pictures"));
+  EXPECT_FALSE(takeGuidedTour(*shell, folder / "pictures"));
   EXPECT_NE(testing::internal::GetCapturedStderr(), "");
 }
 

@@ -40,7 +40,7 @@ TEST_P(RandomListEdits, keepControlsStoreAndFileAlike) {
   MemoryWindows& windows = shell.windowHost();
   PlainLists lists = root_.plainLists();
   std::mt19937 random(seed());
-  PlistFile file(session.product().files(), root_.styleFile());
+  PlistFile file(session.product().files(), DiskPath(root_.styleFile()));
   const int count = editCount() / static_cast<int>(seeds().size());
   for (int edit = 1; edit <= count; ++edit) {
     const ListEdit next = lists.randomEdit(random);

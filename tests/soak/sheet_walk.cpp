@@ -20,7 +20,7 @@ constexpr const char* styleFile = "Library/Preferences/Wordhaven/TarvoStyle2009.
 SheetWalk::SheetWalk(unsigned seed)
     : root_("addins", placeOfSoaks()),
       session_({.product = scenarioProduct({.options = {"--strings", "none"}, .resources = "Bundle"}, root_),
-                .folder = root_.home()},
+                .folder = DiskPath(root_.home())},
                shell_, clock_),
       random_(seed) {
   const std::filesystem::path styles = root_.home() + "/" + styleFile;
@@ -93,7 +93,7 @@ void SheetWalk::knock() {
   switch (upTo(4)) {
     case 0: return program().requests().eventText("tQB8");
     case 1: return program().requests().event(std::nullopt);  // shows the Office pane
-    case 2: return program().requests().openStyleFile(root_.home() + "/" + styleFile);
+    case 2: return program().requests().openStyleFile(DiskPath(root_.home()) / styleFile);
     default: return program().notifications().post("SendPlistNoti");
   }
 }
@@ -118,7 +118,7 @@ void SheetWalk::workControl() {
   Control& control = *reachable[static_cast<std::size_t>(upTo(static_cast<int>(reachable.size())))];
   last_ = control.name();
   Hand& hand = shell_.hand();
-  session_.panels().answerOpen(root_.home() + "/" + styleFile);
+  session_.panels().answerOpen(DiskPath(root_.home()) / styleFile);
   switch (control.kind()) {
     case Control::Kind::button: return hand.press(static_cast<Button&>(control));
     case Control::Kind::menu: return hand.choose(static_cast<MenuItem&>(control));
@@ -141,7 +141,7 @@ bool SheetWalk::endOneSheet() {
   }
   for (const Covers::Sheet& sheet : sheets) {
     if (sheet.window != nullptr) continue;
-    upTo(2) == 0 ? session_.panels().answerCancel() : session_.panels().answerSave(root_.home() + "/exported");
+    upTo(2) == 0 ? session_.panels().answerCancel() : session_.panels().answerSave(DiskPath(root_.home()) / "exported");
     return true;
   }
   return false;

@@ -73,7 +73,7 @@ ScenarioOptions SoakRoot::options() const {
   options.product.home = home();
   options.product.language = "en";
   options.product.strings = {"none"};
-  options.folder = path();
+  options.folder = DiskPath(path());
   return options;
 }
 

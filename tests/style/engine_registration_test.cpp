@@ -26,7 +26,7 @@ class EngineRegistrationTest : public testing::Test {
  protected:
   StyleStore storeOf(const Dictionary& root) {
     files_.put("/styles.plist", writePropertyList(root));
-    StyleStore store(files_, engine_, defaults_, "/styles.plist", "/seed.plist");
+    StyleStore store(files_, engine_, defaults_, DiskPath("/styles.plist"), DiskPath("/seed.plist"));
     EXPECT_TRUE(store.readUserStyles());
     store.setCurrentID("MG");
     store.setAwakening(false);
@@ -37,7 +37,7 @@ class EngineRegistrationTest : public testing::Test {
   Log log_;
   MemoryFiles files_;
   FakeEngine engine_{log_};
-  UserDefaults defaults_{files_, "/defaults.plist"};
+  UserDefaults defaults_{files_, DiskPath("/defaults.plist")};
 };
 
 TEST_F(EngineRegistrationTest, sendsEveryRecordAndNothingBeside) {

@@ -59,8 +59,8 @@ struct ExchangeWorld {
   FakeRunLoop runLoop;
   Texts texts;
   Locations locations{"/product", "/product/Users/taro"};
-  UserDefaults defaults{files, "/defaults.plist"};
-  StyleStore store{files, engine, defaults, "/styles.plist", "/seed.plist"};
+  UserDefaults defaults{files, DiskPath("/defaults.plist")};
+  StyleStore store{files, engine, defaults, DiskPath("/styles.plist"), DiskPath("/seed.plist")};
   PaneOutlets pane;
   ExportOutlets outlets;
   PaneAlerts alerts{panels, texts};

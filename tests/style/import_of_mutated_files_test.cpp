@@ -86,7 +86,7 @@ TEST_P(MutatedImport, isRefusedWholeOrTakenWhole) {
     const PropertyList before = world_.store.root();
     world_.files.put("/in.whstyle", bytes);
     world_.log.clear();
-    const bool isTaken = world_.exchange.install("/in.whstyle", 3, "Beta");
+    const bool isTaken = world_.exchange.install(DiskPath("/in.whstyle"), 3, "Beta");
     EXPECT_EQ(isTaken, isStyle(bytes));
     isTaken ? expectImport(bytes) : expectRefusal(before);
     taken += isTaken ? 1 : 0;

@@ -22,9 +22,8 @@ class OptionEditingTest : public testing::Test {
   OptionEditingTest()
       : locations_("/", folder_.path()),
         files_(locations_),
-        defaults_(files_, folder_ / "defaults.plist"),
-        store_(files_, engine_, defaults_, folder_ / "styles.plist", folder_ / "seed.plist") {
-    locations_.leaveAsIs(folder_.path());
+        defaults_(files_, folder_.at("defaults.plist")),
+        store_(files_, engine_, defaults_, folder_.at("styles.plist"), folder_.at("seed.plist")) {
     for (std::size_t i = 0; i < indexOptions().size(); ++i) {
       outlets_.indexPopups[i].setTag(indexOptions()[i].popupTag);
       outlets_.indexPopups[i].setItems(itemsFor(indexOptions()[i], Texts()));
@@ -143,7 +142,7 @@ TEST_F(OptionEditingTest, writesTheRecordBackUnchangedForATagWithoutAnOption) {
 TEST_F(OptionEditingTest, editsTheStyleThatTheToolRemembersNotTheFirstOne) {
   folder_.write("styles.plist", "");
   Dictionary root = sampleRoot();
-  ASSERT_TRUE(PlistFile(files_, folder_ / "styles.plist").write(root));
+  ASSERT_TRUE(PlistFile(files_, folder_.at("styles.plist")).write(root));
   ASSERT_TRUE(store_.readUserStyles());
   store_.setCurrentID("QB");
   popup("ejOption1Popup").selectItemAtIndex(0);

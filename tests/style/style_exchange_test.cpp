@@ -21,7 +21,7 @@ class StyleExchangeTest : public testing::Test {
   bool import(const PropertyList& style, int index = 1, const std::string& title = "Alpha") {
     world_.files.put("/in.whstyle", writePropertyList(style));
     world_.log.clear();
-    return world_.exchange.install("/in.whstyle", index, title);
+    return world_.exchange.install(DiskPath("/in.whstyle"), index, title);
   }
   void expectRefusal(const PropertyList& style, int index = 1) {
     EXPECT_FALSE(import(style, index));
@@ -88,12 +88,12 @@ TEST_F(StyleExchangeTest, refusesWhatIsNoStyle) {
 }
 
 TEST_F(StyleExchangeTest, refusesWhatCannotBeRead) {
-  EXPECT_FALSE(world_.exchange.install("/missing.whstyle", 1, "Alpha"));
+  EXPECT_FALSE(world_.exchange.install(DiskPath("/missing.whstyle"), 1, "Alpha"));
   EXPECT_EQ(world_.log, Log{importFailed});
   for (const char* bytes : {"", "no property list", "<plist><dict><key>EJ</key></dict></plist>", "bplist00"}) {
     world_.files.put("/in.whstyle", bytes);
     world_.log.clear();
-    EXPECT_FALSE(world_.exchange.install("/in.whstyle", 1, "Alpha")) << bytes;
+    EXPECT_FALSE(world_.exchange.install(DiskPath("/in.whstyle"), 1, "Alpha")) << bytes;
     EXPECT_EQ(world_.log, Log{importFailed});
   }
   EXPECT_EQ(world_.store.root(), sampleRoot());
@@ -218,8 +218,8 @@ TEST_F(StyleExchangeTest, asksForOneStyleFile) {
   EXPECT_EQ(world_.panels.opens[0].types, std::vector<std::string>{"whstyle"});
   EXPECT_FALSE(world_.panels.opens[0].foldersOnly);
   world_.panels.paths = {"/product/Users/taro/x.whstyle", "/media/y.whstyle"};
-  EXPECT_EQ(world_.exchange.chooseImportFile(), "/Users/taro/x.whstyle") << "in the core's spelling";
-  EXPECT_EQ(world_.exchange.chooseImportFile(), "/media/y.whstyle");
+  EXPECT_EQ(world_.exchange.chooseImportFile(), DiskPath("/product/Users/taro/x.whstyle"));
+  EXPECT_EQ(world_.exchange.chooseImportFile(), DiskPath("/media/y.whstyle"));
 }
 
 TEST_F(StyleExchangeTest, proposesTheNameOfTheStyleInTheUsersHome) {
@@ -228,7 +228,7 @@ TEST_F(StyleExchangeTest, proposesTheNameOfTheStyleInTheUsersHome) {
   ASSERT_EQ(world_.panels.saves.size(), 1U);
   EXPECT_EQ(world_.panels.saves[0].name, "Beta");
   EXPECT_EQ(world_.panels.saves[0].requiredType, "whstyle");
-  EXPECT_EQ(world_.panels.saves[0].folder, "/Users/taro");
+  EXPECT_EQ(world_.panels.saves[0].folder, DiskPath("/product/Users/taro"));
   EXPECT_EQ(world_.panels.sheetHost, &world_.pane.myWindow);
   EXPECT_EQ(world_.files.writes(), 0);
   world_.panels.endSavePanel(0, "");
@@ -350,12 +350,12 @@ TEST_F(StyleExchangeTest, carriesAStyleToAnotherPlace) {
   world_.pane.stylePopup.selectItemAtIndex(3);
   world_.exchange.exportStyle();
   save("/out.whstyle");
-  ASSERT_TRUE(world_.exchange.install("/out.whstyle", 1, "Alpha"));
+  ASSERT_TRUE(world_.exchange.install(DiskPath("/out.whstyle"), 1, "Alpha"));
   Dictionary expected = record(3);
   expected.set("Name", "Alpha");
   expected.set("ID", 1);
   EXPECT_EQ(record(1), expected);
-  ASSERT_TRUE(world_.exchange.install("/out.whstyle", 3, "Beta"));
+  ASSERT_TRUE(world_.exchange.install(DiskPath("/out.whstyle"), 3, "Beta"));
   EXPECT_EQ(PropertyList(record(3)), sampleRoot().array("Style")->at(3)) << "and to its own it changes nothing";
 }
 

@@ -58,8 +58,8 @@ class StyleNamingTest : public testing::Test {
   FakeHost host_;
   FakeRunLoop runLoop_;
   Texts texts_;
-  UserDefaults defaults_{files_, "/defaults.plist"};
-  StyleStore store_{files_, engine_, defaults_, "/styles.plist", "/seed.plist"};
+  UserDefaults defaults_{files_, DiskPath("/defaults.plist")};
+  StyleStore store_{files_, engine_, defaults_, DiskPath("/styles.plist"), DiskPath("/seed.plist")};
   PaneOutlets pane_;
   NamingOutlets outlets_;
   ProcessFlags flags_;

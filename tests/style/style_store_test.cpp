@@ -21,10 +21,8 @@ namespace {
 class StyleStoreTest : public testing::Test {
  protected:
   StyleStoreTest()
-      : locations_("/", folder_.path()), files_(locations_), defaults_(files_, folder_ / "defaults.plist") {
-    locations_.leaveAsIs(folder_.path());
-  }
-  StyleStore makeStore() { return {files_, engine_, defaults_, folder_ / "styles.plist", folder_ / "seed.plist"}; }
+      : locations_("/", folder_.path()), files_(locations_), defaults_(files_, folder_.at("defaults.plist")) {}
+  StyleStore makeStore() { return {files_, engine_, defaults_, folder_.at("styles.plist"), folder_.at("seed.plist")}; }
   StyleStore storeOf(const Dictionary& root) {
     folder_.write("styles.plist", writePropertyList(root));
     StyleStore store = makeStore();
@@ -214,7 +212,7 @@ TEST_F(StyleStoreTest, keepsAnEmptyStampToo) {
   StamplessEngine engine(log_);
   engine.online = true;
   defaults_.set("LastUpdate", "U0");
-  StyleStore store(files_, engine, defaults_, folder_ / "styles.plist", folder_ / "seed.plist");
+  StyleStore store(files_, engine, defaults_, folder_.at("styles.plist"), folder_.at("seed.plist"));
   store.replaceStyles(*sampleRoot().array("Style"));
   store.setAwakening(false);
   store.setSelection(1);
@@ -225,7 +223,7 @@ TEST_F(StyleStoreTest, keepsAnEmptyStampToo) {
 TEST_F(StyleStoreTest, asksTheEngineEvenAfterAFailedWriteAndWritesEverythingLater) {
   StyleStore store = storeOf(sampleRoot());
   store.setAwakening(false);
-  ASSERT_TRUE(files_.remove(folder_ / "styles.plist"));
+  ASSERT_TRUE(files_.remove(folder_.at("styles.plist")));
   folder_.makeFolder("styles.plist/in the way");
   Dictionary record = *store.getStyleAtIndex(0);
   record.dictionary("EJ")->set("Opt1", 2);
@@ -233,7 +231,7 @@ TEST_F(StyleStoreTest, asksTheEngineEvenAfterAFailedWriteAndWritesEverythingLate
   EXPECT_FALSE(store.isSaved());
   EXPECT_EQ(store.unsaved()->cause, std::errc::is_a_directory);
   EXPECT_EQ(log_, Log{"unreachable"});
-  ASSERT_TRUE(files_.remove(folder_ / "styles.plist"));
+  ASSERT_TRUE(files_.remove(folder_.at("styles.plist")));
   record.dictionary("EJ")->set("Opt2", 2);
   store.setStyle(0, record);
   EXPECT_TRUE(store.isSaved());

@@ -42,18 +42,18 @@ class FakePanels : public Panels {
     sheetHost = &host;
     endAlertSheet = std::move(ended);
   }
-  std::optional<std::string> runOpenPanel(const OpenPanel& panel) override {
+  std::optional<DiskPath> runOpenPanel(const OpenPanel& panel) override {
     opens.push_back(panel);
     log_.push_back("open panel");
     if (whileUp) whileUp();
-    return next(paths);
+    const std::optional<std::string> answer = next(paths);
+    return answer ? std::optional(DiskPath(*answer)) : std::nullopt;
   }
-  void beginSavePanel(Window& host, const SavePanel& panel,
-                      std::function<void(int, const std::string&)> ended) override {
+  void beginSavePanel(Window& host, const SavePanel& panel, std::function<void(int, const DiskPath&)> ended) override {
     saves.push_back(panel);
     log_.push_back("save panel");
     sheetHost = &host;
-    endSavePanel = std::move(ended);
+    endSavePanel = [ended = std::move(ended)](int code, const std::string& path) { ended(code, DiskPath(path)); };
   }
   std::vector<Alert> alerts;
   std::vector<OpenPanel> opens;
@@ -101,10 +101,14 @@ class FakeHost : public WindowHost {
 
 class FakeWorkspace : public Workspace {
  public:
-  void openFile(const std::string& path) override { opened.push_back(path); }
+  void openFile(const DiskPath& path) override { opened.push_back(path.text()); }
   void openAddress(const std::string& address) override { addresses.push_back(address); }
   void launchApplication(const std::string& name) override { launched.push_back(name); }
-  std::vector<std::string> launchedApplications() override { return running; }
+  std::vector<ProductPath> launchedApplications() override {
+    std::vector<ProductPath> paths;
+    for (const std::string& path : running) paths.emplace_back(path);
+    return paths;
+  }
   std::vector<std::string> opened, addresses, launched, running;
 };
 
@@ -191,12 +195,14 @@ class FakeStyleModule : public StyleModule {
  public:
   explicit FakeStyleModule(Log& log) : log_(log) {}
   void tarvoStyleInitialize() override { log_.push_back("tarvoStyleInitialize"); }
-  void tarvoStyleSetTStyleUrl(const std::string& path) override { log_.push_back("tarvoStyleSetTStyleUrl " + path); }
-  void tarvoStyleSetTechDictUrl(const std::string& english, const std::string& japanese) override {
-    log_.push_back("tarvoStyleSetTechDictUrl " + english + " " + japanese);
+  void tarvoStyleSetTStyleUrl(const DiskPath& path) override {
+    log_.push_back("tarvoStyleSetTStyleUrl " + path.text());
   }
-  void tarvoStyleSetUserDictUrl(const std::string& folder) override {
-    log_.push_back("tarvoStyleSetUserDictUrl " + folder);
+  void tarvoStyleSetTechDictUrl(const DiskPath& english, const DiskPath& japanese) override {
+    log_.push_back("tarvoStyleSetTechDictUrl " + english.text() + " " + japanese.text());
+  }
+  void tarvoStyleSetUserDictUrl(const DiskPath& folder) override {
+    log_.push_back("tarvoStyleSetUserDictUrl " + folder.text());
   }
 
  private:

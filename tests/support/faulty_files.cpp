@@ -25,9 +25,9 @@ Result<> FaultyFiles::run(Operation operation, const std::string& path,
   return isDisturbed ? disturbance_(Use(uses_.back()), perform) : perform();
 }
 
-Result<std::vector<std::string>> FaultyFiles::list(const std::string& folder) const {
+Result<std::vector<std::string>> FaultyFiles::list(const DiskPath& folder) const {
   std::vector<std::string> names;
-  const Result<> listed = run(Operation::list, folder, [&]() -> Result<> {
+  const Result<> listed = run(Operation::list, folder.text(), [&]() -> Result<> {
     auto found = disk_.list(folder);
     if (!found) return found.error();
     names = std::move(*found);
@@ -37,20 +37,20 @@ Result<std::vector<std::string>> FaultyFiles::list(const std::string& folder) co
   return names;
 }
 
-Result<> FaultyFiles::makeFolder(const std::string& path) {
-  return run(Operation::makeFolder, path, [&] { return disk_.makeFolder(path); });
+Result<> FaultyFiles::makeFolder(const DiskPath& path) {
+  return run(Operation::makeFolder, path.text(), [&] { return disk_.makeFolder(path); });
 }
 
-Result<> FaultyFiles::copy(const std::string& from, const std::string& to) {
-  return run(Operation::copy, to, [&] { return disk_.copy(from, to); });
+Result<> FaultyFiles::copy(const DiskPath& from, const DiskPath& to) {
+  return run(Operation::copy, to.text(), [&] { return disk_.copy(from, to); });
 }
 
-Result<> FaultyFiles::remove(const std::string& path) {
-  return run(Operation::remove, path, [&] { return disk_.remove(path); });
+Result<> FaultyFiles::remove(const DiskPath& path) {
+  return run(Operation::remove, path.text(), [&] { return disk_.remove(path); });
 }
 
-Result<> FaultyFiles::removeEmptyFolder(const std::string& path) {
-  return run(Operation::removeEmptyFolder, path, [&] { return disk_.removeEmptyFolder(path); });
+Result<> FaultyFiles::removeEmptyFolder(const DiskPath& path) {
+  return run(Operation::removeEmptyFolder, path.text(), [&] { return disk_.removeEmptyFolder(path); });
 }
 
 }  // namespace tarvo::test

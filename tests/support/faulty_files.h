@@ -34,19 +34,19 @@ class FaultyFiles : public FileService {
   void disturb(std::size_t use, Disturbance disturbance);
   void forget();  // no disturbance any more, nothing counted
 
-  Result<Kind> kind(const std::string& path) const override { return disk_.kind(path); }
-  Result<Kind> ownKind(const std::string& path) const override { return disk_.ownKind(path); }
-  Result<> checkWritable(const std::string& folder) const override { return disk_.checkWritable(folder); }
-  Result<std::string> read(const std::string& path) const override { return disk_.read(path); }
-  Result<> write(const std::string& path, std::string_view bytes) override { return disk_.write(path, bytes); }
-  Result<> keepUnreadable(const std::string& path) override { return disk_.keepUnreadable(path); }
-  Result<std::vector<std::string>> list(const std::string& folder) const override;
-  Result<> makeFolder(const std::string& path) override;
-  Result<> copy(const std::string& from, const std::string& to) override;
-  Result<> remove(const std::string& path) override;
-  Result<> removeEmptyFolder(const std::string& path) override;
-  Result<FourCharCode> typeCode(const std::string& path) const override { return disk_.typeCode(path); }
-  Result<> setCodes(const std::string& path, FourCharCode type, FourCharCode creator) override {
+  Result<Kind> kind(const DiskPath& path) const override { return disk_.kind(path); }
+  Result<Kind> ownKind(const DiskPath& path) const override { return disk_.ownKind(path); }
+  Result<> checkWritable(const DiskPath& folder) const override { return disk_.checkWritable(folder); }
+  Result<std::string> read(const DiskPath& path) const override { return disk_.read(path); }
+  Result<> write(const DiskPath& path, std::string_view bytes) override { return disk_.write(path, bytes); }
+  Result<> keepUnreadable(const DiskPath& path) override { return disk_.keepUnreadable(path); }
+  Result<std::vector<std::string>> list(const DiskPath& folder) const override;
+  Result<> makeFolder(const DiskPath& path) override;
+  Result<> copy(const DiskPath& from, const DiskPath& to) override;
+  Result<> remove(const DiskPath& path) override;
+  Result<> removeEmptyFolder(const DiskPath& path) override;
+  Result<FourCharCode> typeCode(const DiskPath& path) const override { return disk_.typeCode(path); }
+  Result<> setCodes(const DiskPath& path, FourCharCode type, FourCharCode creator) override {
     return disk_.setCodes(path, type, creator);
   }
 

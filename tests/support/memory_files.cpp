@@ -49,24 +49,28 @@ FileService::Kind MemoryFiles::kindOf(const std::string& path) const {
   return node == nodes_.end() ? Kind::absent : node->second.kind;
 }
 
-Result<FileService::Kind> MemoryFiles::kind(const std::string& path) const {
+Result<FileService::Kind> MemoryFiles::kind(const DiskPath& at) const {
+  const std::string& path = at.text();
   if (const auto refused = refusal(Operation::look, path, Attempt::look)) return *refused;
   return kindOf(path);
 }
 
-Result<> MemoryFiles::checkWritable(const std::string& folder) const {
+Result<> MemoryFiles::checkWritable(const DiskPath& at) const {
+  const std::string& folder = at.text();
   if (isFolder(folder)) return {};
   return failure(folder, Attempt::write, std::errc::no_such_file_or_directory);
 }
 
-Result<std::string> MemoryFiles::read(const std::string& path) const {
+Result<std::string> MemoryFiles::read(const DiskPath& at) const {
+  const std::string& path = at.text();
   if (const auto refused = refusal(Operation::read, path, Attempt::read)) return *refused;
   if (kindOf(path) == Kind::absent) return failure(path, Attempt::read, std::errc::no_such_file_or_directory);
   if (kindOf(path) != Kind::file) return Failure{path, Attempt::read, Reason::noRegularFile};
   return bytes(path);
 }
 
-Result<> MemoryFiles::write(const std::string& path, std::string_view bytes) {
+Result<> MemoryFiles::write(const DiskPath& at, std::string_view bytes) {
+  const std::string& path = at.text();
   const Kind there = kindOf(path);
   if (!isAbsolutePath(path)) return Failure{path, Attempt::write, Reason::noPath};
   if (there != Kind::file && there != Kind::absent) return Failure{path, Attempt::write, Reason::noRegularFile};
@@ -81,7 +85,8 @@ Result<> MemoryFiles::write(const std::string& path, std::string_view bytes) {
   return {};
 }
 
-Result<> MemoryFiles::keepUnreadable(const std::string& path) {
+Result<> MemoryFiles::keepUnreadable(const DiskPath& at) {
+  const std::string& path = at.text();
   constexpr std::array<const char*, 5> endings{".unreadable", ".unreadable.2", ".unreadable.3", ".unreadable.4",
                                                ".unreadable.5"};
   if (const auto refused = refusal(Operation::keepUnreadable, path, Attempt::keep)) return *refused;
@@ -94,7 +99,8 @@ Result<> MemoryFiles::keepUnreadable(const std::string& path) {
   return {};
 }
 
-Result<std::vector<std::string>> MemoryFiles::list(const std::string& folder) const {
+Result<std::vector<std::string>> MemoryFiles::list(const DiskPath& at) const {
+  const std::string& folder = at.text();
   if (const auto refused = refusal(Operation::list, folder, Attempt::list)) return *refused;
   if (!isFolder(folder)) return failure(folder, Attempt::list, std::errc::no_such_file_or_directory);
   std::vector<std::string> names;
@@ -104,17 +110,20 @@ Result<std::vector<std::string>> MemoryFiles::list(const std::string& folder) co
   return names;
 }
 
-Result<> MemoryFiles::makeFolder(const std::string& path) {
+Result<> MemoryFiles::makeFolder(const DiskPath& at) {
+  const std::string& path = at.text();
   if (const auto refused = refusal(Operation::makeFolder, path, Attempt::makeFolder)) return *refused;
   if (!isAbsolutePath(path)) return Failure{path, Attempt::makeFolder, Reason::noPath};
   if (isFolder(path)) return {};
   if (kindOf(path) != Kind::absent) return failure(path, Attempt::makeFolder, std::errc::not_a_directory);
-  if (Result<> made = makeFolder(deletingLastPathComponent(path)); !made) return made;
+  if (Result<> made = makeFolder(at.folder()); !made) return made;
   nodes_[path] = Node{};
   return {};
 }
 
-Result<> MemoryFiles::copy(const std::string& from, const std::string& to) {
+Result<> MemoryFiles::copy(const DiskPath& source, const DiskPath& target) {
+  const std::string& from = source.text();
+  const std::string& to = target.text();
   if (const auto refused = refusal(Operation::copy, from, Attempt::copy)) return *refused;
   if (const auto refused = refusal(Operation::copy, to, Attempt::create)) return *refused;
   if (kindOf(from) == Kind::absent) return failure(from, Attempt::copy, std::errc::no_such_file_or_directory);
@@ -127,7 +136,8 @@ Result<> MemoryFiles::copy(const std::string& from, const std::string& to) {
   return {};
 }
 
-Result<> MemoryFiles::remove(const std::string& path) {
+Result<> MemoryFiles::remove(const DiskPath& at) {
+  const std::string& path = at.text();
   if (const auto refused = refusal(Operation::remove, path, Attempt::remove)) return *refused;
   if (nodes_.count(path) == 0) return failure(path, Attempt::remove, std::errc::no_such_file_or_directory);
   for (const std::string& each : below(path)) nodes_.erase(each);
@@ -135,7 +145,8 @@ Result<> MemoryFiles::remove(const std::string& path) {
   return {};
 }
 
-Result<> MemoryFiles::removeEmptyFolder(const std::string& path) {
+Result<> MemoryFiles::removeEmptyFolder(const DiskPath& at) {
+  const std::string& path = at.text();
   if (const auto refused = refusal(Operation::removeEmptyFolder, path, Attempt::remove)) return *refused;
   if (path == "/" || !isFolder(path)) return failure(path, Attempt::remove, std::errc::not_a_directory);
   if (!below(path).empty()) return failure(path, Attempt::remove, std::errc::directory_not_empty);
@@ -143,12 +154,14 @@ Result<> MemoryFiles::removeEmptyFolder(const std::string& path) {
   return {};
 }
 
-Result<FourCharCode> MemoryFiles::typeCode(const std::string& path) const {
+Result<FourCharCode> MemoryFiles::typeCode(const DiskPath& at) const {
+  const std::string& path = at.text();
   const auto node = nodes_.find(path);
   return node == nodes_.end() ? 0 : node->second.type;
 }
 
-Result<> MemoryFiles::setCodes(const std::string& path, FourCharCode type, FourCharCode creator) {
+Result<> MemoryFiles::setCodes(const DiskPath& at, FourCharCode type, FourCharCode creator) {
+  const std::string& path = at.text();
   if (const auto refused = refusal(Operation::setCodes, path, Attempt::setCodes)) return *refused;
   if (kindOf(path) != Kind::file) return Failure{path, Attempt::setCodes, Reason::noRegularFile};
   nodes_[path].type = type;

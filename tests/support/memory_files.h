@@ -41,19 +41,19 @@ class MemoryFiles : public FileService {
   std::vector<std::string> paths() const;            // everything but "/", ascending
   int writes() const { return writes_; }             // that succeeded
 
-  Result<Kind> kind(const std::string& path) const override;
-  Result<Kind> ownKind(const std::string& path) const override { return kind(path); }
-  Result<> checkWritable(const std::string& folder) const override;
-  Result<std::string> read(const std::string& path) const override;
-  Result<> write(const std::string& path, std::string_view bytes) override;
-  Result<> keepUnreadable(const std::string& path) override;
-  Result<std::vector<std::string>> list(const std::string& folder) const override;
-  Result<> makeFolder(const std::string& path) override;
-  Result<> copy(const std::string& from, const std::string& to) override;
-  Result<> remove(const std::string& path) override;
-  Result<> removeEmptyFolder(const std::string& path) override;
-  Result<FourCharCode> typeCode(const std::string& path) const override;
-  Result<> setCodes(const std::string& path, FourCharCode type, FourCharCode creator) override;
+  Result<Kind> kind(const DiskPath& path) const override;
+  Result<Kind> ownKind(const DiskPath& path) const override { return kind(path); }
+  Result<> checkWritable(const DiskPath& folder) const override;
+  Result<std::string> read(const DiskPath& path) const override;
+  Result<> write(const DiskPath& path, std::string_view bytes) override;
+  Result<> keepUnreadable(const DiskPath& path) override;
+  Result<std::vector<std::string>> list(const DiskPath& folder) const override;
+  Result<> makeFolder(const DiskPath& path) override;
+  Result<> copy(const DiskPath& from, const DiskPath& to) override;
+  Result<> remove(const DiskPath& path) override;
+  Result<> removeEmptyFolder(const DiskPath& path) override;
+  Result<FourCharCode> typeCode(const DiskPath& path) const override;
+  Result<> setCodes(const DiskPath& path, FourCharCode type, FourCharCode creator) override;
 
  private:
   void putFolder(const std::string& path);

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/text/paths.h"
+
 // A folder on the real disk that is gone with this object. Its name holds a blank and Japanese characters, as users'
 // folders do. Failures to prepare it are failures of the test.
 namespace tarvo::test {
@@ -21,6 +23,7 @@ class TemporaryFolder {
 
   const std::string& path() const { return path_; }
   std::string operator/(std::string_view rest) const { return path_ + "/" + std::string(rest); }
+  DiskPath at(std::string_view rest) const { return DiskPath(*this / rest); }
 
   // Below the folder, with plain standard means; write and makeFolder create what is missing above.
   void write(std::string_view rest, std::string_view bytes) const;

@@ -103,7 +103,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"noValue", "default a {", "3: { is no value of a setting"},
         Case{"nullIsNoValue", "default a null", "3: null is no value of a setting"},
         Case{"refusedByTheDisk", "file remove root:/nothing",
-             "3: the disk refused that for /nothing: No such file or directory"},
+             "3: the disk refused that for root:/nothing: No such file or directory"},
         Case{"unknownFileCommand", "file burn root:/x", "3: a file cannot be told to burn"},
         Case{"unknownRefusal", "file refuse burn root:/x", "3: the disk cannot refuse to burn"},
         Case{"noStylesToHold", "engine holds fixtures/no-styles.plist U0",
@@ -201,6 +201,19 @@ TEST(Script, looksAtTheDiskInEveryForm) {
             "{\"kind\":\"folder\",\"mode\":\"0777\",\"names\":[\"plain.txt\"],\"path\":\"root:/a\"}\n"
             "{\"kind\":\"folder\",\"mode\":\"0700\",\"names\":[],\"path\":\"home:/b\"}\n");
   EXPECT_EQ(result.err, "");
+}
+
+TEST(Script, takesAnAbsolutePathAsItStandsAndNotBelowTheRoot) {
+  const TemporaryFolder outside;
+  outside.write("a.txt", "x");
+  const std::string path = outside / "a.txt", copy = outside / "b/c.txt";
+  const std::string shown = "\"path\":\"" + path + "\"";
+  const ToolResult result =
+      runText("disk \"" + path + "\"\nfile copy \"" + path + "\" \"" + copy + "\"\ndisk \"root:" + path + "\"\n");
+  EXPECT_EQ(result.out, "{\"kind\":\"file\",\"mode\":\"0644\"," + shown + ",\"text\":\"x\"}\n" +
+                            "{\"kind\":\"absent\",\"path\":\"root:" + path + "\"}\n");
+  EXPECT_EQ(result.err, "");
+  EXPECT_EQ(outside.read("b/c.txt"), "x");
 }
 
 TEST(Script, showsBytesAndLinksOfTheDisk) {

@@ -185,9 +185,9 @@ TEST_F(AddinVerbs, aFailedRemovalTellsWhy) {
   makeFolder("/Users/taro/Library/Scripts/Applications/Mail");
   fs::create_symlink(root_.root() + "/elsewhere", root_.root() + scripts);
   expect({"addin", "remove", "Mail"}, 1, "",
-         "Mail«MailUnInstallIsFailed» (" + std::string(scripts) + ": Failure.uninstall; Cause.linkInTheWay)\n");
+         "Mail«MailUnInstallIsFailed» (" + root_.root() + scripts + ": Failure.uninstall; Cause.linkInTheWay)\n");
   EXPECT_TRUE(exists("/elsewhere"));
-  EXPECT_EQ(diagnosis("scripts of Mail"), "problem: installed; a removal would fail: " + std::string(scripts) +
+  EXPECT_EQ(diagnosis("scripts of Mail"), "problem: installed; a removal would fail: " + root_.root() + scripts +
                                               ": Failure.uninstall; Cause.linkInTheWay");
 }
 
@@ -207,7 +207,8 @@ TEST_F(AddinVerbs, aFailedInstallTellsWhatTheWindowTellsAndWhy) {
   makeFolder(startup);
   fs::remove(root_.root() + "/Bundle/Macros/2011/Tarvo.dotm");
   expect({"addin", "install", "Word 2011"}, 1, "",
-         "Word 2011«OfficeInstallIsFailed» (/Bundle/Macros/2011/Tarvo.dotm: Failure.install; Cause.missingResource)\n");
+         "Word 2011«OfficeInstallIsFailed» (" + root_.root() +
+             "/Bundle/Macros/2011/Tarvo.dotm: Failure.install; Cause.missingResource)\n");
 }
 
 TEST_F(AddinVerbs, aSearchTellsWhatItAdded) {
@@ -243,13 +244,14 @@ TEST_F(AddinVerbs, aToolListThatCannotBeWrittenIsTold) {
 TEST_F(AddinVerbs, theDoctorSaysWhyAnInstallWouldFail) {
   EXPECT_EQ(diagnosis("Word 2011"), "ok: ");
   EXPECT_EQ(diagnosis("install folder of Word 2011"),
-            "missing: an install would fail: " + std::string(startup) + ": Failure.install; Cause.absent");
+            "missing: an install would fail: " + root_.root() + startup + ": Failure.install; Cause.absent");
   EXPECT_EQ(diagnosis("macro of Word 2011"), "missing: not installed");
   makeFolder(startup);
   EXPECT_EQ(diagnosis("install folder of Word 2011"), "ok: ");
   fs::remove(root_.root() + "/Bundle/Macros/2011/Tarvo.dotm");
   EXPECT_EQ(diagnosis("install folder of Word 2011"),
-            "problem: an install would fail: /Bundle/Macros/2011/Tarvo.dotm: Failure.install; Cause.missingResource");
+            "problem: an install would fail: " + root_.root() +
+                "/Bundle/Macros/2011/Tarvo.dotm: Failure.install; Cause.missingResource");
   EXPECT_EQ(diagnosis("install folder of Outlook 2011"), "missing: is not listed without it");
   fs::remove_all(root_.root() + "/Applications/O08");
   EXPECT_EQ(diagnosis("Word 2008"), "missing: is not listed");
@@ -260,7 +262,7 @@ TEST_F(AddinVerbs, theDoctorSaysWhereARowAndTheDiskDiffer) {
   put(std::string(scripts) + "/b.scpt", "of the user");
   EXPECT_EQ(diagnosis("scripts of Mail"), "problem: installed in part, lacks a.scpt, sub");
   EXPECT_EQ(diagnosis("install folder of Mail"),
-            "problem: an install would fail: " + std::string(scripts) + "/b.scpt: Failure.install; Cause.exists");
+            "problem: an install would fail: " + root_.root() + scripts + "/b.scpt: Failure.install; Cause.exists");
   makeFolder(startup);
   EXPECT_EQ(run({"tool-list"}).status, 0);  // the rows are remembered, without the macro
   put(macro, "of the user");

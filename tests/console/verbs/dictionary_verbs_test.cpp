@@ -177,7 +177,7 @@ TEST_F(DictionaryVerbs, aStyleFileWithoutARememberedChoiceIsEditedAll) {
 }
 
 TEST_F(DictionaryVerbs, theLockIsNeededToChangeAndNotToList) {
-  const InstanceLock lock(root_.home() + "/Library/Preferences/com.wordhaven.TarvoManager.lock");
+  const InstanceLock lock(DiskPath(root_.home() + "/Library/Preferences/com.wordhaven.TarvoManager.lock"));
   ASSERT_EQ(lock.state(), InstanceLock::State::held);
   for (const std::vector<std::string>& words :
        {std::vector<std::string>{"dictionary", "0", "ej", "add", "d.TRet"}, {"new", "ej", "user", "N"}}) {

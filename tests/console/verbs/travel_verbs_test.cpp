@@ -145,7 +145,7 @@ TEST_F(TravelVerbs, aStyleFileWithoutARememberedChoiceIsWorkedOnAll) {
 }
 
 TEST_F(TravelVerbs, theLockIsNeeded) {
-  const InstanceLock lock(root_.home() + "/Library/Preferences/com.wordhaven.TarvoManager.lock");
+  const InstanceLock lock(DiskPath(root_.home() + "/Library/Preferences/com.wordhaven.TarvoManager.lock"));
   ASSERT_EQ(lock.state(), InstanceLock::State::held);
   for (const std::vector<std::string>& words :
        {std::vector<std::string>{"style", "rename", "1", "X"},

@@ -205,7 +205,7 @@ TEST_F(Verbs, styleSetRestoresTheDividerAsTheChoice) {
 TEST_F(Verbs, styleSetWaitsForNobody) {
   putStyles("root4.plist");
   const auto before = tree();
-  const InstanceLock lock(root_.home() + "/Library/Preferences/com.wordhaven.TarvoManager.lock");
+  const InstanceLock lock(DiskPath(root_.home() + "/Library/Preferences/com.wordhaven.TarvoManager.lock"));
   ASSERT_EQ(lock.state(), InstanceLock::State::held);
   const ToolResult result = run({"style", "set", "1", "Opt1=2"});
   EXPECT_EQ(result.err, lockedLine());
@@ -216,7 +216,7 @@ TEST_F(Verbs, styleSetWaitsForNobody) {
 
 TEST_F(Verbs, aScriptStartsNoProgramOnFilesThatAnotherOneHolds) {
   putStyles("root4.plist");
-  const InstanceLock lock(root_.home() + "/Library/Preferences/com.wordhaven.TarvoManager.lock");
+  const InstanceLock lock(DiskPath(root_.home() + "/Library/Preferences/com.wordhaven.TarvoManager.lock"));
   const std::string script = root_.root() + "/start.scenario";
   std::ofstream(script) << "default ToolbarTag\nstart\n";
   const ToolResult result = run({"run", script});

@@ -21,7 +21,7 @@ using Way = Reply::Way;
 class EngineHttpTest : public testing::Test {
  protected:
   EngineHttp engine(HttpTimes times = {}) {
-    return EngineHttp({server.address(), "", ""}, times, [this] { return now; });
+    return EngineHttp({server.address(), {}, {}}, times, [this] { return now; });
   }
   std::string registered(EngineHttp& engine, const EncodedStyles& styles) {
     std::string stamp;
@@ -408,7 +408,7 @@ TEST_F(EngineHttpTest, aServerThatIsGoneIsAskedAgainAtOnce) {
     const test::ScriptedServer gone([](const SeenRequest&) { return Reply{}; });
     address = gone.address();
   }
-  EngineHttp http({address, "", ""}, {}, [this] { return now; });
+  EngineHttp http({address, {}, {}}, {}, [this] { return now; });
   EXPECT_FALSE(http.checkConnectionWithCurl());
   EXPECT_TRUE(http.checkStyle()) << "not known: ours must not be sent over it";
   EXPECT_EQ(newerThan(http, ""), std::nullopt);

@@ -51,7 +51,7 @@ class EngineLocalTest : public testing::Test {
   test::TemporaryFolder folder;
   Locations locations{"/", folder.path()};
   PosixFiles files{locations};
-  const std::string path = folder / file;
+  const DiskPath path = folder.at(file);
   const Array two{style("標準"), style("特許")}, one{style("E-mail")};
 };
 

@@ -76,7 +76,7 @@ TEST(HttpClient, sendsAndReceivesWhatItIsTold) {
   const ScriptedServer server([](const SeenRequest& request) {
     return Reply{207, {"X-Name:  a value "}, request.method + request.header("depth") + request.body};
   });
-  HttpClient client({server.address("/a%20b"), "", ""});
+  HttpClient client({server.address("/a%20b"), {}, {}});
   const std::string body("\0\xff<&>", 5);
   const HttpAnswer answer = client.send({"PROPFIND", {"Depth: 0"}, body}, 10s);
   EXPECT_TRUE(answer.isWhole());
@@ -95,7 +95,7 @@ TEST(HttpClient, aKeptConnectionThatTheServerEndedIsReplaced) {
   int count = 0;
   const ScriptedServer server(
       [&](const SeenRequest&) { return Reply{200, {}, "x", Reply::Way(++count == 2 ? 5 : 0)}; });
-  HttpClient client({server.address(), "", ""});
+  HttpClient client({server.address(), {}, {}});
   EXPECT_TRUE(client.send({"PUT", {}, "one"}, 10s).isWhole());
   EXPECT_TRUE(client.send({"PUT", {}, "two"}, 10s).isWhole());
   EXPECT_EQ(server.requests().back().body, "two");
@@ -107,11 +107,11 @@ TEST(HttpClient, credentialsComeFromTheUsersNetrcOnly) {
       [](const SeenRequest& request) { return Reply{200, {}, request.header("authorization")}; });
   const test::TemporaryFolder home;
   home.write(".netrc", "machine elsewhere login x password y\nmachine 127.0.0.1 login taro password pass-word\n");
-  EXPECT_EQ(HttpClient({server.address(), home / ".netrc", ""}).send({"GET", {}, {}}, 10s).body,
+  EXPECT_EQ(HttpClient({server.address(), home.at(".netrc"), {}}).send({"GET", {}, {}}, 10s).body,
             "Basic dGFybzpwYXNzLXdvcmQ=");
   home.write("other", "machine elsewhere login x password y\n");
   for (const char* netrc : {"other", "missing"}) {
-    const HttpAnswer answer = HttpClient({server.address(), home / netrc, ""}).send({"GET", {}, {}}, 10s);
+    const HttpAnswer answer = HttpClient({server.address(), home.at(netrc), {}}).send({"GET", {}, {}}, 10s);
     EXPECT_TRUE(answer.isWhole()) << netrc;
     EXPECT_EQ(answer.body, "") << netrc;
   }
@@ -120,13 +120,13 @@ TEST(HttpClient, credentialsComeFromTheUsersNetrcOnly) {
 TEST(HttpClient, aRedirectionIsAnAnswerLikeAnyOther) {
   const ScriptedServer other([](const SeenRequest&) { return Reply{}; });
   const ScriptedServer server([&](const SeenRequest&) { return Reply{302, {"Location: " + other.address()}, ""}; });
-  EXPECT_EQ(HttpClient({server.address(), "", ""}).send({"GET", {}, {}}, 10s).status, 302);
+  EXPECT_EQ(HttpClient({server.address(), {}, {}}).send({"GET", {}, {}}, 10s).status, 302);
   EXPECT_TRUE(other.requests().empty());
 }
 
 TEST(HttpClient, bodiesThatAreTooLargeAreNotTaken) {
   const ScriptedServer server([](const SeenRequest&) { return Reply{200, {}, std::string(largestHttpBody + 1, 'x')}; });
-  HttpClient client({server.address(), "", ""});
+  HttpClient client({server.address(), {}, {}});
   EXPECT_EQ(client.send({"GET", {}, {}}, 60s).arrival, Arrival::none);
   EXPECT_EQ(client.send({"PUT", {}, std::string(largestHttpBody + 1, 'x')}, 60s).arrival, Arrival::none);
   EXPECT_EQ(server.requests().size(), 1U);
@@ -134,13 +134,13 @@ TEST(HttpClient, bodiesThatAreTooLargeAreNotTaken) {
 
 TEST(HttpClient, withoutTimeNothingIsSent) {
   const ScriptedServer server([](const SeenRequest&) { return Reply{}; });
-  EXPECT_EQ(HttpClient({server.address(), "", ""}).send({"GET", {}, {}}, 0ms).arrival, Arrival::late);
+  EXPECT_EQ(HttpClient({server.address(), {}, {}}).send({"GET", {}, {}}, 0ms).arrival, Arrival::late);
   EXPECT_TRUE(server.requests().empty());
 }
 
 TEST(HttpClient, aNameServiceThatHangsIsNotWaitedFor) {
   {
-    HttpClient client({std::string("http://") + slowName + "/", "", ""});
+    HttpClient client({std::string("http://") + slowName + "/", {}, {}});
     EXPECT_EQ(client.send({"GET", {}, {}}, 100ms).arrival, Arrival::late);
   }
   EXPECT_FALSE(slowNames().hasAnswered);
@@ -151,7 +151,7 @@ TEST(HttpClient, leavesTheHandlingOfSignalsAsItWas) {
   const ScriptedServer server([](const SeenRequest&) { return Reply{}; });
   const auto mine = [](int) {};
   std::signal(SIGPIPE, mine);
-  HttpClient({server.address(), "", ""}).send({"GET", {}, {}}, 10s);
+  HttpClient({server.address(), {}, {}}).send({"GET", {}, {}}, 10s);
   EXPECT_EQ(std::signal(SIGPIPE, SIG_DFL), static_cast<void (*)(int)>(mine));
 }
 

@@ -18,7 +18,7 @@ using test::EncodedStyles;
 using test::WebServer;
 
 struct Machine {
-  explicit Machine(const WebServer& server) : engine({server.address(), "", ""}) {}
+  explicit Machine(const WebServer& server) : engine({server.address(), {}, {}}) {}
   void registerStyles(const std::vector<std::string>& names) {
     const EncodedStyles styles(names);
     held = styles.records;
@@ -93,14 +93,14 @@ TEST(SecureServer, isReachedOnlyWithACertificateThatIsTrustedAndItsOwn) {
   ASSERT_TRUE(mine.address().starts_with("https://"));
   const struct {
     const WebServer& server;
-    std::string authorities;
+    DiskPath authorities;
     bool reached;
-  } rows[] = {{mine, mine.certificate(), true},
-              {mine, "", false},
-              {mine, foreign.certificate(), false},
-              {foreign, foreign.certificate(), false}};
+  } rows[] = {{mine, DiskPath(mine.certificate()), true},
+              {mine, {}, false},
+              {mine, DiskPath(foreign.certificate()), false},
+              {foreign, DiskPath(foreign.certificate()), false}};
   for (const auto& row : rows) {
-    EngineHttp engine({row.server.address(), "", row.authorities});
+    EngineHttp engine({row.server.address(), {}, row.authorities});
     EXPECT_EQ(engine.checkConnectionWithCurl(), row.reached);
     std::string stamp;
     engine.sendRegistStyle(EncodedStyles({"a"}).set(), stamp);

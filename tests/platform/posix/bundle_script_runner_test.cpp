@@ -32,7 +32,7 @@ class BundleScriptRunnerTest : public testing::Test {
   TemporaryFolder folder_;
   Locations locations_{folder_.path(), folder_ / "home"};
   PosixFiles files_{locations_};
-  BundleScriptRunner runner_{files_, volume};
+  BundleScriptRunner runner_{files_, locations_, volume};
 };
 
 TEST_F(BundleScriptRunnerTest, answersTheShortVersionWhereverTheApplicationLies) {

@@ -22,7 +22,7 @@ using Names = std::vector<std::string>;
 
 class CopyTree : public testing::Test {
  protected:
-  Result<> copy(const char* from, const char* to) { return copyTree(folder / from, folder / to); }
+  Result<> copy(const char* from, const char* to) { return copyTree(folder.at(from), folder.at(to)); }
   test::TemporaryFolder folder;
 };
 
@@ -43,7 +43,7 @@ TEST_F(CopyTree, aFileIsCopiedWithBytesAndMode) {
 }
 
 TEST_F(CopyTree, filesOfUnknownSizeAreCopiedToo) {
-  EXPECT_TRUE(copyTree("/proc/self/stat", folder / "to"));
+  EXPECT_TRUE(copyTree(DiskPath("/proc/self/stat"), folder.at("to")));
   EXPECT_GT(folder.read("to").size(), 10U);
 }
 
@@ -52,12 +52,12 @@ TEST_F(CopyTree, extendedAttributesComeAlong) {
   if (place.empty()) GTEST_SKIP() << "this disk keeps no extended attributes";
   const test::TemporaryFolder here(place);
   here.write("from/file", "x");
-  ASSERT_TRUE(setAttribute(here / "from/file", "user.tarvo", "file's"));
-  ASSERT_TRUE(setAttribute(here / "from", "user.tarvo", "folder's"));
+  ASSERT_TRUE(setAttribute(here.at("from/file"), "user.tarvo", "file's"));
+  ASSERT_TRUE(setAttribute(here.at("from"), "user.tarvo", "folder's"));
   ASSERT_EQ(::chmod((here / "from/file").c_str(), 0444), 0);
-  EXPECT_TRUE(copyTree(here / "from", here / "to"));
-  EXPECT_EQ(attribute(here / "to/file", "user.tarvo"), "file's");
-  EXPECT_EQ(attribute(here / "to", "user.tarvo"), "folder's");
+  EXPECT_TRUE(copyTree(here.at("from"), here.at("to")));
+  EXPECT_EQ(attribute(here.at("to/file"), "user.tarvo"), "file's");
+  EXPECT_EQ(attribute(here.at("to"), "user.tarvo"), "folder's");
 }
 
 TEST_F(CopyTree, aFolderIsCopiedWithEverythingInIt) {
@@ -85,7 +85,7 @@ TEST_F(CopyTree, linksAreCopiedAsLinks) {
   fs::create_symlink("target", folder / "link");
   EXPECT_TRUE(copy("link", "copy of link"));
   EXPECT_EQ(fs::read_symlink(folder / "copy of link"), "target");
-  EXPECT_TRUE(copyFile(folder / "link", folder / "copy of target"));
+  EXPECT_TRUE(copyFile(folder.at("link"), folder.at("copy of target")));
   EXPECT_FALSE(fs::is_symlink(folder / "copy of target"));
   EXPECT_EQ(folder.read("copy of target"), "x");
 }
@@ -113,9 +113,9 @@ TEST_F(CopyTree, missingPlacesAndSpecialFilesFail) {
   EXPECT_FALSE(copy("plain", "missing/to"));
   EXPECT_FALSE(copy("plain", "plain/to"));
   EXPECT_FALSE(copy("pipe", "to"));
-  EXPECT_FALSE(copyTree("/dev/null", folder / "to"));
-  EXPECT_FALSE(copyFile(folder / "pipe", folder / "to"));
-  EXPECT_FALSE(copyFile(folder.path(), folder / "to"));
+  EXPECT_FALSE(copyTree(DiskPath("/dev/null"), folder.at("to")));
+  EXPECT_FALSE(copyFile(folder.at("pipe"), folder.at("to")));
+  EXPECT_FALSE(copyFile(DiskPath(folder.path()), folder.at("to")));
   EXPECT_FALSE(folder.exists("to"));
 }
 
@@ -145,7 +145,7 @@ TEST_F(CopyTree, aFileWhoseCopyFailsIsRemoved) {
     ::signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{1000, 1000};
     ::setrlimit(RLIMIT_FSIZE, &limit);
-    ::_exit(copyTree(folder / "from", folder / "to") ? 1 : 0);
+    ::_exit(copyTree(folder.at("from"), folder.at("to")) ? 1 : 0);
   }
   int status = 0;
   ASSERT_EQ(::waitpid(child, &status, 0), child);

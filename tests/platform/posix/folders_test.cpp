@@ -24,7 +24,7 @@ TEST_F(Folders, everyLevelMadeIsOpenToAllWhateverTheUmask) {
   for (const mode_t mask : {022U, 077U}) {
     const std::string top = "existing/" + std::to_string(mask);
     const mode_t before = ::umask(mask);
-    EXPECT_TRUE(makeFolders(folder / (top + "/b c/医学")));
+    EXPECT_TRUE(makeFolders(folder.at((top + "/b c/医学"))));
     ::umask(before);
     for (const char* level : {"", "/b c", "/b c/医学"}) EXPECT_EQ(folder.mode(top + level), 0777U) << level;
   }
@@ -35,10 +35,10 @@ TEST_F(Folders, aFolderThatIsThereIsEnough) {
   folder.makeFolder("a");
   ASSERT_EQ(::chmod((folder / "a").c_str(), 0700), 0);
   fs::create_directory_symlink("a", folder / "link");
-  EXPECT_TRUE(makeFolders(folder / "a"));
-  EXPECT_TRUE(makeFolders(folder / "link"));
-  EXPECT_TRUE(makeFolders(folder / "link/inner"));
-  EXPECT_TRUE(makeFolders("/"));
+  EXPECT_TRUE(makeFolders(folder.at("a")));
+  EXPECT_TRUE(makeFolders(folder.at("link")));
+  EXPECT_TRUE(makeFolders(folder.at("link/inner")));
+  EXPECT_TRUE(makeFolders(DiskPath("/")));
   EXPECT_EQ(folder.mode("a"), 0700U);
   EXPECT_TRUE(fs::is_directory(folder / "a/inner"));
 }
@@ -47,9 +47,9 @@ TEST_F(Folders, aFileInTheWayIsAFailure) {
   folder.write("plain", "x");
   fs::create_symlink("nowhere", folder / "dangling");
   for (const char* path : {"plain", "plain/a", "plain/a/b", "dangling", "dangling/a"}) {
-    EXPECT_FALSE(makeFolders(folder / path)) << path;
+    EXPECT_FALSE(makeFolders(folder.at(path))) << path;
   }
-  EXPECT_FALSE(makeFolders(""));
+  EXPECT_FALSE(makeFolders(DiskPath("")));
   EXPECT_EQ(folder.read("plain"), "x");
   EXPECT_FALSE(folder.exists("nowhere"));
 }
@@ -62,21 +62,21 @@ TEST_F(Folders, aTreeIsRemovedWithoutFollowingLinks) {
   fs::create_directory_symlink("../outside", folder / "tree/to folder");
   fs::create_symlink("../outside/kept", folder / "tree/to file");
   fs::create_symlink("nowhere", folder / "tree/dangling");
-  EXPECT_TRUE(removeTree(folder / "tree"));
+  EXPECT_TRUE(removeTree(folder.at("tree")));
   EXPECT_FALSE(folder.exists("tree"));
   EXPECT_EQ(folder.read("outside/kept"), "x");
 
   fs::create_directory_symlink("outside", folder / "link");
-  EXPECT_TRUE(removeTree(folder / "link"));
+  EXPECT_TRUE(removeTree(folder.at("link")));
   EXPECT_FALSE(folder.exists("link"));
   EXPECT_TRUE(folder.exists("outside/kept"));
 }
 
 TEST_F(Folders, whatIsNotThereCannotBeRemoved) {
   folder.write("plain", "x");
-  for (const char* path : {"missing", "plain/a", "missing/a"}) EXPECT_FALSE(removeTree(folder / path)) << path;
-  EXPECT_TRUE(removeTree(folder / "plain"));
-  EXPECT_FALSE(removeTree(""));
+  for (const char* path : {"missing", "plain/a", "missing/a"}) EXPECT_FALSE(removeTree(folder.at(path))) << path;
+  EXPECT_TRUE(removeTree(folder.at("plain")));
+  EXPECT_FALSE(removeTree(DiskPath("")));
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ class InstanceLockTest : public testing::Test {
  protected:
   InstanceLock::State tryLock() const { return InstanceLock(path).state(); }
   test::TemporaryFolder folder;
-  const std::string path = folder / "Library/Preferences/tarvo.lock";
+  const DiskPath path = folder.at("Library/Preferences/tarvo.lock");
 };
 
 TEST_F(InstanceLockTest, isHeldByOneAsLongAsItLives) {
@@ -30,7 +30,7 @@ TEST_F(InstanceLockTest, isHeldByOneAsLongAsItLives) {
   InstanceLock moved(std::move(*first));
   first.reset();
   EXPECT_EQ(tryLock(), InstanceLock::State::heldByAnother);
-  moved = InstanceLock(folder / "other.lock");
+  moved = InstanceLock(folder.at("other.lock"));
   EXPECT_EQ(tryLock(), InstanceLock::State::held);
   EXPECT_EQ(tryLock(), InstanceLock::State::held);
 }
@@ -89,13 +89,13 @@ TEST_F(InstanceLockTest, whereItCannotBeMadeThatIsSaid) {
   ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0666), 0);
   for (const std::string& place :
        {folder / "plain/lock", folder / "folder", folder / "pipe", std::string("relative")}) {
-    EXPECT_EQ(InstanceLock(place).state(), InstanceLock::State::unavailable) << place;
+    EXPECT_EQ(InstanceLock(DiskPath(place)).state(), InstanceLock::State::unavailable) << place;
   }
 }
 
 TEST_F(InstanceLockTest, aFileWithContentServesAndKeepsIt) {
   folder.write("Library/Preferences/tarvo.lock", "x");
-  ASSERT_EQ(::chmod(path.c_str(), 0444), 0);
+  ASSERT_EQ(::chmod(path.text().c_str(), 0444), 0);
   EXPECT_EQ(tryLock(), InstanceLock::State::held);
   EXPECT_EQ(folder.read("Library/Preferences/tarvo.lock"), "x");
 }

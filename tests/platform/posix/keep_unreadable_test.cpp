@@ -18,13 +18,13 @@ using Names = std::vector<std::string>;
 
 class KeepUnreadable : public testing::Test {
  protected:
-  Result<> keep(const char* name) { return keepUnreadableFile(folder / name); }
+  Result<> keep(const char* name) { return keepUnreadableFile(folder.at(name)); }
   test::TemporaryFolder folder;
 };
 
 TEST_F(KeepUnreadable, fiveAreKeptAndTheFifthIsReplaced) {
   for (int number = 1; number <= 7; ++number) {
-    ASSERT_TRUE(replaceFile(folder / "s.plist", std::to_string(number)));
+    ASSERT_TRUE(replaceFile(folder.at("s.plist"), std::to_string(number)));
     EXPECT_TRUE(keep("s.plist"));
   }
   EXPECT_EQ(folder.names(), (Names{"s.plist", "s.plist.unreadable", "s.plist.unreadable.2", "s.plist.unreadable.3",
@@ -37,7 +37,7 @@ TEST_F(KeepUnreadable, fiveAreKeptAndTheFifthIsReplaced) {
 TEST_F(KeepUnreadable, theKeptBytesOutliveTheReplacement) {
   folder.write("a", "precious");
   EXPECT_TRUE(keep("a"));
-  EXPECT_TRUE(replaceFile(folder / "a", "new"));
+  EXPECT_TRUE(replaceFile(folder.at("a"), "new"));
   EXPECT_EQ(folder.read("a.unreadable"), "precious");
 }
 
@@ -62,7 +62,7 @@ TEST_F(KeepUnreadable, aLinkKeepsTheBytesOfItsTarget) {
   fs::create_symlink("elsewhere/target", folder / "a");
   EXPECT_TRUE(keep("a"));
   EXPECT_FALSE(fs::is_symlink(folder / "a.unreadable"));
-  EXPECT_TRUE(replaceFile(folder / "a", "new"));
+  EXPECT_TRUE(replaceFile(folder.at("a"), "new"));
   EXPECT_EQ(folder.read("a.unreadable"), "x");
 }
 

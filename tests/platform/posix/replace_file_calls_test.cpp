@@ -23,7 +23,7 @@ class ReplaceFileCalls : public testing::Test {
     return ::chown((folder / "file").c_str(), 12345, 23456) == 0 && ::chmod((folder / "file").c_str(), 06755) == 0;
   }
   mode_t modeAfterReplacing() {
-    EXPECT_TRUE(replaceFile(folder / "file", "new"));
+    EXPECT_TRUE(replaceFile(folder.at("file"), "new"));
     struct stat status{};
     EXPECT_EQ(::stat((folder / "file").c_str(), &status), 0);
     return status.st_mode & 07777;
@@ -33,14 +33,14 @@ class ReplaceFileCalls : public testing::Test {
 
 TEST_F(ReplaceFileCalls, aNewFileIsOnTheDiskBeforeItHasItsName) {
   const RecordedCalls calls;
-  EXPECT_TRUE(replaceFile(folder / "file", "new"));
+  EXPECT_TRUE(replaceFile(folder.at("file"), "new"));
   EXPECT_EQ(calls.names(), (Calls{"write", "sync file", "rename", "sync folder"}));
 }
 
 TEST_F(ReplaceFileCalls, aReplacedFileHasItsModeBeforeItsBytes) {
   folder.write("file", "old");
   const RecordedCalls calls;
-  EXPECT_TRUE(replaceFile(folder / "file", "new"));
+  EXPECT_TRUE(replaceFile(folder.at("file"), "new"));
   EXPECT_EQ(calls.names(), (Calls{"mode", "write", "sync file", "rename", "sync folder"}));
 }
 
@@ -48,7 +48,7 @@ TEST_F(ReplaceFileCalls, bytesThatDidNotReachTheDiskReplaceNothing) {
   folder.write("file", "old");
   RecordedCalls calls;
   calls.refuseSync();
-  EXPECT_FALSE(replaceFile(folder / "file", "new"));
+  EXPECT_FALSE(replaceFile(folder.at("file"), "new"));
   EXPECT_EQ(calls.names(), (Calls{"mode", "write", "sync file"}));
   EXPECT_EQ(folder.read("file"), "old");
   EXPECT_EQ(folder.names(""), std::vector<std::string>{"file"});

@@ -44,7 +44,8 @@ class Running {
   pid_t process_ = 0;
 };
 
-bool lists(const Locations& locations, const std::string& bundle) {
+bool lists(const Locations& locations, const std::string& name) {
+  const ProductPath bundle(name);
   const auto all = runningApplications(locations);
   return std::count(all.begin(), all.end(), bundle) == 1;
 }

@@ -10,7 +10,7 @@
 namespace tarvo::test {
 namespace {
 
-const std::vector<std::string> folders{"/Applications", "/Users/taro/応用"};
+const std::vector<DiskPath> folders{DiskPath("/Applications"), DiskPath("/Users/taro/応用")};
 
 class ApplicationProgram : public testing::Test {
  protected:
@@ -20,15 +20,17 @@ class ApplicationProgram : public testing::Test {
     files_.put(bundle + "/Contents/Info.plist", writePropertyList(information));
     files_.put(bundle + "/Contents/MacOS/" + program, "");
   }
-  std::optional<std::string> find(const std::string& name) { return applicationProgram(files_, folders, name); }
+  std::string find(const std::string& name) {
+    return applicationProgram(files_, folders, name).value_or(DiskPath()).text();
+  }
   MemoryFiles files_;
 };
 
 TEST_F(ApplicationProgram, ofABundleIsTheOneThatItsInformationNames) {
   putBundle("/Applications/Some Editor.app", "editor", "editor");
   EXPECT_EQ(find("Some Editor.app"), "/Applications/Some Editor.app/Contents/MacOS/editor");
-  EXPECT_EQ(find("Some Editor"), std::nullopt);
-  EXPECT_EQ(find("some editor.app"), std::nullopt);
+  EXPECT_EQ(find("Some Editor"), "");
+  EXPECT_EQ(find("some editor.app"), "");
 }
 
 TEST_F(ApplicationProgram, ofABundleWithoutInformationIsCalledAsTheBundle) {
@@ -52,7 +54,7 @@ TEST_F(ApplicationProgram, isTakenFromTheFirstFolderThatHasIt) {
 TEST_F(ApplicationProgram, isNothingForPathsAndMissingNames) {
   files_.put("/Applications/Sub/tool", "");
   for (const char* name : {"", "missing", "Sub/tool", "/Applications/Sub/tool", "../Applications/Sub/tool"}) {
-    EXPECT_EQ(find(name), std::nullopt) << name;
+    EXPECT_EQ(find(name), "") << name;
   }
 }
 

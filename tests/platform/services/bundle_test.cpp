@@ -15,12 +15,12 @@ class BundleTest : public testing::Test {
  protected:
   // The resource below the bundle's folder, "" for none.
   std::string found(std::string_view name, std::string_view type, std::string_view subfolder = {}) const {
-    return bundle.resource(name, type, subfolder).value_or(folder.path() + "/").substr(folder.path().size() + 1);
+    return bundle.resource(name, type, subfolder).value_or(folder.at("")).text().substr(folder.path().size() + 1);
   }
   test::TemporaryFolder folder;
   Locations locations{"/", folder.path()};
   PosixFiles files{locations};
-  Bundle bundle{files, folder.path(), {"ja", "en"}};
+  Bundle bundle{files, DiskPath(folder.path()), {"ja", "en"}};
 };
 
 TEST_F(BundleTest, theFolderItselfComesBeforeTheLanguagesInTheUsersOrder) {
@@ -52,8 +52,8 @@ TEST_F(BundleTest, aNameWithoutATypeGetsNoDot) {
 TEST_F(BundleTest, imagesAreDrawingsWhateverExtensionTheirNameHas) {
   folder.write("images/MG.svg", "");
   folder.write("images/SM32.svg", "");
-  EXPECT_EQ(bundle.image("MG.tif"), folder / "images/MG.svg");
-  EXPECT_EQ(bundle.image("SM32"), folder / "images/SM32.svg");
+  EXPECT_EQ(bundle.image("MG.tif"), folder.at("images/MG.svg"));
+  EXPECT_EQ(bundle.image("SM32"), folder.at("images/SM32.svg"));
   EXPECT_EQ(bundle.image("missing.tif"), std::nullopt);
   EXPECT_EQ(bundle.image(""), std::nullopt);
 }

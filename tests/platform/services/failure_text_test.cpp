@@ -18,7 +18,7 @@ Texts shipped(const std::string& language) {
   const PosixFiles files(locations);
   Texts texts;
   EXPECT_TRUE(overlayTableFile(texts, files,
-                               std::string(TARVO_SOURCE_DIR "/resources/") + language + ".lproj/Localizable.strings"));
+                               DiskPath(TARVO_SOURCE_DIR "/resources") / (language + ".lproj/Localizable.strings")));
   return texts;
 }
 

@@ -24,8 +24,8 @@ Dictionary sample(int number) {
 
 TEST(PlistFile, readsWhatItWrote) {
   MemoryFiles files;
-  ASSERT_TRUE(files.makeFolder("/家"));
-  PlistFile file(files, path);
+  ASSERT_TRUE(files.makeFolder(DiskPath("/家")));
+  PlistFile file(files, DiskPath(path));
   EXPECT_FALSE(file.read());
   EXPECT_TRUE(file.write(sample(1)));
   EXPECT_EQ(file.read(), sample(1));
@@ -37,15 +37,15 @@ TEST(PlistFile, keepsBytesThatItCouldNotReadBeforeTheFirstReplacement) {
   for (const std::string& bytes : {std::string("garbage"), std::string(), writePropertyList(Array{})}) {
     MemoryFiles files;
     files.put(path, bytes);
-    PlistFile file(files, path);
+    PlistFile file(files, DiskPath(path));
     EXPECT_FALSE(file.read());
-    EXPECT_FALSE(files.isThere(kept));
+    EXPECT_FALSE(files.isThere(DiskPath(kept)));
     EXPECT_TRUE(file.write(sample(1)));
     EXPECT_EQ(files.bytes(kept), bytes);
     EXPECT_TRUE(file.write(sample(2)));
     EXPECT_EQ(file.read(), sample(2));
     EXPECT_TRUE(file.write(sample(3)));
-    EXPECT_FALSE(files.isThere(kept + ".2"));
+    EXPECT_FALSE(files.isThere(DiskPath(kept + ".2")));
   }
 }
 
@@ -53,7 +53,7 @@ TEST(PlistFile, keepsAFileThatRefusesToBeRead) {
   MemoryFiles files;
   files.put(path, writePropertyList(sample(1)));
   files.refuse(Operation::read);
-  PlistFile file(files, path);
+  PlistFile file(files, DiskPath(path));
   EXPECT_FALSE(file.read());
   EXPECT_TRUE(file.write(sample(2)));
   EXPECT_EQ(files.bytes(kept), writePropertyList(sample(1)));
@@ -67,13 +67,13 @@ TEST(PlistFile, saysWhyItCouldNotBeRead) {
   for (const auto& row : rows) {
     MemoryFiles files;
     files.put(path, row.bytes);
-    EXPECT_EQ(PlistFile(files, path).read().error(), (Failure{path, Attempt::read, row.cause}));
+    EXPECT_EQ(PlistFile(files, DiskPath(path)).read().error(), (Failure{path, Attempt::read, row.cause}));
   }
   MemoryFiles files;
-  EXPECT_TRUE(isAbsence(PlistFile(files, path).read().error()));
+  EXPECT_TRUE(isAbsence(PlistFile(files, DiskPath(path)).read().error()));
   files.put(path, "");
   files.refuse(Operation::read, path, std::errc::too_many_files_open);
-  const Failure failure = PlistFile(files, path).read().error();
+  const Failure failure = PlistFile(files, DiskPath(path)).read().error();
   EXPECT_EQ(failure.cause, std::errc::too_many_files_open);
   EXPECT_FALSE(isAbsence(failure));
 }
@@ -84,7 +84,7 @@ TEST(PlistFile, neverReplacesAFileThatCannotBeLookedAtWithoutAKeptCopy) {
   files.refuse(Operation::read);
   files.refuse(Operation::look);
   files.refuse(Operation::keepUnreadable);
-  PlistFile file(files, path);
+  PlistFile file(files, DiskPath(path));
   EXPECT_FALSE(file.read());
   EXPECT_EQ(file.write(sample(2)).error().attempt, Attempt::keep);
   EXPECT_EQ(files.bytes(path), writePropertyList(sample(1)));
@@ -97,7 +97,7 @@ TEST(PlistFile, writesNothingWhenTheBytesCannotBeKeptAndTriesAgain) {
   MemoryFiles files;
   files.put(path, "garbage");
   files.refuse(Operation::keepUnreadable);
-  PlistFile file(files, path);
+  PlistFile file(files, DiskPath(path));
   EXPECT_FALSE(file.read());
   EXPECT_FALSE(file.write(sample(1)));
   EXPECT_FALSE(file.write(sample(1)));
@@ -112,7 +112,7 @@ TEST(PlistFile, writesThatFailDoNotHeapUpKeptCopies) {
   MemoryFiles files;
   files.put(path, "garbage");
   files.refuse(Operation::write);
-  PlistFile file(files, path);
+  PlistFile file(files, DiskPath(path));
   EXPECT_FALSE(file.read());
   EXPECT_FALSE(file.write(sample(1)));
   EXPECT_FALSE(file.write(sample(1)));
@@ -125,26 +125,26 @@ TEST(PlistFile, writesThatFailDoNotHeapUpKeptCopies) {
 TEST(PlistFile, keepsNothingOfAFileThatIsGoneOrNoFile) {
   MemoryFiles files;
   files.put(path, "garbage");
-  PlistFile file(files, path);
+  PlistFile file(files, DiskPath(path));
   EXPECT_FALSE(file.read());
-  ASSERT_TRUE(files.remove(path));
+  ASSERT_TRUE(files.remove(DiskPath(path)));
   EXPECT_TRUE(file.write(sample(1)));
-  EXPECT_FALSE(files.isThere(kept));
+  EXPECT_FALSE(files.isThere(DiskPath(kept)));
 
-  ASSERT_TRUE(files.remove(path));
+  ASSERT_TRUE(files.remove(DiskPath(path)));
   files.putOther(path);
   EXPECT_FALSE(file.read());
   EXPECT_FALSE(file.write(sample(1)));
-  EXPECT_FALSE(files.isThere(kept));
+  EXPECT_FALSE(files.isThere(DiskPath(kept)));
 }
 
 TEST(PlistFile, aFileThatWasNeverReadIsReplacedAsItIs) {
   MemoryFiles files;
   files.put(path, "an older set");
-  PlistFile file(files, path);
+  PlistFile file(files, DiskPath(path));
   EXPECT_TRUE(file.write("new bytes"));
   EXPECT_EQ(files.bytes(path), "new bytes");
-  EXPECT_FALSE(files.isThere(kept));
+  EXPECT_FALSE(files.isThere(DiskPath(kept)));
 }
 
 }  // namespace

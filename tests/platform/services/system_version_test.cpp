@@ -20,7 +20,7 @@ class SystemVersion : public testing::Test {
     Dictionary root;
     root.set("ProductVersion", std::move(productVersion));
     folder.write(versionFile, writePropertyList(root));
-    return systemVersion(files);
+    return systemVersion(files, locations);
   }
   test::TemporaryFolder folder;
   Locations locations{folder.path(), folder.path()};
@@ -48,13 +48,13 @@ TEST_F(SystemVersion, isReadFromANumberAsFromItsText) {
 }
 
 TEST_F(SystemVersion, isZeroWhereItCannotBeRead) {
-  EXPECT_EQ(systemVersion(files), 0);
+  EXPECT_EQ(systemVersion(files, locations), 0);
   folder.write(versionFile, "no property list");
-  EXPECT_EQ(systemVersion(files), 0);
+  EXPECT_EQ(systemVersion(files, locations), 0);
   folder.write(versionFile, writePropertyList(Array{PropertyList("10.6")}));
-  EXPECT_EQ(systemVersion(files), 0);
+  EXPECT_EQ(systemVersion(files, locations), 0);
   folder.write(versionFile, writePropertyList(Dictionary{}));
-  EXPECT_EQ(systemVersion(files), 0);
+  EXPECT_EQ(systemVersion(files, locations), 0);
   EXPECT_EQ(versionWith(true), 0) << "no number";
 }
 

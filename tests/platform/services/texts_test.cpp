@@ -53,7 +53,7 @@ TEST_F(TextsTest, theShippedTableIsThatOfTheFirstLanguageThatHasOne) {
   folder.makeFolder("fr.lproj");
   const auto shipped = [&](std::vector<std::string> languages) {
     Texts laid;
-    overlayShippedTable(laid, Bundle(files, folder.path(), std::move(languages)), files);
+    overlayShippedTable(laid, Bundle(files, DiskPath(folder.path()), std::move(languages)), files);
     return laid.localized("a") + "," + laid.localized("b");
   };
   EXPECT_EQ(shipped({"ja", "en"}), "日本語,ja only");
@@ -65,8 +65,8 @@ TEST_F(TextsTest, aTableFileMustBeADictionary) {
   folder.write("good", writePropertyList(table({{"a", "1"}})));
   folder.write("array", writePropertyList(Array{PropertyList("a")}));
   folder.write("broken", "<plist>");
-  EXPECT_TRUE(overlayTableFile(texts, files, folder / "good"));
-  for (const char* name : {"array", "broken", "missing"}) EXPECT_FALSE(overlayTableFile(texts, files, folder / name));
+  EXPECT_TRUE(overlayTableFile(texts, files, folder.at("good")));
+  for (const char* name : {"array", "broken", "missing"}) EXPECT_FALSE(overlayTableFile(texts, files, folder.at(name)));
   EXPECT_EQ(texts.localized("a"), "1");
 }
 

@@ -39,7 +39,7 @@ class UserDefaultsTest : public testing::Test {
 TEST_F(UserDefaultsTest, valuesKeepTheirKindsOverARestart) {
   const Array rows{PropertyList("a"), PropertyList(Dictionary{})};
   {
-    UserDefaults defaults(files, folder / file);
+    UserDefaults defaults(files, folder.at(file));
     EXPECT_EQ(defaults.find("key"), nullptr);
     defaults.set("text", "文字");
     defaults.set("empty", "");
@@ -49,7 +49,7 @@ TEST_F(UserDefaultsTest, valuesKeepTheirKindsOverARestart) {
     defaults.set("none", Array{});
     defaults.synchronize();
   }
-  const UserDefaults again(files, folder / file);
+  const UserDefaults again(files, folder.at(file));
   EXPECT_EQ(*again.string("text"), "文字");
   EXPECT_EQ(*again.string("empty"), "");
   EXPECT_EQ(*again.find("no"), PropertyList(false));
@@ -61,7 +61,7 @@ TEST_F(UserDefaultsTest, valuesKeepTheirKindsOverARestart) {
 }
 
 TEST_F(UserDefaultsTest, nothingIsWrittenBeforeSynchronise) {
-  UserDefaults defaults(files, folder / file);
+  UserDefaults defaults(files, folder.at(file));
   defaults.set("a", 1);
   EXPECT_FALSE(folder.exists("Library"));
   defaults.synchronize();
@@ -74,7 +74,7 @@ TEST_F(UserDefaultsTest, nothingIsWrittenBeforeSynchronise) {
 }
 
 TEST_F(UserDefaultsTest, onlyAChangeIsWritten) {
-  UserDefaults defaults(files, folder / file);
+  UserDefaults defaults(files, folder.at(file));
   defaults.synchronize();
   EXPECT_FALSE(folder.exists("Library")) << "there is nothing to keep";
   defaults.set("a", 1);
@@ -96,7 +96,7 @@ TEST_F(UserDefaultsTest, keysThatNobodyKnowsStay) {
   Dictionary root;
   root.set("foreign", Date{"2009-01-01T00:00:00Z"});
   folder.write(file, writePropertyList(root));
-  UserDefaults defaults(files, folder / file);
+  UserDefaults defaults(files, folder.at(file));
   defaults.set("a", 1);
   defaults.synchronize();
   EXPECT_EQ(stored("foreign"), PropertyList(Date{"2009-01-01T00:00:00Z"}));
@@ -104,7 +104,7 @@ TEST_F(UserDefaultsTest, keysThatNobodyKnowsStay) {
 
 TEST_F(UserDefaultsTest, aFailedWriteIsTriedAgain) {
   folder.write("Library", "in the way");
-  UserDefaults defaults(files, folder / file);
+  UserDefaults defaults(files, folder.at(file));
   defaults.set("a", 1);
   defaults.synchronize();
   EXPECT_EQ(folder.read("Library"), "in the way");
@@ -115,7 +115,7 @@ TEST_F(UserDefaultsTest, aFailedWriteIsTriedAgain) {
 
 TEST_F(UserDefaultsTest, bytesThatCannotBeReadAreKeptBesideTheFirstWrite) {
   folder.write(file, "garbage");
-  UserDefaults defaults(files, folder / file);
+  UserDefaults defaults(files, folder.at(file));
   defaults.synchronize();
   EXPECT_EQ(folder.read(file), "garbage");
   defaults.set("a", 1);
@@ -128,7 +128,7 @@ TEST_F(UserDefaultsTest, bytesThatCannotBeReadAreKeptBesideTheFirstWrite) {
 }
 
 TEST_F(UserDefaultsTest, theObserverHearsOfEverySetRemovalAndSynchronise) {
-  UserDefaults defaults(files, folder / file);
+  UserDefaults defaults(files, folder.at(file));
   std::string heard;
   defaults.observer = [&](std::string_view key, const PropertyList* value) {
     heard += std::string(key) + (value != nullptr ? "=" + *value->string() : "-") + " ";
