@@ -20,6 +20,7 @@ void StyleFile::recordChanged(std::size_t index) {
 std::span<const std::string> StyleFile::encode(const Dictionary& root) {
   const Array* styles = root.array(keyNameStyle);
   encoded_.resize(styles != nullptr ? styles->size() : 0);
+  if (styles == nullptr) return encoded_;
   for (std::size_t i = 0; i < encoded_.size(); ++i) {
     if (encoded_[i].empty()) appendValue(encoded_[i], (*styles)[i], valueDepth + 1);
   }
