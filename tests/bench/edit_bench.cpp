@@ -4,10 +4,15 @@
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
+#include <functional>
+#include <memory>
+#include <sstream>
 #include <stdexcept>
 
 #include "app/product.h"
 #include "app/program.h"
+#include "console/verbs/style_edit_commands.h"
+#include "platform/plist/plist_reader.h"
 #include "platform/posix/posix_run_loop.h"
 #include "platform/services/engine.h"
 #include "tests/bench/bare_replace.h"
@@ -15,9 +20,13 @@
 #include "tests/bench/quiet_shell.h"
 #include "tests/bench/timing.h"
 
-// One edit against bare replaces of the same files with the same bytes: edit_bench ROOT HOME ENGINE FLOOR COUNT
-// ENGINE is "local" or "none", FLOOR a folder on the same disk. Prints the medians in milliseconds and the number of
-// files that one edit replaces: "EDIT FLOOR FILES".
+// One edit against bare replaces of the same files with the same bytes, read before where the edit reads them.
+//
+// edit_bench KIND ROOT HOME ENGINE FLOOR COUNT
+//
+// KIND is "gesture", an option chosen in a program that runs, or "verb", all that "style set" does on the first style
+// but for the start of its process. ENGINE is "local" or "none", FLOOR a folder on the same disk. Prints the medians in
+// milliseconds and the number of files that one edit replaces: "EDIT FLOOR FILES".
 namespace {
 
 using namespace tarvo;
@@ -39,35 +48,83 @@ struct Replacement {
 std::vector<Replacement> replacementsFor(const std::vector<std::string>& files, const std::string& floor) {
   std::vector<Replacement> replacements;
   for (const auto& file : files) {
-    replacements.push_back({floor + file, readWholeFile(file)});
-    std::filesystem::create_directories(std::filesystem::path(floor + file).parent_path());
+    const Replacement& made = replacements.emplace_back(Replacement{floor + file, readWholeFile(file)});
+    std::filesystem::create_directories(std::filesystem::path(made.path).parent_path());
+    if (!std::filesystem::exists(made.path)) bareReplace(made.path, made.bytes);
   }
   return replacements;
 }
 
-class EditBench {
+// What makes an edit. Each call changes the option to another value than the one before.
+using Edit = std::function<void()>;
+
+class Gesture {
  public:
-  EditBench(const std::string& root, const ProductOptions& options, std::string floor)
-      : root_(root),
-        floor_(std::move(floor)),
-        product_(options),
-        engine_(product_.makeEngine(product_.files())),
-        program_(product_.services(product_.files(), *engine_, loop_, panels_, windows_, workspace_)) {
+  Gesture(Product& product, Engine& engine)
+      : program_(product.services(product.files(), engine, loop_, panels_, windows_, workspace_)) {
     if (!program_.construct() || !program_.load()) {
-      throw std::runtime_error("the program did not start: " + product_.problem());
+      throw std::runtime_error("the program did not start: " + product.problem());
     }
     program_.interface().style.stylePopup.userChoose(1);
   }
 
-  void alternate() {
+  void operator()() {
     PopUpButton& option = program_.interface().options.indexPopups.front();
+    option.userChoose(option.indexOfSelectedItem() == 0 ? 1 : 0);
+  }
+
+ private:
+  PosixRunLoop loop_;
+  QuietPanels panels_;
+  QuietWindows windows_;
+  QuietWorkspace workspace_;
+  Program program_;
+};
+
+class Verb {
+ public:
+  explicit Verb(Product& product) : product_(product) { set(value_); }
+
+  void operator()() {
+    value_ = 1 - value_;
+    set(value_);
+  }
+
+ private:
+  void set(int value) {
+    std::ostringstream out, err;
+    Console console{.product = product_,
+                    .runLoop = loop_,
+                    .out = out,
+                    .err = err,
+                    .takeLock = [](const DiskPath&) { return true; },
+                    .become = {},
+                    .textsToTell = {}};
+    const ExitStatus status = StyleSetCommand("1", {"Opt1=" + std::to_string(value)}).run(console);
+    if (status != ExitStatus::done) throw std::runtime_error(err.str());
+  }
+
+  Product& product_;
+  PosixRunLoop loop_;
+  int value_ = 0;
+};
+
+class EditBench {
+ public:
+  // reads: the edit begins with reading the files that it replaces, and so does the floor.
+  EditBench(std::string root, std::string floor, bool reads, Edit edit)
+      : root_(std::move(root)), floor_(std::move(floor)), reads_(reads), edit_(std::move(edit)) {}
+
+  void alternate() {
     const auto before = fileIdentities(root_);
-    const int other = option.indexOfSelectedItem() == 0 ? 1 : 0;
-    const double edit = milliseconds([&] { option.userChoose(other); });
+    const double edit = milliseconds(edit_);
     const auto replacements = replacementsFor(changedFiles(before, fileIdentities(root_)), floor_);
     if (replacements.empty()) throw std::runtime_error("the edit replaced no file");
     const double floor = milliseconds([&] {
-      for (const auto& [path, bytes] : replacements) bareReplace(path, bytes);
+      for (const auto& [path, bytes] : replacements) {
+        if (reads_ && !readPropertyList(readWholeFile(path))) throw std::runtime_error(path + " is no property list");
+        bareReplace(path, bytes);
+      }
     });
     edits_.push_back(edit);
     floors_.push_back(floor);
@@ -84,27 +141,34 @@ class EditBench {
 
  private:
   std::string root_, floor_;
-  Product product_;
-  std::unique_ptr<Engine> engine_;
-  PosixRunLoop loop_;
-  QuietPanels panels_;
-  QuietWindows windows_;
-  QuietWorkspace workspace_;
-  Program program_;
+  bool reads_;
+  Edit edit_;
   Times edits_, floors_;
   std::size_t files_ = 0;
 };
 
+void measure(EditBench bench, int count) {
+  for (int i = 0; i < 3; ++i) bench.alternate();
+  bench.forget();
+  for (int i = count; i > 0; --i) bench.alternate();
+  bench.print();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 6) return 2;
+  if (argc != 7) return 2;
   try {
-    EditBench bench(argv[1], optionsFor(argv[1], argv[2], argv[3]), argv[4]);
-    for (int i = 0; i < 3; ++i) bench.alternate();
-    bench.forget();
-    for (int i = std::atoi(argv[5]); i > 0; --i) bench.alternate();
-    bench.print();
+    const std::string kind = argv[1], root = argv[2], floor = argv[5];
+    Product product(optionsFor(root, argv[3], argv[4]));
+    const std::unique_ptr<Engine> engine = product.makeEngine(product.files());
+    if (kind == "gesture") {
+      Gesture gesture(product, *engine);
+      measure({root, floor, false, std::ref(gesture)}, std::atoi(argv[6]));
+    } else {
+      Verb verb(product);
+      measure({root, floor, true, std::ref(verb)}, std::atoi(argv[6]));
+    }
   } catch (const std::exception& error) {
     std::fprintf(stderr, "edit_bench: %s\n", error.what());
     return 1;
