@@ -50,7 +50,7 @@ std::string Locations::shown(const DiskPath& path) const {
 DiskPath storedPath(const std::string& text, const Locations& locations, const FileService& files) {
   DiskPath below = locations.onDisk(ProductPath(text));
   const DiskPath itself(text);
-  return files.isAbsent(below) && files.isThere(itself) ? itself : below;
+  return files.isAbsent(below) && !files.isAbsent(itself) ? itself : below;
 }
 
 }  // namespace tarvo

@@ -33,8 +33,8 @@ class Locations {
 class FileService;
 
 // A path that an earlier run stored: one of the product, or that of an application which the user picked outside the
-// root. What lies below the root comes first; where that is known to hold nothing, and something lies at the path
-// itself, that is meant.
+// root. What lies below the root comes first; where that is known to hold nothing, and the path itself is not known to,
+// that is meant: a disk that is away for the moment keeps what was picked on it.
 DiskPath storedPath(const std::string& text, const Locations& locations, const FileService& files);
 
 }  // namespace tarvo

@@ -70,6 +70,9 @@ TEST(StoredPath, meansWhatLiesBelowTheRootElseWhatTheUserPicked) {
   files.refuse(test::MemoryFiles::Operation::look, "/srv/root/Office/Word.app");
   EXPECT_EQ(meant("/Office/Word.app"), "/srv/root/Office/Word.app") << "it may be there";
   files.allowAll();
+  files.refuse(test::MemoryFiles::Operation::look, "/Office/Word.app", std::errc::io_error);
+  EXPECT_EQ(meant("/Office/Word.app"), "/Office/Word.app") << "below the root it cannot be";
+  files.allowAll();
   files.put("/srv/root/Office/Word.app", "");
   EXPECT_EQ(meant("/Office/Word.app"), "/srv/root/Office/Word.app");
   EXPECT_EQ(meant(""), "");
