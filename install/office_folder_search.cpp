@@ -43,7 +43,7 @@ void OfficeFolderSearch::searchFolder(const DiskPath& folder) {
     const DiskPath path = folder / name;
     const Result<Dictionary> information = readDictionary(services_.files, path / "Contents/Info.plist");
     if (!information || addinText(*information, "CFBundlePackageType") != "APPL") continue;
-    if (!lists_.fDefaultOfficeSetArray) continue;
+    if (!lists_.fDefaultOfficeSetArray || !canBeStored(path)) continue;
     const int version = getApplicationVer(path);
     const std::string signature = addinText(*information, "CFBundleSignature");
     for (const AddinLists::SharedEntry& shipped : *lists_.fDefaultOfficeSetArray) {
@@ -51,6 +51,10 @@ void OfficeFolderSearch::searchFolder(const DiskPath& folder) {
     }
   }
   lists_.reloadTables();
+}
+
+bool OfficeFolderSearch::canBeStored(const DiskPath& path) const {
+  return storedPath(services_.locations.inProduct(path).text(), services_.locations, services_.files) == path;
 }
 
 int OfficeFolderSearch::getApplicationVer(const DiskPath& path) {

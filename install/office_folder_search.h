@@ -45,6 +45,9 @@ class OfficeFolderSearch {
 
  private:
   void searchFolder(const DiskPath& folder);
+  // False for an application outside the root where the root holds one at the same path: the row would mean that one,
+  // and its box install there.
+  bool canBeStored(const DiskPath& path) const;
   bool addOfficeRow(const AddinEntry& shipped, const DiskPath& path, const DiskPath& folder);
   bool addMailRow(const AddinEntry& shipped, const DiskPath& path);
   AddinEntry rowFor(const AddinEntry& shipped, const DiskPath& path, const DiskPath& base) const;

@@ -111,6 +111,21 @@ TEST_F(FolderSearch, takesTheWrittenFormOfAPathAsAnother) {
   EXPECT_EQ(lists.fOfficeAddinArray.size(), 2U);
 }
 
+TEST_F(FolderSearch, leavesAnApplicationOutsideTheRootOutWhoseStoredPathWouldMeanAnother) {
+  const std::string outside = folder / "media/Office";
+  for (const std::string name : {"Word.app", "Excel.app"}) {
+    Dictionary information;
+    information.set("CFBundlePackageType", "APPL");
+    information.set("CFBundleSignature", name == "Word.app" ? "MSWD" : "XCEL");
+    folder.write("media/Office/" + name + "/Contents/Info.plist", writePropertyList(information));
+  }
+  folder.makeFolder(inRoot(outside + "/Word.app"));
+  choose(outside);
+  searchFolder();
+  EXPECT_EQ(names(lists.fOfficeAddinArray), Rows{"Excel 2011"}) << "the macro of Word would go below the root";
+  EXPECT_EQ(lists.placesOf(lists.fOfficeAddinArray.at(0)).application.text(), outside + "/Excel.app");
+}
+
 TEST_F(FolderSearch, leavesOutOtherEditions) {
   application("Word.app", "APPL", "MSWD");
   for (const char* version : {"12.1", "15.0", "13.9", "140"}) {
