@@ -33,7 +33,9 @@ std::optional<NewNameProblem> DictionaryNames::problemWith(DictionaryKind kind, 
   if (std::any_of(forbidden.begin(), forbidden.end(), isHeld)) return NewNameProblem::forbidden;
   if (isReserved(kind, direction, name)) return NewNameProblem::reserved;
   if (isTooLongForTheEngine(name)) return NewNameProblem::tooLong;
-  const bool exists = existsIgnoringCase(files, folderOf(kind) / fileNameFor(kind, direction, name));
+  const DiskPath path = folderOf(kind) / fileNameFor(kind, direction, name);
+  // What cannot be looked at is no fault of the name: making it says why it cannot be.
+  const bool exists = files.kind(path).has_value() && existsIgnoringCase(files, path);
   return exists ? std::optional(NewNameProblem::exists) : std::nullopt;
 }
 

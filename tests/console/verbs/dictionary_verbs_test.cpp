@@ -284,5 +284,14 @@ TEST_F(NewVerb, aPlaceThatTakesNoFileIsTold) {
   EXPECT_EQ(result.status, 1);
 }
 
+TEST_F(NewVerb, aPlaceThatCannotBeLookedAtIsToldAndNoNameIsCalledTaken) {
+  const std::string folder = root_.root() + "/Users/taro/Library/Application Support/Wordhaven/UserDic";
+  std::filesystem::create_directories(std::filesystem::path(folder).parent_path());
+  std::filesystem::create_symlink("UserDic", folder);
+  const ToolResult result = runInEnglish({"new", "ej", "user", "N"});
+  EXPECT_EQ(result.err.substr(0, result.err.find(';')), "tarvoctl: " + folder + "/N.eud2: cannot be looked at");
+  EXPECT_EQ(result.status, 1);
+}
+
 }  // namespace
 }  // namespace tarvo::test
