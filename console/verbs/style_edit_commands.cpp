@@ -8,7 +8,9 @@
 #include "app/product_defaults.h"
 #include "console/verbs/option_words.h"
 #include "console/verbs/style_session.h"
+#include "platform/plist/plist_writer.h"
 #include "platform/services/locations.h"
+#include "platform/text/text_rules.h"
 #include "style/sibling_tools.h"
 #include "style/style_edits.h"
 
@@ -60,6 +62,7 @@ ExitStatus StyleRenameCommand::run(Console& console) {
   return session.edit(style_, [&](int index) -> std::optional<Problem> {
     const std::string standardName = console.product.texts().localized(nomalStyle);
     if (index == 0) return Refusal{styleName(*session.store().getStyleAtIndex(0)), "Refusal.StandardStyle", ""};
+    if (!canHoldText(trimmed(name_))) return Refusal{name_, "Refusal.UnkeepableStyleName", ""};
     const auto renamed = renameStyle(session.store(), index, name_, standardName);
     if (renamed) return std::nullopt;
     return Refusal{name_, renamed.error() == NameProblem::empty ? "Refusal.EmptyName" : "Refusal.TakenName", ""};

@@ -59,6 +59,15 @@ TEST_F(TravelVerbs, refusedNamesAreTold) {
   expectRefused({"style", "rename", "3", "nomalstyle"}, told("nomalstyle", taken), 1);
   expectRefused({"style", "rename", "3", " \n"},
                 told(" \\x0A", "cannot be the name; nothing but white space is in it; write a name"), 1);
+  const char* unkeepable = "cannot be the name; a style file cannot hold every character of it; choose another name";
+  expectRefused({"style", "rename", "3",
+                 "a\x01"
+                 "b"},
+                told("a\\x01"
+                     "b",
+                     unkeepable),
+                1);
+  expectRefused({"style", "rename", "3", "\xFF\xFE"}, told("\\xFF\\xFE", unkeepable), 1);
 }
 
 TEST_F(TravelVerbs, refusedNamesAreToldInTheUsersLanguage) {
