@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <system_error>
 #include <thread>
 
 #include "platform/posix/instance_lock.h"
@@ -31,7 +32,11 @@ constexpr int tries = 50;  // to enter, while another start is coming up
 constexpr std::chrono::milliseconds betweenTries(20);
 
 BusIdentity identityOf(const CommandLine& line, const Locations& locations) {
-  const auto real = [](const DiskPath& path) { return std::filesystem::weakly_canonical(path.text()).string(); };
+  const auto real = [](const DiskPath& path) {
+    std::error_code unknown;  // a path whose links cannot be followed stands for itself
+    const std::string followed = std::filesystem::weakly_canonical(path.text(), unknown).string();
+    return unknown ? path.text() : followed;
+  };
   return {line.busName.value_or(defaultBusName), real(locations.home()), real(locations.root())};
 }
 

@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QThread>
+#include <filesystem>
 #include <memory>
 
 #include "platform/plist/plist_reader.h"
@@ -208,6 +209,14 @@ TEST_F(SecondStart, leavesEveryOtherBusAlone) {
     EXPECT_EQ(qgetenv("DBUS_SESSION_BUS_ADDRESS"), address);
   }
   qputenv("DBUS_SESSION_BUS_ADDRESS", real);
+}
+
+TEST_F(SecondStart, ofAHomeThatCannotBeLookedAtTellsSoAndEnds) {
+  std::filesystem::create_symlink("home", product.folder / "home");
+  const QString home = QString::fromStdString(product.folder / "home/taro");
+  const test::Ran run = start({"--root", product.root(), "--home", home, "--engine", "none", "--tour",
+                               QString::fromStdString(product.folder / "tour")});
+  EXPECT_EQ(run.status, 1) << run.err;
 }
 
 TEST_F(SecondStart, ofNoneIsTheFirst) {
