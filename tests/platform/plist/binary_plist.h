@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <bit>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "platform/plist/plist_reader.h"
 
 // Puts binary property lists together, object by object, sound ones and others.
 namespace tarvo::test {
@@ -34,5 +38,12 @@ struct BinaryPlist {
            bigEndian(root, 8) + bigEndian(tableOffset, 8);
   }
 };
+
+inline std::optional<PropertyList> read(std::vector<std::string> objects) {
+  return readPropertyList(BinaryPlist{std::move(objects)}.bytes());
+}
+
+inline std::string real(double value) { return "\x23" + bigEndian(std::bit_cast<std::uint64_t>(value), 8); }
+inline std::string date(double seconds) { return "\x33" + bigEndian(std::bit_cast<std::uint64_t>(seconds), 8); }
 
 }  // namespace tarvo::test

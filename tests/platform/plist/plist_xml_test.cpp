@@ -19,16 +19,6 @@ Data bytesOf(std::string_view text) {
   return Data(first, first + text.size());
 }
 
-std::string utf16(std::u16string_view text, bool littleEndian) {
-  std::string bytes;
-  for (const char16_t unit : text) {
-    const char high = static_cast<char>(unit >> 8), low = static_cast<char>(unit & 0xFF);
-    bytes += littleEndian ? low : high;
-    bytes += littleEndian ? high : low;
-  }
-  return bytes;
-}
-
 struct Row {
   std::string body;
   std::optional<PropertyList> value;
@@ -166,55 +156,6 @@ TEST(XmlPropertyList, acceptsNothingBehindTheEnd) {
   EXPECT_FALSE(readPropertyList(whole + "x"));
   EXPECT_FALSE(readPropertyList(whole + whole));
   EXPECT_FALSE(readPropertyList(whole + std::string(1, '\0')));
-}
-
-TEST(XmlPropertyList, theHeadMayBeMissing) {
-  EXPECT_EQ(readPropertyList("<plist><true/></plist>"), PropertyList(true));
-  EXPECT_EQ(readPropertyList("<plist version='1.0'>\n<true/>\n</plist>"), PropertyList(true));
-  EXPECT_EQ(readPropertyList("<?xml version='1.0'?><array><true/></array>"), PropertyList(Array{PropertyList(true)}));
-  EXPECT_EQ(readPropertyList("<string>a</string>"), PropertyList("a"));
-  EXPECT_EQ(readPropertyList("<key>a</key>"), std::nullopt);
-}
-
-TEST(XmlPropertyList, readsEveryEncodingThatAMarkOrTheDeclarationShows) {
-  const std::u16string_view text = u"<?xml version=\"1.0\" encoding=\"UTF-16\"?><string>辞書\U0001F600</string>";
-  const std::u16string_view liar = u"<?xml version=\"1.0\" encoding=\"UTF-8\"?><string>辞書\U0001F600</string>";
-  const PropertyList expected("辞書\U0001F600");
-  EXPECT_EQ(readPropertyList("\xFF\xFE" + utf16(text, true)), expected);
-  EXPECT_EQ(readPropertyList("\xFE\xFF" + utf16(text, false)), expected);
-  EXPECT_EQ(readPropertyList(utf16(text, true)), expected);
-  EXPECT_EQ(readPropertyList(utf16(text, false)), expected);
-  EXPECT_EQ(readPropertyList("\xFF\xFE" + utf16(liar, true)), expected);
-  EXPECT_EQ(readPropertyList("\xEF\xBB\xBF<string>辞書\U0001F600</string>"), expected);
-  EXPECT_EQ(readPropertyList("\xEF\xBB\xBF<?xml version='1.0' encoding='UTF-16'?><string>辞書\U0001F600</string>"),
-            expected);
-  EXPECT_EQ(readPropertyList("<?xml version='1.0' encoding='ISO-8859-1'?><string>\xE9</string>"), PropertyList("é"));
-  EXPECT_EQ(readPropertyList("<?xml version='1.0' encoding='x-unknown'?><string>a</string>"), std::nullopt);
-  EXPECT_EQ(readPropertyList("\xFF\xFE" + utf16(u"<string>\xD800</string>", true)), std::nullopt);
-  EXPECT_EQ(readPropertyList("\xFF\xFE" + utf16(text, true) + "\n"), std::nullopt);
-}
-
-TEST(XmlPropertyList, theDocumentTypeIsNeitherFetchedNorAbleToDeclareText) {
-  const auto read = [](const std::string& type, const std::string& text) {
-    return readPropertyList("<?xml version='1.0'?>" + type + "<plist><string>" + text + "</string></plist>");
-  };
-  const std::string external = "SYSTEM \"/nowhere/list.dtd\"";
-  EXPECT_EQ(read("<!DOCTYPE plist " + external + ">", "a"), PropertyList("a"));
-  EXPECT_EQ(read("<!DOCTYPE plist " + external + ">", "a&b;"), std::nullopt);
-  EXPECT_EQ(read("<!DOCTYPE plist [<!ENTITY b \"c\">]>", "a"), std::nullopt);
-  EXPECT_EQ(read("<!DOCTYPE plist [<!ENTITY b SYSTEM \"/etc/hostname\">]>", "&b;"), std::nullopt);
-  EXPECT_EQ(read("<!DOCTYPE plist [<!ENTITY % b \"c\"> %b;]>", "a"), std::nullopt);
-  EXPECT_EQ(read("<!DOCTYPE plist [%b; <!ENTITY c \"d\">]>", "a&c;"), std::nullopt);
-  EXPECT_EQ(read("<!DOCTYPE plist [<!ELEMENT plist ANY>]>", "a"), PropertyList("a"));
-}
-
-TEST(XmlPropertyList, entitiesThatMultiplyGiveNothing) {
-  std::string type = "<!DOCTYPE plist [<!ENTITY e0 \"haha\">";
-  for (int i = 1; i < 30; ++i) {
-    const std::string previous = "&e" + std::to_string(i - 1) + ";";
-    type += "<!ENTITY e" + std::to_string(i) + " \"" + previous + previous + "\">";
-  }
-  EXPECT_EQ(readPropertyList(type + "]><plist><string>&e29;</string></plist>"), std::nullopt);
 }
 
 std::string nested(int depth, const std::string& open, const std::string& close, const std::string& leaf) {
