@@ -4,69 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/plist/plist_writer.h"
-#include "platform/services/texts.h"
-#include "platform/services/user_defaults.h"
-#include "style/pane_alerts.h"
-#include "style/process_flags.h"
-#include "style/style_store.h"
-#include "tests/style/exchange_world.h"
-#include "tests/support/fake_shell.h"
-#include "tests/support/memory_files.h"
+#include "tests/style/naming_fixture.h"
 #include "tests/support/sample_styles.h"
 
 namespace tarvo::test {
 namespace {
-
-class StyleNamingTest : public testing::Test {
- protected:
-  explicit StyleNamingTest(const Dictionary& root = sampleRoot()) {
-    files_.put("/styles.plist", writePropertyList(root));
-    EXPECT_TRUE(store_.readUserStyles());
-    store_.setAwakening(false);
-    std::vector<PopUpButton::Item> items;
-    for (const PropertyList& style : *root.array("Style")) {
-      const std::string* name = style.dictionary() != nullptr ? style.dictionary()->string("Name") : nullptr;
-      items.push_back({name != nullptr ? *name : "", 0});
-    }
-    pane_.stylePopup.setItems(std::move(items));
-  }
-  // Opens the sheet for the style, types the name and presses OK.
-  void rename(int index, const std::string& name) {
-    pane_.stylePopup.selectItemAtIndex(index);
-    naming_.editStyleName();
-    log_.clear();
-    outlets_.styleNameField.userType(name);
-    naming_.snOKButtonAction();
-  }
-  const std::string& field() const { return outlets_.styleNameField.stringValue(); }
-  bool isOpen() const { return outlets_.styleNameWindow.isShown(); }
-  std::string nameOf(int index) const { return *store_.getStyleAtIndex(index)->string("Name"); }
-  void expectRefusal(const std::string& alert) {
-    EXPECT_EQ(log_, (Log{"beep", alert}));
-    EXPECT_TRUE(isOpen());
-    EXPECT_TRUE(flags_.gMenuControllFlag);
-    EXPECT_EQ(files_.writes(), 0);
-    EXPECT_EQ(store_.root(), sampleRoot());
-  }
-  const std::string taken_ = "alert CantStyleNameNomalHeader / CantStyleNameNomalMessage";
-
-  Log log_;
-  MemoryFiles files_;
-  FakeEngine engine_{log_};
-  FakePanels panels_{log_};
-  FakeHost host_;
-  FakeRunLoop runLoop_;
-  Texts texts_;
-  UserDefaults defaults_{files_, DiskPath("/defaults.plist")};
-  StyleStore store_{files_, engine_, defaults_, DiskPath("/styles.plist"), DiskPath("/seed.plist")};
-  PaneOutlets pane_;
-  NamingOutlets outlets_;
-  ProcessFlags flags_;
-  PaneAlerts alerts_{panels_, texts_};
-  Windows windows_{host_, runLoop_};
-  StyleNaming naming_{{outlets_, pane_.stylePopup, pane_.myWindow, store_, flags_, alerts_, windows_}, "NomalStyle"};
-};
 
 TEST_F(StyleNamingTest, isOfferedForEveryStyleButTheStandardOne) {
   for (int index = 0; index < 4; ++index) {
@@ -129,42 +71,6 @@ TEST_F(StyleNamingTest, cancelledChangesNothing) {
   EXPECT_FALSE(flags_.gMenuControllFlag);
   EXPECT_EQ(files_.writes(), 0);
   EXPECT_EQ(store_.root(), sampleRoot());
-}
-
-TEST_F(StyleNamingTest, refusesANameOfBlanksAndEmptiesTheField) {
-  for (const char* blanks : {"", " ", " \t\r\n", "\u3000\u00A0\u2028"}) {
-    rename(3, blanks);
-    EXPECT_EQ(field(), "");
-    expectRefusal("alert NoStyleNameHeader / NoStyleNameMessage");
-    naming_.snCancelButtonAction();
-  }
-}
-
-TEST_F(StyleNamingTest, refusesTakenNamesInAnyLetterCase) {
-  for (const char* name : {"nomalSTYLE", "BETA", "  beta\n", "KEYNAMEseparator", "keyNameSeparator"}) {
-    rename(1, name);
-    expectRefusal(taken_);
-    EXPECT_EQ(field(), std::string(name) == "  beta\n" ? "beta" : name);
-    naming_.snCancelButtonAction();
-  }
-}
-
-TEST_F(StyleNamingTest, acceptsWhatDiffersByMoreThanLetterCase) {
-  const std::string longName = "a/b:c.d" + std::string(500, 'x');
-  for (const std::string& name : {std::string("ALPHA"), std::string("Alpha"), std::string("Ｂｅｔａ"),
-                                  std::string("Béta"), std::string("Beta\u200B"), longName}) {
-    rename(1, name);
-    EXPECT_EQ(nameOf(1), name);
-    EXPECT_EQ(pane_.stylePopup.items()[1].title, name);
-    EXPECT_FALSE(isOpen());
-    EXPECT_FALSE(flags_.gMenuControllFlag);
-  }
-}
-
-TEST_F(StyleNamingTest, keepsBlanksInsideTheName) {
-  rename(1, " New  Name \n");
-  EXPECT_EQ(nameOf(1), "New  Name");
-  EXPECT_EQ(pane_.stylePopup.items()[1].title, "New  Name");
 }
 
 TEST_F(StyleNamingTest, writesRegistersRetitlesAndOnlyThenCloses) {
@@ -233,23 +139,6 @@ TEST_F(StyleNamingTest, keepsARenameThatCouldNotBeSaved) {
   EXPECT_EQ(nameOf(3), "Gamma");
   EXPECT_FALSE(isOpen());
   EXPECT_FALSE(store_.isSaved());
-}
-
-TEST_F(StyleNamingTest, comparesWithEveryStyleButTheGivenOne) {
-  const Dictionary root = sampleRoot();
-  const Array* styles = root.array("Style");
-  EXPECT_TRUE(naming_.checkStyleName(styles, 1, "alpha"));
-  EXPECT_FALSE(naming_.checkStyleName(styles, 0, "alpha"));
-  EXPECT_FALSE(naming_.checkStyleName(styles, -1, "alpha"));
-  EXPECT_FALSE(naming_.checkStyleName(styles, 0, "nomalstyle")) << "the standard name is no style's own";
-  EXPECT_TRUE(naming_.checkStyleName(nullptr, 0, "x"));
-  EXPECT_FALSE(naming_.checkStyleName(nullptr, 0, "NOMALSTYLE"));
-}
-
-TEST_F(StyleNamingTest, countsARecordWithoutANameAsNamedByNothing) {
-  const Array styles{Dictionary(), "no record"};
-  EXPECT_TRUE(naming_.checkStyleName(&styles, -1, "x"));
-  EXPECT_FALSE(naming_.checkStyleName(&styles, -1, ""));
 }
 
 }  // namespace
