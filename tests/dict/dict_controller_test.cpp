@@ -7,26 +7,10 @@
 #include <algorithm>
 #include <random>
 
-#include "tests/dict/dictionary_world.h"
+#include "tests/dict/numbered_dictionaries.h"
 
 namespace tarvo::test {
 namespace {
-
-Names numbered(int count, const char* extension = ".TRet") {
-  Names names;
-  for (int i = 0; i < count; ++i) names.push_back((i < 10 ? "d0" : "d") + std::to_string(i) + extension);
-  return names;
-}
-
-void putAll(const DictionaryWorld& world, const Names& names) {
-  for (const std::string& name : names) world.put({name.c_str()});
-}
-
-DictController loaded(DictionaryWorld& world, const Names& names) {
-  DictController controller = world.list();
-  controller.updateDictionary(names);
-  return controller;
-}
 
 TEST(DictController, aListThatWasNeverScannedStaysWithoutEntries) {
   DictionaryWorld world;
@@ -134,87 +118,6 @@ TEST(DictController, ordersAreComparedAsNumbersAndNoLimitCutsAListOff) {
   EXPECT_EQ(loadedOf(loaded(world, names)), names);
 }
 
-TEST(DictController, appendingKeepsWhatIsLoadedAndTheGivenOrder) {
-  DictionaryWorld world;
-  world.put({"a.TRet", "b.TRet", "c.TRet", "d.TRet"});
-  DictController controller = loaded(world, {"a.TRet", "b.TRet"});
-  controller.loadDictionary({"d.TRet", "c.TRet"});
-  EXPECT_EQ(loadedOf(controller), (Names{"a.TRet", "b.TRet", "d.TRet", "c.TRet"}));
-  controller.loadDictionary({"a.TRet"});
-  EXPECT_EQ(loadedOf(controller), (Names{"b.TRet", "d.TRet", "c.TRet", "a.TRet"}));
-}
-
-TEST(DictController, appendingPastTheLimitIsNotRefused) {
-  DictionaryWorld world;
-  const Names names = numbered(11);
-  putAll(world, names);
-  DictController controller = loaded(world, {names.begin(), names.begin() + 8});
-  controller.loadDictionary({names.begin() + 8, names.end()});
-  EXPECT_EQ(loadedOf(controller), names);
-}
-
-TEST(DictController, removingComparesIgnoringCaseAndLeavesOtherNamesAlone) {
-  DictionaryWorld world;
-  world.put({"a.TRet", "b.TRet"});
-  DictController controller = loaded(world, {"a.TRet", "b.TRet"});
-  controller.unloadDictionary("zz.TRet");
-  EXPECT_EQ(loadedOf(controller), (Names{"a.TRet", "b.TRet"}));
-  controller.unloadDictionary("B.TRET");
-  EXPECT_EQ(loadedOf(controller), Names{"a.TRet"});
-  controller.unloadDictionary("a.TRet");
-  EXPECT_FALSE(controller.selectedDictionary());
-}
-
-TEST(DictController, everyEditLooksAgainWhetherTheFilesExist) {
-  DictionaryWorld world;
-  world.put({"a.TRet", "b.TRet", "c.TRet"});
-  DictController controller = loaded(world, {"a.TRet", "b.TRet", "c.TRet"});
-  world.take("b.TRet");
-  EXPECT_EQ(loadedOf(controller).size(), 3U);
-  controller.unloadDictionary("zz.TRet");
-  EXPECT_EQ(loadedOf(controller), (Names{"a.TRet", "c.TRet"}));
-}
-
-TEST(DictController, exchangesTwoPlacesAndIgnoresPlacesThatAreNone) {
-  DictionaryWorld world;
-  world.put({"a.TRet", "b.TRet", "c.TRet"});
-  DictController controller = loaded(world, {"a.TRet", "b.TRet", "c.TRet"});
-  controller.exchangeDictionary(0, 2);
-  EXPECT_EQ(loadedOf(controller), (Names{"c.TRet", "b.TRet", "a.TRet"}));
-  controller.exchangeDictionary(1, 1);
-  controller.exchangeDictionary(-1, 0);
-  controller.exchangeDictionary(0, 3);
-  EXPECT_EQ(loadedOf(controller), (Names{"c.TRet", "b.TRet", "a.TRet"}));
-}
-
-TEST(DictController, anExchangeClosesTheGapsOfMissingNames) {
-  DictionaryWorld world;
-  world.put({"a.TRet", "b.TRet", "c.TRet"});
-  DictController controller = loaded(world, {"x.TRet", "a.TRet", "y.TRet", "b.TRet", "c.TRet"});
-  controller.exchangeDictionary(0, 1);
-  EXPECT_EQ(entryOf(controller, "b.TRet").order, 0);
-  EXPECT_EQ(entryOf(controller, "a.TRet").order, 1);
-  EXPECT_EQ(entryOf(controller, "c.TRet").order, 2);
-}
-
-TEST(DictController, upThenDownIsTheListAsItWas) {
-  DictionaryWorld world;
-  const Names names = numbered(9);
-  putAll(world, names);
-  std::mt19937 random(20090131);
-  for (int round = 0; round < 200; ++round) {
-    Names list = names;
-    std::shuffle(list.begin(), list.end(), random);
-    list.resize(2 + random() % (list.size() - 1));
-    DictController controller = loaded(world, list);
-    const int row = 1 + static_cast<int>(random() % (list.size() - 1));
-    controller.exchangeDictionary(row, row - 1);
-    ASSERT_NE(loadedOf(controller), list);
-    controller.exchangeDictionary(row - 1, row);
-    ASSERT_EQ(loadedOf(controller), list);
-  }
-}
-
 TEST(DictController, rescanningKeepsWhatIsLoadedAndStillThere) {
   DictionaryWorld world;
   world.put({"a.TRet", "b.TRet"});
@@ -234,45 +137,6 @@ TEST(DictController, clearingKeepsTheEntries) {
   EXPECT_FALSE(controller.selectedDictionary());
   EXPECT_EQ(controller.notSelectedDictionary(), (Names{"a.TRet", "b.TRet", "c.TRet"}));
   EXPECT_EQ(entryOf(controller, "c.TRet").order, -1);
-}
-
-struct LimitCase {
-  DictionaryKind kind;
-  Direction direction;
-  const char* extension;
-  int limit;
-};
-
-class Limits : public testing::TestWithParam<LimitCase> {};
-
-TEST_P(Limits, mayBeReachedButNotPassed) {
-  const LimitCase& limit = GetParam();
-  DictionaryWorld world;
-  const Names names = numbered(limit.limit + 1, limit.extension);
-  putAll(world, names);
-  DictController controller = world.list(limit.kind, limit.direction);
-  const auto load = [&](int count) { controller.updateDictionary({names.begin(), names.begin() + count}); };
-  EXPECT_FALSE(controller.checkMaxOver(std::nullopt));
-  load(limit.limit - 1);
-  EXPECT_FALSE(controller.checkMaxOver(Names{"x"}));
-  EXPECT_TRUE(controller.checkMaxOver(Names{"x", "y"}));
-  load(limit.limit);
-  EXPECT_FALSE(controller.checkMaxOver(Names{}));
-  EXPECT_TRUE(controller.checkMaxOver(Names{names[0]})) << "a name that is loaded already counts again";
-  load(limit.limit + 1);
-  EXPECT_TRUE(controller.checkMaxOver(Names{})) << "over the limit already";
-  EXPECT_FALSE(controller.checkMaxOver(std::nullopt));
-}
-
-INSTANTIATE_TEST_SUITE_P(DictController, Limits,
-                         testing::Values(LimitCase{technical, EJ, ".TRet", TDMax}, LimitCase{user, EJ, ".eud2", UDMax},
-                                         LimitCase{user, JE, ".jud", UDMax}, LimitCase{memory, EJ, ".etm", UTMAMax},
-                                         LimitCase{memory, JE, ".jtm", UTMAMax}));
-
-TEST(DictController, theLimitsAreEightAndFive) {
-  EXPECT_EQ(TDMax, 8);
-  EXPECT_EQ(UDMax, 5);
-  EXPECT_EQ(UTMAMax, 5);
 }
 
 TEST(DictController, theBuiltInMemoriesAreLeftOutOfAllNamesOnly) {

@@ -96,4 +96,8 @@ inline DictionaryEntry entryOf(const DictController& controller, const std::stri
 
 inline Names loadedOf(const DictController& controller) { return controller.selectedDictionary().value_or(Names{}); }
 
+inline std::string contentOf(const DictionaryWorld& world, const std::string& name) {
+  return world.folder.read("dictionaries/" + name);
+}
+
 }  // namespace tarvo::test
