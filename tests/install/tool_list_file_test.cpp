@@ -3,67 +3,13 @@
 #include "install/tool_list_file.h"
 
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
 
 #include <algorithm>
-#include <cstdio>
 
-#include "platform/posix/posix_files.h"
-#include "platform/services/common_module.h"
-#include "platform/services/locations.h"
-#include "platform/services/product_paths.h"
-#include "platform/services/user_defaults.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/install/tool_list_fixture.h"
 
 namespace tarvo::test {
 namespace {
-
-constexpr const char* listFile = "Users/taro/Library/Preferences/Wordhaven/TarvoManager.txt";
-constexpr const char* listFolder = "Users/taro/Library/Preferences/Wordhaven";
-
-// Notes each write of a file beside what the settings tell.
-class NotingFiles : public PosixFiles {
- public:
-  NotingFiles(const Locations& locations, std::string& log) : PosixFiles(locations), log_(log) {}
-  Result<> write(const DiskPath& path, std::string_view bytes) override {
-    log_ += "write:" + path.name() + " ";
-    return PosixFiles::write(path, bytes);
-  }
-
- private:
-  std::string& log_;
-};
-
-class ToolList : public testing::Test {
- protected:
-  ToolList() {
-    folder.makeFolder(listFolder);
-    std::vector<PopUpButton::Item> items;
-    for (const char* title : {"MG", "TX", "UD", "TM", "TL", "NP", "QB"}) items.push_back({.title = title});
-    outlets.officeToolPopup.setItems(items);
-    defaults.observer = [this](std::string_view key, const PropertyList*) {
-      log += key.empty() ? "flush " : std::string(key) + " ";
-    };
-  }
-  void choose(int index) {
-    outlets.officeToolPopup.selectItemAtIndex(index);
-    toolList.changeOfficeTool();
-  }
-  std::string written() const { return folder.read(listFile); }
-  std::string lastLines() const { return written().substr(written().find("Tool_Path=")); }
-
-  TemporaryFolder folder;
-  std::string log;
-  Locations locations{folder.path(), folder / "Users/taro"};
-  NotingFiles files{locations, log};
-  ProductPaths paths{locations, Dictionary{}};
-  TarvoCommonModule module{paths};
-  UserDefaults defaults{files, folder.at("Users/taro/Library/Preferences/manager.plist")};
-  ToolListOutlets outlets;
-  ToolListFile toolList{files, defaults, module, outlets, folder.at(listFile)};
-};
 
 TEST_F(ToolList, isEightLinesInOneFixedForm) {
   choose(0);
@@ -174,56 +120,6 @@ TEST_F(ToolList, onlyTheParameterIsTrimmedAndNoValueIsReadAsAFormat) {
   choose(0);
   EXPECT_NE(written().find("\r\nTool_Name= %@ %s=\r\n"), std::string::npos);
   EXPECT_EQ(*defaults.find("Tool_Name"), PropertyList(" %@ %s="));
-}
-
-TEST_F(ToolList, replacesALongerFileWhole) {
-  folder.write(listFile, std::string(5000, 'x'));
-  choose(0);
-  EXPECT_EQ(written().size(), 274U);
-}
-
-TEST_F(ToolList, isWrittenAnewThoughNothingChanged) {
-  choose(0);
-  const std::string before = written();
-  struct stat first{}, second{};
-  ASSERT_EQ(::stat((folder / listFile).c_str(), &first), 0);
-  log.clear();
-  toolList.writeOffieTool();
-  ASSERT_EQ(::stat((folder / listFile).c_str(), &second), 0);
-  EXPECT_EQ(written(), before);
-  EXPECT_NE(first.st_ino, second.st_ino);
-  EXPECT_EQ(log, "Tool_Name Tool_Path Tool_Action Tool_Parameter flush write:TarvoManager.txt ");
-}
-
-TEST_F(ToolList, withoutItsFolderIsNotWrittenAndTheFolderNotMade) {
-  ASSERT_TRUE(files.remove(folder.at("Users/taro/Library/Preferences/Wordhaven")));
-  choose(2);
-  EXPECT_FALSE(folder.exists(listFolder));
-  EXPECT_EQ(*defaults.find("Tool_Path"), PropertyList("tUD8"));
-}
-
-TEST_F(ToolList, keepsTheOldFileWhenItCannotBeReplaced) {
-  folder.makeFolder(std::string(listFile) + "/folder in the way");
-  choose(2);
-  EXPECT_EQ(folder.names(listFolder), std::vector<std::string>{"TarvoManager.txt"}) << "no temporary file stays";
-  EXPECT_TRUE(folder.exists(std::string(listFile) + "/folder in the way"));
-  EXPECT_EQ(*defaults.find("Tool_Path"), PropertyList("tUD8"));
-}
-
-TEST_F(ToolList, keepsTheOldBytesWhenTheDiskIsFull) {
-  choose(0);
-  const std::string before = written();
-  rlimit limit{};
-  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
-  const auto handler = ::signal(SIGXFSZ, SIG_IGN);
-  const rlimit small{16, limit.rlim_max};
-  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-  choose(2);
-  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
-  ::signal(SIGXFSZ, handler);
-  EXPECT_EQ(written(), before);
-  EXPECT_EQ(folder.names(listFolder), std::vector<std::string>{"TarvoManager.txt"}) << "no temporary file stays";
-  EXPECT_EQ(*defaults.find("Tool_Path"), PropertyList("tUD8"));
 }
 
 TEST_F(ToolList, withoutAKnownChoiceStoresAndWritesNothing) {
