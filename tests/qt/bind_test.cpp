@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -10,27 +9,17 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTest>
-#include <QToolButton>
-#include <QWheelEvent>
 
 #include "qt/bind/form.h"
-#include "qt/bind/in_step.h"
-#include "qt/bind/segments_widget.h"
-#include "tests/qt/bound_controls.h"
+#include "tests/qt/bind_fixture.h"
 
-namespace tarvo {
+namespace tarvo::test {
 namespace {
-
-struct Bind : testing::Test, test::BoundControls {
-  SegmentsWidget& segments() { return static_cast<SegmentsWidget&>(shown(binder.segments(outlets.segments, &window))); }
-  std::string inStep() { return outOfStep(binder.registry()); }
-};
 
 TEST_F(Bind, everyWidgetBearsTheNameAndLabelOfItsControl) {
   struct Made {
@@ -94,118 +83,6 @@ TEST_F(Bind, hidingComesAndGoesWithTheControl) {
   EXPECT_TRUE(button.isVisible());
 }
 
-TEST_F(Bind, aButtonSendsOncePerPress) {
-  auto& button = shown(binder.button(outlets.button, &window));
-  QTest::mouseClick(&button, Qt::LeftButton);
-  EXPECT_EQ(outlets.actions, 1);
-  button.setFocus();
-  QTest::keyClick(&button, Qt::Key_Space);
-  EXPECT_EQ(outlets.actions, 2);
-  outlets.button.setEnabled(false);
-  QTest::mouseClick(&button, Qt::LeftButton);
-  EXPECT_EQ(outlets.actions, 2);
-}
-
-TEST_F(Bind, aCheckBoxSendsForMouseKeyAndAssistiveToggle) {
-  auto& box = shown(binder.check(outlets.check, &window));
-  box.setFocus();
-  QTest::keyClick(&box, Qt::Key_Space);
-  EXPECT_EQ(outlets.actions, 1);
-  EXPECT_TRUE(outlets.check.state());
-  box.click();
-  EXPECT_EQ(outlets.actions, 2);
-  box.toggle();  // what assistive tools do
-  EXPECT_EQ(outlets.actions, 3);
-  EXPECT_TRUE(outlets.check.state());
-}
-
-TEST_F(Bind, typingReachesTheControlAndKeepsTheCursor) {
-  auto& field = shown(binder.field(outlets.field, &window));
-  outlets.field.setStringValue("ab");
-  field.setCursorPosition(1);
-  QTest::keyClicks(&field, "XY");
-  EXPECT_EQ(outlets.field.stringValue(), "aXYb");
-  EXPECT_EQ(field.cursorPosition(), 3);
-  EXPECT_EQ(outlets.actions, 0);
-}
-
-TEST_F(Bind, choosingTheShownItemAgainSends) {
-  auto& combo = shown(binder.popup(outlets.popup, &window), 200, 28);
-  for (int time = 1; time <= 2; ++time) {
-    combo.showPopup();
-    QTest::keyClick(combo.view(), Qt::Key_Return);
-    EXPECT_EQ(outlets.actions, time);
-    EXPECT_EQ(outlets.popup.indexOfSelectedItem(), 0);
-  }
-}
-
-TEST_F(Bind, theKeyboardSkipsDividersAndSendsEachTime) {
-  auto& combo = shown(binder.popup(outlets.popup, &window));
-  combo.setFocus();
-  QTest::keyClick(&combo, Qt::Key_Down);
-  QTest::keyClick(&combo, Qt::Key_Down);
-  EXPECT_EQ(outlets.popup.indexOfSelectedItem(), 3);
-  EXPECT_EQ(outlets.actions, 2);
-}
-
-TEST_F(Bind, theWheelChangesNoPopUp) {
-  auto& combo = shown(binder.popup(outlets.popup, &window));
-  QWheelEvent wheel({5, 5}, combo.mapToGlobal(QPointF(5, 5)), {0, -120}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                    Qt::NoScrollPhase, false);
-  QApplication::sendEvent(&combo, &wheel);
-  EXPECT_EQ(combo.currentIndex(), 0);
-  EXPECT_EQ(outlets.actions, 0);
-  EXPECT_FALSE(wheel.isAccepted());
-}
-
-TEST_F(Bind, aPopUpWithoutItemShowsWhatItWasGivenForThat) {
-  auto* combo = binder.detailPopup(outlets.popup, &window);
-  outlets.popup.selectItemAtIndex(-1);
-  EXPECT_EQ(combo->currentIndex(), -1);
-  EXPECT_EQ(combo->placeholderText(), "Not set");
-  EXPECT_EQ(combo->count(), 4);
-  EXPECT_EQ(inStep(), "");
-}
-
-TEST_F(Bind, newItemsOfAPopUpSendNothing) {
-  auto* combo = binder.popup(outlets.popup, &window);
-  outlets.popup.setItems({{"only", 1}});
-  EXPECT_EQ(combo->count(), 1);
-  EXPECT_EQ(combo->currentText(), "only");
-  outlets.popup.setItemTitle(0, "renamed");
-  EXPECT_EQ(combo->currentText(), "renamed");
-  outlets.popup.setItems({});
-  EXPECT_EQ(combo->currentIndex(), -1);
-  EXPECT_EQ(outlets.actions, 0);
-}
-
-TEST_F(Bind, aSegmentSendsOncePerPressAlsoTheChosenOne) {
-  auto& pieces = segments();
-  QToolButton& two = *pieces.segments()[1];
-  QTest::mouseClick(&two, Qt::LeftButton);
-  EXPECT_EQ(outlets.actions, 1);
-  QTest::mouseClick(&two, Qt::LeftButton);
-  EXPECT_EQ(outlets.actions, 2);
-  EXPECT_TRUE(two.isChecked());
-  two.setFocus();
-  QTest::keyClick(&two, Qt::Key_Space);
-  EXPECT_EQ(outlets.actions, 3);
-  pieces.segments()[0]->toggle();  // what assistive tools do
-  EXPECT_EQ(outlets.actions, 4);
-  EXPECT_EQ(outlets.segments.selectedSegment(), 0);
-  QTest::mouseClick(pieces.segments()[2], Qt::LeftButton);
-  EXPECT_EQ(outlets.actions, 4);
-  EXPECT_EQ(inStep(), "");
-}
-
-TEST_F(Bind, segmentsCanBeDeselectedByTheProgram) {
-  auto& pieces = segments();
-  outlets.segments.setSelected(1, true);
-  outlets.segments.setSelected(1, false);
-  EXPECT_EQ(pieces.selectedSegment(), -1);
-  EXPECT_EQ(outlets.actions, 0);
-}
-
 TEST_F(Bind, aPageIsBuiltWhenItIsFirstShown) {
   std::vector<int> built;
   const auto builder = [&built](int page) {
@@ -258,49 +135,5 @@ TEST_F(Bind, aLabelOfAFormBelongsToItsControl) {
   EXPECT_EQ(labels[0]->buddy(), combo);
 }
 
-struct Difference {
-  const char* name;
-  void (*make)(test::BoundControls& bound);  // shows something else than the control holds
-};
-void PrintTo(const Difference& difference, std::ostream* out) { *out << difference.name; }
-
-class OutOfStep : public testing::TestWithParam<Difference>, public test::BoundControls {};
-
-TEST_P(OutOfStep, aDifferenceIsFoundAndNamed) {
-  GetParam().make(*this);
-  EXPECT_TRUE(outOfStep(binder.registry()).starts_with(std::string("test.") + GetParam().name + ": "))
-      << outOfStep(binder.registry());
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Bind, OutOfStep,
-    testing::Values(
-        Difference{"popup",
-                   [](test::BoundControls& b) { b.binder.popup(b.outlets.popup, &b.window)->setCurrentIndex(3); }},
-        Difference{"button",
-                   [](test::BoundControls& b) { b.binder.button(b.outlets.button, &b.window)->setEnabled(false); }},
-        Difference{"check",
-                   [](test::BoundControls& b) {
-                     auto* box = b.binder.check(b.outlets.check, &b.window);
-                     const QSignalBlocker quiet(box);
-                     box->setChecked(true);
-                   }},
-        Difference{"field", [](test::BoundControls& b) { b.binder.field(b.outlets.field, &b.window)->setText("x"); }},
-        Difference{"text", [](test::BoundControls& b) { b.binder.text(b.outlets.text, &b.window)->hide(); }},
-        Difference{"segments",
-                   [](test::BoundControls& b) {
-                     auto* pieces = static_cast<SegmentsWidget*>(b.binder.segments(b.outlets.segments, &b.window));
-                     pieces->segments()[0]->setEnabled(false);
-                   }},
-        Difference{
-            "tabs",
-            [](test::BoundControls& b) { b.binder.tabs(b.outlets.tabs, {}, &b.window)->setTabText(0, "other"); }},
-        Difference{"window",
-                   [](test::BoundControls& b) {
-                     b.binder.window(b.outlets.window, b.window);
-                     b.window.setWindowTitle("other");
-                   }}),
-    testing::PrintToStringParamName());
-
 }  // namespace
-}  // namespace tarvo
+}  // namespace tarvo::test

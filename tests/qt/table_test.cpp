@@ -3,81 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDropEvent>
 #include <QHeaderView>
-#include <QMimeData>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTest>
-#include <memory>
 
-#include "qt/bind/in_step.h"
 #include "qt/bind/table_widget.h"
-#include "tests/qt/bound_controls.h"
+#include "tests/qt/table_fixture.h"
 
-namespace tarvo {
+namespace tarvo::test {
 namespace {
-
-// Rows of a name and a check box, with a note of each call.
-class Rows : public TableDataSource, public TableDelegate {
- public:
-  int numberOfRowsInTableView(TableView&) override { return names.empty() ? -1 : static_cast<int>(names.size()); }
-  CellValue objectValueForTableColumn(TableView&, std::string_view column, int row) override {
-    if (row >= static_cast<int>(names.size())) return {};
-    if (column == "on") return {.checked = on[static_cast<std::size_t>(row)]};
-    return {.text = names[static_cast<std::size_t>(row)], .image = "EJTD16.tif"};
-  }
-  void setObjectValue(TableView&, bool value, std::string_view, int row) override {
-    on[static_cast<std::size_t>(row)] = value;
-    calls.push_back("tick " + std::to_string(row));
-  }
-  bool writeRows(TableView&, const std::vector<int>& rows, Pasteboard& pasteboard) override {
-    Array numbers;
-    for (const int row : rows) numbers.emplace_back(row);
-    pasteboard.content.set("row", std::move(numbers));
-    return true;
-  }
-  bool validateDrop(TableView&, const Pasteboard&, int, DropOperation operation) override {
-    return operation == DropOperation::above;
-  }
-  bool acceptDrop(TableView&, const Pasteboard& pasteboard, int row, DropOperation) override {
-    std::string call = "drop";
-    for (const PropertyList& number : *pasteboard.content.array("row")) {
-      call += " " + std::to_string(number.integerValue());
-    }
-    calls.push_back(call + " above " + std::to_string(row));
-    return true;
-  }
-  bool shouldSelectRow(TableView&, int row) override { return row != refused; }
-  void selectionDidChange(TableView& table) override {
-    calls.push_back("selected " + std::to_string(table.selectedRow()));
-  }
-
-  std::vector<std::string> names{"a", "b", "c", "d"};
-  std::vector<bool> on = std::vector<bool>(100);
-  std::vector<std::string> calls;
-  int refused = -1;
-};
-
-struct TableBinding : testing::Test, test::BoundControls {
-  TableBinding() {
-    for (TableView* control : {&outlets.table, &outlets.otherTable}) {
-      control->setColumns({{.identifier = "name", .icon = true}});
-      control->setDataSource(&rows);
-      control->setDelegate(&rows);
-      control->setAllowsMultipleSelection(true);
-      control->registerForDraggedTypes({"row"});
-      control->reloadData();
-    }
-  }
-  QTableView& build(int height = 200) { return shown(binder.table(outlets.table, &window), 300, height); }
-  QPoint middle(QTableView& view, int row, int column = 0) {
-    return view.visualRect(view.model()->index(row, column)).center();
-  }
-  void withBoxes() { outlets.table.setColumns({{.identifier = "on", .checkBox = true}, {.identifier = "name"}}); }
-  std::string inStep() { return outOfStep(binder.registry()); }
-  Rows rows;
-};
 
 TEST_F(TableBinding, showsTheRowsOfItsSource) {
   auto& view = build();
@@ -197,52 +132,6 @@ TEST_F(TableBinding, aCheckBoxIsReadByTheNameOfItsRow) {
   EXPECT_EQ(view.model()->index(1, 0).data(Qt::AccessibleTextRole).toString(), "b");
 }
 
-TEST_F(TableBinding, draggedRowsAreHandedOverAscending) {
-  auto& view = build();
-  outlets.table.selectRows({2, 0});
-  QModelIndexList indexes{view.model()->index(2, 0), view.model()->index(0, 0)};
-  const std::unique_ptr<QMimeData> data(view.model()->mimeData(indexes));
-  ASSERT_NE(data, nullptr);
-  const QRect last = view.visualRect(view.model()->index(3, 0));
-  const QPointF lowerHalf(last.left() + 5, last.bottom() - 2);
-  for (const QPointF at : {lowerHalf, QPointF(last.left() + 5, last.top() + 2)}) {
-    QDragEnterEvent enter(at.toPoint(), Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view.viewport(), &enter);
-    QDragMoveEvent move(at.toPoint(), Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view.viewport(), &move);
-    EXPECT_TRUE(move.isAccepted());
-    QDropEvent drop(at, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view.viewport(), &drop);
-    EXPECT_TRUE(drop.isAccepted());
-  }
-  rows.calls.erase(rows.calls.begin());  // the selection
-  EXPECT_EQ(rows.calls, (std::vector<std::string>{"drop 0 2 above 4", "drop 0 2 above 3"}));
-  EXPECT_EQ(view.model()->rowCount(), 4);
-}
-
-TEST_F(TableBinding, aDropOntoARowIsLeftToTheSource) {
-  auto& view = build();
-  const std::unique_ptr<QMimeData> data(view.model()->mimeData({view.model()->index(0, 0)}));
-  EXPECT_FALSE(view.model()->canDropMimeData(data.get(), Qt::MoveAction, -1, -1, view.model()->index(1, 0)));
-  EXPECT_TRUE(view.model()->canDropMimeData(data.get(), Qt::MoveAction, -1, -1, {}));
-}
-
-TEST_F(TableBinding, whatAnotherProgramDragsIsRefused) {
-  auto& view = build();
-  QMimeData foreign;
-  foreign.setData("row", "0");
-  EXPECT_FALSE(view.model()->canDropMimeData(&foreign, Qt::MoveAction, 0, 0, {}));
-}
-
-TEST_F(TableBinding, rowsGoFromOneTableToAnother) {
-  build();
-  auto& other = shown(binder.table(outlets.otherTable, &window));
-  const std::unique_ptr<QMimeData> data(other.model()->mimeData({other.model()->index(1, 0)}));
-  auto* first = binder.registry().find<QTableView>("test.table");
-  EXPECT_TRUE(first->model()->dropMimeData(data.get(), Qt::MoveAction, 0, 0, {}));
-  EXPECT_EQ(rows.calls, std::vector<std::string>{"drop 1 above 0"});
-}
-
 TEST_F(TableBinding, scrollsToTheRowThatTheProgramNames) {
   rows.names.assign(100, "name");
   outlets.table.reloadData();
@@ -250,78 +139,6 @@ TEST_F(TableBinding, scrollsToTheRowThatTheProgramNames) {
   QApplication::processEvents();
   outlets.table.scrollRowToVisible(80);
   EXPECT_TRUE(view.viewport()->rect().intersects(view.visualRect(view.model()->index(80, 0))));
-}
-
-struct FilteredTable : TableBinding {
-  // Shows the rows with an even number.
-  FilteredTable() {
-    outlets.table.setRowFilter([this](int row) { return row % 2 == 0; });
-  }
-};
-
-TEST_F(FilteredTable, rowsThatTheFilterRefusesAreHiddenAndCount) {
-  auto& view = build();
-  EXPECT_EQ(view.model()->rowCount(), 4);
-  EXPECT_FALSE(view.isRowHidden(2));
-  EXPECT_TRUE(view.isRowHidden(3));
-  rows.names = {"a", "b", "c", "d", "e", "f"};
-  outlets.table.reloadData();
-  EXPECT_FALSE(view.isRowHidden(4));
-  EXPECT_TRUE(view.isRowHidden(5));
-  outlets.table.setRowFilter({});
-  EXPECT_FALSE(view.isRowHidden(5));
-  EXPECT_EQ(inStep(), "");
-}
-
-TEST_F(FilteredTable, theKeyboardAndSelectingAllPassOverHiddenRows) {
-  auto& view = build();
-  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, middle(view, 0));
-  QTest::keyClick(&view, Qt::Key_Down);
-  EXPECT_EQ(outlets.table.selectedRows(), std::vector{2});
-  view.selectAll();
-  EXPECT_EQ(outlets.table.selectedRows(), (std::vector{0, 2}));
-  EXPECT_EQ(inStep(), "");
-}
-
-TEST_F(FilteredTable, aRowThatWasHiddenUnderTheKeyboardIsNotTicked) {
-  outlets.table.setRowFilter({});
-  withBoxes();
-  auto& view = build();
-  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, middle(view, 1, 1));
-  QTest::keyClick(&view, Qt::Key_Space);
-  EXPECT_TRUE(rows.on[1]);
-  outlets.table.setRowFilter([](int row) { return row % 2 == 0; });
-  QTest::keyClick(&view, Qt::Key_Space);
-  EXPECT_TRUE(rows.on[1]);
-  EXPECT_EQ(inStep(), "");
-}
-
-TEST_F(FilteredTable, aShownRowThatShouldBeHiddenIsOutOfStep) {
-  auto& view = build();
-  view.setRowHidden(1, false);
-  EXPECT_EQ(inStep(), "test.table: row shown no, shown yes");
-}
-
-// The drop goes behind the last row; a line there says so.
-TEST_F(TableBinding, aDragBelowTheLastRowIsMarkedThere) {
-  auto& view = build(300);
-  const std::unique_ptr<QMimeData> data(view.model()->mimeData({view.model()->index(0, 0)}));
-  const QPoint below(60, view.viewport()->height() - 5);
-  const QImage before = view.viewport()->grab().toImage();
-  QDragEnterEvent enter(below, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(view.viewport(), &enter);
-  QDragMoveEvent move(below, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(view.viewport(), &move);
-  const QImage during = view.viewport()->grab().toImage();
-  EXPECT_NE(during, before);
-  const int end = view.visualRect(view.model()->index(3, 0)).bottom() + 1;
-  const QRect line(0, end - 4, before.width(), 8);
-  for (QImage copy : {before, during})
-    EXPECT_EQ(copy.copy(0, 0, copy.width(), line.top()), before.copy(0, 0, copy.width(), line.top()));
-  EXPECT_NE(during.copy(line), before.copy(line));
-  QDragLeaveEvent leave;
-  QApplication::sendEvent(view.viewport(), &leave);
-  EXPECT_EQ(view.viewport()->grab().toImage(), before);
 }
 
 TEST_F(TableBinding, aWrongSelectionIsOutOfStep) {
@@ -332,4 +149,4 @@ TEST_F(TableBinding, aWrongSelectionIsOutOfStep) {
 }
 
 }  // namespace
-}  // namespace tarvo
+}  // namespace tarvo::test
