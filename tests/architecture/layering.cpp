@@ -3,8 +3,9 @@
 #include "tests/architecture/layering.h"
 
 #include <algorithm>
-#include <array>
 #include <set>
+
+#include "tests/architecture/standard_headers.h"
 
 namespace tarvo {
 namespace {
@@ -86,97 +87,6 @@ bool mayInclude(std::string_view from, const Room& room, std::string_view to) {
   if (other == nullptr) return false;
   if (other->folder == room.folder || (isLeaf(other->folder) && composes(from))) return true;
   return std::find(room.mayInclude.begin(), room.mayInclude.end(), other->folder) != room.mayInclude.end();
-}
-
-constexpr std::array kStandardHeaders = std::to_array<std::string_view>({"algorithm",
-                                                                         "any",
-                                                                         "array",
-                                                                         "atomic",
-                                                                         "bit",
-                                                                         "bitset",
-                                                                         "charconv",
-                                                                         "chrono",
-                                                                         "compare",
-                                                                         "complex",
-                                                                         "concepts",
-                                                                         "condition_variable",
-                                                                         "expected",
-                                                                         "coroutine",
-                                                                         "deque",
-                                                                         "exception",
-                                                                         "filesystem",
-                                                                         "format",
-                                                                         "forward_list",
-                                                                         "fstream",
-                                                                         "functional",
-                                                                         "future",
-                                                                         "initializer_list",
-                                                                         "iomanip",
-                                                                         "ios",
-                                                                         "iosfwd",
-                                                                         "iostream",
-                                                                         "istream",
-                                                                         "iterator",
-                                                                         "limits",
-                                                                         "list",
-                                                                         "locale",
-                                                                         "map",
-                                                                         "memory",
-                                                                         "memory_resource",
-                                                                         "mutex",
-                                                                         "new",
-                                                                         "numbers",
-                                                                         "numeric",
-                                                                         "optional",
-                                                                         "ostream",
-                                                                         "queue",
-                                                                         "random",
-                                                                         "ranges",
-                                                                         "ratio",
-                                                                         "regex",
-                                                                         "set",
-                                                                         "span",
-                                                                         "sstream",
-                                                                         "stack",
-                                                                         "stdexcept",
-                                                                         "stop_token",
-                                                                         "streambuf",
-                                                                         "string",
-                                                                         "string_view",
-                                                                         "system_error",
-                                                                         "thread",
-                                                                         "tuple",
-                                                                         "type_traits",
-                                                                         "typeindex",
-                                                                         "typeinfo",
-                                                                         "unordered_map",
-                                                                         "unordered_set",
-                                                                         "utility",
-                                                                         "valarray",
-                                                                         "variant",
-                                                                         "vector",
-                                                                         "version",
-                                                                         "cassert",
-                                                                         "cctype",
-                                                                         "cerrno",
-                                                                         "cfloat",
-                                                                         "cinttypes",
-                                                                         "climits",
-                                                                         "clocale",
-                                                                         "cmath",
-                                                                         "csignal",
-                                                                         "cstdarg",
-                                                                         "cstddef",
-                                                                         "cstdint",
-                                                                         "cstdio",
-                                                                         "cstdlib",
-                                                                         "cstring",
-                                                                         "ctime",
-                                                                         "cwchar",
-                                                                         "cwctype"});
-
-bool isStandard(std::string_view name) {
-  return std::find(kStandardHeaders.begin(), kStandardHeaders.end(), name) != kStandardHeaders.end();
 }
 
 // The library that a header in <...> belongs to; "" for those of the system, which platform/posix may use anywhere.
