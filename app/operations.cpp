@@ -50,9 +50,9 @@ Answer setNotSelectedArray(Program& program, Arguments arguments) {
 
 // Rows count as they are remembered: the Office table's, then the mail table's.
 Answer getInstallStatus(Program& program, Arguments arguments) {
-  AddinLists& addins = program.rooms().addins;
-  std::vector<AddinEntry> rows = addins.fOfficeAddinArray;
-  rows.insert(rows.end(), addins.fMailAddinArray.begin(), addins.fMailAddinArray.end());
+  const AddinLists& addins = program.rooms().addins;
+  std::vector<AddinEntry> rows = addins.fOfficeAddinArray();
+  rows.insert(rows.end(), addins.fMailAddinArray().begin(), addins.fMailAddinArray().end());
   const int row = number(arguments);
   if (row < 0 || static_cast<std::size_t>(row) >= rows.size()) return std::nullopt;
   return addins.getInstallStatus(rows[static_cast<std::size_t>(row)]);

@@ -39,17 +39,17 @@ AddinPlaces AddinLists::placesOf(const AddinEntry& entry) const {
 }
 
 bool AddinLists::loadAddinPlist() {
-  fDefaultOfficeSetArray = readShipped();
-  fOfficeArray.clear();
+  fDefaultOfficeSetArray_ = readShipped();
+  fOfficeArray_.clear();
   const PropertyList* remembered = services_.defaults.find(office);
   if (remembered != nullptr && remembered->array() != nullptr) {
-    fOfficeArray = entriesOf(*remembered->array());
+    fOfficeArray_ = entriesOf(*remembered->array());
     joinOutlook();
     return true;
   }
-  if (!fDefaultOfficeSetArray) return false;
-  fOfficeArray = *fDefaultOfficeSetArray;
-  for (const SharedEntry& entry : fOfficeArray) {
+  if (!fDefaultOfficeSetArray_) return false;
+  fOfficeArray_ = *fDefaultOfficeSetArray_;
+  for (const SharedEntry& entry : fOfficeArray_) {
     if (isMailAddin(*entry)) prefixHome(*entry);
   }
   return true;
@@ -64,16 +64,16 @@ std::optional<std::vector<AddinLists::SharedEntry>> AddinLists::readShipped() co
 }
 
 void AddinLists::joinOutlook() {
-  if (!fDefaultOfficeSetArray) return;
-  for (const SharedEntry& shipped : *fDefaultOfficeSetArray) {
+  if (!fDefaultOfficeSetArray_) return;
+  for (const SharedEntry& shipped : *fDefaultOfficeSetArray_) {
     if (addinText(*shipped, appCreator) != outlookCreator) continue;
     const std::string path = addinText(*shipped, appPath);
-    const bool known = std::any_of(fOfficeArray.begin(), fOfficeArray.end(), [&path](const SharedEntry& entry) {
+    const bool known = std::any_of(fOfficeArray_.begin(), fOfficeArray_.end(), [&path](const SharedEntry& entry) {
       return addinText(*entry, appCreator) == outlookCreator && addinText(*entry, appPath) == path;
     });
     if (known) continue;
     prefixHome(*shipped);
-    fOfficeArray.push_back(shipped);
+    fOfficeArray_.push_back(shipped);
   }
 }
 
@@ -83,18 +83,18 @@ void AddinLists::prefixHome(AddinEntry& entry) const {
 }
 
 bool AddinLists::searchOfficeApplication() {
-  fOfficeAddinArray.clear();
-  fMailAddinArray.clear();
+  fOfficeAddinArray_.clear();
+  fMailAddinArray_.clear();
   if (!loadAddinPlist()) return false;
-  for (const SharedEntry& candidate : fOfficeArray) {
+  for (const SharedEntry& candidate : fOfficeArray_) {
     AddinEntry entry = *candidate;
     // One that cannot be looked at stays listed: at the end of the run the others are forgotten.
     if (services_.files.isAbsent(placesOf(entry).application)) continue;
     entry.set(installStatus, getInstallStatus(entry));
     if (!isMailAddin(entry)) {
-      fOfficeAddinArray.push_back(std::move(entry));
+      fOfficeAddinArray_.push_back(std::move(entry));
     } else if (mailScripts_.isMailScriptFolder(entry)) {
-      fMailAddinArray.push_back(std::move(entry));
+      fMailAddinArray_.push_back(std::move(entry));
     }
   }
   reloadTables();
@@ -107,11 +107,11 @@ bool AddinLists::getInstallStatus(const AddinEntry& entry) const {
 }
 
 void AddinLists::storeRows() {
-  fOfficeArray.clear();
+  fOfficeArray_.clear();
   Array values;
-  for (const std::vector<AddinEntry>* rows : {&fOfficeAddinArray, &fMailAddinArray}) {
+  for (const std::vector<AddinEntry>* rows : {&fOfficeAddinArray_, &fMailAddinArray_}) {
     for (const AddinEntry& entry : *rows) {
-      fOfficeArray.push_back(std::make_shared<AddinEntry>(entry));
+      fOfficeArray_.push_back(std::make_shared<AddinEntry>(entry));
       values.emplace_back(entry);
     }
   }
@@ -124,9 +124,18 @@ void AddinLists::reloadTables() {
   outlets_.mailTableView.reloadData();
 }
 
-std::vector<AddinEntry>* AddinLists::rowsOf(int tag) {
-  if (tag == 0) return &fOfficeAddinArray;
-  return tag == 1 ? &fMailAddinArray : nullptr;
+const std::vector<AddinEntry>* AddinLists::rowsOf(int tag) const {
+  if (tag == 0) return &fOfficeAddinArray_;
+  return tag == 1 ? &fMailAddinArray_ : nullptr;
+}
+
+void AddinLists::setInstallStatus(int tag, int row, bool installed) {
+  std::vector<AddinEntry>& rows = tag == 0 ? fOfficeAddinArray_ : fMailAddinArray_;
+  rows.at(static_cast<std::size_t>(row)).set(installStatus, installed);
+}
+
+void AddinLists::lookAtMailRows() {
+  for (AddinEntry& row : fMailAddinArray_) row.set(installStatus, getInstallStatus(row));
 }
 
 }  // namespace tarvo

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "install/addin_entry.h"
@@ -45,15 +46,23 @@ class AddinLists {
   // The rows become the candidates and are remembered in the settings, Office rows first.
   void storeRows();
   void reloadTables();
-  // The rows of the table with this tag; null for another tag.
-  std::vector<AddinEntry>* rowsOf(int tag);
 
   // The shipped records; nothing when there is no such list. Candidates that come from it are the same records, so
   // that a path made absolute in one is absolute in both.
-  std::optional<std::vector<SharedEntry>> fDefaultOfficeSetArray;
-  std::vector<SharedEntry> fOfficeArray;      // candidates
-  std::vector<AddinEntry> fOfficeAddinArray;  // rows, copies of their own
-  std::vector<AddinEntry> fMailAddinArray;
+  const std::optional<std::vector<SharedEntry>>& fDefaultOfficeSetArray() const { return fDefaultOfficeSetArray_; }
+  const std::vector<SharedEntry>& fOfficeArray() const { return fOfficeArray_; }  // candidates
+  // The rows of both tables, copies of their own.
+  const std::vector<AddinEntry>& fOfficeAddinArray() const { return fOfficeAddinArray_; }
+  const std::vector<AddinEntry>& fMailAddinArray() const { return fMailAddinArray_; }
+  // Those of the table with this tag; null for another tag.
+  const std::vector<AddinEntry>* rowsOf(int tag) const;
+  // One row more at the end; the tables show it when they are reloaded.
+  void addOfficeRow(AddinEntry row) { fOfficeAddinArray_.push_back(std::move(row)); }
+  void addMailRow(AddinEntry row) { fMailAddinArray_.push_back(std::move(row)); }
+  // What the box of a row shows from now on. The row must be there.
+  void setInstallStatus(int tag, int row, bool installed);
+  // The boxes of the mail rows show what the disk holds now.
+  void lookAtMailRows();
 
  private:
   std::optional<std::vector<SharedEntry>> readShipped() const;
@@ -62,6 +71,10 @@ class AddinLists {
   Services services_;
   const MailScriptInstaller& mailScripts_;
   AddinOutlets& outlets_;
+  std::optional<std::vector<SharedEntry>> fDefaultOfficeSetArray_;
+  std::vector<SharedEntry> fOfficeArray_;
+  std::vector<AddinEntry> fOfficeAddinArray_;
+  std::vector<AddinEntry> fMailAddinArray_;
 };
 
 }  // namespace tarvo

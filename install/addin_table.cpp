@@ -31,8 +31,8 @@ AddinTable::AddinTable(Services services, AddinLists& lists, MacroInstaller& mac
       outlets_(outlets),
       panes_(panes) {}
 
-AddinEntry* AddinTable::entryAt(int tag, int row) {
-  std::vector<AddinEntry>* rows = lists_.rowsOf(tag);
+const AddinEntry* AddinTable::entryAt(int tag, int row) const {
+  const std::vector<AddinEntry>* rows = lists_.rowsOf(tag);
   if (rows == nullptr || !std::in_range<std::size_t>(row) || static_cast<std::size_t>(row) >= rows->size()) {
     return nullptr;
   }
@@ -56,13 +56,13 @@ CellValue AddinTable::objectValueForTableColumn(TableView& table, std::string_vi
 
 void AddinTable::setObjectValue(TableView& table, bool value, std::string_view column, int row) {
   fIsInstalled = true;
-  AddinEntry* entry = entryAt(table.tag(), row);
+  const AddinEntry* entry = entryAt(table.tag(), row);
   if (entry == nullptr || column != addin_columns::check) return;
   const Change changed = change(*entry, table.tag(), value);
   if (changed.failure) services_.panels.beep();
   failures_.erase({table.tag(), row});
   if (changed.failure) failures_.emplace(std::pair(table.tag(), row), *changed.failure);
-  entry->set(installStatus, changed.isInstalled);
+  lists_.setInstallStatus(table.tag(), row, changed.isInstalled);
   const std::string text = addinText(*entry, appName) + changed.text;
   table.reloadData();
   infoField(table.tag()).setStringValue(text);

@@ -55,7 +55,7 @@ class AddinTable : public TableDataSource, public TableDelegate {
     bool isInstalled;  // what the box shows from now on
     std::optional<Failure> failure;
   };
-  AddinEntry* entryAt(int tag, int row);
+  const AddinEntry* entryAt(int tag, int row) const;
   Change change(const AddinEntry& entry, int tag, bool on);
   Result<> perform(const AddinEntry& entry, int tag, bool on);
   TextField& infoField(int tag);

@@ -43,10 +43,10 @@ void OfficeFolderSearch::searchFolder(const DiskPath& folder) {
     const DiskPath path = folder / name;
     const Result<Dictionary> information = readDictionary(services_.files, path / "Contents/Info.plist");
     if (!information || addinText(*information, "CFBundlePackageType") != "APPL") continue;
-    if (!lists_.fDefaultOfficeSetArray || !canBeStored(path)) continue;
+    if (!lists_.fDefaultOfficeSetArray() || !canBeStored(path)) continue;
     const int version = getApplicationVer(path);
     const std::string signature = addinText(*information, "CFBundleSignature");
-    for (const AddinLists::SharedEntry& shipped : *lists_.fDefaultOfficeSetArray) {
+    for (const AddinLists::SharedEntry& shipped : *lists_.fDefaultOfficeSetArray()) {
       getAddOfficeDictionary(*shipped, version, path, signature, folder);
     }
   }
@@ -75,19 +75,19 @@ bool OfficeFolderSearch::getAddOfficeDictionary(const AddinEntry& shipped, int v
 }
 
 bool OfficeFolderSearch::addOfficeRow(const AddinEntry& shipped, const DiskPath& path, const DiskPath& folder) {
-  std::vector<AddinEntry>& rows = lists_.fOfficeAddinArray;
+  const std::vector<AddinEntry>& rows = lists_.fOfficeAddinArray();
   const std::string stored = services_.locations.inProduct(path).text();
   const auto isListed = [&stored](const AddinEntry& row) { return addinText(row, appPath) == stored; };
   if (std::any_of(rows.begin(), rows.end(), isListed)) return false;
-  rows.push_back(rowFor(shipped, path, folder));
+  lists_.addOfficeRow(rowFor(shipped, path, folder));
   return true;
 }
 
 bool OfficeFolderSearch::addMailRow(const AddinEntry& shipped, const DiskPath& path) {
   if (!mailScripts_.isMailScriptFolder(shipped)) return true;
-  if (!lists_.fMailAddinArray.empty() && addinText(shipped, appPath) == services_.locations.inProduct(path).text())
+  if (!lists_.fMailAddinArray().empty() && addinText(shipped, appPath) == services_.locations.inProduct(path).text())
     return false;
-  lists_.fMailAddinArray.push_back(rowFor(shipped, path, services_.locations.home()));
+  lists_.addMailRow(rowFor(shipped, path, services_.locations.home()));
   return true;
 }
 

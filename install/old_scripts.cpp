@@ -42,8 +42,8 @@ OldScripts::OldScripts(Services services, AddinLists& lists, MailScriptInstaller
 
 void OldScripts::OldscriptUninstall() {
   std::array<bool, generations.size()> removed{};
-  if (lists_.fDefaultOfficeSetArray) {
-    for (const AddinLists::SharedEntry& shipped : *lists_.fDefaultOfficeSetArray) {
+  if (lists_.fDefaultOfficeSetArray()) {
+    for (const AddinLists::SharedEntry& shipped : *lists_.fDefaultOfficeSetArray()) {
       for (std::size_t i = 0; i < generations.size(); ++i) {
         if (isOf(generations[i], *shipped) && removeFor(*shipped, generations[i].folderKey)) removed[i] = true;
       }
@@ -54,7 +54,7 @@ void OldScripts::OldscriptUninstall() {
     if (removed[i]) message += services_.texts.localized(generations[i].messageKey);
   }
   if (!message.empty()) tell(message);
-  for (AddinEntry& row : lists_.fMailAddinArray) row.set(installStatus, lists_.getInstallStatus(row));
+  lists_.lookAtMailRows();
 }
 
 bool OldScripts::removeFor(const AddinEntry& shipped, const char* oldFolderKey) {

@@ -131,7 +131,7 @@ ExitStatus AddinTickCommand::run(Console& console) {
   VerbProgram verb(console);
   return verb.run([&](Program& program, Hand& hand) {
     AddinLists& lists = program.rooms().addins;
-    const Match match = findRow(lists.fOfficeAddinArray, lists.fMailAddinArray, asked);
+    const Match match = findRow(lists.fOfficeAddinArray(), lists.fMailAddinArray(), asked);
     // The start makes a folder without which a mail program is not listed; that can fail.
     if (const std::string problem = problemWith(match, asked); !problem.empty()) return verb.refuse(problem);
     const auto row = [&]() -> const AddinEntry& {
@@ -163,14 +163,14 @@ ExitStatus AddinSearchCommand::run(Console& console) {
     const auto names = console.product.files().list(folder);
     if (!names) return verb.refuse(failureText(names.error(), console.product.texts()));
     AddinLists& lists = program.rooms().addins;
-    const std::size_t office = lists.fOfficeAddinArray.size(), mail = lists.fMailAddinArray.size();
+    const std::size_t office = lists.fOfficeAddinArray().size(), mail = lists.fMailAddinArray().size();
     hand.press(program.interface().addins.officeSearchButton);
     std::vector<std::vector<std::string>> lines;
-    for (std::size_t i = office; i < lists.fOfficeAddinArray.size(); ++i) {
-      lines.push_back(lineOf(lists.fOfficeAddinArray[i], "added", console.product));
+    for (std::size_t i = office; i < lists.fOfficeAddinArray().size(); ++i) {
+      lines.push_back(lineOf(lists.fOfficeAddinArray()[i], "added", console.product));
     }
-    for (std::size_t i = mail; i < lists.fMailAddinArray.size(); ++i) {
-      lines.push_back(lineOf(lists.fMailAddinArray[i], "added", console.product));
+    for (std::size_t i = mail; i < lists.fMailAddinArray().size(); ++i) {
+      lines.push_back(lineOf(lists.fMailAddinArray()[i], "added", console.product));
     }
     writeTable(console.out, lines);
     if (lines.empty()) {

@@ -22,11 +22,11 @@ bool isListed(const AddinEntry& entry, const AddinPlaces& places, const FileServ
 // A remembered list leaves out what was not there at the end of an earlier run.
 std::vector<AddinEntry> forgottenIn(const AddinLists& lists, const FileService& files) {
   std::vector<AddinEntry> forgotten;
-  if (!lists.fDefaultOfficeSetArray) return forgotten;
-  for (const AddinLists::SharedEntry& shipped : *lists.fDefaultOfficeSetArray) {
+  if (!lists.fDefaultOfficeSetArray()) return forgotten;
+  for (const AddinLists::SharedEntry& shipped : *lists.fDefaultOfficeSetArray()) {
     const std::string path = addinText(*shipped, addin_keys::appPath);
     const bool isCandidate = std::any_of(
-        lists.fOfficeArray.begin(), lists.fOfficeArray.end(),
+        lists.fOfficeArray().begin(), lists.fOfficeArray().end(),
         [&](const AddinLists::SharedEntry& candidate) { return addinText(*candidate, addin_keys::appPath) == path; });
     if (!isCandidate && files.isThere(lists.placesOf(*shipped).application)) forgotten.push_back(*shipped);
   }
@@ -42,8 +42,8 @@ std::optional<AddinsRead> readAddins(Product& product) {
   const MailScriptInstaller mailScripts(files, product.bundle(), product.locations());
   AddinLists lists({files, product.bundle(), defaults, product.locations()}, mailScripts, outlets);
   if (!lists.searchOfficeApplication()) return std::nullopt;
-  AddinsRead read{{}, forgottenIn(lists, files), std::move(lists.fOfficeAddinArray), {}};
-  for (const AddinLists::SharedEntry& candidate : lists.fOfficeArray) {
+  AddinsRead read{{}, forgottenIn(lists, files), lists.fOfficeAddinArray(), {}};
+  for (const AddinLists::SharedEntry& candidate : lists.fOfficeArray()) {
     read.candidates.push_back(*candidate);
     if (!isMailAddin(*candidate) || !isListed(*candidate, lists.placesOf(*candidate), files, mailScripts)) continue;
     AddinEntry row = *candidate;

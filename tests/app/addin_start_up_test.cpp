@@ -218,10 +218,10 @@ TEST(ShippedAddins, haveTheirMacrosAndScripts) {
   TestProgram test;
   ASSERT_TRUE(test.program().construct());
   AddinLists& lists = test.program().rooms().addins;
-  ASSERT_TRUE(lists.fDefaultOfficeSetArray);
+  ASSERT_TRUE(lists.fDefaultOfficeSetArray());
   const Bundle& bundle = test.product->bundle();
   std::vector<std::string> names;
-  for (const AddinLists::SharedEntry& shipped : *lists.fDefaultOfficeSetArray) {
+  for (const AddinLists::SharedEntry& shipped : *lists.fDefaultOfficeSetArray()) {
     names.push_back(addinText(*shipped, appName));
     EXPECT_FALSE(shipped->contains(installStatus));
     const auto item = addinSource(*shipped, bundle);

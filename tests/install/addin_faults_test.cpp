@@ -98,7 +98,7 @@ TEST(FaultyOldScripts, areSilentAndLeaveTheRowTrue) {
     OldScripts({world.files, world.panels, world.texts}, world.lists, world.mailScripts, world.locations.home())
         .OldscriptUninstall();
     EXPECT_EQ(before, everythingBut(world.folder.path(), installFolder)) << use;
-    EXPECT_EQ(isMarkedInstalled(world.lists.fMailAddinArray.at(0)), world.folder.exists(item)) << use;
+    EXPECT_EQ(isMarkedInstalled(world.lists.fMailAddinArray().at(0)), world.folder.exists(item)) << use;
     EXPECT_EQ(world.log.empty(), wasDisturbed) << use;
     if (!wasDisturbed) break;
     ++faults;

@@ -14,7 +14,7 @@ class AddinListsTest : public testing::Test, protected AddinWorld {
   static std::string folderOf(const AddinLists::SharedEntry& entry) { return addinText(*entry, installFolderPath); }
   Rows candidates() const {
     Rows all;
-    for (const AddinLists::SharedEntry& entry : lists.fOfficeArray) all.push_back(addinText(*entry, appName));
+    for (const AddinLists::SharedEntry& entry : lists.fOfficeArray()) all.push_back(addinText(*entry, appName));
     return all;
   }
   // As an earlier run remembered it.
@@ -27,18 +27,18 @@ TEST_F(AddinListsTest, takeTheShippedRecordsWithMailFoldersBelowTheHome) {
   ship({word2011(), appleMail(), outlook2011()});
   ASSERT_TRUE(lists.loadAddinPlist());
   EXPECT_EQ(candidates(), (Rows{"Word 2011", "Mail", "Outlook 2011"}));
-  for (const auto* entries : {&lists.fOfficeArray, &*lists.fDefaultOfficeSetArray}) {
+  for (const auto* entries : {&lists.fOfficeArray(), &*lists.fDefaultOfficeSetArray()}) {
     EXPECT_EQ(folderOf((*entries)[0]), "/Applications/O11/Office/Startup/Word");
     EXPECT_EQ(folderOf((*entries)[1]), "/Users/taro/Library/Scripts/Applications/Mail");
     EXPECT_EQ(folderOf((*entries)[2]), "/Users/taro/Library/Scripts/Outlook");
   }
-  EXPECT_EQ(lists.fOfficeArray[1], (*lists.fDefaultOfficeSetArray)[1]) << "one record, not two";
+  EXPECT_EQ(lists.fOfficeArray()[1], (*lists.fDefaultOfficeSetArray())[1]) << "one record, not two";
 }
 
 TEST_F(AddinListsTest, joinHomeAndFolderWithOneSlash) {
   ship({with(appleMail(), installFolderPath, "/Library/Scripts")});
   ASSERT_TRUE(lists.loadAddinPlist());
-  EXPECT_EQ(folderOf(lists.fOfficeArray[0]), "/Users/taro/Library/Scripts");
+  EXPECT_EQ(folderOf(lists.fOfficeArray()[0]), "/Users/taro/Library/Scripts");
 }
 
 TEST_F(AddinListsTest, addOnlyOutlookAndEntourageToARememberedList) {
@@ -46,8 +46,8 @@ TEST_F(AddinListsTest, addOnlyOutlookAndEntourageToARememberedList) {
   remember({remembered(word2011())});
   ASSERT_TRUE(lists.loadAddinPlist());
   EXPECT_EQ(candidates(), (Rows{"Word 2011", "Outlook 2011"}));
-  EXPECT_EQ(folderOf(lists.fOfficeArray[1]), "/Users/taro/Library/Scripts/Outlook");
-  EXPECT_EQ(addinText(*(*lists.fDefaultOfficeSetArray)[2], installFolderPath), "Library/Scripts/Applications/Mail")
+  EXPECT_EQ(folderOf(lists.fOfficeArray()[1]), "/Users/taro/Library/Scripts/Outlook");
+  EXPECT_EQ(addinText(*(*lists.fDefaultOfficeSetArray())[2], installFolderPath), "Library/Scripts/Applications/Mail")
       << "a record that did not join stays as shipped";
 }
 
@@ -56,15 +56,15 @@ TEST_F(AddinListsTest, addNoOutlookThatIsRememberedAlready) {
   remember({remembered(outlook2011())});
   ASSERT_TRUE(lists.loadAddinPlist());
   EXPECT_EQ(candidates(), (Rows{"Outlook 2011", "Entourage 2004"}));
-  EXPECT_EQ(folderOf((*lists.fDefaultOfficeSetArray)[0]), "Library/Scripts/Outlook") << "not made absolute";
+  EXPECT_EQ(folderOf((*lists.fDefaultOfficeSetArray())[0]), "Library/Scripts/Outlook") << "not made absolute";
 }
 
 TEST_F(AddinListsTest, giveTheShippedRecordTheHomeWhenOutlookJoinsARememberedList) {
   ship({word2011(), outlook2011(), appleMail()});
   remember({word2011()});
   ASSERT_TRUE(lists.loadAddinPlist());
-  const auto& shipped = *lists.fDefaultOfficeSetArray;
-  EXPECT_EQ(lists.fOfficeArray.back(), shipped[1]) << "the same record, not one like it";
+  const auto& shipped = *lists.fDefaultOfficeSetArray();
+  EXPECT_EQ(lists.fOfficeArray().back(), shipped[1]) << "the same record, not one like it";
   EXPECT_EQ(addinText(*shipped[1], installFolderPath), "/Users/taro/Library/Scripts/Outlook");
   EXPECT_EQ(addinText(*shipped[2], installFolderPath), "Library/Scripts/Applications/Mail") << "did not join";
 }
@@ -73,7 +73,7 @@ TEST_F(AddinListsTest, compareOutlooksPathExactly) {
   ship({outlook2011()});
   remember({with(remembered(outlook2011()), appPath, "/Applications/O11/OUTLOOK.app")});
   ASSERT_TRUE(lists.loadAddinPlist());
-  EXPECT_EQ(lists.fOfficeArray.size(), 2U);
+  EXPECT_EQ(lists.fOfficeArray().size(), 2U);
 }
 
 TEST_F(AddinListsTest, countAnEmptyRememberedListAsOne) {
@@ -96,8 +96,8 @@ TEST_F(AddinListsTest, skipWhatIsNoRecordAndReadAMissingKeyAsNothing) {
   defaults.set("Office",
                Array{PropertyList(7), PropertyList("x"), PropertyList(Dictionary()), PropertyList(word2011())});
   ASSERT_TRUE(lists.searchOfficeApplication());
-  EXPECT_EQ(lists.fOfficeArray.size(), 2U);
-  EXPECT_EQ(names(lists.fOfficeAddinArray), Rows{"Word 2011"});
+  EXPECT_EQ(lists.fOfficeArray().size(), 2U);
+  EXPECT_EQ(names(lists.fOfficeAddinArray()), Rows{"Word 2011"});
 }
 
 TEST_F(AddinListsTest, haveNothingToGoOnWithoutAnyList) {
@@ -106,24 +106,24 @@ TEST_F(AddinListsTest, haveNothingToGoOnWithoutAnyList) {
   EXPECT_FALSE(lists.searchOfficeApplication());
   folder.write("resources/DefaultAddin.plist", writePropertyList(Dictionary()));
   EXPECT_FALSE(lists.searchOfficeApplication());
-  EXPECT_FALSE(lists.fDefaultOfficeSetArray);
+  EXPECT_FALSE(lists.fDefaultOfficeSetArray());
 }
 
 TEST_F(AddinListsTest, areContentWithARememberedListAlone) {
   setUp({word2011()});
   remember({word2011()});
   ASSERT_TRUE(lists.searchOfficeApplication());
-  EXPECT_EQ(names(lists.fOfficeAddinArray), Rows{"Word 2011"});
-  EXPECT_FALSE(lists.fDefaultOfficeSetArray);
+  EXPECT_EQ(names(lists.fOfficeAddinArray()), Rows{"Word 2011"});
+  EXPECT_FALSE(lists.fDefaultOfficeSetArray());
 }
 
 TEST_F(AddinListsTest, listOnlyApplicationsThatAreThere) {
   ship({word2011(), excel2011()});
   setUp({word2011()});
   ASSERT_TRUE(lists.searchOfficeApplication());
-  ASSERT_EQ(names(lists.fOfficeAddinArray), Rows{"Word 2011"});
-  EXPECT_TRUE(lists.fOfficeAddinArray[0].contains(installStatus));
-  EXPECT_FALSE((*lists.fDefaultOfficeSetArray)[0]->contains(installStatus)) << "rows are copies";
+  ASSERT_EQ(names(lists.fOfficeAddinArray()), Rows{"Word 2011"});
+  EXPECT_TRUE(lists.fOfficeAddinArray()[0].contains(installStatus));
+  EXPECT_FALSE((*lists.fDefaultOfficeSetArray())[0]->contains(installStatus)) << "rows are copies";
   EXPECT_EQ(outlets.officeTableView.numberOfRows(), 1);
 }
 
@@ -132,7 +132,7 @@ TEST_F(AddinListsTest, listAMailProgramOnlyWithItsScriptFolder) {
   setUp({outlook2011()});
   folder.makeFolder(inRoot("/Applications/Mail.app"));
   ASSERT_TRUE(lists.searchOfficeApplication());
-  EXPECT_EQ(names(lists.fMailAddinArray), Rows{"Outlook 2011"});
+  EXPECT_EQ(names(lists.fMailAddinArray()), Rows{"Outlook 2011"});
   EXPECT_EQ(outlets.mailTableView.numberOfRows(), 1);
 }
 
@@ -141,8 +141,8 @@ TEST_F(AddinListsTest, keepTheOrderOfTheCandidatesAndShowUnknownCreatorsAsOffice
   ship({outlook2011(), word2011(), unknown, appleMail(), excel2011()});
   setUp({outlook2011(), word2011(), unknown, appleMail(), excel2011()});
   ASSERT_TRUE(lists.searchOfficeApplication());
-  EXPECT_EQ(names(lists.fOfficeAddinArray), (Rows{"Word 2011", "Unknown", "Excel 2011"}));
-  EXPECT_EQ(names(lists.fMailAddinArray), (Rows{"Outlook 2011", "Mail"}));
+  EXPECT_EQ(names(lists.fOfficeAddinArray()), (Rows{"Word 2011", "Unknown", "Excel 2011"}));
+  EXPECT_EQ(names(lists.fMailAddinArray()), (Rows{"Outlook 2011", "Mail"}));
 }
 
 TEST_F(AddinListsTest, buildTheRowsAnewEachTime) {
@@ -150,8 +150,8 @@ TEST_F(AddinListsTest, buildTheRowsAnewEachTime) {
   setUp({word2011(), appleMail()});
   ASSERT_TRUE(lists.searchOfficeApplication());
   ASSERT_TRUE(lists.searchOfficeApplication());
-  EXPECT_EQ(lists.fOfficeAddinArray.size(), 1U);
-  EXPECT_EQ(lists.fMailAddinArray.size(), 1U);
+  EXPECT_EQ(lists.fOfficeAddinArray().size(), 1U);
+  EXPECT_EQ(lists.fMailAddinArray().size(), 1U);
 }
 
 TEST_F(AddinListsTest, takeTheStateFromWhateverHasTheItemsName) {
@@ -175,7 +175,7 @@ TEST_F(AddinListsTest, replaceWhatWasRememberedAboutTheState) {
   setUp({word2011()});
   remember({remembered(word2011())});
   ASSERT_TRUE(lists.searchOfficeApplication());
-  EXPECT_FALSE(isMarkedInstalled(lists.fOfficeAddinArray[0]));
+  EXPECT_FALSE(isMarkedInstalled(lists.fOfficeAddinArray()[0]));
 }
 
 TEST_F(AddinListsTest, rememberTheRowsOfficeFirst) {
@@ -208,13 +208,13 @@ TEST_F(AddinListsTest, forgetAnApplicationThatWasAwayOnce) {
   ASSERT_TRUE(disk.remove(real("/Applications/O11/Word.app")));
   for (int run = 0; run < 2; ++run) {
     ASSERT_TRUE(lists.searchOfficeApplication());
-    EXPECT_EQ(names(lists.fOfficeAddinArray), Rows{"Excel 2011"});
+    EXPECT_EQ(names(lists.fOfficeAddinArray()), Rows{"Excel 2011"});
     lists.storeRows();
     setUp({word2011()});
   }
   defaults.remove("Office");
   ASSERT_TRUE(lists.searchOfficeApplication());
-  EXPECT_EQ(names(lists.fOfficeAddinArray), (Rows{"Word 2011", "Excel 2011"})) << "back once the list is forgotten";
+  EXPECT_EQ(names(lists.fOfficeAddinArray()), (Rows{"Word 2011", "Excel 2011"})) << "back once the list is forgotten";
 }
 
 }  // namespace

@@ -136,7 +136,7 @@ std::optional<bool> AddinTrial::nextStatus() {
   AddinOutlets outlets;
   AddinLists lists({world_.disk, world_.bundle, fresh, world_.locations}, world_.mailScripts, outlets);
   EXPECT_TRUE(lists.searchOfficeApplication());
-  const std::vector<AddinEntry>& rows = kind_.isMail ? lists.fMailAddinArray : lists.fOfficeAddinArray;
+  const std::vector<AddinEntry>& rows = kind_.isMail ? lists.fMailAddinArray() : lists.fOfficeAddinArray();
   return rows.empty() ? std::nullopt : std::optional(isMarkedInstalled(rows[0]));
 }
 

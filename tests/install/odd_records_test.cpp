@@ -110,7 +110,7 @@ class OddWorld : public AddinWorld {
     const PropertyList* remembered = defaults.find(office);
     const bool isRemembered = remembered != nullptr && remembered->array() != nullptr;
     const bool started = lists.searchOfficeApplication();
-    EXPECT_EQ(started, isRemembered || lists.fDefaultOfficeSetArray.has_value());
+    EXPECT_EQ(started, isRemembered || lists.fDefaultOfficeSetArray().has_value());
     return started;
   }
 
@@ -124,27 +124,27 @@ class OddWorld : public AddinWorld {
         view.userSelect({row});
       }
     }
-    if (lists.fDefaultOfficeSetArray) {
-      for (const AddinLists::SharedEntry& shipped : *lists.fDefaultOfficeSetArray) {
+    if (lists.fDefaultOfficeSetArray()) {
+      for (const AddinLists::SharedEntry& shipped : *lists.fDefaultOfficeSetArray()) {
         for (const char* creator : {"MSWD", "OPIM"}) {
           search_.getAddOfficeDictionary(*shipped, 14, real("/Applications/Word.app"), creator, real("/Startup"));
         }
       }
     }
     lists.reloadTables();
-    for (const auto* rows : {&lists.fOfficeAddinArray, &lists.fMailAddinArray}) {
+    for (const auto* rows : {&lists.fOfficeAddinArray(), &lists.fMailAddinArray()}) {
       for (const AddinEntry& row : *rows) diagnoseAddin(row, files, locations, bundle);
     }
   }
 
   // The Office rows come back as they were, whatever they hold; those of mail may have lost their folder.
   void endAndStartAgain() {
-    const std::vector<AddinEntry> before = lists.fOfficeAddinArray;
+    const std::vector<AddinEntry> before = lists.fOfficeAddinArray();
     lists.storeRows();
     ASSERT_TRUE(lists.searchOfficeApplication());
-    ASSERT_EQ(lists.fOfficeAddinArray.size(), before.size());
+    ASSERT_EQ(lists.fOfficeAddinArray().size(), before.size());
     for (std::size_t i = 0; i < before.size(); ++i) {
-      EXPECT_EQ(with(lists.fOfficeAddinArray[i], installStatus, false), with(before[i], installStatus, false));
+      EXPECT_EQ(with(lists.fOfficeAddinArray()[i], installStatus, false), with(before[i], installStatus, false));
     }
     UserDefaults fromDisk(disk, real(settings));
     EXPECT_NE(fromDisk.find(office), nullptr);

@@ -84,14 +84,14 @@ TEST_F(FolderSearch, addsTheApplicationsOfTheChosenFolder) {
   ASSERT_EQ(panels.opens.size(), 1U);
   EXPECT_EQ(panels.opens[0].title, "«SelectOfficeFolder»");
   EXPECT_TRUE(panels.opens[0].foldersOnly);
-  ASSERT_EQ(lists.fOfficeAddinArray.size(), 1U);
+  ASSERT_EQ(lists.fOfficeAddinArray().size(), 1U);
   const AddinEntry expected = with(with(with(word2011(), appPath, "/Volumes/D/Office/Word.app"), installFolderPath,
                                         "/Volumes/D/Office/Office/Startup/Word"),
                                    installStatus, true);
-  EXPECT_EQ(lists.fOfficeAddinArray[0], expected);
+  EXPECT_EQ(lists.fOfficeAddinArray()[0], expected);
   EXPECT_EQ(scripts.sources.size(), 1U) << "asked once, and for the application alone";
   EXPECT_EQ(outlets.officeTableView.numberOfRows(), 1);
-  EXPECT_FALSE((*lists.fDefaultOfficeSetArray)[0]->contains(installStatus));
+  EXPECT_FALSE((*lists.fDefaultOfficeSetArray())[0]->contains(installStatus));
 }
 
 TEST_F(FolderSearch, addsNoSecondRowForOneApplication) {
@@ -100,15 +100,15 @@ TEST_F(FolderSearch, addsNoSecondRowForOneApplication) {
   application("Word.app", "APPL", "MSWD");
   for (int times = 0; times < 2; ++times) {
     searchFolder();
-    EXPECT_EQ(names(lists.fOfficeAddinArray), Rows{"Word 2011"}) << "the second record finds the path taken";
+    EXPECT_EQ(names(lists.fOfficeAddinArray()), Rows{"Word 2011"}) << "the second record finds the path taken";
   }
 }
 
 TEST_F(FolderSearch, takesTheWrittenFormOfAPathAsAnother) {
   application("Word.app", "APPL", "MSWD");
-  lists.fOfficeAddinArray.push_back(with(word2011(), appPath, "/Volumes/D/Office/WORD.app"));
+  lists.addOfficeRow(with(word2011(), appPath, "/Volumes/D/Office/WORD.app"));
   searchFolder();
-  EXPECT_EQ(lists.fOfficeAddinArray.size(), 2U);
+  EXPECT_EQ(lists.fOfficeAddinArray().size(), 2U);
 }
 
 TEST_F(FolderSearch, leavesAnApplicationOutsideTheRootOutWhoseStoredPathWouldMeanAnother) {
@@ -122,8 +122,8 @@ TEST_F(FolderSearch, leavesAnApplicationOutsideTheRootOutWhoseStoredPathWouldMea
   folder.makeFolder(inRoot(outside + "/Word.app"));
   choose(outside);
   searchFolder();
-  EXPECT_EQ(names(lists.fOfficeAddinArray), Rows{"Excel 2011"}) << "the macro of Word would go below the root";
-  EXPECT_EQ(lists.placesOf(lists.fOfficeAddinArray.at(0)).application.text(), outside + "/Excel.app");
+  EXPECT_EQ(names(lists.fOfficeAddinArray()), Rows{"Excel 2011"}) << "the macro of Word would go below the root";
+  EXPECT_EQ(lists.placesOf(lists.fOfficeAddinArray().at(0)).application.text(), outside + "/Excel.app");
 }
 
 TEST_F(FolderSearch, leavesOutOtherEditions) {
@@ -131,10 +131,10 @@ TEST_F(FolderSearch, leavesOutOtherEditions) {
   for (const char* version : {"12.1", "15.0", "13.9", "140"}) {
     scripts.answer = version;
     searchFolder();
-    EXPECT_TRUE(lists.fOfficeAddinArray.empty()) << version;
+    EXPECT_TRUE(lists.fOfficeAddinArray().empty()) << version;
   }
   EXPECT_FALSE(offer(word2008(), 14, "MSWD")) << "a record of another year";
-  EXPECT_TRUE(lists.fOfficeAddinArray.empty());
+  EXPECT_TRUE(lists.fOfficeAddinArray().empty());
 }
 
 TEST_F(FolderSearch, leavesOutWhatNoRecordKnows) {
@@ -146,15 +146,15 @@ TEST_F(FolderSearch, leavesOutWhatNoRecordKnows) {
   AddinEntry nobodys = word2011();
   nobodys.remove(appCreator);
   EXPECT_FALSE(offer(nobodys, 14, "")) << "two missing texts are no match";
-  EXPECT_TRUE(lists.fOfficeAddinArray.empty());
-  EXPECT_TRUE(lists.fMailAddinArray.empty());
+  EXPECT_TRUE(lists.fOfficeAddinArray().empty());
+  EXPECT_TRUE(lists.fMailAddinArray().empty());
 }
 
 TEST_F(FolderSearch, knowsEachOfTheThreeOfficePrograms) {
   for (const char* creator : {"MSWD", "XCEL", "PPT3"}) {
-    lists.fOfficeAddinArray.clear();
+    ASSERT_TRUE(lists.searchOfficeApplication());
     EXPECT_TRUE(offer(with(word2011(), appCreator, creator), 14, creator)) << creator;
-    EXPECT_EQ(placeOf(lists.fOfficeAddinArray.at(0)), "/Volumes/D/Office/Office/Startup/Word");
+    EXPECT_EQ(placeOf(lists.fOfficeAddinArray().at(0)), "/Volumes/D/Office/Office/Startup/Word");
   }
 }
 
@@ -164,10 +164,10 @@ TEST_F(FolderSearch, putsOutlooksScriptsBelowTheHome) {
   ASSERT_TRUE(lists.searchOfficeApplication());
   application("Outlook.app", "APPL", "OPIM");
   searchFolder();
-  ASSERT_EQ(lists.fMailAddinArray.size(), 1U);
-  EXPECT_EQ(pathOf(lists.fMailAddinArray[0]), "/Volumes/D/Office/Outlook.app");
-  EXPECT_EQ(placeOf(lists.fMailAddinArray[0]), "/Users/taro/Other/Outlook") << "the chosen folder has no part in it";
-  EXPECT_EQ(lists.fMailAddinArray[0].find(installStatus)->boolean() != nullptr, true);
+  ASSERT_EQ(lists.fMailAddinArray().size(), 1U);
+  EXPECT_EQ(pathOf(lists.fMailAddinArray()[0]), "/Volumes/D/Office/Outlook.app");
+  EXPECT_EQ(placeOf(lists.fMailAddinArray()[0]), "/Users/taro/Other/Outlook") << "the chosen folder has no part in it";
+  EXPECT_EQ(lists.fMailAddinArray()[0].find(installStatus)->boolean() != nullptr, true);
   EXPECT_EQ(outlets.mailTableView.numberOfRows(), 1);
 }
 
@@ -176,21 +176,21 @@ TEST_F(FolderSearch, addsOutlookAnewAtEachSearch) {
   application("Outlook.app", "APPL", "OPIM");
   searchFolder();
   searchFolder();
-  EXPECT_EQ(lists.fMailAddinArray.size(), 2U) << "only the shipped place is refused, and only beside other rows";
+  EXPECT_EQ(lists.fMailAddinArray().size(), 2U) << "only the shipped place is refused, and only beside other rows";
 }
 
 TEST_F(FolderSearch, refusesOutlookInItsUsualPlaceOnlyBesideOtherRows) {
   folder.makeFolder(inRoot("/Users/taro/Library/Scripts/Outlook"));
-  const AddinEntry shipped = with(*(*lists.fDefaultOfficeSetArray)[2], appPath, chosen + "/App.app");
+  const AddinEntry shipped = with(*(*lists.fDefaultOfficeSetArray())[2], appPath, chosen + "/App.app");
   EXPECT_TRUE(offer(shipped, 14, "OPIM"));
-  EXPECT_EQ(lists.fMailAddinArray.size(), 1U);
+  EXPECT_EQ(lists.fMailAddinArray().size(), 1U);
   EXPECT_FALSE(offer(shipped, 14, "OPIM"));
-  EXPECT_EQ(lists.fMailAddinArray.size(), 1U);
+  EXPECT_EQ(lists.fMailAddinArray().size(), 1U);
 }
 
 TEST_F(FolderSearch, answersYesForOutlookWithoutAScriptFolderAndAddsNothing) {
-  EXPECT_TRUE(offer(*(*lists.fDefaultOfficeSetArray)[2], 14, "OPIM"));
-  EXPECT_TRUE(lists.fMailAddinArray.empty());
+  EXPECT_TRUE(offer(*(*lists.fDefaultOfficeSetArray())[2], 14, "OPIM"));
+  EXPECT_TRUE(lists.fMailAddinArray().empty());
 }
 
 TEST_F(FolderSearch, takesAnOutlookThatIsRememberedForOneWithoutAScriptFolder) {
@@ -198,8 +198,8 @@ TEST_F(FolderSearch, takesAnOutlookThatIsRememberedForOneWithoutAScriptFolder) {
   folder.makeFolder(inRoot("/Users/taro/Library/Scripts/Outlook"));
   remember({outlook2011()});
   ASSERT_TRUE(lists.searchOfficeApplication());
-  EXPECT_TRUE(offer(*(*lists.fDefaultOfficeSetArray)[2], 14, "OPIM"));
-  EXPECT_TRUE(lists.fMailAddinArray.empty());
+  EXPECT_TRUE(offer(*(*lists.fDefaultOfficeSetArray())[2], 14, "OPIM"));
+  EXPECT_TRUE(lists.fMailAddinArray().empty());
 }
 
 TEST_F(FolderSearch, endsSilentlyWithoutAFolderToList) {
@@ -210,13 +210,13 @@ TEST_F(FolderSearch, endsSilentlyWithoutAFolderToList) {
   searchFolder();
   choose(folder / inRoot(chosen + "/Word.app/Contents/Info.plist"));
   searchFolder();
-  EXPECT_TRUE(lists.fOfficeAddinArray.empty());
+  EXPECT_TRUE(lists.fOfficeAddinArray().empty());
   EXPECT_EQ(log, (Log{"open panel", "open panel", "open panel"}));
   EXPECT_TRUE(scripts.sources.empty());
 }
 
 TEST_F(FolderSearch, reloadsTheTablesOnlyAfterAListing) {
-  lists.fOfficeAddinArray.push_back(word2011());
+  lists.addOfficeRow(word2011());
   choose(folder / inRoot("/Volumes/D/nothing"));
   searchFolder();
   EXPECT_EQ(outlets.officeTableView.numberOfRows(), 0);
@@ -234,12 +234,13 @@ TEST_F(FolderSearch, dropsWhatIsNoApplicationWithoutAsking) {
   folder.write(inRoot(chosen) + "/Packed.app/Contents/PkgInfo", "APPLMSWD");
   searchFolder();
   EXPECT_TRUE(scripts.sources.empty());
-  EXPECT_TRUE(lists.fOfficeAddinArray.empty());
+  EXPECT_TRUE(lists.fOfficeAddinArray().empty());
 }
 
 TEST_F(FolderSearch, asksNothingWithoutAShippedList) {
   application("Word.app", "APPL", "MSWD");
-  lists.fDefaultOfficeSetArray.reset();
+  folder.write("resources/DefaultAddin.plist", "damaged");
+  EXPECT_FALSE(lists.loadAddinPlist());
   searchFolder();
   EXPECT_TRUE(scripts.sources.empty());
 }
@@ -251,9 +252,9 @@ TEST_F(FolderSearch, usesAFolderOutsideTheProductAsItIs) {
   folder.write("usb/Word.app/Contents/Info.plist", writePropertyList(information));
   choose(folder / "usb");
   searchFolder();
-  ASSERT_EQ(lists.fOfficeAddinArray.size(), 1U);
-  EXPECT_EQ(pathOf(lists.fOfficeAddinArray[0]), folder / "usb/Word.app");
-  EXPECT_EQ(placeOf(lists.fOfficeAddinArray[0]), folder / "usb/Office/Startup/Word");
+  ASSERT_EQ(lists.fOfficeAddinArray().size(), 1U);
+  EXPECT_EQ(pathOf(lists.fOfficeAddinArray()[0]), folder / "usb/Word.app");
+  EXPECT_EQ(placeOf(lists.fOfficeAddinArray()[0]), folder / "usb/Office/Startup/Word");
 }
 
 }  // namespace

@@ -96,11 +96,11 @@ TEST_F(OldScriptsTest, refreshTheMailRowsInAnyCase) {
   setUp({outlook2011(), appleMail()});
   ASSERT_TRUE(lists.searchOfficeApplication());
   folder.makeFolder(item(outlook2011()));
-  const std::vector<AddinEntry> before = lists.fMailAddinArray;
+  const std::vector<AddinEntry> before = lists.fMailAddinArray();
   old.OldscriptUninstall();
   EXPECT_EQ(log, Log{}) << "nothing was removed";
-  EXPECT_EQ(lists.fMailAddinArray[0], with(before[0], installStatus, true));
-  EXPECT_EQ(lists.fMailAddinArray[1], before[1]);
+  EXPECT_EQ(lists.fMailAddinArray()[0], with(before[0], installStatus, true));
+  EXPECT_EQ(lists.fMailAddinArray()[1], before[1]);
 }
 
 TEST_F(OldScriptsTest, takeTheirPartOfTheRowsAlongWithThem) {
@@ -108,9 +108,9 @@ TEST_F(OldScriptsTest, takeTheirPartOfTheRowsAlongWithThem) {
   setUp({appleMail()});
   leaveOld(appleMail(), mailName);
   ASSERT_TRUE(lists.searchOfficeApplication());
-  EXPECT_TRUE(isMarkedInstalled(lists.fMailAddinArray.at(0)));
+  EXPECT_TRUE(isMarkedInstalled(lists.fMailAddinArray().at(0)));
   old.OldscriptUninstall();
-  EXPECT_FALSE(isMarkedInstalled(lists.fMailAddinArray.at(0)));
+  EXPECT_FALSE(isMarkedInstalled(lists.fMailAddinArray().at(0)));
 }
 
 TEST_F(OldScriptsTest, stayWithoutAShippedList) {
@@ -121,7 +121,7 @@ TEST_F(OldScriptsTest, stayWithoutAShippedList) {
   launch();
   EXPECT_TRUE(isLeft(appleMail()));
   EXPECT_EQ(log, Log{});
-  EXPECT_TRUE(isMarkedInstalled(lists.fMailAddinArray.at(0)));
+  EXPECT_TRUE(isMarkedInstalled(lists.fMailAddinArray().at(0)));
 }
 
 }  // namespace
