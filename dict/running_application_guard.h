@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 namespace tarvo {
 
 class ProductPaths;
@@ -12,7 +14,6 @@ class Workspace;
 class RunningApplicationGuard {
  public:
   RunningApplicationGuard(Workspace& workspace, const ProductPaths& paths) : workspace_(workspace), paths_(paths) {}
-  virtual ~RunningApplicationGuard() = default;
   RunningApplicationGuard(const RunningApplicationGuard&) = delete;
   RunningApplicationGuard& operator=(const RunningApplicationGuard&) = delete;
 
@@ -20,8 +21,11 @@ class RunningApplicationGuard {
   // Whether the tool runs at this moment, from exactly the place that the product's paths name.
   bool isStartedApplication(int tool);
   // Called after a list has changed; 1 is that of user dictionaries, 2 any other. The manager's lists are read anew by
-  // the tools, so nobody needs to be told; who has to watch the changes derives.
-  virtual void alertStartedApplication([[maybe_unused]] int kind) {}
+  // the tools, so none of them needs to be told; who has to know of the changes observes them.
+  void alertStartedApplication(int kind) const {
+    if (observer) observer(kind);
+  }
+  std::function<void(int kind)> observer;
 
  private:
   Workspace& workspace_;

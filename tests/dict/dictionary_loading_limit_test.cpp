@@ -116,7 +116,7 @@ TEST(DictionaryLoading, whenAllHaveVanishedTheListIsSavedAsItIs) {
     EXPECT_EQ(world.takeLog(), (Log{"beep", "alert notExistsFileAlertHeader / notExistsFileAlertContents\n\nx.TRet",
                                     "wrote", "reload style.ejTDTable", "hidden picker.myWindow"}));
   });
-  EXPECT_EQ(world.guard.changedKinds, std::vector<int>{}) << "nothing was added";
+  EXPECT_EQ(world.changedKinds, std::vector<int>{}) << "nothing was added";
 }
 
 }  // namespace

@@ -55,7 +55,7 @@ TEST(DictionaryLoading, addsWhatIsTickedAtTheEndAndSavesBeforeItCloses) {
     EXPECT_EQ(world.takeLog(), (Log{"wrote", "reload style.ejTDTable", "hidden picker.myWindow"}));
   });
   EXPECT_EQ(world.listOnDisk(keyNameEJ), (Array{"c.TRet", "a.TRet", "d.TRet"}));
-  EXPECT_EQ(world.guard.changedKinds, std::vector<int>{2});
+  EXPECT_EQ(world.changedKinds, std::vector<int>{2});
 }
 
 TEST(DictionaryLoading, withNothingTickedThePickerOnlyCloses) {
@@ -69,7 +69,7 @@ TEST(DictionaryLoading, withNothingTickedThePickerOnlyCloses) {
           EXPECT_EQ(world.takeLog(), Log{"hidden picker.myWindow"});
         },
         direction);
-    EXPECT_EQ(world.guard.changedKinds, std::vector<int>{});
+    EXPECT_EQ(world.changedKinds, std::vector<int>{});
     EXPECT_EQ(ejButtons(world.outlets), muddled) << "no button is looked at";
     EXPECT_EQ(jeButtons(world.outlets), muddled);
   }
@@ -100,7 +100,7 @@ TEST(DictionaryLoading, theOtherWayClosesFirstAndAsksForNoFile) {
     EXPECT_EQ(world.takeLog(), (Log{"hidden picker.myWindow", "wrote", "reload style.ejTDTable"}));
   });
   EXPECT_EQ(world.listOnDisk(keyNameEJ), (Array{"x.TRet", "a.TRet"}));
-  EXPECT_EQ(world.guard.changedKinds, std::vector<int>{});
+  EXPECT_EQ(world.changedKinds, std::vector<int>{});
 }
 
 TEST(DictionaryLoading, theOtherWayKeepsTheLimitAndSavesEvenWithNothingTicked) {
@@ -146,7 +146,7 @@ TEST(DictionaryLoading, aRemovalIsToldToTheGuardAfterTheSave) {
   world.takeLog();
   world.editing.removeTD(0);
   EXPECT_EQ(world.takeLog(), (Log{"wrote", "reload style.ejTDTable"}));
-  EXPECT_EQ(world.guard.changedKinds, std::vector<int>{2});
+  EXPECT_EQ(world.changedKinds, std::vector<int>{2});
 }
 
 }  // namespace

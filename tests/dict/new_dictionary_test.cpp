@@ -30,7 +30,7 @@ TEST_F(NewDictionaryTest, eachKindAndDirectionLandsInItsFolderAndSavesTheList) {
     EXPECT_EQ(log[1], "posted " + lastPathComponent(made.path));
     EXPECT_EQ(log[3], "reload style." + made.table);
     EXPECT_EQ(log[4], "wrote");
-    EXPECT_EQ(std::exchange(world_.guard.changedKinds, {}), std::vector<int>{made.kind});
+    EXPECT_EQ(std::exchange(world_.changedKinds, {}), std::vector<int>{made.kind});
   }
   EXPECT_EQ(world_.listOnDisk(keyNameEJ), Array{"t.TRet"});
   EXPECT_EQ(world_.halfOnDisk(keyNameEJ).find("UD"), nullptr) << "a style never names the user's dictionaries";
@@ -79,13 +79,13 @@ TEST_F(NewDictionaryTest, inTheToolsWithListsOfTheirOwnTheStyleIsNotTouched) {
         Case{addins, 12, "ejUTMATableView"}, Case{notepad, 11, "jeUDTableView"}, Case{notepad, 13, "jeTMATable"},
         Case{addins, 11, "jeUDTable"}, Case{addins, 13, "jeUTMATableView"}}) {
     world_.flags.saveHit = tool.chosen;
-    world_.guard.changedKinds.clear();
+    world_.changedKinds.clear();
     muddle(world_.outlets);
     create(tool.tag, "T" + std::to_string(placeOf(tool.chosen)));
     const Log log = world_.takeLog();
     EXPECT_EQ(log.back(), "reload style." + tool.table);
     EXPECT_EQ(std::count(log.begin(), log.end(), "wrote"), 0);
-    EXPECT_EQ(world_.guard.changedKinds, std::vector<int>{tool.tag < 12 ? 1 : 2});
+    EXPECT_EQ(world_.changedKinds, std::vector<int>{tool.tag < 12 ? 1 : 2});
     EXPECT_EQ(ejButtons(world_.outlets), muddled) << "no button is looked at";
     EXPECT_EQ(jeButtons(world_.outlets), muddled);
   }
@@ -111,7 +111,7 @@ TEST_F(NewDictionaryTest, aFileThatCameBeforeIsLeftAloneInSilence) {
   world_.notifications.post(newDicNotification, "N.eud2");
   EXPECT_EQ(world_.takeLog(), (Log{"posted N.eud2", "reload style.ejUDTableView", "reload style.ejUDTable"}));
   EXPECT_EQ(world_.folder.read("Library/Application Support/Wordhaven/UserDic/N.eud2"), "theirs");
-  EXPECT_TRUE(world_.guard.changedKinds.empty());
+  EXPECT_TRUE(world_.changedKinds.empty());
 }
 
 TEST_F(NewDictionaryTest, aMissingFolderMakesNothingInSilence) {
@@ -185,7 +185,7 @@ TEST_F(RefusingDisk, aCopyThatFailsLeavesNoPartOfADictionaryAndSavesNothing) {
   const Log log = world_.takeLog();
   EXPECT_EQ(std::count(log.begin(), log.end(), "wrote"), 0);
   EXPECT_TRUE(world_.panels.alerts.empty());
-  EXPECT_TRUE(world_.guard.changedKinds.empty());
+  EXPECT_TRUE(world_.changedKinds.empty());
 
   disk_.allowAll();
   create();

@@ -19,14 +19,6 @@
 
 namespace tarvo::test {
 
-// Keeps the kinds of the lists that were told to have changed.
-class WatchedGuard : public RunningApplicationGuard {
- public:
-  using RunningApplicationGuard::RunningApplicationGuard;
-  void alertStartedApplication(int kind) override { changedKinds.push_back(kind); }
-  std::vector<int> changedKinds;
-};
-
 inline Array arrayOf(const Names& names) { return {names.begin(), names.end()}; }
 
 // The style file, a style menu and the outlets of the list pages over a world of dictionaries.
@@ -47,6 +39,7 @@ struct StylePaneWorld : DictionaryWorld {
       shown->registerForDraggedTypes({"row"});
     }
     store.didWrite = [this] { ++writes; };
+    guard.observer = [this](int kind) { changedKinds.push_back(kind); };
   }
 
   // Makes this the style file's content and shows its first style's lists.
@@ -110,10 +103,11 @@ struct StylePaneWorld : DictionaryWorld {
   MenuOutlets menu;
   FakeWorkspace workspace;
   ListOutlets outlets;
-  WatchedGuard guard{workspace, paths};
+  RunningApplicationGuard guard{workspace, paths};
   DictionaryListEditing editing{store, menu.stylePopup, outlets, texts, services(), guard};
   DictionaryTable table{editing, texts};
   int writes = 0;
+  std::vector<int> changedKinds;  // of the lists that were told to have changed
 };
 
 }  // namespace tarvo::test
