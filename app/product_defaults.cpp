@@ -69,12 +69,14 @@ std::string languageFromEnvironment() {
 
 DiskPath defaultResources() { return besideProgram("resources").value_or(DiskPath(TARVO_BUILD_RESOURCES)); }
 
-DiskPath missingResource(const DiskPath& folder) {
+std::optional<Failure> missingResource(const DiskPath& folder) {
   for (const char* name : {"DefaultAddin.plist", "WordhavenPaths.plist"}) {
+    const DiskPath path = folder / name;
     std::error_code error;
-    if (DiskPath path = folder / name; !fs::is_regular_file(path.text(), error)) return path;
+    if (fs::is_regular_file(path.text(), error)) continue;
+    return Failure{path.text(), Attempt::look, error ? error : Reason::noRegularFile};
   }
-  return {};
+  return std::nullopt;
 }
 
 Places findPlaces(const std::optional<std::string>& root, const std::optional<std::string>& home) {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/services/result.h"
 #include "platform/text/paths.h"
 
 // Where the product, its resources and the user's home are when the command line does not say so.
@@ -23,8 +24,9 @@ std::string languageFromEnvironment();
 // from.
 DiskPath defaultResources();
 
-// The first file without which nothing works that this folder of resources lacks; "" when all are there.
-DiskPath missingResource(const DiskPath& folder);
+// Why the first file without which nothing works cannot be had from this folder of resources; nothing when all are
+// there.
+std::optional<Failure> missingResource(const DiskPath& folder);
 
 struct Places {
   DiskPath root, home;  // "/" for no root

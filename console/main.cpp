@@ -15,6 +15,7 @@
 #include "platform/posix/instance_lock.h"
 #include "platform/posix/posix_run_loop.h"
 #include "platform/posix/process.h"
+#include "platform/services/failure_text.h"
 
 // tarvoctl: a verb or a script, on the real disk and the real clock.
 namespace tarvo {
@@ -86,17 +87,24 @@ ExitStatus runScriptFile(const CommandLine& line) {
                    std::move(text), std::cout, std::cerr);
 }
 
+// The verbs that need the product's resources do nothing without them.
+ExitStatus refuse(const Failure& missing, const CommandLine& line) {
+  std::cerr << "tarvoctl: ";
+  if (missing.cause == std::errc::no_such_file_or_directory) {
+    std::cerr << missing.path << ": is not there; the folder holds no resources of the product; name another "
+              << "one with --resources, or install the product again\n";
+  } else {
+    std::cerr << failureText(missing, textsToTell(line)) << '\n';
+  }
+  return ExitStatus::refused;
+}
+
 ExitStatus main(int count, char** words) {
   CommandLine line;
   if (const auto status = readCommandLine(line, {words + 1, words + count}, std::cout, std::cerr)) return *status;
   const auto& resources = line.product.resources;
-  const DiskPath missing = missingResource(resources ? absolutePath(*resources) : defaultResources());
-  if (line.needsResources && !missing.empty()) {
-    std::cerr << "tarvoctl: " << missing.text()
-              << ": is not there; the folder holds no resources of the product; name another "
-              << "one with --resources, or install the product again\n";
-    return ExitStatus::refused;
-  }
+  const auto missing = missingResource(resources ? absolutePath(*resources) : defaultResources());
+  if (line.needsResources && missing) return refuse(*missing, line);
   if (!line.makeCommand) return runScriptFile(line);
   return runVerb(line, *line.makeCommand());
 }

@@ -70,5 +70,16 @@ TEST_F(CommandLineOfTool, aFolderWithoutResourcesIsRefusedByAllButTheDoctor) {
   EXPECT_EQ(tree(), before);
 }
 
+TEST_F(CommandLineOfTool, resourcesThatCannotBeLookedAtAreToldByTheirCause) {
+  const std::string folder = root_.folder() / "round";
+  std::filesystem::create_directory(folder);
+  std::filesystem::create_symlink("DefaultAddin.plist", folder + "/DefaultAddin.plist");
+  const ToolResult result = run({"--resources", folder, "styles"});
+  EXPECT_EQ(result.err, "tarvoctl: " + folder +
+                            "/DefaultAddin.plist: cannot be looked at; links lead round in a circle; remove one of "
+                            "them\n");
+  EXPECT_EQ(result.status, 1);
+}
+
 }  // namespace
 }  // namespace tarvo::test
