@@ -54,7 +54,8 @@ struct Spelling {
   std::string_view bytes;
 };
 
-// The JIS spellings of cells that code page 932 spells otherwise, for C libraries whose table lacks them.
+// The JIS spellings of cells that code page 932 spells otherwise, for C libraries whose table lacks them: GNU libiconv,
+// which is that of macOS up to 13, has no yen sign, overline and em dash. The table of glibc has all of them.
 constexpr std::array<Spelling, 9> jisSpellings{{{0x00A2, "\x81\x91"},
                                                 {0x00A3, "\x81\x92"},
                                                 {0x00A5, "\x5C"},
