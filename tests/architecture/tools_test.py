@@ -8,9 +8,12 @@ Words that the rules look for are put together here, so that this file passes th
 import importlib.machinery
 import importlib.util
 import io
+import os
 import pathlib
+import shutil
 import subprocess
 import sys
+import tempfile
 import unittest
 
 TOP = pathlib.Path(__file__).resolve().parent.parent.parent
@@ -158,6 +161,26 @@ class Code(unittest.TestCase):
             self.assertEqual((1, True), (done.returncode, done.stdout.startswith("build/badly_worded.md:1: [later]")))
         finally:
             place.unlink()
+
+
+class Formatting(unittest.TestCase):
+    def test_a_file_that_was_removed_and_not_staged_is_passed_over(self):
+        with tempfile.TemporaryDirectory() as folder:
+            top = pathlib.Path(folder)
+            for name in ("script", "tools"):
+                (top / name).mkdir()
+            shutil.copy(TOP / "script" / "format", top / "script")
+            formatter = top / "tools" / "clang-format-19"
+            formatter.write_text(f'#!/bin/sh\nprintf "%s\\n" "$@" > "{top}/seen"\n')
+            formatter.chmod(0o755)
+            for name in ("kept of two.cpp", "removed.cpp"):
+                (top / name).write_text("int a;\n")
+            subprocess.run(["git", "init", "-q"], cwd=top, check=True)
+            subprocess.run(["git", "add", "."], cwd=top, check=True)
+            (top / "removed.cpp").unlink()
+            environment = os.environ | {"PATH": f"{top}/tools:{os.environ['PATH']}"}
+            subprocess.run([top / "script" / "format"], env=environment, check=True)
+            self.assertEqual("-i\nkept of two.cpp\n", (top / "seen").read_text())
 
 
 class TestRun(unittest.TestCase):
