@@ -76,7 +76,7 @@ ExitStatus runScriptFile(const CommandLine& line) {
     }
   }
   std::istream& input = fromInput ? std::cin : file;
-  std::string text{std::istreambuf_iterator<char>(input), std::istreambuf_iterator<char>()};
+  const std::string text{std::istreambuf_iterator<char>(input), std::istreambuf_iterator<char>()};
   const std::filesystem::path folder =
       fromInput ? std::filesystem::current_path() : std::filesystem::absolute(line.script).parent_path();
   const std::unique_ptr<ScenarioClock> clock = line.clock == "real"
@@ -84,7 +84,7 @@ ExitStatus runScriptFile(const CommandLine& line) {
                                                    : std::make_unique<ManualRunLoop>();
   HeldLock lock;
   return runScript({line.product, DiskPath(folder.lexically_normal().string()), std::ref(lock)}, *clock, line.script,
-                   std::move(text), std::cout, std::cerr);
+                   text, std::cout, std::cerr);
 }
 
 // The verbs that need the product's resources do nothing without them.

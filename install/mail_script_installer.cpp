@@ -73,7 +73,7 @@ Result<> MailScriptInstaller::unInstallMailScript(const AddinEntry& entry) {
 Result<> MailScriptInstaller::unInstallScript(const DiskPath& folder) {
   const Result<std::vector<std::string>> names = files_.list(folder);
   if (!names) return names.error();
-  const Result<> emptied = removeScripts(folder, *names);
+  Result<> emptied = removeScripts(folder, *names);
   Result<> removed = files_.removeEmptyFolder(folder);
   if (removed) return removed;
   if (!emptied) return emptied;  // what stayed is why the folder does

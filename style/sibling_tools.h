@@ -39,10 +39,13 @@ inline constexpr std::array<SiblingTool, 8> siblingTools{{{"MG", "MG.tif"},
                                                           {"MAIL", "mail32.tif"}}};
 
 constexpr const SiblingTool& rowOf(Tool tool) { return siblingTools[static_cast<std::size_t>(tool)]; }
+inline constexpr std::array<Tool, siblingTools.size()> allTools{
+    Tool::manager,           Tool::quickTranslation, Tool::textTranslation, Tool::readingGuide,
+    Tool::translationMemory, Tool::notepad,          Tool::officeAddins,    Tool::mail};
 // Nothing for a place without a tool.
 constexpr std::optional<Tool> toolForPlace(int place) {
   if (place < 0 || place >= static_cast<int>(siblingTools.size())) return std::nullopt;
-  return static_cast<Tool>(place);
+  return allTools[static_cast<std::size_t>(place)];
 }
 constexpr int placeOf(Tool tool) { return static_cast<int>(tool); }
 

@@ -175,7 +175,7 @@ MUTANTS = [
            "the question of the start comes over another sheet and is lost"),
     Mutant("install/office_folder_search.cpp", "if (version != office2011 || ", "if (",
            "another Office is taken for that of 2011"),
-    Mutant("install/old_scripts.cpp", "row.set(installStatus, lists_.getInstallStatus(row));",
+    Mutant("install/addin_lists.cpp", "row.set(installStatus, getInstallStatus(row));",
            "(void)row;",
            "removed scripts are shown as installed"),
     Mutant("install/tool_list_file.cpp", 'append(value).append("\\r\\n")', 'append(value).append("\\n")',

@@ -7,15 +7,15 @@
 
 namespace tarvo {
 
-ExitStatus runScript(const ScenarioOptions& options, ScenarioClock& clock, const std::string& file, std::string text,
-                     std::ostream& out, std::ostream& err) {
+ExitStatus runScript(const ScenarioOptions& options, ScenarioClock& clock, const std::string& file,
+                     const std::string& text, std::ostream& out, std::ostream& err) {
   MemoryShell shell;
   ScenarioSession session(options, shell, clock);
   if (const std::string problem = session.problem(); !problem.empty()) {
     err << problem << '\n';
     return ExitStatus::usage;
   }
-  Interpreter interpreter(session, std::move(text), file, out);
+  Interpreter interpreter(session, text, file, out);
   shell.windowHost().step = [&interpreter] { return interpreter.step(); };
   while (interpreter.step()) {
   }

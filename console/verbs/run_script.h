@@ -12,7 +12,7 @@ namespace tarvo {
 
 // run FILE|-: a script over the shell without a screen.
 // file: as the messages name it. Fails with scriptFailed and "FILE:LINE: reason" on err.
-ExitStatus runScript(const ScenarioOptions& options, ScenarioClock& clock, const std::string& file, std::string text,
-                     std::ostream& out, std::ostream& err);
+ExitStatus runScript(const ScenarioOptions& options, ScenarioClock& clock, const std::string& file,
+                     const std::string& text, std::ostream& out, std::ostream& err);
 
 }  // namespace tarvo

@@ -22,8 +22,8 @@ bool isFolder(const std::string& path) {
 // base: the open folder that holds the name; path: the whole one, for who is told of a failure.
 Result<> removeAt(int base, const std::string& name, const std::string& path);
 
-Result<> removeContent(int base, const std::string& name, const std::string& path) {
-  const int refused = errno;
+// refused: why it could not be removed as a file.
+Result<> removeContent(int base, const std::string& name, const std::string& path, int refused) {
   const Descriptor folder = openFolder(base, name, O_NOFOLLOW);
   const auto names = folder ? namesIn(folder.get()) : std::nullopt;
   if (!folder && (errno == ENOTDIR || errno == ELOOP)) errno = refused;  // no folder: the first answer holds
@@ -37,8 +37,9 @@ Result<> removeContent(int base, const std::string& name, const std::string& pat
 Result<> removeAt(int base, const std::string& name, const std::string& path) {
   // Most names are files: a folder is only looked for where the system says that this is none.
   if (::unlinkat(base, name.c_str(), 0) == 0) return {};
-  if (errno != EISDIR && errno != EPERM) return systemFailure(path, Attempt::remove);
-  if (Result<> emptied = removeContent(base, name, path); !emptied) return emptied;
+  const int refused = errno;
+  if (refused != EISDIR && refused != EPERM) return systemFailure(path, Attempt::remove);
+  if (Result<> emptied = removeContent(base, name, path, refused); !emptied) return emptied;
   if (::unlinkat(base, name.c_str(), AT_REMOVEDIR) == 0) return {};
   return systemFailure(path, Attempt::remove);
 }

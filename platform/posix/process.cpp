@@ -30,6 +30,7 @@ DiskPath loginHome() {
 
 Failure becomeProgram(const DiskPath& file, std::vector<std::string> words) {
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
   ::execv(file.text().c_str(), arguments.data());
