@@ -27,6 +27,36 @@ TEST(PlistWriter, canHoldExactlyTheTextsThatComeBackAsTheyWere) {
   }
 }
 
+constexpr const char* wholeFile =
+    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+    "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" \"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+    "<plist version=\"1.0\">\n"
+    "<dict>\n"
+    "\t<key>a</key>\n"
+    "\t<data>\n"
+    "\tAAEC\n"
+    "\t</data>\n"
+    "\t<key>b</key>\n"
+    "\t<array>\n"
+    "\t\t<integer>-1</integer>\n"
+    "\t\t<true/>\n"
+    "\t\t<false/>\n"
+    "\t\t<dict>\n"
+    "\t\t\t<key>名前</key>\n"
+    "\t\t\t<string>&lt;特許&gt; &amp; \"x\"</string>\n"
+    "\t\t</dict>\n"
+    "\t</array>\n"
+    "\t<key>c</key>\n"
+    "\t<dict/>\n"
+    "\t<key>d</key>\n"
+    "\t<array/>\n"
+    "\t<key>e</key>\n"
+    "\t<real>1.50</real>\n"
+    "\t<key>f</key>\n"
+    "\t<date>2009-01-31T12:00:00Z</date>\n"
+    "</dict>\n"
+    "</plist>\n";
+
 TEST(PlistWriter, writesAWholeFile) {
   Dictionary inner;
   inner.set("名前", "<特許> & \"x\"");
@@ -37,36 +67,7 @@ TEST(PlistWriter, writesAWholeFile) {
   root.set("d", Array{});
   root.set("e", Real{"1.50"});
   root.set("f", Date{"2009-01-31T12:00:00Z"});
-  EXPECT_EQ(
-      writePropertyList(root),
-      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-      "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" \"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
-      "<plist version=\"1.0\">\n"
-      "<dict>\n"
-      "\t<key>a</key>\n"
-      "\t<data>\n"
-      "\tAAEC\n"
-      "\t</data>\n"
-      "\t<key>b</key>\n"
-      "\t<array>\n"
-      "\t\t<integer>-1</integer>\n"
-      "\t\t<true/>\n"
-      "\t\t<false/>\n"
-      "\t\t<dict>\n"
-      "\t\t\t<key>名前</key>\n"
-      "\t\t\t<string>&lt;特許&gt; &amp; \"x\"</string>\n"
-      "\t\t</dict>\n"
-      "\t</array>\n"
-      "\t<key>c</key>\n"
-      "\t<dict/>\n"
-      "\t<key>d</key>\n"
-      "\t<array/>\n"
-      "\t<key>e</key>\n"
-      "\t<real>1.50</real>\n"
-      "\t<key>f</key>\n"
-      "\t<date>2009-01-31T12:00:00Z</date>\n"
-      "</dict>\n"
-      "</plist>\n");
+  EXPECT_EQ(writePropertyList(root), wholeFile);
 }
 
 struct Text {
