@@ -114,7 +114,7 @@ TEST(AddinStartUp, showsTheDialogOfSmallScreensBeforeOldScriptsAreRemoved) {
   test.root.write(test.inHome("Library/Scripts/Old/Tarvo/old.scpt"), "");
   test.host.screen.width = 800;
   test.host.whileModal = [&test](Window&) {
-    test.log.push_back("dialog");
+    test.log.emplace_back("dialog");
     test.interface().manager.displayCloseButton.userPress();
   };
   ASSERT_TRUE(test.program().start());
@@ -234,7 +234,7 @@ TEST(ShippedAddins, haveTheirMacrosAndScripts) {
     for (const char* application : {"Word ", "Excel ", "PowerPoint "})
       expected.push_back(application + std::string(year));
   }
-  for (const char* program : {"Mail", "Outlook 2011", "Entourage 2004"}) expected.push_back(program);
+  for (const char* program : {"Mail", "Outlook 2011", "Entourage 2004"}) expected.emplace_back(program);
   EXPECT_EQ(names, expected);
 }
 

@@ -29,7 +29,7 @@ class RequestsTest : public testing::Test {
     test_.program().notifications().onPost = [this](const Notification& posted) {
       test_.log.push_back("post " + posted.name + " " + posted.object);
     };
-    test_.program().rooms().store.didWrite = [this] { test_.log.push_back("wrote"); };
+    test_.program().rooms().store.didWrite = [this] { test_.log.emplace_back("wrote"); };
     test_.log.clear();
   }
   RequestQueue& requests() { return test_.program().requests(); }
@@ -131,7 +131,7 @@ TEST_F(RequestsTest, comeInTheirOrderAndNoneIsLost) {
   for (std::size_t i = 0; i < 1000; ++i) {
     const auto& [code, tool] = tools[(i * 7 + i / 13) % tools.size()];
     requests().eventText(code);
-    expected.push_back(tool);
+    expected.emplace_back(tool);
     if (i % 3 == 0) test_.runLoop.run();
   }
   test_.runLoop.run();

@@ -18,11 +18,11 @@ class StyleChoice : public testing::Test {
     Interface& interface = test_.interface();
     interface.options.indexPopups[0].view = [this](Control::Change) {
       const auto loaded = test_.program().rooms().lists.ejTDController().selectedDictionary();
-      test_.log.push_back(loaded ? "options over loaded lists" : "options over cleared lists");
+      test_.log.emplace_back(loaded ? "options over loaded lists" : "options over cleared lists");
     };
     const auto watch = [this](Control& control, const char* name, Control::Change change) {
       control.view = [this, name, change](Control::Change told) {
-        if (told == change) test_.log.push_back(name);
+        if (told == change) test_.log.emplace_back(name);
       };
     };
     watch(interface.options.detailPopups[0], "details", Control::Change::value);
@@ -30,7 +30,7 @@ class StyleChoice : public testing::Test {
     watch(interface.lists.jeTDTable, "japanese list", Control::Change::reload);
     watch(interface.naming.StyleNameEditButton, "rename button", Control::Change::look);
     watch(interface.lists.ejLoadDicButton, "load button", Control::Change::look);
-    test_.program().rooms().store.didWrite = [this] { test_.log.push_back("write"); };
+    test_.program().rooms().store.didWrite = [this] { test_.log.emplace_back("write"); };
     test_.log.clear();
   }
   ~StyleChoice() override { test_.program().rooms().store.didWrite = {}; }

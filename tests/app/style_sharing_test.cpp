@@ -14,7 +14,7 @@ TEST_F(StyleTravel, storesTheStampThenShowsAndWritesNewerStyles) {
   setNewerStyles();
   Dictionary atWrite;
   test_.program().rooms().store.didWrite = [&] {
-    test_.log.push_back("wrote");
+    test_.log.emplace_back("wrote");
     atWrite = test_.defaultsOnDisk();
   };
   post();

@@ -25,7 +25,7 @@ class StyleTravel : public testing::Test {
   void start(std::deque<bool> probes = {true, false}) {  // the launch shows nothing
     test_.engine.probes = std::move(probes);
     ASSERT_TRUE(test_.program().start());
-    test_.program().rooms().store.didWrite = [this] { test_.log.push_back("wrote"); };
+    test_.program().rooms().store.didWrite = [this] { test_.log.emplace_back("wrote"); };
     test_.log.clear();
   }
   std::string fileWith(const PropertyList& style) {

@@ -38,9 +38,10 @@ void measure(const std::string& resources, const std::string& place, int count) 
   entry.set(addin_keys::installFolderPath, place);
   const std::string source = resources + "/Scripts/Many", copy = place + "/Copy";
   std::vector<double> install, cp, removal, rm;
+  const std::string copying = "cp -a '" + source + "' '" + copy + "'";
   for (int i = 0; i < count; ++i) {
     install.push_back(milliseconds([&] { expect(installer.installMailScript(entry).has_value(), "the install"); }));
-    cp.push_back(milliseconds([&] { run("cp -a '" + source + "' '" + copy + "'"); }));
+    cp.push_back(milliseconds([&] { run(copying); }));
     removal.push_back(milliseconds([&] { expect(installer.unInstallMailScript(entry).has_value(), "the removal"); }));
     rm.push_back(milliseconds([&] { run("rm -r '" + copy + "'"); }));
   }

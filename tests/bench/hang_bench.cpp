@@ -9,6 +9,7 @@
 #include <exception>
 #include <stdexcept>
 #include <thread>
+#include <utility>
 
 #include "platform/engine/style_payload.h"
 #include "platform/plist/plist_writer.h"
@@ -126,7 +127,8 @@ void letEventsPass() {
 
 class HangBench {
  public:
-  HangBench(QApplication& application, ProductOptions options) : application_(application), options_(options) {
+  HangBench(QApplication& application, ProductOptions options)
+      : application_(application), options_(std::move(options)) {
     options_.engine = "none";
     Product product(options_);
     const auto engine = product.makeEngine(product.files());
@@ -180,7 +182,7 @@ class HangBench {
     StyleStore& store = shell.program().rooms().store;
     std::optional<Dictionary> style = store.getStyleAtIndex(chosen);
     for (const std::string_view half : {keyNameEJ, keyNameJE}) {
-      style->dictionary(half)->array(keyNameTD)->push_back(PropertyList("is not there.TRet"));
+      style->dictionary(half)->array(keyNameTD)->emplace_back("is not there.TRet");
     }
     store.setAwakening(true);
     store.setStyle(chosen, *style);

@@ -32,7 +32,10 @@ std::size_t listBarely(const std::string& folder) {
   while (const dirent* entry = readdir(open)) {
     const std::string name = entry->d_name;
     if (name == "." || name == "..") continue;
-    getxattr((folder + '/' + name).c_str(), "user.com.apple.FinderInfo", information, sizeof information);
+    std::string path = folder;
+    path += '/';
+    path += name;
+    getxattr(path.c_str(), "user.com.apple.FinderInfo", information, sizeof information);
     ++count;
   }
   closedir(open);

@@ -11,7 +11,7 @@ namespace tarvo {
 using Times = std::vector<double>;
 
 template <class Work>
-double milliseconds(Work work) {
+double milliseconds(Work&& work) {
   const auto start = std::chrono::steady_clock::now();
   work();
   return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();

@@ -105,7 +105,7 @@ TEST(MedicalDictionaries, everyRecordGetsAListEvenTheDivider) {
 TEST(MedicalDictionaries, aListMayPassTheLimitOfTheListModel) {
   MedicalWorld world;
   Array list{G};
-  for (int i = 0; i < 7; ++i) list.push_back("d" + std::to_string(i));
+  for (int i = 0; i < 7; ++i) list.emplace_back("d" + std::to_string(i));
   world.openLists(list, {});
   world.medical.insertCorwell(Direction::englishToJapanese, "cwl.TRet", "cwla.TRet");
   EXPECT_EQ(world.list("EJ").size(), 10U);

@@ -23,7 +23,7 @@ namespace tarvo::test {
 struct PickerWorld : StylePaneWorld {
   // userFiles: where the user's two folders lie; the disk when nothing else is given.
   explicit PickerWorld(FileService* otherFiles = nullptr) : userFiles(otherFiles != nullptr ? *otherFiles : files) {
-    store.didWrite = [this] { log.push_back("wrote"); };
+    store.didWrite = [this] { log.emplace_back("wrote"); };
     windows.observer = [this](Windows::Event event, Window& window, int code) { note(event, window, code); };
     notifications.addObserver(this, newDicNotification, [this](const Notification& notification) {
       log.push_back("posted " + notification.object);
@@ -53,7 +53,7 @@ struct PickerWorld : StylePaneWorld {
     switch (event) {
       case Windows::Event::hidden: log.push_back("hidden " + window.name()); break;
       case Windows::Event::modal: log.push_back("modal " + window.name()); break;
-      case Windows::Event::modalEnded: log.push_back("modal ended"); break;
+      case Windows::Event::modalEnded: log.emplace_back("modal ended"); break;
       case Windows::Event::sheet: log.push_back("sheet " + window.name()); break;
       case Windows::Event::sheetEnded: log.push_back("sheet ended " + std::to_string(code)); break;
       default: break;

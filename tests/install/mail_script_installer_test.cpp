@@ -83,7 +83,7 @@ class MailScripts : public testing::Test, protected AddinWorld {
     resource("Mail/Tarvo/b.scpt", "second");
     resource("Mail/Tarvo/sub/c", "third");
   }
-  static AddinEntry loaded(AddinEntry entry) {
+  static AddinEntry loaded(const AddinEntry& entry) {
     return with(entry, addin_keys::installFolderPath, installFolder(entry));
   }
   Result<> install() { return mailScripts.installMailScript(mail); }

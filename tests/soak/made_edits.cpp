@@ -82,7 +82,7 @@ std::string differenceInProgram(const PlainLists& lists, Program& program) {
   Dictionary root;
   Array records;
   for (int style = 0; style < SoakRoot::styles; ++style) {
-    records.push_back(program.rooms().store.getStyleAtIndex(style).value_or(Dictionary()));
+    records.emplace_back(program.rooms().store.getStyleAtIndex(style).value_or(Dictionary()));
   }
   root.set("Style", records);
   const std::string difference = differenceInStyles(lists, root);

@@ -51,7 +51,7 @@ std::string expectation(const Json& json) { return "expect " + writeJson(json) +
 std::string tableLines(const PlainLists& lists, int direction) {
   Json::List cells;
   for (const std::string& name : lists.list(lists.style(), direction)) {
-    cells.push_back(Json::Object{{"name", name.substr(0, name.rfind('.'))}});
+    cells.emplace_back(Json::Object{{"name", name.substr(0, name.rfind('.'))}});
   }
   const std::vector<int>& selected = lists.selected(direction);
   const std::string name = std::string(half(direction)) + "TDTable";
@@ -78,7 +78,7 @@ Json recordOf(const PlainLists& lists, int style) {
 std::string diskLines(const PlainLists& lists) {
   const std::string path = "home:/Library/Preferences/Wordhaven/TarvoStyle2009.plist";
   Json::List records;
-  for (int style = 0; style < SoakRoot::styles; ++style) records.push_back(recordOf(lists, style));
+  for (int style = 0; style < SoakRoot::styles; ++style) records.emplace_back(recordOf(lists, style));
   const Json::Object root{{"Selection", Json::Object{{"MG", lists.style()}}}, {"Style", records}};
   return "disk " + path + '\n' +
          expectation(Json::Object{{"path", path}, {"kind", "file"}, {"mode", "*"}, {"plist", root}});

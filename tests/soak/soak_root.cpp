@@ -57,7 +57,7 @@ SoakRoot::SoakRoot() : folder_(placeOfSoaks()) {
     }
   }
   Array records;
-  for (int number = 0; number < styles; ++number) records.push_back(emptyStyle(number));
+  for (int number = 0; number < styles; ++number) records.emplace_back(emptyStyle(number));
   Dictionary selection, root;
   selection.set("MG", 0);
   root.set(keyNameSelection, selection);

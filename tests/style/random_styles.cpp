@@ -53,7 +53,7 @@ PropertyList RandomStyles::value(int depth) {
 
 Array RandomStyles::dictionaryNames() {
   Array names;
-  for (unsigned i = below(9); i > 0; --i) names.push_back(text() + ".TRet");
+  for (unsigned i = below(9); i > 0; --i) names.emplace_back(text() + ".TRet");
   return names;
 }
 

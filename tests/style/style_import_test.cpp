@@ -133,7 +133,7 @@ TEST_F(StyleExchangeTest, takesOptionsInEveryKindThatReadsAsANumberAndKeepsTheKi
 TEST_F(StyleExchangeTest, takesEverythingElseUnchecked) {
   Dictionary style = importedStyle();
   Array many;
-  for (int i = 0; i < 20; ++i) many.push_back("d" + std::to_string(i) + ".TRet");
+  for (int i = 0; i < 20; ++i) many.emplace_back("d" + std::to_string(i) + ".TRet");
   style.dictionary("EJ")->set("TD", many);
   style.dictionary("EJ")->set("TOpt1", 99);
   style.dictionary("JE")->set("PARS_SAHEN", "nonsense");

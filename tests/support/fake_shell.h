@@ -28,7 +28,7 @@ using Log = std::vector<std::string>;
 class FakePanels : public Panels {
  public:
   explicit FakePanels(Log& log) : log_(log) {}
-  void beep() override { log_.push_back("beep"); }
+  void beep() override { log_.emplace_back("beep"); }
   void tell(const std::string& text) override { log_.push_back("tell " + text); }
   int runAlertPanel(const Alert& alert) override {
     alerts.push_back(alert);
@@ -44,14 +44,14 @@ class FakePanels : public Panels {
   }
   std::optional<DiskPath> runOpenPanel(const OpenPanel& panel) override {
     opens.push_back(panel);
-    log_.push_back("open panel");
+    log_.emplace_back("open panel");
     if (whileUp) whileUp();
     const std::optional<std::string> answer = next(paths);
     return answer ? std::optional(DiskPath(*answer)) : std::nullopt;
   }
   void beginSavePanel(Window& host, const SavePanel& panel, std::function<void(int, const DiskPath&)> ended) override {
     saves.push_back(panel);
-    log_.push_back("save panel");
+    log_.emplace_back("save panel");
     sheetHost = &host;
     endSavePanel = [ended = std::move(ended)](int code, const std::string& path) { ended(code, DiskPath(path)); };
   }
@@ -104,11 +104,7 @@ class FakeWorkspace : public Workspace {
   void openFile(const DiskPath& path) override { opened.push_back(path.text()); }
   void openAddress(const std::string& address) override { addresses.push_back(address); }
   void launchApplication(const std::string& name) override { launched.push_back(name); }
-  std::vector<ProductPath> launchedApplications() override {
-    std::vector<ProductPath> paths;
-    for (const std::string& path : running) paths.emplace_back(path);
-    return paths;
-  }
+  std::vector<ProductPath> launchedApplications() override { return {running.begin(), running.end()}; }
   std::vector<std::string> opened, addresses, launched, running;
 };
 
@@ -160,7 +156,7 @@ class FakeEngine : public Engine {
       answer = probes.front();
       probes.pop_front();
     }
-    log_.push_back(answer ? "reachable" : "unreachable");
+    log_.emplace_back(answer ? "reachable" : "unreachable");
     return answer;
   }
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override {
@@ -171,7 +167,7 @@ class FakeEngine : public Engine {
     updateString = answersStamp ? "U" + std::to_string(++count_) : "";
   }
   bool checkStyle() override {
-    log_.push_back(holds ? "holds" : "holds none");
+    log_.emplace_back(holds ? "holds" : "holds none");
     return holds;
   }
   bool requestStyle(Array& styles, std::string& localUpdate) override {
@@ -194,7 +190,7 @@ class FakeEngine : public Engine {
 class FakeStyleModule : public StyleModule {
  public:
   explicit FakeStyleModule(Log& log) : log_(log) {}
-  void tarvoStyleInitialize() override { log_.push_back("tarvoStyleInitialize"); }
+  void tarvoStyleInitialize() override { log_.emplace_back("tarvoStyleInitialize"); }
   void tarvoStyleSetTStyleUrl(const DiskPath& path) override {
     log_.push_back("tarvoStyleSetTStyleUrl " + path.text());
   }

@@ -34,7 +34,7 @@ TestProgram::~TestProgram() = default;
 Program& TestProgram::program() {
   if (program_ == nullptr) {
     program_ = std::make_unique<Program>(product->services(product->files(), engine, runLoop, panels, host, workspace));
-    program_->didTerminate = [this] { log.push_back("terminated"); };
+    program_->didTerminate = [this] { log.emplace_back("terminated"); };
   }
   return *program_;
 }

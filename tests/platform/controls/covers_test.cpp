@@ -32,7 +32,7 @@ class CoversTest : public testing::Test {
     });
   }
   void end(Window& host) {
-    covers_.endSheet(host, nullptr, [this] { log_.push_back("ended"); });
+    covers_.endSheet(host, nullptr, [this] { log_.emplace_back("ended"); });
   }
   SomeWindows some_;
   FakeHost host_;
@@ -69,7 +69,7 @@ TEST_F(CoversTest, letTheActionThatEndedASheetComeToItsEnd) {
   ask(some_.main, "first");
   ask(some_.main, "second");
   end(some_.main);
-  log_.push_back("end of the action");
+  log_.emplace_back("end of the action");
   ask(some_.main, "third");
   EXPECT_FALSE(covers_.isFree(some_.main)) << "somebody waits";
   runLoop_.run();
@@ -79,7 +79,7 @@ TEST_F(CoversTest, letTheActionThatEndedASheetComeToItsEnd) {
 TEST_F(CoversTest, goOnWithTheNextWhenAnOperationOpensNothing) {
   ask(some_.main, "first");
   for (const char* name : {"nothing", "nothing again"}) {
-    covers_.whenFree(some_.main, [this, name] { log_.push_back(name); });
+    covers_.whenFree(some_.main, [this, name] { log_.emplace_back(name); });
   }
   ask(some_.main, "last");
   end(some_.main);
@@ -91,10 +91,10 @@ TEST_F(CoversTest, doNotBeginAnOperationInsideAnother) {
   ask(some_.main, "first");
   ask(some_.other, "other");
   covers_.whenFree(some_.main, [this] {
-    log_.push_back("asks");
+    log_.emplace_back("asks");
     end(some_.other);  // while the user is asked, say
     runLoop_.run();
-    log_.push_back("answered");
+    log_.emplace_back("answered");
   });
   ask(some_.other, "next");
   end(some_.main);

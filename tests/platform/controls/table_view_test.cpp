@@ -35,7 +35,7 @@ struct Source : TableDataSource, TableDelegate {
     log.push_back("should " + std::to_string(row));
     return row != refused;
   }
-  void selectionDidChange(TableView&) override { log.push_back("changed"); }
+  void selectionDidChange(TableView&) override { log.emplace_back("changed"); }
 };
 
 struct TableOutlets : Outlets {

@@ -51,7 +51,7 @@ TEST_F(WindowsTest, coverTheirHostWithASheetUntilItEnds) {
   int ended = -1;
   windows_.beginSheet(some_.sheet, some_.main, [&](int code) {
     ended = code;
-    log_.push_back("handler");
+    log_.emplace_back("handler");
   });
   EXPECT_FALSE(windows_.isReachable(some_.inMain));
   EXPECT_TRUE(windows_.isReachable(some_.inSheet));

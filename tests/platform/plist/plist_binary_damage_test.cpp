@@ -77,8 +77,8 @@ TEST(BinaryPropertyList, sharedListsThatMultiplyGiveNothing) {
                            "a",
                            "\x51"
                            "b"}) {
-    arrays.push_back(last);
-    dictionaries.push_back(last);
+    arrays.emplace_back(last);
+    dictionaries.emplace_back(last);
   }
   EXPECT_FALSE(read(arrays));
   EXPECT_FALSE(read(dictionaries));

@@ -124,7 +124,7 @@ TEST(PlistWriter, joinedRecordsGiveTheSameBytesAsAWholeEncode) {
     for (std::size_t i = 0; i < count; ++i) {
       Dictionary record;
       record.set("Name", "style " + std::to_string(i));
-      records.push_back(record);
+      records.emplace_back(record);
       encoded.push_back(written(record, 2));
     }
     Dictionary root;

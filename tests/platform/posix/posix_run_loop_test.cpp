@@ -11,7 +11,7 @@ namespace {
 
 class PosixRunLoopTest : public testing::Test {
  protected:
-  std::function<void()> note(std::string what) {
+  std::function<void()> note(const std::string& what) {
     return [this, what] { ran += what; };
   }
   PosixRunLoop loop;
