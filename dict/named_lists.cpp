@@ -92,7 +92,8 @@ std::expected<Names, ListProblem> NamedLists::add(ListPlace place, const Names& 
     return std::unexpected(ListProblem{isThere ? Kind::unkeepable : Kind::unknown, name});
   }
   Names added = contents.available;
-  std::erase_if(added, [&names](const std::string& name) { return !isIn(names, name); });
+  // The folder may hold a second file under the name of a loaded one, letter case aside.
+  std::erase_if(added, [&](const std::string& name) { return !isIn(names, name) || isIn(contents.loaded, name); });
   if (added.empty()) return Names{};
   if (!edits_.add(place, opened->list, added)) return std::unexpected(ListProblem{Kind::tooMany, ""});
   return contents.missing;

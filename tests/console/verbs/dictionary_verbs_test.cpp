@@ -78,6 +78,13 @@ TEST_F(DictionaryVerbs, addedOnesFollowInTheOrderOfThePicker) {
             std::string::npos);
 }
 
+TEST_F(DictionaryVerbs, whatIsLoadedStaysInItsPlaceBesideAFileOfTheSameNameInOtherCase) {
+  put("EJ/B.TRET");
+  const std::string before = lists(3, "ej");
+  EXPECT_EQ(run({"dictionary", "add", "3", "ej", "b.TRet"}).out, "already\n");
+  EXPECT_EQ(lists(3, "ej"), before);
+}
+
 TEST_F(DictionaryVerbs, theChoiceOfTheStyleEndsAsItBegan) {
   expectDone({"dictionary", "3", "je", "add", "j1.TRet"});
   EXPECT_EQ(run({"styles"}).out, "0  NomalStyle  MG\n1  Alpha\n2  (divider)\n3  Beta        QB\n");
