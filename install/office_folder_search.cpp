@@ -9,6 +9,7 @@
 
 #include "install/addin_lists.h"
 #include "install/mail_script_installer.h"
+#include "platform/plist/plist_writer.h"
 #include "platform/services/common_module.h"
 #include "platform/services/file_service.h"
 #include "platform/services/locations.h"
@@ -54,7 +55,8 @@ void OfficeFolderSearch::searchFolder(const DiskPath& folder) {
 }
 
 bool OfficeFolderSearch::canBeStored(const DiskPath& path) const {
-  return storedPath(services_.locations.inProduct(path).text(), services_.locations, services_.files) == path;
+  const std::string stored = services_.locations.inProduct(path).text();
+  return canHoldText(stored) && storedPath(stored, services_.locations, services_.files) == path;
 }
 
 int OfficeFolderSearch::getApplicationVer(const DiskPath& path) {

@@ -46,7 +46,7 @@ class OfficeFolderSearch {
  private:
   void searchFolder(const DiskPath& folder);
   // False for an application outside the root where the root holds one at the same path: the row would mean that one,
-  // and its box install there.
+  // and its box install there. Also for a path that the settings cannot hold: it would be gone with the next start.
   bool canBeStored(const DiskPath& path) const;
   bool addOfficeRow(const AddinEntry& shipped, const DiskPath& path, const DiskPath& folder);
   bool addMailRow(const AddinEntry& shipped, const DiskPath& path);

@@ -79,6 +79,14 @@ TEST_F(FolderSearch, leavesAnApplicationOutsideTheRootOutWhoseStoredPathWouldMea
   EXPECT_EQ(lists.placesOf(lists.fOfficeAddinArray().at(0)).application.text(), outside + "/Excel.app");
 }
 
+TEST_F(FolderSearch, leavesAnApplicationOutWhosePathTheSettingsCannotHold) {
+  application("Word.app", "APPL", "MSWD");
+  application("\xFF.app", "APPL", "MSWD");
+  searchFolder();
+  ASSERT_EQ(lists.fOfficeAddinArray().size(), 1U) << "it would be gone with the next start";
+  EXPECT_EQ(pathOf(lists.fOfficeAddinArray()[0]), chosen + "/Word.app");
+}
+
 TEST_F(FolderSearch, endsSilentlyWithoutAFolderToList) {
   application("Word.app", "APPL", "MSWD");
   picked.reset();
