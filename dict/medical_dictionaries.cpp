@@ -54,7 +54,7 @@ std::vector<std::string_view> MedicalDictionaries::insertInstalled() {
   // A flag that is there counts, whatever it says: what a user has removed from a list is not put back.
   const auto isDue = [&](std::string_view dataPathKey, std::string_view flag) {
     const DiskPath data = locations_.onDisk(ProductPath(texts_.localized(dataPathKey)));
-    return files_.isThere(data) && defaults_.find(flag) == nullptr;
+    return files_.isThere(data) && defaults_.find(flag) == nullptr && !defaults_.isUnknown();
   };
   if (isDue("TechECorwell6", "Corwell1stE")) {
     insertCorwell(Direction::englishToJapanese, "cwl.TRet", "cwla.TRet");

@@ -23,8 +23,8 @@ class MedicalDictionaries {
  public:
   MedicalDictionaries(const FileService& files, const Locations& locations, const Texts& texts, UserDefaults& defaults,
                       StyleStore& store);
-  // Inserts those that are installed and were never inserted. The flags of those that were: where there are any, a list
-  // may have changed and the style file has to be written.
+  // Inserts those that are installed and were never inserted, as far as the settings are known. The flags of those that
+  // were: where there are any, a list may have changed and the style file has to be written.
   std::vector<std::string_view> insertInstalled();
   // Sets these flags, so that they are not inserted again, and flushes the settings.
   void remember(const std::vector<std::string_view>& flags);

@@ -31,9 +31,20 @@ void UserDefaults::remove(std::string_view key) {
   if (observer) observer(key, nullptr);
 }
 
+bool UserDefaults::isUnknown() const { return unread_ && unread_->cause.category() != reasonCategory(); }
+
+void UserDefaults::readAgain() {
+  Result<Dictionary> present = file_.read();
+  if (!present) return;
+  for (const auto& [key, value] : values_.entries()) present->set(key, value);
+  values_ = std::move(*present);
+  unread_.reset();
+}
+
 void UserDefaults::synchronize() {
   if (observer) observer({}, nullptr);
   if (!changed_) return;
+  if (isUnknown()) readAgain();
   const Result<> made = files_.makeFolder(file_.path().folder());
   const Result<> written = file_.write(values_);
   changed_ = !written;

@@ -23,7 +23,10 @@ class UserDefaults {
   void remove(std::string_view key);
   // Why the file that is there could not be read, so that every key counts as absent.
   const std::optional<Failure>& unread() const { return unread_; }
-  // Writes the file when something changed since the last good write; folders for it are made on demand.
+  // The same for a cause that may pass, such as a fault of the disk: no key is known to be absent.
+  bool isUnknown() const;
+  // Writes the file when something changed since the last good write; folders for it are made on demand. What could
+  // not be read at first and can be now stays in it, under what was set since.
   void synchronize();
   // Why the last change is not on the disk.
   const std::optional<Failure>& unwritten() const { return unwritten_; }
@@ -32,6 +35,7 @@ class UserDefaults {
   std::function<void(std::string_view key, const PropertyList* value)> observer;
 
  private:
+  void readAgain();
   FileService& files_;
   PlistFile file_;
   Dictionary values_;

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/dict/medical_world.h"
+#include "tests/support/memory_files.h"
 
 namespace tarvo::test {
 namespace {
@@ -121,6 +122,19 @@ TEST(InstalledMedicalDictionaries, aPathWithoutATextIsNotLookedForInTheWorkingFo
   world.openLists({G}, {G});
   EXPECT_FALSE(world.insertInstalled());
   EXPECT_EQ(world.log, "flush ");
+  EXPECT_EQ(world.list("EJ"), Array{G});
+}
+
+TEST(InstalledMedicalDictionaries, waitForSettingsThatCannotBeRead) {
+  MedicalWorld world;
+  world.install("TechECorwell6");
+  world.openLists({G}, {G});
+  MemoryFiles disk;
+  disk.put("/settings.plist", "");
+  disk.refuse(MemoryFiles::Operation::read, "/settings.plist", std::errc::io_error);
+  UserDefaults unread(disk, DiskPath("/settings.plist"));
+  MedicalDictionaries medical(world.files, world.locations, world.texts, unread, world.store);
+  EXPECT_TRUE(medical.insertInstalled().empty()) << "the user may have taken it out of the list";
   EXPECT_EQ(world.list("EJ"), Array{G});
 }
 

@@ -11,6 +11,7 @@
 #include "platform/plist/plist_writer.h"
 #include "platform/posix/posix_files.h"
 #include "platform/services/locations.h"
+#include "tests/support/memory_files.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tarvo {
@@ -140,6 +141,35 @@ TEST_F(UserDefaultsTest, theObserverHearsOfEverySetRemovalAndSynchronise) {
   defaults.remove("a");
   defaults.synchronize();
   EXPECT_EQ(heard, "a=1 a=1 - a- a- - ");
+}
+
+TEST(UserDefaultsOnAFaultyDisk, settingsThatCanBeReadAgainStayUnderWhatWasSetMeanwhile) {
+  test::MemoryFiles files;
+  Dictionary former;
+  former.set("kept", 1);
+  former.set("changed", 1);
+  files.put("/settings.plist", writePropertyList(former));
+  files.refuse(test::MemoryFiles::Operation::read, "/settings.plist", std::errc::io_error);
+  UserDefaults defaults(files, DiskPath("/settings.plist"));
+  EXPECT_TRUE(defaults.isUnknown());
+  files.allowAll();
+  defaults.set("changed", 2);
+  defaults.synchronize();
+  EXPECT_FALSE(defaults.isUnknown());
+  former.set("changed", 2);
+  EXPECT_EQ(files.bytes("/settings.plist"), writePropertyList(former));
+  EXPECT_NE(defaults.find("kept"), nullptr);
+  EXPECT_EQ(files.paths(), std::vector<std::string>{"/settings.plist"}) << "nothing had to be kept beside";
+}
+
+TEST(UserDefaultsOnAFaultyDisk, settingsThatStayUnreadableAreKeptBeside) {
+  test::MemoryFiles files;
+  files.put("/settings.plist", "damaged");
+  UserDefaults defaults(files, DiskPath("/settings.plist"));
+  EXPECT_FALSE(defaults.isUnknown()) << "they hold nothing that anybody could read";
+  defaults.set("key", 1);
+  defaults.synchronize();
+  EXPECT_EQ(files.bytes("/settings.plist.unreadable"), "damaged");
 }
 
 }  // namespace
