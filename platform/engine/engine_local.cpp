@@ -20,6 +20,7 @@ namespace {
 
 constexpr std::string_view styleKey = "Style", stampKey = "Stamp";
 constexpr std::size_t counterWidth = 20;
+constexpr std::uint64_t lastCounter = std::numeric_limits<std::uint64_t>::max();
 constexpr std::string_view timeShape = " 0000-00-00T00:00:00Z";
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
@@ -80,12 +81,13 @@ void EngineLocal::sendRegistStyle(const StyleSet& styles, std::string& updateStr
     (void)held;  // what is there is replaced; a set that cannot be read is kept beside it
   }
   const std::uint64_t last = counter_.value_or(0);
-  const std::uint64_t next = last == std::numeric_limits<std::uint64_t>::max() ? 1 : last + 1;
+  const std::uint64_t next = last == lastCounter ? 1 : last + 1;
   updateString = makeStamp(next);
   const Result<> made = files_.makeFolder(file_.path().folder());
   // After a failed write the caller's set is newer than what the file holds, and its stamp says so: the old set must
-  // not come back over it.
+  // not come back over it, whatever counter it has.
   didRegister_ = file_.write(encode(styles, updateString));
+  if (!didRegister_ && !counter_) updateString = makeStamp(lastCounter);
   if (didRegister_) counter_ = next;
   if (!didRegister_ && !made) didRegister_ = made;  // without its folder no file can be
 }
@@ -110,6 +112,7 @@ Result<Dictionary> EngineLocal::readSet() {
   Result<Dictionary> set = file_.read();
   const std::string* stamp = set ? set->string(stampKey) : nullptr;
   counter_ = stamp != nullptr ? counterOf(*stamp) : 0;
+  if (!set && !isAbsence(set.error())) counter_.reset();
   return set;
 }
 

@@ -35,7 +35,7 @@ class EngineLocal : public Engine {
   Result<Dictionary> readSet();
   FileService& files_;
   PlistFile file_;
-  std::optional<std::uint64_t> counter_;  // of the file, once it was read: a registration need not read it again
+  std::optional<std::uint64_t> counter_;  // of the file, once it could be read: a registration need not read it again
   Result<> didRegister_, couldRead_;
 };
 

@@ -10,6 +10,7 @@
 #include "platform/plist/plist_writer.h"
 #include "platform/posix/posix_files.h"
 #include "platform/services/locations.h"
+#include "tests/support/memory_files.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tarvo {
@@ -194,6 +195,22 @@ TEST_F(EngineLocalTest, aFailedWriteLeavesTheFileAndItsOldSetDoesNotCountAsNewer
   EXPECT_EQ(newerThan(""), one);
   EXPECT_EQ(newerThan(stamp), std::nullopt);
   EXPECT_EQ(registered(engine, two).substr(0, 20), "00000000000000000002");
+}
+
+TEST_F(EngineLocalTest, aSetThatCannotBeLookedAtDoesNotComeBackOverWhatItDidNotTake) {
+  hold(two, stampOf("00000000000000000005"));
+  test::MemoryFiles disk;
+  disk.put(path.text(), folder.read(file));
+  using Operation = test::MemoryFiles::Operation;
+  for (const Operation operation : {Operation::read, Operation::keepUnreadable}) disk.refuse(operation, path.text());
+  EngineLocal engine(disk, path);
+  std::string stamp = registered(engine, one);
+  EXPECT_FALSE(engine.didRegister());
+  disk.allowAll();
+  Array styles;
+  EXPECT_FALSE(EngineLocal(disk, path).requestStyle(styles, stamp)) << "the old set would replace newer styles";
+  EXPECT_TRUE(registered(engine, one).starts_with("00000000000000000006 ")) << "the file is read again";
+  EXPECT_TRUE(engine.didRegister());
 }
 
 TEST_F(EngineLocalTest, afterTheLastCounterTheFirstOneFollows) {
