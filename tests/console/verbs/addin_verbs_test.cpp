@@ -1,71 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include <gtest/gtest.h>
-
 #include <filesystem>
-#include <map>
 
-#include "tests/console/run_tool.h"
-#include "tests/support/scenario_files.h"
+#include "tests/console/verbs/addin_verb_test.h"
 
 // The verbs on macros, mail scripts and the tool list, as an administrator meets them.
 namespace tarvo::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-class AddinVerbs : public testing::Test {
- protected:
-  ToolResult run(const std::vector<std::string>& words) const {
-    std::vector<std::string> arguments{
-        "--root",     root_.root(), "--home",    root_.home(), "--resources", root_.root() + "/Bundle",
-        "--language", "en",         "--strings", "none",       "--strings",   "fixtures/texts/addin-texts.strings"};
-    arguments.insert(arguments.end(), words.begin(), words.end());
-    return runTool(arguments, scenarioFolder());
-  }
-  void expect(const std::vector<std::string>& words, int status, const std::string& out, const std::string& err) const {
-    const ToolResult result = run(words);
-    EXPECT_EQ(result.out, out);
-    EXPECT_EQ(result.err, err);
-    EXPECT_EQ(result.status, status);
-  }
-  // A verb that refuses before anything is started.
-  void expectUntouched(const std::vector<std::string>& words, int status, const std::string& err) const {
-    const auto before = tree();
-    expect(words, status, "", err);
-    EXPECT_EQ(tree(), before);
-  }
-  void put(const std::string& path, const std::string& text) const { root_.folder().write("root" + path, text); }
-  std::string read(const std::string& path) const { return root_.folder().read("root" + path); }
-  bool exists(const std::string& path) const { return fs::exists(root_.root() + path); }
-  void makeFolder(const std::string& path) const { fs::create_directories(root_.root() + path); }
-  // What the doctor says of it, as "state: detail".
-  std::string diagnosis(const std::string& what) const {
-    const std::string out = run({"doctor", "--json"}).out;
-    const std::size_t at = out.find("\"what\":\"" + what + "\"");
-    if (at == std::string::npos) return "nothing";
-    const std::size_t begin = out.rfind('{', at), end = out.find('}', at);
-    const auto value = [&](const std::string& key) {
-      const std::size_t from = out.find("\"" + key + "\":\"", begin) + key.size() + 4;
-      return from < end ? out.substr(from, out.find('"', from) - from) : std::string();
-    };
-    return value("state") + ": " + value("detail");
-  }
-  // Every path below the root, with the bytes of the files.
-  std::map<std::string, std::string> tree() const {
-    std::map<std::string, std::string> all;
-    for (const auto& entry : fs::recursive_directory_iterator(root_.root())) {
-      const std::string rest = fs::relative(entry.path(), root_.folder().path()).string();
-      all[rest] = entry.is_regular_file() ? root_.folder().read(rest) : "";
-    }
-    return all;
-  }
-  static constexpr const char* startup = "/Applications/O11/Office/Startup/Word";
-  static constexpr const char* macro = "/Applications/O11/Office/Startup/Word/Tarvo.dotm";
-  static constexpr const char* scripts = "/Users/taro/Library/Scripts/Applications/Mail/Tarvo";
-  static constexpr const char* toolList = "/Users/taro/Library/Preferences/Wordhaven/TarvoManager.txt";
-  const ScenarioRoot root_{"addins"};
-};
 
 TEST_F(AddinVerbs, listingShowsTheRowsOfBothTablesAndOnlyReads) {
   put(macro, "x");
@@ -191,16 +134,6 @@ TEST_F(AddinVerbs, aFailedRemovalTellsWhy) {
                                               ": Failure.uninstall; Cause.linkInTheWay");
 }
 
-TEST_F(AddinVerbs, theDoctorTellsOfApplicationsThatAreForgotten) {
-  fs::rename(root_.root() + "/Applications/O11/Word.app", root_.root() + "/away");
-  EXPECT_EQ(run({"tool-list"}).status, 0);  // the rows are remembered, without Word
-  EXPECT_EQ(diagnosis("Word 2011"), "nothing");
-  fs::rename(root_.root() + "/away", root_.root() + "/Applications/O11/Word.app");
-  EXPECT_EQ(diagnosis("Word 2011"),
-            "problem: is not listed: it was not there at the end of an earlier run; without the setting Office it "
-            "comes back");
-}
-
 TEST_F(AddinVerbs, aFailedInstallTellsWhatTheWindowTellsAndWhy) {
   expect({"addin", "install", "Word 2011"}, 1, "",
          "Word 2011«OfficeInstallIsFailed» (" + root_.root() + startup + ": Failure.write; Cause.absent)\n");
@@ -239,40 +172,6 @@ TEST_F(AddinVerbs, aToolListThatCannotBeWrittenIsTold) {
   makeFolder(toolList);
   expect({"tool-list", "tNP8"}, 1, "", root_.root() + toolList + ": Failure.write; Cause.isFolder\n");
   EXPECT_TRUE(fs::is_directory(root_.root() + toolList));
-}
-
-TEST_F(AddinVerbs, theDoctorSaysWhyAnInstallWouldFail) {
-  EXPECT_EQ(diagnosis("Word 2011"), "ok: ");
-  EXPECT_EQ(diagnosis("install folder of Word 2011"),
-            "missing: an install would fail: " + root_.root() + startup + ": Failure.install; Cause.absent");
-  EXPECT_EQ(diagnosis("macro of Word 2011"), "missing: not installed");
-  makeFolder(startup);
-  EXPECT_EQ(diagnosis("install folder of Word 2011"), "ok: ");
-  fs::remove(root_.root() + "/Bundle/Macros/2011/Tarvo.dotm");
-  EXPECT_EQ(diagnosis("install folder of Word 2011"),
-            "problem: an install would fail: " + root_.root() +
-                "/Bundle/Macros/2011/Tarvo.dotm: Failure.install; Cause.missingResource");
-  EXPECT_EQ(diagnosis("install folder of Outlook 2011"), "missing: is not listed without it");
-  fs::remove_all(root_.root() + "/Applications/O08");
-  EXPECT_EQ(diagnosis("Word 2008"), "missing: is not listed");
-  EXPECT_EQ(diagnosis("macro of Word 2008"), "nothing");
-}
-
-TEST_F(AddinVerbs, theDoctorSaysWhereARowAndTheDiskDiffer) {
-  put(std::string(scripts) + "/b.scpt", "of the user");
-  EXPECT_EQ(diagnosis("scripts of Mail"), "problem: installed in part, lacks a.scpt, sub");
-  EXPECT_EQ(diagnosis("install folder of Mail"),
-            "problem: an install would fail: " + root_.root() + scripts + "/b.scpt: Failure.install; Cause.exists");
-  makeFolder(startup);
-  EXPECT_EQ(run({"tool-list"}).status, 0);  // the rows are remembered, without the macro
-  put(macro, "of the user");
-  EXPECT_EQ(diagnosis("macro of Word 2011"),
-            "problem: installed; the box was left off and goes on with the next start");
-  EXPECT_EQ(run({"tool-list"}).status, 0);
-  EXPECT_EQ(diagnosis("macro of Word 2011"), "ok: installed");
-  fs::remove(root_.root() + macro);
-  EXPECT_EQ(diagnosis("macro of Word 2011"),
-            "problem: not installed; the box was left on and goes off with the next start");
 }
 
 }  // namespace

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "tests/console/run_tool.h"
+#include "tests/support/scenario_files.h"
+
+namespace tarvo::test {
+
+// A product whose Office and mail programs take add-ins, on which tarvoctl is run as an administrator would.
+class AddinVerbs : public testing::Test {
+ protected:
+  ToolResult run(const std::vector<std::string>& words) const {
+    std::vector<std::string> arguments{
+        "--root",     root_.root(), "--home",    root_.home(), "--resources", root_.root() + "/Bundle",
+        "--language", "en",         "--strings", "none",       "--strings",   "fixtures/texts/addin-texts.strings"};
+    arguments.insert(arguments.end(), words.begin(), words.end());
+    return runTool(arguments, scenarioFolder());
+  }
+  void expect(const std::vector<std::string>& words, int status, const std::string& out, const std::string& err) const {
+    const ToolResult result = run(words);
+    EXPECT_EQ(result.out, out);
+    EXPECT_EQ(result.err, err);
+    EXPECT_EQ(result.status, status);
+  }
+  // A verb that refuses before anything is started.
+  void expectUntouched(const std::vector<std::string>& words, int status, const std::string& err) const {
+    const auto before = tree();
+    expect(words, status, "", err);
+    EXPECT_EQ(tree(), before);
+  }
+  void put(const std::string& path, const std::string& text) const { root_.folder().write("root" + path, text); }
+  std::string read(const std::string& path) const { return root_.folder().read("root" + path); }
+  bool exists(const std::string& path) const { return std::filesystem::exists(root_.root() + path); }
+  void makeFolder(const std::string& path) const { std::filesystem::create_directories(root_.root() + path); }
+  // What the doctor says of it, as "state: detail".
+  std::string diagnosis(const std::string& what) const {
+    const std::string out = run({"doctor", "--json"}).out;
+    const std::size_t at = out.find("\"what\":\"" + what + "\"");
+    if (at == std::string::npos) return "nothing";
+    const std::size_t begin = out.rfind('{', at), end = out.find('}', at);
+    const auto value = [&](const std::string& key) {
+      const std::size_t from = out.find("\"" + key + "\":\"", begin) + key.size() + 4;
+      return from < end ? out.substr(from, out.find('"', from) - from) : std::string();
+    };
+    return value("state") + ": " + value("detail");
+  }
+  // Every path below the root, with the bytes of the files.
+  std::map<std::string, std::string> tree() const {
+    std::map<std::string, std::string> all;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(root_.root())) {
+      const std::string rest = std::filesystem::relative(entry.path(), root_.folder().path()).string();
+      all[rest] = entry.is_regular_file() ? root_.folder().read(rest) : "";
+    }
+    return all;
+  }
+  static constexpr const char* startup = "/Applications/O11/Office/Startup/Word";
+  static constexpr const char* macro = "/Applications/O11/Office/Startup/Word/Tarvo.dotm";
+  static constexpr const char* scripts = "/Users/taro/Library/Scripts/Applications/Mail/Tarvo";
+  static constexpr const char* toolList = "/Users/taro/Library/Preferences/Wordhaven/TarvoManager.txt";
+  const ScenarioRoot root_{"addins"};
+};
+
+}  // namespace tarvo::test

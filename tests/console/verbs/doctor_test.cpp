@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include <filesystem>
+#include <fstream>
+
+#include "platform/plist/json.h"
+#include "tests/console/verbs/verb_test.h"
+
+// What the doctor tells of styles, settings and the style service.
+namespace tarvo::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Verbs = VerbTest;
+
+std::map<std::string, Json> byPath(const std::string& listing) {
+  std::map<std::string, Json> all;
+  const std::optional<Json> list = readJson(listing);
+  for (const Json& row : std::get<Json::List>(list->value())) {
+    const auto& object = std::get<Json::Object>(row.value());
+    all[std::get<std::string>(object.at("path").value())] = object.at("state");
+  }
+  return all;
+}
+
+TEST_F(Verbs, doctorTellsWhatLiesWhere) {
+  putStyles("root4.plist");
+  root_.folder().write("root/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.plist", "broken");
+  const auto states = byPath(run({"doctor", "--json"}).out);
+  EXPECT_EQ(states.at(std::string("home:/") + styleFile), Json("ok"));
+  EXPECT_EQ(states.at("home:/Library/Preferences/com.wordhaven.TarvoManager.plist"), Json("problem"));
+  EXPECT_EQ(states.at("home:/Library/Preferences/com.wordhaven.TarvoManager.lock"), Json("missing"));
+  EXPECT_EQ(states.at("root:/Library/Application Support/Wordhaven/TarvoEiwa/TarvoStyle2009.plist"), Json("missing"));
+  EXPECT_EQ(states.at("root:/Library/Application Support/Wordhaven/TarvoEiwa/TechDic/EJ"), Json("ok"));
+  EXPECT_EQ(states.at("home:/Library/Application Support/Wordhaven/UserDic"), Json("missing"));
+  EXPECT_EQ(states.at("home:/Library/Preferences/Wordhaven/TarvoManager.txt"), Json("missing"));
+  EXPECT_EQ(states.at("home:/Library/Application Support/Wordhaven/TarvoEngine.plist"), Json("missing"));
+  EXPECT_EQ(states.at("root:/System/Library/CoreServices/SystemVersion.plist"), Json("ok"));
+}
+
+TEST_F(Verbs, doctorNamesTheStyleServiceAndDoesNotAskIt) {
+  const auto row = [this](const std::vector<std::string>& options) {
+    const std::string out = runInEnglish([&] {
+                              std::vector<std::string> words = options;
+                              words.emplace_back("doctor");
+                              return words;
+                            }())
+                                .out;
+    const std::size_t at = out.rfind('\n', out.find("  style service "));
+    return out.substr(at + 1, out.find('\n', at + 1) - at - 1);
+  };
+  EXPECT_TRUE(row({}).starts_with("ok "));
+  EXPECT_TRUE(row({}).ends_with(" local")) << row({});
+  EXPECT_TRUE(row({"--engine", "none"}).ends_with(" none"));
+  EXPECT_TRUE(row({"--engine", "http://service.example/x"}).ends_with(" http"));
+  root_.folder().write("root/odd.plist", "<plist><dict><key>EngineURL</key><string>ftp://x</string></dict></plist>");
+  const std::string odd = row({"--paths", root_.root() + "/odd.plist"});
+  EXPECT_TRUE(odd.starts_with("problem ")) << odd;
+  EXPECT_TRUE(odd.ends_with("there is no style service of this kind")) << odd;
+  const auto states = byPath(run({"--engine", "http://service.example/x", "doctor", "--json"}).out);
+  EXPECT_EQ(states.at("home:/.netrc"), Json("missing"));
+  EXPECT_EQ(states.at("http://service.example/x"), Json("ok"));
+}
+
+TEST_F(Verbs, oneConfigurationGivesEachUserAResource) {
+  const std::string address = "http://service.example/{user}.plist";
+  root_.folder().write("root/many.plist",
+                       "<plist><dict><key>EngineURL</key><string>" + address + "</string></dict></plist>");
+  for (const std::vector<std::string>& options :
+       {std::vector<std::string>{"--engine", address}, {"--paths", root_.root() + "/many.plist"}}) {
+    std::vector<std::string> words = options;
+    words.insert(words.end(), {"doctor", "--json"});
+    EXPECT_EQ(byPath(run(words).out).at("http://service.example/taro.plist"), Json("ok"));
+  }
+}
+
+TEST_F(Verbs, doctorFindsNothingMissingThatAStartAndAnEditMake) {
+  putStyles("root4.plist");
+  const std::string script = root_.root() + "/start.scenario";
+  std::ofstream(script) << "start\nquit\n";
+  EXPECT_EQ(run({"run", script}).status, 0);
+  EXPECT_EQ(run({"style", "set", "0", "Opt1=1"}).status, 0);
+  const auto states = byPath(run({"doctor", "--json"}).out);
+  for (const char* path :
+       {"home:/Library/Preferences/com.wordhaven.TarvoManager.plist",
+        "home:/Library/Preferences/Wordhaven/TarvoManager.txt", "home:/Library/Application Support/Wordhaven/UserDic",
+        "home:/Library/Application Support/Wordhaven/TarvoEngine.plist",
+        "home:/Library/Preferences/com.wordhaven.TarvoManager.lock"}) {
+    EXPECT_EQ(states.at(path), Json("ok")) << path;
+  }
+}
+
+TEST_F(Verbs, doctorDescribesBadStyleFiles) {
+  const auto line = [this] {
+    const std::string out = run({"doctor"}).out;
+    return out.substr(0, out.find('\n'));
+  };
+  putStyles("no-selection.plist");
+  EXPECT_TRUE(line().starts_with("problem  styles ")) << line();
+  EXPECT_TRUE(line().ends_with("4 styles, no remembered choice")) << line();
+  root_.folder().write(std::string("root/Users/taro/") + styleFile, "broken");
+  EXPECT_TRUE(line().ends_with("Failure.read; Cause.noPropertyList")) << line();
+  root_.folder().write(std::string("root/Users/taro/") + styleFile, "<plist><array/></plist>");
+  EXPECT_TRUE(line().ends_with("Failure.read; Cause.noDictionary")) << line();
+}
+
+}  // namespace
+}  // namespace tarvo::test
