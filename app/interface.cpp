@@ -41,6 +41,8 @@ void Interface::apply(const Texts& texts) {
     control.setTag(row.tag);
     if (row.window != nullptr) control.setWindow(row.window);
     if (row.tab != nullptr) control.setPage(row.tab, row.page);
+    control.setLaidOut(row.laidOut);
+    if (!row.laidOut) control.setHidden(true);
     control.setLabel(texts.localized(row.label.empty() ? "Label." + std::string(outletOf(control)) : row.label));
     if (!row.tip.empty()) control.setToolTip(texts.localized(row.tip));
     if (row.items) static_cast<PopUpButton&>(control).setItems(row.items());

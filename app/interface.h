@@ -71,6 +71,7 @@ struct Row {
   Window* window = nullptr;
   TabView* tab = nullptr;  // where it stands on a page of a tab view
   int page = 0;
+  bool laidOut = true;     // false: no window draws it (Control::isLaidOut)
   std::string label = {};  // text key; "Label.<outlet>" when empty. The label is the accessible name too
   std::string tip = {};    // text key; none when empty
   std::function<std::vector<PopUpButton::Item>()> items = {};

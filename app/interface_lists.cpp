@@ -88,9 +88,8 @@ void Interface::userListRows(Rooms& rooms) {
       table->setColumns({{.identifier = dictionaryColumn}});
       table->setDataSource(&rooms.userListRows);
     }
-    page.twin.setHidden(true);
     row({.control = page.shown, .tag = tag, .tab = &page.tab, .page = page.page});
-    row({.control = page.twin, .tag = tag + UserListRows::pairs, .window = &manager.myWindow});
+    row({.control = page.twin, .tag = tag + UserListRows::pairs, .window = &manager.myWindow, .laidOut = false});
     const auto button = [&](Button& control, int sent, Control::Action action) {
       row({.control = control, .tag = sent, .tab = &page.tab, .page = page.page, .action = std::move(action)});
     };

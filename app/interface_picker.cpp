@@ -59,14 +59,13 @@ void Interface::pickerPageRows(TechDicController& controller, const Texts& texts
 // The user's own dictionaries are shown in the style pane; their lists here have no place in the window.
 void Interface::hiddenPickerRows() {
   Window* window = &picker.myWindow;
-  row({.control = picker.UserDicTable, .tag = numberOf(DictionaryKind::user), .window = window});
-  row({.control = picker.UserTMATable, .tag = numberOf(DictionaryKind::memory), .window = window});
-  row({.control = picker.ejEditTDButton, .window = window});
-  row({.control = picker.jeEditTDButton, .window = window});
-  for (Control* control : std::initializer_list<Control*>{&picker.UserDicTable, &picker.UserTMATable,
-                                                          &picker.ejEditTDButton, &picker.jeEditTDButton}) {
-    control->setHidden(true);
-  }
+  const auto hidden = [&](Control& control, int tag = 0) {
+    row({.control = control, .tag = tag, .window = window, .laidOut = false});
+  };
+  hidden(picker.UserDicTable, numberOf(DictionaryKind::user));
+  hidden(picker.UserTMATable, numberOf(DictionaryKind::memory));
+  hidden(picker.ejEditTDButton);
+  hidden(picker.jeEditTDButton);
 }
 
 void Interface::sheetRows(Rooms& rooms, const Texts& texts) {

@@ -40,6 +40,7 @@ class Hand {
   virtual void selectPage(TabView& tab, int page) = 0;
   virtual void check(CheckBox& box, bool on) = 0;  // nothing happens when it is so already
   virtual void type(TextField& field, std::string_view text) = 0;
+  // Of a box that shows it already nothing changes; its row is selected all the same.
   virtual void tick(TableView& table, int row, bool on) = 0;
   virtual void select(TableView& table, const std::vector<int>& rows) = 0;  // no rows: deselects
   virtual void drag(TableView& table, const std::vector<int>& rows, TableView& target, int row,

@@ -53,7 +53,8 @@ void MemoryHand::type(TextField& field, std::string_view text) { field.userType(
 
 void MemoryHand::tick(TableView& table, int row, bool on) {
   requireRow(table, row);
-  table.userTick(row, on);
+  if (table.tickOf(row) != on) return table.userTick(row, on);
+  if (!table.isRowSelected(row)) table.userSelect({row});
 }
 
 void MemoryHand::select(TableView& table, const std::vector<int>& rows) {

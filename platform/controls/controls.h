@@ -37,6 +37,9 @@ class Control {
   void setEnabled(bool enabled);
   bool isHidden() const { return hidden_; }
   void setHidden(bool hidden);
+  // False: it has no place in its window, and a script works it through its state alone.
+  bool isLaidOut() const { return laidOut_; }
+  void setLaidOut(bool laidOut) { laidOut_ = laidOut; }
   const std::string& label() const { return label_; }  // what people call it; the accessible name
   void setLabel(std::string label);
   const std::string& toolTip() const { return toolTip_; }
@@ -60,7 +63,7 @@ class Control {
   std::string name_, label_, toolTip_;
   Kind kind_;
   int tag_ = 0;
-  bool enabled_ = true, hidden_ = false;
+  bool enabled_ = true, hidden_ = false, laidOut_ = true;
   Window* window_ = nullptr;
   TabView* tab_ = nullptr;
   int page_ = 0;

@@ -42,6 +42,18 @@ CellValue TableView::cell(std::string_view column, int row) const {
   return source_->objectValueForTableColumn(const_cast<TableView&>(*this), column, row);
 }
 
+const TableView::Column* TableView::checkColumn() const {
+  const auto found = std::ranges::find(columns_, true, &Column::checkBox);
+  return found != columns_.end() ? &*found : nullptr;
+}
+
+std::optional<bool> TableView::tickOf(int row) const {
+  const Column* column = checkColumn();
+  return column != nullptr ? cell(column->identifier, row).checked : std::nullopt;
+}
+
+bool TableView::isRowSelected(int row) const { return std::ranges::binary_search(selected_, row); }
+
 void TableView::setSelection(std::vector<int> rows) {
   if (rows == selected_) return;
   selected_ = std::move(rows);
@@ -84,10 +96,10 @@ void TableView::userSelect(std::vector<int> rows) {
 
 void TableView::userTick(int row, bool on) {
   if (!isEnabled() || source_ == nullptr || row < 0 || row >= numberOfRows() || !isRowShown(row)) return;
-  const auto column = std::find_if(columns_.begin(), columns_.end(), [](const Column& c) { return c.checkBox; });
-  if (column == columns_.end()) return;
+  const Column* column = checkColumn();
+  if (column == nullptr) return;
   source_->setObjectValue(*this, on, column->identifier, row);
-  if (!std::binary_search(selected_.begin(), selected_.end(), row)) userSelect({row});
+  if (!isRowSelected(row)) userSelect({row});
 }
 
 std::optional<Pasteboard> TableView::beginDrag(const std::vector<int>& rows) {

@@ -70,8 +70,10 @@ class TableView : public Control {
   int reportedRows() const { return reported_; }  // as the source answered at the last reload, -1 included
   int numberOfRows() const { return reported_ < 0 ? 0 : reported_; }
   CellValue cell(std::string_view column, int row) const;  // asked at every look
+  std::optional<bool> tickOf(int row) const;               // what its box shows; nothing for a row without one
 
   const std::vector<int>& selectedRows() const { return selected_; }  // ascending
+  bool isRowSelected(int row) const;
   // The last of them, as tables of the platform answer where several are selected; -1 for none.
   int selectedRow() const { return selected_.empty() ? -1 : selected_.back(); }
   // Rows that do not exist are left out. extend: added to the selection where several may be selected.
@@ -97,6 +99,7 @@ class TableView : public Control {
   bool userDrop(const Pasteboard& pasteboard, int row, DropOperation operation);
 
  private:
+  const Column* checkColumn() const;  // null for a table without boxes
   void setSelection(std::vector<int> rows);
   std::vector<Column> columns_;
   std::vector<std::string> types_;

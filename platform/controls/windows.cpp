@@ -108,7 +108,7 @@ Window* Windows::sheetOver(const Window& host) const {
 }
 
 bool Windows::isReachable(const Control& control) const {
-  if (!control.isEnabled() || control.isHidden()) return false;
+  if (!control.isEnabled() || (control.isHidden() && control.isLaidOut())) return false;
   const Window* modal = modalWindow();
   if (control.kind() == Control::Kind::menu) {
     return modal == nullptr && static_cast<const MenuItem&>(control).isValid();

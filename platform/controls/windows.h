@@ -93,8 +93,9 @@ class Windows {
   void stopModal(int code = 0);           // ends the innermost run
   Window* modalWindow() const { return covers_.modalWindow(); }
 
-  // Enabled, on the shown page of a shown window that no sheet covers and no modal window shuts out. Menu items stand
-  // in no window: a modal window shuts them out, and they must be valid.
+  // Enabled and not hidden, on the shown page of a shown window that no sheet covers and no modal window shuts out.
+  // What is not laid out needs no more than its window. Menu items stand in no window: a modal window shuts them out,
+  // and they must be valid.
   bool isReachable(const Control& control) const;
   Window* hostOf(const Window& sheet) const;    // null unless it is up as a sheet
   Window* sheetOver(const Window& host) const;  // null for none, and for a panel

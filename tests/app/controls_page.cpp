@@ -23,7 +23,9 @@ const char* kindName(Control::Kind kind) {
 std::string placeOf(const Row& row) {
   if (row.tab != nullptr)
     return "`" + row.tab->name() + "` " + row.tab->pages()[static_cast<std::size_t>(row.page)].identifier;
-  if (row.window != nullptr && row.window != &row.control) return "`" + row.window->name() + "`";
+  if (row.window != nullptr && row.window != &row.control) {
+    return "`" + row.window->name() + "`" + (row.laidOut ? "" : ", not laid out");
+  }
   return "";
 }
 

@@ -69,9 +69,10 @@ TEST_F(DictionaryDialogs, thePickerShutsOutTheMainWindowAndTheMenus) {
     EXPECT_TRUE(windows.isReachable(interface.picker.filterField));
     EXPECT_FALSE(windows.isReachable(interface.style.stylePopup));
     EXPECT_FALSE(windows.isReachable(interface.style.quitMenu));
-    EXPECT_FALSE(windows.isReachable(interface.picker.UserDicTable)) << "it has no place";
+    EXPECT_TRUE(windows.isReachable(interface.picker.UserDicTable)) << "through its state: it has no place";
     interface.picker.newUDButton.userPress();
     EXPECT_FALSE(windows.isReachable(interface.picker.okButton)) << "the sheet covers it";
+    EXPECT_FALSE(windows.isReachable(interface.picker.UserDicTable)) << "and this, too";
     EXPECT_TRUE(windows.isReachable(interface.picker.newDicOKButton));
     interface.picker.newDicWindow.userClose();
     EXPECT_TRUE(windows.isReachable(interface.picker.okButton));

@@ -81,6 +81,7 @@ W& QtHand::widget(const Control& control) const {
 }
 
 void QtHand::press(Button& button) {
+  if (!button.isLaidOut()) return state_.press(button);
   auto& shown = widget<QAbstractButton>(button);
   clickAt(shown, shown.rect().center());
 }

@@ -4,7 +4,7 @@
 
 #include <QPoint>
 
-#include "console/script/hand.h"
+#include "console/script/memory_hand.h"
 
 class QWidget;
 
@@ -18,7 +18,7 @@ namespace tarvo::test {
 // The hand that works the real widgets, with events of the mouse and the keyboard.
 // Duty: find the widget of a control by name, see that a user can get at it (shown, enabled, nothing over it, not shut
 // out by a dialog), work it as a user would. What the window leaves to the window manager (moving it) and what takes
-// several gestures there (the order of the toolbar) goes to the control.
+// several gestures there (the order of the toolbar) goes to the control; so does what has no place in its window.
 class QtHand : public Hand {
  public:
   // registry: of the window that is up; outlives the hand.
@@ -44,6 +44,7 @@ class QtHand : public Hand {
   template <class W>
   W& widget(const Control& control) const;
   const Registry& registry_;
+  MemoryHand state_;  // for what is not laid out
 };
 
 // Throws unless a click at that place, in the widget's coordinates, reaches the widget.

@@ -64,6 +64,7 @@ void drop(TableWidget& list, const QMimeData& rows, QPoint place) {
 }  // namespace
 
 void QtHand::select(TableView& table, const std::vector<int>& rows) {
+  if (!table.isLaidOut()) return state_.select(table, rows);
   TableWidget& list = listOf(registry_, table);
   if (rows.size() > 1 && list.selectionMode() == QAbstractItemView::SingleSelection) {
     throw NotReachable(table.name() + " selects one row at a time");
@@ -80,17 +81,22 @@ void QtHand::select(TableView& table, const std::vector<int>& rows) {
 }
 
 void QtHand::tick(TableView& table, int row, bool on) {
+  if (!table.isLaidOut()) return state_.tick(table, row, on);
   TableWidget& list = listOf(registry_, table);
   const int column = list.rows().checkColumn();
   const QModelIndex cell = list.model()->index(row, column);
   const QPoint place = placeOf(list, row, column);
-  if ((cell.data(Qt::CheckStateRole).toInt() == Qt::Checked) == on) throw NotReachable("the box shows that already");
+  if ((cell.data(Qt::CheckStateRole).toInt() == Qt::Checked) == on) {
+    if (!table.isRowSelected(row)) clickRow(list, row, {});
+    return;
+  }
   requireInReach(*list.viewport(), place);
   QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, {list.visualRect(cell).left() + 10, place.y()});
 }
 
 // A list offers no row as a target, only the gaps between rows.
 void QtHand::drag(TableView& table, const std::vector<int>& rows, TableView& target, int row, DropOperation operation) {
+  if (!table.isLaidOut() || !target.isLaidOut()) return state_.drag(table, rows, target, row, operation);
   TableWidget &from = listOf(registry_, table), &to = listOf(registry_, target);
   if (table.selectedRows() != rows) select(table, rows);
   const std::unique_ptr<QMimeData> carried(from.model()->mimeData(from.selectionModel()->selectedIndexes()));

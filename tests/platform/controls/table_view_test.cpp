@@ -15,7 +15,7 @@ struct Source : TableDataSource, TableDelegate {
     return rows;
   }
   CellValue objectValueForTableColumn(TableView&, std::string_view column, int row) override {
-    return {std::string(column) + std::to_string(row), "", std::nullopt};
+    return {std::string(column) + std::to_string(row), "", column == "Value" ? std::optional(row == 1) : std::nullopt};
   }
   void setObjectValue(TableView&, bool value, std::string_view column, int row) override {
     log.push_back("set " + std::string(column) + " " + std::to_string(row) + (value ? " on" : " off"));
@@ -173,6 +173,14 @@ TEST_F(TableViewTest, aFilteredRowStaysARowOutOfTheUsersReach) {
 
   table_.setRowFilter({});
   EXPECT_TRUE(table_.isRowShown(0));
+}
+
+TEST_F(TableViewTest, knowsWhatTheBoxOfARowShows) {
+  EXPECT_EQ(table_.tickOf(0), false);
+  EXPECT_EQ(table_.tickOf(1), true);
+  EXPECT_EQ(table_.tickOf(4), std::nullopt);
+  table_.setColumns({{"name"}});
+  EXPECT_EQ(table_.tickOf(1), std::nullopt);
 }
 
 }  // namespace

@@ -47,6 +47,17 @@ TEST_F(WindowsTest, reachWhatIsEnabledShownAndInAShownWindow) {
   EXPECT_FALSE(windows_.isReachable(some_.inMain));
 }
 
+TEST_F(WindowsTest, reachWhatIsNotLaidOutInAShownWindow) {
+  for (Control* control : {&some_.inMain, &some_.inPanel}) {
+    control->setLaidOut(false);
+    control->setHidden(true);
+  }
+  EXPECT_TRUE(windows_.isReachable(some_.inMain));
+  EXPECT_FALSE(windows_.isReachable(some_.inPanel));
+  some_.inMain.setEnabled(false);
+  EXPECT_FALSE(windows_.isReachable(some_.inMain));
+}
+
 TEST_F(WindowsTest, coverTheirHostWithASheetUntilItEnds) {
   int ended = -1;
   windows_.beginSheet(some_.sheet, some_.main, [&](int code) {
