@@ -53,10 +53,14 @@ void Product::layTexts(const std::vector<std::string>& strings) {
   for (const std::string& file : strings) {
     if (file == "none") {
       texts_.clear();
-    } else if (!overlayTableFile(texts_, *files_, absolutePath(file))) {
-      problem_ = "cannot read the texts in " + file;
+    } else if (const Result<> read = overlayTableFile(texts_, *files_, absolutePath(file)); !read) {
+      cannotRead(read.error());
     }
   }
+}
+
+void Product::cannotRead(const Failure& failure) {
+  if (!unread_) unread_ = failure;
 }
 
 std::optional<Dictionary> Product::readPaths(const std::optional<std::string>& overlay) {
@@ -67,7 +71,7 @@ std::optional<Dictionary> Product::readPaths(const std::optional<std::string>& o
   if (!overlay) return configuration;
   const Result<Dictionary> over = readDictionary(*files_, absolutePath(*overlay));
   if (!over) {
-    problem_ = "cannot read the paths in " + *overlay;
+    cannotRead(over.error());
     return configuration;
   }
   if (!configuration) configuration.emplace();

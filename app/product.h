@@ -11,6 +11,7 @@
 #include "platform/services/bundle.h"
 #include "platform/services/locations.h"
 #include "platform/services/product_paths.h"
+#include "platform/services/result.h"
 #include "platform/services/texts.h"
 
 // The installed product as the command line, the environment and the build describe it: both shells make one of it.
@@ -36,7 +37,9 @@ class Product {
   Product(const Product&) = delete;
   Product& operator=(const Product&) = delete;
 
-  // What was asked for and could not be had (a text or path list that cannot be read); "" when all is well.
+  // The first text table or path list that was asked for and cannot be read.
+  const std::optional<Failure>& unread() const { return unread_; }
+  // What was asked for and there is none of; "" when all is well.
   const std::string& problem() const { return problem_; }
   const std::string& language() const { return language_; }
   const Locations& locations() const { return locations_; }
@@ -62,8 +65,10 @@ class Product {
  private:
   EnginePlaces enginePlaces() const;
   void layTexts(const std::vector<std::string>& strings);
+  void cannotRead(const Failure& failure);
   std::optional<Dictionary> readPaths(const std::optional<std::string>& overlay);
   std::string language_, problem_;
+  std::optional<Failure> unread_;
   std::optional<std::string> engine_;
   Locations locations_;
   std::unique_ptr<FileService> files_;

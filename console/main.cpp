@@ -11,6 +11,7 @@
 #include "app/product_defaults.h"
 #include "console/command_line.h"
 #include "console/script/manual_run_loop.h"
+#include "console/verbs/refusal.h"
 #include "console/verbs/run_script.h"
 #include "platform/posix/instance_lock.h"
 #include "platform/posix/posix_run_loop.h"
@@ -62,7 +63,13 @@ ExitStatus runVerb(const CommandLine& line, Command& command) {
   console.textsToTell = [&line] { return textsToTell(line); };
   console.json = line.json;
   console.engineIsWanted = line.product.engine != "none";
+  if (product.unread()) return tell(console, *product.unread());
   return command.run(console);
+}
+
+ExitStatus cannotRead(const CommandLine& line, const Failure& failure) {
+  std::cerr << "tarvoctl: " << failureText(failure, textsToTell(line)) << '\n';
+  return ExitStatus::refused;
 }
 
 ExitStatus runScriptFile(const CommandLine& line) {
@@ -70,9 +77,10 @@ ExitStatus runScriptFile(const CommandLine& line) {
   std::ifstream file;
   if (!fromInput) {
     file.open(line.script);
-    if (!file || std::filesystem::is_directory(line.script)) {
-      std::cerr << "cannot read " << line.script << '\n';
-      return ExitStatus::usage;
+    if (!file) return cannotRead(line, systemFailure(absolutePath(line.script).text(), Attempt::read));
+    if (std::filesystem::is_directory(line.script)) {
+      return cannotRead(
+          line, {absolutePath(line.script).text(), Attempt::read, std::make_error_code(std::errc::is_a_directory)});
     }
   }
   std::istream& input = fromInput ? std::cin : file;

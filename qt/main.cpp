@@ -11,6 +11,7 @@
 
 #include "platform/posix/instance_lock.h"
 #include "platform/posix/running_applications.h"
+#include "platform/services/failure_text.h"
 #include "qt/command_line.h"
 #include "qt/guided_tour.h"
 #include "qt/look/tarvo_style.h"
@@ -60,6 +61,7 @@ int runManager(const CommandLine& line, int& argc, char** argv) {
   avoidHangingBus();
   Product product(line.product);
   if (!product.problem().empty()) return tell(misused, product.problem());
+  if (product.unread()) return tell(failed, failureText(*product.unread(), textsToTell(line)));
   const BusIdentity identity = identityOf(line, product.locations());
   std::optional<InstanceLock> lock;
   const auto status = enter(lock, line, lockPath(product.locations()), identity);

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "console/verbs/run_script.h"
 
+#include "app/common_options.h"
 #include "console/script/interpreter.h"
 #include "console/script/memory_shell.h"
+#include "platform/services/failure_text.h"
 
 namespace tarvo {
 
@@ -14,6 +16,12 @@ ExitStatus runScript(const ScenarioOptions& options, ScenarioClock& clock, const
   if (const std::string problem = session.problem(); !problem.empty()) {
     err << problem << '\n';
     return ExitStatus::usage;
+  }
+  if (session.product().unread()) {
+    CommonOptions shown;
+    shown.product.language = options.product.language;
+    err << "tarvoctl: " << failureText(*session.product().unread(), textsToTell(shown)) << '\n';
+    return ExitStatus::refused;
   }
   Interpreter interpreter(session, text, file, out);
   shell.windowHost().step = [&interpreter] { return interpreter.step(); };

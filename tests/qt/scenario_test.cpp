@@ -28,6 +28,7 @@ std::string failureOf(const ScenarioFile& file, const ScenarioRoot& root, const 
   ManualRunLoop clock;
   ScenarioSession session({.product = scenarioProduct(file, root), .folder = DiskPath(file.folder)}, shell, clock);
   if (!session.problem().empty()) return session.problem();
+  if (session.product().unread()) return "cannot read " + session.product().unread()->path;
   std::ostringstream output;
   Interpreter interpreter(session, text, file.path, output);
   ScriptRun(interpreter).run();

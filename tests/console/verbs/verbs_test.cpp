@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <filesystem>
 #include <fstream>
+#include <tuple>
 
 #include "platform/posix/instance_lock.h"
 #include "tests/console/verbs/verb_test.h"
@@ -21,15 +22,37 @@ TEST_F(Verbs, theCommandLineIsChecked) {
   for (const std::vector<std::string>& words :
        {std::vector<std::string>{}, std::vector<std::string>{"frobnicate"}, std::vector<std::string>{"style"},
         std::vector<std::string>{"style", "show"}, std::vector<std::string>{"style", "set", "1"},
-        std::vector<std::string>{"style", "show", "+1"}, std::vector<std::string>{"styles", "--language", "fr"},
-        std::vector<std::string>{"styles", "--strings", "missing.strings"},
-        std::vector<std::string>{"styles", "--paths", "missing.plist"},
-        std::vector<std::string>{"run", "missing.scenario"}, std::vector<std::string>{"run", "fixtures"}}) {
+        std::vector<std::string>{"style", "show", "+1"}, std::vector<std::string>{"styles", "--language", "fr"}}) {
     const ToolResult result = run(words);
     EXPECT_EQ(result.status, 2) << testing::PrintToString(words);
     EXPECT_EQ(result.out, "") << testing::PrintToString(words);
     EXPECT_NE(result.err, "") << testing::PrintToString(words);
   }
+}
+
+TEST_F(Verbs, filesOfTheCommandLineThatCannotBeReadAreTold) {
+  putStyles("root4.plist");
+  const auto before = tree();
+  const std::string folder = scenarioFolder() + "/", gone = "cannot be read; it is not there";
+  for (const auto& [words, name, parts] :
+       {std::tuple<std::vector<std::string>, std::string, std::string>{
+            {"styles", "--strings", "missing.strings"}, "missing.strings", gone},
+        {{"style", "set", "1", "Opt1=2", "--strings", "missing", "--strings", "none"}, "missing", gone},
+        {{"styles", "--paths", "missing.plist"}, "missing.plist", gone},
+        {{"run", "-", "--paths", "fixtures/import/root-is-a-list.whstyle"},
+         "fixtures/import/root-is-a-list.whstyle",
+         "cannot be read; it is a property list without keys"},
+        {{"run", "missing.scenario"}, "missing.scenario", gone},
+        {{"run", "fixtures"}, "fixtures", "cannot be read; it is a folder"}}) {
+    const ToolResult result = run(words);
+    EXPECT_EQ(result.err, told(folder + name, parts));
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(result.status, 1);
+  }
+  EXPECT_EQ(run({"styles", "--json", "--paths", "missing.plist"}).out,
+            R"({"done":false,"error":{"cause":"it is not there","cure":"","name":")" + folder +
+                R"(missing.plist","what":"cannot be read"}})" + "\n");
+  EXPECT_EQ(tree(), before);
 }
 
 TEST_F(Verbs, optionsMayStandBehindTheVerb) {
