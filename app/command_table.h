@@ -44,6 +44,7 @@ struct ArgumentRow {
   const char* name;
   WordTarget into;
   WordForm form = {};
+  const char* meaning = "";  // key of a text for the help
 };
 
 struct VerbRow {

@@ -83,6 +83,7 @@ class Parser {
       // A minimum that is never reached takes every word as it is; an open end would take "[a,b]" apart.
       if (argument.isList) option->expected(endless - 1, endless);
       option->required(texts_ != nullptr && argument.isRequired);
+      option->description(text(argument.row.meaning));
     }
   }
 

@@ -11,7 +11,7 @@ CommandTable tableFor(CommandLine& line) {
   CommandTable table{"tarvo-manager",
                      "AboutText",
                      commonOptions(line, Front::window),
-                     {{"FILE", &line.files}},
+                     {{"FILE", &line.files, {}, "Argument.FILE"}},
                      {{"", "", "[FILE...]"}}};
   table.options.push_back({"--open", "CODE", "Option.Open", "", &line.open});
   table.options.push_back({"--tour", "DIR", "Option.Tour", "", &line.tour});

@@ -39,6 +39,13 @@ TEST_F(CommandLineOfTool, jsonIsRefusedWhereThereIsNone) {
   EXPECT_EQ(tree(), before);
 }
 
+TEST_F(CommandLineOfTool, theHelpOfAVerbSaysWhatItsWordsMean) {
+  const std::string help = runInEnglish({"run", "--help"}).out;
+  const std::size_t at = help.find("\n  FILE ");
+  ASSERT_NE(at, std::string::npos) << help;
+  EXPECT_TRUE(help.substr(at, help.find('\n', at + 1) - at).ends_with(" path of the file")) << help;
+}
+
 TEST_F(CommandLineOfTool, theListMayStandBeforeOrBehindWhatIsDoneToIt) {
   putStyles("root4.plist");
   EXPECT_EQ(run({"dictionary", "3", "ej", "remove", "a.TRet"}).status, 0);
