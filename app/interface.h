@@ -14,7 +14,7 @@
 #include "install/addin_outlets.h"
 #include "install/connection_check.h"
 #include "install/help_pages.h"
-#include "install/tool_list_file.h"
+#include "install/office_tool_choice.h"
 #include "platform/controls/controls.h"
 #include "platform/controls/windows.h"
 #include "style/option_editing.h"

@@ -21,7 +21,7 @@ void Interface::addinRows(Rooms& rooms, const Texts& texts) {
   table(addins.officeTableView, {check, {addin_columns::name}, {addin_columns::version}}, 0);
   onPage(addins.officeInfoField, Pane::office);
   onPage(addins.officeReasonField, Pane::office);
-  onPage(addins.officeSearchButton, Pane::office, to(rooms.officeSearch, &OfficeFolderSearch::SelectOfficeFolder));
+  onPage(addins.officeSearchButton, Pane::office, to(rooms.officeFolder, &OfficeFolderChoice::SelectOfficeFolder));
   onPage(addins.officePowerPointButton, Pane::office, to(rooms.cautions, &CautionWindows::selectPowerPoint));
   table(addins.mailTableView, {check, {addin_columns::name}}, 1);
   onPage(addins.mailinfoField, Pane::mail);

@@ -60,14 +60,13 @@ void Interface::officeToolRow(Rooms& rooms, const Texts& texts) {
            [&texts] {
              std::vector<PopUpButton::Item> items;
              items.reserve(gAppCreatorArray.size());
-             for (int i = 0; i < static_cast<int>(gAppCreatorArray.size()); ++i) {
-               items.push_back({.title = texts.localized("OfficeTool." + std::to_string(i)),
-                                .tag = i,
-                                .image = officeToolImages[static_cast<std::size_t>(i)]});
+             for (std::size_t i = 0; i < gAppCreatorArray.size(); ++i) {
+               items.push_back(
+                   {.title = officeToolTitle(i, texts), .tag = static_cast<int>(i), .image = officeToolImages[i]});
              }
              return items;
            },
-       .action = to(rooms.toolList, &ToolListFile::changeOfficeTool)});
+       .action = to(rooms.officeTool, &OfficeToolChoice::changeOfficeTool)});
 }
 
 void Interface::screenCautionRows(ScreenCaution& room, const Texts& texts) {

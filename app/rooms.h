@@ -26,7 +26,9 @@
 #include "install/help_pages.h"
 #include "install/macro_installer.h"
 #include "install/mail_script_installer.h"
+#include "install/office_folder_choice.h"
 #include "install/office_folder_search.h"
+#include "install/office_tool_choice.h"
 #include "install/old_scripts.h"
 #include "install/tool_list_file.h"
 #include "platform/services/common_module.h"
@@ -102,16 +104,16 @@ struct Rooms {
                           services_.panels, alerts, windows_, texts_}};
   StyleDisplay display{store, options, lists, texts_};
   ToolChooser chooser{interface_.style, interface_.options, flags, with_.chooseTool};
-  ToolListFile toolList{services_.files, defaults_, module_, interface_.tools, toolListPath(services_.locations)};
+  ToolListFile toolList{services_.files, defaults_, module_, toolListPath(services_.locations)};
+  OfficeToolChoice officeTool{interface_.tools, toolList};
   MailScriptInstaller mailScripts{services_.files, services_.bundle, locations_};
   MacroInstaller macros{services_.files, services_.bundle, locations_};
-  AddinLists addins{{services_.files, services_.bundle, defaults_, locations_}, mailScripts, interface_.addins};
+  AddinLists addins{{services_.files, services_.bundle, defaults_, locations_}, mailScripts};
   AddinTable addinTable{{services_.panels, texts_},  addins, macros, mailScripts, interface_.addins,
                         interface_.manager.myTabView};
   OfficeFolderSearch officeSearch{
-      {services_.files, services_.locations, services_.panels, texts_, services_.scripts, module_},
-      addins,
-      mailScripts};
+      {services_.files, services_.locations, services_.scripts, module_}, addins, mailScripts};
+  OfficeFolderChoice officeFolder{services_.panels, texts_, officeSearch, addinTable};
   OldScripts oldScripts{{services_.files, services_.panels, texts_}, addins, mailScripts, locations_.home()};
   CautionWindows cautions{interface_.addins, windows_, services_.files, locations_, services_.workspace};
   ConnectionCheck connection{{interface_.connection, myWindow_, services_.engine, defaults_, with_.notifications,

@@ -56,6 +56,7 @@ bool TManagerController::init() {
     terminate_();
     return false;
   }
+  rooms_.addinTable.reloadTables();
   notifications_.addObserver(this, changeToolbarNotification, [this](const Notification&) { changeToolbar(); });
   notifications_.addObserver(this, changeOfficeToolbarNotification,
                              [this](const Notification&) { changeOfficeToolbar(); });
@@ -92,8 +93,8 @@ void TManagerController::awakeFromNib() {
   buildToolbar();
   restoreFrame();
   restorePane();
-  rooms_.toolList.restoreTool();
-  rooms_.toolList.writeOffieTool();
+  rooms_.officeTool.restoreTool();
+  rooms_.officeTool.writeOffieTool();
 }
 
 void TManagerController::buildToolbar() {
@@ -191,7 +192,7 @@ void TManagerController::applicationDidFinishLaunching() {
 }
 
 void TManagerController::applicationWillTerminate() {
-  rooms_.toolList.writeOffieTool();
+  rooms_.officeTool.writeOffieTool();
   rooms_.addins.storeRows();
 }
 

@@ -12,6 +12,7 @@
 #include "console/verbs/open_command.h"
 #include "console/verbs/style_commands.h"
 #include "console/verbs/style_edit_commands.h"
+#include "console/verbs/tool_list_command.h"
 
 namespace tarvo {
 
@@ -41,6 +42,8 @@ DictionaryKind kindOf(const CommandLine& line) {
 
 NamedList listOf(const CommandLine& line) { return {line.words.style, directionOf(line)}; }
 
+AddinName addinOf(const CommandLine& line) { return {line.words.name, line.words.version}; }
+
 using Line = const CommandLine&;
 
 constexpr Verb verbs[] = {
@@ -68,15 +71,15 @@ constexpr Verb verbs[] = {
      [](Line line) { return make<MoveDictionaryCommand>(listOf(line), line.words.name, line.words.position); }, true},
     {"new", "Verb.new", "DIRECTION KIND NAME",
      [](Line line) { return make<NewDictionaryCommand>(directionOf(line), kindOf(line), line.words.name); }, true},
-    {"addins", "Verb.addins", "", [](Line line) { return make<AddinsCommand>(line.json); }, true},
+    {"addins", "Verb.addins", "", [](Line) { return make<AddinsCommand>(); }, true},
     {"addin", "Verb.addin"},
     {"addin install", "Verb.addin install", "NAME [VERSION]",
-     [](Line line) { return make<AddinTickCommand>(line.words.name, line.words.version, true); }},
+     [](Line line) { return make<AddinEditCommand>(addinOf(line), true); }, true},
     {"addin remove", "Verb.addin remove", "NAME [VERSION]",
-     [](Line line) { return make<AddinTickCommand>(line.words.name, line.words.version, false); }},
+     [](Line line) { return make<AddinEditCommand>(addinOf(line), false); }, true},
     {"addin search", "Verb.addin search", "FOLDER",
-     [](Line line) { return make<AddinSearchCommand>(line.words.folder); }},
-    {"tool-list", "Verb.tool-list", "[TOOL]", [](Line line) { return make<ToolListCommand>(line.words.tool); }},
+     [](Line line) { return make<AddinSearchCommand>(line.words.folder); }, true},
+    {"tool-list", "Verb.tool-list", "[TOOL]", [](Line line) { return make<ToolListCommand>(line.words.tool); }, true},
     {"open", "Verb.open", "CODE", [](Line line) { return make<OpenCommand>(wordsForWindow(line), line.words.code); }},
     {"engine", "Verb.engine"},
     {"engine status", "Verb.engine status", "", [](Line line) { return make<EngineStatusCommand>(line.json); }, true},

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "install/addin_outlets.h"
 #include "install/mail_script_installer.h"
 #include "platform/services/bundle.h"
 #include "platform/services/file_service.h"
@@ -31,36 +30,42 @@ std::vector<AddinLists::SharedEntry> entriesOf(const Array& values) {
 
 }  // namespace
 
-AddinLists::AddinLists(Services services, const MailScriptInstaller& mailScripts, AddinOutlets& outlets)
-    : services_(services), mailScripts_(mailScripts), outlets_(outlets) {}
+AddinLists::AddinLists(Services services, const MailScriptInstaller& mailScripts)
+    : services_(services), mailScripts_(mailScripts) {}
 
 AddinPlaces AddinLists::placesOf(const AddinEntry& entry) const {
   return tarvo::placesOf(entry, services_.locations, services_.files);
 }
 
-bool AddinLists::loadAddinPlist() {
-  fDefaultOfficeSetArray_ = readShipped();
+Result<> AddinLists::loadAddinPlist() {
+  Result<std::vector<SharedEntry>> shipped = readShipped();
+  fDefaultOfficeSetArray_.reset();
+  if (shipped) fDefaultOfficeSetArray_ = std::move(*shipped);
   fOfficeArray_.clear();
   const PropertyList* remembered = services_.defaults.find(office);
   if (remembered != nullptr && remembered->array() != nullptr) {
     fOfficeArray_ = entriesOf(*remembered->array());
     joinOutlook();
-    return true;
+    return {};
   }
-  if (!fDefaultOfficeSetArray_) return false;
+  if (!shipped) return shipped.error();
   fOfficeArray_ = *fDefaultOfficeSetArray_;
   for (const SharedEntry& entry : fOfficeArray_) {
     if (isMailAddin(*entry)) prefixHome(*entry);
   }
-  return true;
+  return {};
 }
 
-std::optional<std::vector<AddinLists::SharedEntry>> AddinLists::readShipped() const {
+Result<std::vector<AddinLists::SharedEntry>> AddinLists::readShipped() const {
   const std::optional<DiskPath> path = services_.bundle.resource("DefaultAddin", "plist");
-  if (!path) return std::nullopt;
+  if (!path) {
+    return Failure{(services_.bundle.folder() / "DefaultAddin.plist").text(), Attempt::read, Reason::missingResource};
+  }
   const Result<Dictionary> root = readDictionary(services_.files, *path);
-  const Array* records = root ? root->array(office) : nullptr;
-  return records != nullptr ? std::optional(entriesOf(*records)) : std::nullopt;
+  if (!root) return root.error();
+  const Array* records = root->array(office);
+  if (records == nullptr) return Failure{path->text(), Attempt::read, Reason::damaged};
+  return entriesOf(*records);
 }
 
 void AddinLists::joinOutlook() {
@@ -82,10 +87,15 @@ void AddinLists::prefixHome(AddinEntry& entry) const {
   entry.set(installFolderPath, services_.locations.inProduct(folder).text());
 }
 
-bool AddinLists::searchOfficeApplication() {
+bool AddinLists::hasScriptFolder(const AddinEntry& entry, MailFolder mailFolder) const {
+  return mailScripts_.isMailScriptFolder(entry) ||
+         (mailFolder == MailFolder::asAStartMakesIt && placesOf(entry).folder == mailScripts_.mailScriptFolder());
+}
+
+Result<> AddinLists::searchOfficeApplication(MailFolder mailFolder) {
   fOfficeAddinArray_.clear();
   fMailAddinArray_.clear();
-  if (!loadAddinPlist()) return false;
+  if (Result<> loaded = loadAddinPlist(); !loaded) return loaded;
   for (const SharedEntry& candidate : fOfficeArray_) {
     AddinEntry entry = *candidate;
     // One that cannot be looked at stays listed: at the end of the run the others are forgotten.
@@ -93,12 +103,11 @@ bool AddinLists::searchOfficeApplication() {
     entry.set(installStatus, getInstallStatus(entry));
     if (!isMailAddin(entry)) {
       fOfficeAddinArray_.push_back(std::move(entry));
-    } else if (mailScripts_.isMailScriptFolder(entry)) {
+    } else if (hasScriptFolder(entry, mailFolder)) {
       fMailAddinArray_.push_back(std::move(entry));
     }
   }
-  reloadTables();
-  return true;
+  return {};
 }
 
 bool AddinLists::getInstallStatus(const AddinEntry& entry) const {
@@ -117,11 +126,6 @@ void AddinLists::storeRows() {
   }
   services_.defaults.set(office, std::move(values));
   services_.defaults.synchronize();
-}
-
-void AddinLists::reloadTables() {
-  outlets_.officeTableView.reloadData();
-  outlets_.mailTableView.reloadData();
 }
 
 const std::vector<AddinEntry>* AddinLists::rowsOf(int tag) const {

@@ -9,10 +9,11 @@
 #include <vector>
 
 #include "install/addin_entry.h"
+#include "platform/services/result.h"
 
 // The applications that can take an add-in.
 // Duty: read the shipped and the remembered records, find the applications among them that are installed, hold the rows
-// of both tables, remember them at the end. Not: installing; telling the user that there are no records.
+// of both tables, remember them at the end. Not: showing them; installing; telling the user that there are no records.
 // The rows are built once a run. A record that was not listed at the last exit stays forgotten as long as the settings
 // hold a list: users who removed an application do not get it back with the next version of the shipped list. Only
 // Outlook and Entourage join a remembered list.
@@ -23,7 +24,6 @@ class FileService;
 class Locations;
 class MailScriptInstaller;
 class UserDefaults;
-struct AddinOutlets;
 
 class AddinLists {
  public:
@@ -34,18 +34,19 @@ class AddinLists {
     const Locations& locations;
   };
   using SharedEntry = std::shared_ptr<AddinEntry>;
-  AddinLists(Services services, const MailScriptInstaller& mailScripts, AddinOutlets& outlets);
+  AddinLists(Services services, const MailScriptInstaller& mailScripts);
   AddinPlaces placesOf(const AddinEntry& entry) const;
 
-  // Builds the candidates. False: neither a remembered nor a shipped list, nothing can be done.
-  bool loadAddinPlist();
-  // Builds both tables' rows from the candidates and shows them. False: see loadAddinPlist.
-  bool searchOfficeApplication();
+  // Builds the candidates. Fails with neither a remembered nor a shipped list: nothing can be done.
+  Result<> loadAddinPlist();
+  // Apple Mail's script folder, without which Mail is not listed: a start makes it before it looks.
+  enum class MailFolder { asItIs, asAStartMakesIt };
+  // Builds both tables' rows from the candidates. Fails as loadAddinPlist.
+  Result<> searchOfficeApplication(MailFolder mailFolder = MailFolder::asItIs);
   // Whether the item lies in its install folder: a file or a folder. Where it cannot be looked at, what was known last.
   bool getInstallStatus(const AddinEntry& entry) const;
   // The rows become the candidates and are remembered in the settings, Office rows first.
   void storeRows();
-  void reloadTables();
 
   // The shipped records; nothing when there is no such list. Candidates that come from it are the same records, so
   // that a path made absolute in one is absolute in both.
@@ -65,12 +66,12 @@ class AddinLists {
   void lookAtMailRows();
 
  private:
-  std::optional<std::vector<SharedEntry>> readShipped() const;
+  Result<std::vector<SharedEntry>> readShipped() const;
+  bool hasScriptFolder(const AddinEntry& entry, MailFolder mailFolder) const;
   void joinOutlook();
   void prefixHome(AddinEntry& entry) const;
   Services services_;
   const MailScriptInstaller& mailScripts_;
-  AddinOutlets& outlets_;
   std::optional<std::vector<SharedEntry>> fDefaultOfficeSetArray_;
   std::vector<SharedEntry> fOfficeArray_;
   std::vector<AddinEntry> fOfficeAddinArray_;

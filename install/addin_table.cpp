@@ -4,10 +4,9 @@
 
 #include <utility>
 
+#include "install/addin_edits.h"
 #include "install/addin_lists.h"
 #include "install/addin_outlets.h"
-#include "install/macro_installer.h"
-#include "install/mail_script_installer.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/panels.h"
 #include "platform/services/texts.h"
@@ -56,26 +55,24 @@ CellValue AddinTable::objectValueForTableColumn(TableView& table, std::string_vi
 
 void AddinTable::setObjectValue(TableView& table, bool value, std::string_view column, int row) {
   fIsInstalled = true;
-  const AddinEntry* entry = entryAt(table.tag(), row);
+  const int tag = table.tag();
+  const AddinEntry* entry = entryAt(tag, row);
   if (entry == nullptr || column != addin_columns::check) return;
-  const Change changed = change(*entry, table.tag(), value);
-  if (changed.failure) services_.panels.beep();
-  failures_.erase({table.tag(), row});
-  if (changed.failure) failures_.emplace(std::pair(table.tag(), row), *changed.failure);
-  lists_.setInstallStatus(table.tag(), row, changed.isInstalled);
-  const std::string text = addinText(*entry, appName) + changed.text;
+  const Result<> done = setInstalled(lists_, {tag, row}, value, macros_, mailScripts_);
+  if (!done) services_.panels.beep();
+  failures_.erase({tag, row});
+  if (!done) failures_.emplace(std::pair(tag, row), done.error());
+  const std::string key = std::string(tag == officeTag ? "Office" : "Mail") + (value ? "Install" : "UnInstall") +
+                          (done ? "IsSuccessed" : "IsFailed");
+  const std::string text = addinText(*entry, appName) + services_.texts.localized(key);
   table.reloadData();
-  infoField(table.tag()).setStringValue(text);
-  showReason(table.tag(), row);
+  infoField(tag).setStringValue(text);
+  showReason(tag, row);
 }
 
-AddinTable::Change AddinTable::change(const AddinEntry& entry, int tag, bool on) {
-  const Result<> done = perform(entry, tag, on);
-  const std::string key = std::string(tag == officeTag ? "Office" : "Mail") + (on ? "Install" : "UnInstall") +
-                          (done ? "IsSuccessed" : "IsFailed");
-  return {.text = services_.texts.localized(key),
-          .isInstalled = on == done.has_value(),
-          .failure = done ? std::nullopt : std::optional(done.error())};
+void AddinTable::reloadTables() {
+  outlets_.officeTableView.reloadData();
+  outlets_.mailTableView.reloadData();
 }
 
 const Failure* AddinTable::failureOf(int tag, int row) const {
@@ -87,11 +84,6 @@ void AddinTable::showReason(int tag, int row) {
   TextField& field = tag == officeTag ? outlets_.officeReasonField : outlets_.mailReasonField;
   const Failure* failure = failureOf(tag, row);
   field.setStringValue(failure != nullptr ? failureText(*failure, services_.texts) : "");
-}
-
-Result<> AddinTable::perform(const AddinEntry& entry, int tag, bool on) {
-  if (tag == officeTag) return on ? macros_.installOfficeMacro(entry) : macros_.unInstallOfficeMacro(entry);
-  return on ? mailScripts_.installMailScript(entry) : mailScripts_.unInstallMailScript(entry);
 }
 
 TextField& AddinTable::infoField(int tag) {

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -13,9 +12,8 @@
 #include "platform/services/result.h"
 
 // Data source and delegate of the Office table (tag 0) and the mail table (tag 1).
-// Duty: what a row shows; installing or removing when its box is ticked; the text about the selected or the changed
-// row. Not: copying and removing. The box shows what the operation gave, even where the disk says otherwise: the next
-// start looks at the disk again.
+// Duty: what a row shows; asking for the edit when its box is ticked; the text about the selected or the changed row.
+// Not: installing and removing (addin_edits.h).
 namespace tarvo {
 
 class AddinLists;
@@ -41,6 +39,8 @@ class AddinTable : public TableDataSource, public TableDelegate {
   CellValue objectValueForTableColumn(TableView& table, std::string_view column, int row) override;
   void setObjectValue(TableView& table, bool value, std::string_view column, int row) override;
   void selectionDidChange(TableView& table) override;
+  // Shows the rows of both tables anew.
+  void reloadTables();
 
   // Why the last tick of this row failed; null when it did not. Below the texts it is shown in words.
   const Failure* failureOf(int tag, int row) const;
@@ -50,14 +50,7 @@ class AddinTable : public TableDataSource, public TableDelegate {
   bool fIsInstalled = false;
 
  private:
-  struct Change {
-    std::string text;  // what is told behind the application's name
-    bool isInstalled;  // what the box shows from now on
-    std::optional<Failure> failure;
-  };
   const AddinEntry* entryAt(int tag, int row) const;
-  Change change(const AddinEntry& entry, int tag, bool on);
-  Result<> perform(const AddinEntry& entry, int tag, bool on);
   TextField& infoField(int tag);
   void showReason(int tag, int row);
   Services services_;

@@ -13,10 +13,8 @@
 #include "platform/services/common_module.h"
 #include "platform/services/file_service.h"
 #include "platform/services/locations.h"
-#include "platform/services/panels.h"
 #include "platform/services/plist_file.h"
 #include "platform/services/script_runner.h"
-#include "platform/services/texts.h"
 #include "platform/text/text_rules.h"
 
 namespace tarvo {
@@ -31,15 +29,9 @@ bool isOfficeCreator(const std::string& creator) { return creator == "MSWD" || c
 
 }  // namespace
 
-void OfficeFolderSearch::SelectOfficeFolder() {
-  const std::optional<DiskPath> chosen = services_.panels.runOpenPanel(
-      {.title = services_.texts.localized("SelectOfficeFolder"), .types = {}, .foldersOnly = true});
-  if (chosen) searchFolder(*chosen);
-}
-
-void OfficeFolderSearch::searchFolder(const DiskPath& folder) {
-  const auto names = services_.files.list(folder);
-  if (!names) return;
+Result<> OfficeFolderSearch::searchFolder(const DiskPath& folder) {
+  const Result<std::vector<std::string>> names = services_.files.list(folder);
+  if (!names) return names.error();
   for (const std::string& name : *names) {
     const DiskPath path = folder / name;
     const Result<Dictionary> information = readDictionary(services_.files, path / "Contents/Info.plist");
@@ -51,7 +43,7 @@ void OfficeFolderSearch::searchFolder(const DiskPath& folder) {
       getAddOfficeDictionary(*shipped, version, path, signature, folder);
     }
   }
-  lists_.reloadTables();
+  return {};
 }
 
 bool OfficeFolderSearch::canBeStored(const DiskPath& path) const {

@@ -5,36 +5,33 @@
 #include <string>
 
 #include "install/addin_entry.h"
+#include "platform/services/result.h"
 
-// The search for Office 2011 in a folder that the user points at, for an Office that lies elsewhere than usual.
-// Duty: ask for the folder, look at the applications in it, add a row for each that a shipped record of that edition
-// knows. Not: looking deeper than one level; rows once added are AddinLists'.
+// The search for Office 2011 in a folder, for an Office that lies elsewhere than usual.
+// Duty: look at the applications in it, add a row for each that a shipped record of that edition knows. Not: asking for
+// the folder (office_folder_choice.h); looking deeper than one level; rows once added are AddinLists'.
 namespace tarvo {
 
 class AddinLists;
 class FileService;
 class Locations;
 class MailScriptInstaller;
-class Panels;
 class ScriptRunner;
 class TarvoCommonModule;
-class Texts;
 
 class OfficeFolderSearch {
  public:
   struct Services {
     FileService& files;
     const Locations& locations;
-    Panels& panels;
-    const Texts& texts;
     ScriptRunner& scripts;
     const TarvoCommonModule& module;
   };
   OfficeFolderSearch(Services services, AddinLists& lists, const MailScriptInstaller& mailScripts)
       : services_(services), lists_(lists), mailScripts_(mailScripts) {}
 
-  // Asks for a folder and searches it. A folder that cannot be listed ends it silently.
-  void SelectOfficeFolder();
+  // Fails for a folder that cannot be listed.
+  Result<> searchFolder(const DiskPath& folder);
   // The whole number before the first dot of an application's version, as the desktop's script service tells it; 0 when
   // it tells nothing.
   int getApplicationVer(const DiskPath& path);
@@ -44,7 +41,6 @@ class OfficeFolderSearch {
                               const std::string& signature, const DiskPath& folder);
 
  private:
-  void searchFolder(const DiskPath& folder);
   // False for an application outside the root where the root holds one at the same path: the row would mean that one,
   // and its box install there. Also for a path that the settings cannot hold: it would be gone with the next start.
   bool canBeStored(const DiskPath& path) const;

@@ -7,6 +7,7 @@
 
 #include "platform/services/common_module.h"
 #include "platform/services/file_service.h"
+#include "platform/services/texts.h"
 #include "platform/services/user_defaults.h"
 #include "platform/text/text_encoding.h"
 #include "platform/text/text_rules.h"
@@ -29,42 +30,36 @@ ToolAction actionOf(std::string_view creator) {
   return {};
 }
 
+bool isEqual(const PropertyList* stored, const PropertyList& value) { return stored != nullptr && *stored == value; }
+
 void appendLine(std::string& text, std::string_view key, std::string_view value) {
   text.append(key).append("=").append(value).append("\r\n");
 }
 
 }  // namespace
 
-ToolListFile::ToolListFile(FileService& files, UserDefaults& defaults, const TarvoCommonModule& module,
-                           ToolListOutlets& outlets, DiskPath path)
+std::string officeToolTitle(std::size_t tool, const Texts& texts) {
+  return texts.localized("OfficeTool." + std::to_string(tool));
+}
+
+ToolListFile::ToolListFile(FileService& files, UserDefaults& defaults, const TarvoCommonModule& module, DiskPath path)
     : files_(files),
       defaults_(defaults),
       module_(module),
-      outlets_(outlets),
       path_(std::move(path)),
       written_(Failure{path_.text(), Attempt::write, Reason::nothingChosen}) {}
 
-void ToolListFile::restoreTool() {
+std::optional<std::size_t> ToolListFile::rememberedTool() const {
   const std::string* stored = defaults_.string("Tool_Path");
-  const auto found = stored != nullptr ? std::find(gAppCreatorArray.begin(), gAppCreatorArray.end(), *stored)
-                                       : gAppCreatorArray.begin();
-  if (found == gAppCreatorArray.end()) return;
-  outlets_.officeToolPopup.selectItemAtIndex(static_cast<int>(found - gAppCreatorArray.begin()));
+  if (stored == nullptr) return 0;
+  const auto* found = std::ranges::find(gAppCreatorArray, *stored);
+  if (found == gAppCreatorArray.end()) return std::nullopt;
+  return static_cast<std::size_t>(found - gAppCreatorArray.begin());
 }
 
-void ToolListFile::writeOffieTool() {
-  const int index = outlets_.officeToolPopup.indexOfSelectedItem();
-  if (!std::in_range<std::size_t>(index) || static_cast<std::size_t>(index) >= gAppCreatorArray.size()) return;
-  const std::string title = outlets_.officeToolPopup.titleOfSelectedItem();
-  const std::string_view creator = gAppCreatorArray[static_cast<std::size_t>(index)];
+std::string ToolListFile::textFor(std::size_t tool, const std::string& title) const {
+  const std::string_view creator = gAppCreatorArray[tool];
   const ToolAction action = actionOf(creator);
-
-  defaults_.set("Tool_Name", title);
-  defaults_.set("Tool_Path", creator);
-  defaults_.set("Tool_Action", action.number);
-  defaults_.set("Tool_Parameter", action.parameter);
-  defaults_.synchronize();
-
   std::string text;
   appendLine(text, "Server_Path", serverCreator);
   appendLine(text, "Cache_Path", module_.unixPathToClassic(module_.preferencesWordhavenCache()));
@@ -74,7 +69,28 @@ void ToolListFile::writeOffieTool() {
   appendLine(text, "Tool_Path", creator);
   appendLine(text, "Tool_Action", std::to_string(action.number));
   appendLine(text, "Tool_Parameter", trimmed(action.parameter));
-  written_ = files_.write(path_, shiftJisFromUtf8(text));
+  return shiftJisFromUtf8(text);
+}
+
+Result<> ToolListFile::write(std::size_t tool, const std::string& title) {
+  const ToolAction action = actionOf(gAppCreatorArray[tool]);
+  defaults_.set("Tool_Name", title);
+  defaults_.set("Tool_Path", gAppCreatorArray[tool]);
+  defaults_.set("Tool_Action", action.number);
+  defaults_.set("Tool_Parameter", action.parameter);
+  defaults_.synchronize();
+  written_ = files_.write(path_, textFor(tool, title));
+  return written_;
+}
+
+bool ToolListFile::isFor(std::size_t tool, const std::string& title) const {
+  const ToolAction action = actionOf(gAppCreatorArray[tool]);
+  const bool isRemembered = isEqual(defaults_.find("Tool_Name"), title) &&
+                            isEqual(defaults_.find("Tool_Path"), gAppCreatorArray[tool]) &&
+                            isEqual(defaults_.find("Tool_Action"), action.number) &&
+                            isEqual(defaults_.find("Tool_Parameter"), action.parameter);
+  const Result<std::string> bytes = files_.read(path_);
+  return isRemembered && bytes && *bytes == textFor(tool, title);
 }
 
 }  // namespace tarvo

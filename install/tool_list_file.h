@@ -3,10 +3,11 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
-#include "platform/controls/controls.h"
 #include "platform/services/result.h"
 #include "platform/text/paths.h"
 
@@ -16,37 +17,36 @@ namespace tarvo {
 
 class FileService;
 class TarvoCommonModule;
+class Texts;
 class UserDefaults;
 
 // Creator codes of the tools that the Office pane offers, in the order of its pop-up.
 inline constexpr std::array<std::string_view, 7> gAppCreatorArray{"tMG8", "tTX8", "tUD8", "tTM8",
                                                                   "tTL8", "tNP8", "tQB8"};
 
-struct ToolListOutlets : Outlets {
-  PopUpButton officeToolPopup{*this, "officeToolPopup"};
-  ToolListOutlets() : Outlets("manager") {}
-};
+// What the tool at that place of the codes is called.
+std::string officeToolTitle(std::size_t tool, const Texts& texts);
 
+// Duty: remember a tool in the settings, write the file for it. Not: letting the user choose (office_tool_choice.h).
 class ToolListFile {
  public:
   // path: of the file.
-  ToolListFile(FileService& files, UserDefaults& defaults, const TarvoCommonModule& module, ToolListOutlets& outlets,
-               DiskPath path);
+  ToolListFile(FileService& files, UserDefaults& defaults, const TarvoCommonModule& module, DiskPath path);
   const DiskPath& path() const { return path_; }
-  // Selects the tool stored under "Tool_Path": the first one when nothing is stored; an unknown code leaves the pop-up
-  // alone.
-  void restoreTool();
-  // Stores the chosen tool in the settings, then writes the file. Nothing without a chosen tool.
-  void writeOffieTool();
-  void changeOfficeTool() { writeOffieTool(); }
+  // The place of the tool stored under "Tool_Path": the first when nothing is stored, none for an unknown code.
+  std::optional<std::size_t> rememberedTool() const;
+  // Stores the tool in the settings, then writes the file. Settings that could not be stored are their own to tell.
+  Result<> write(std::size_t tool, const std::string& title);
+  // Whether file and settings say just that already.
+  bool isFor(std::size_t tool, const std::string& title) const;
   bool isWritten() const { return written_.has_value(); }  // how the last write ended, for who may tell it
   const Result<>& written() const { return written_; }
 
  private:
+  std::string textFor(std::size_t tool, const std::string& title) const;
   FileService& files_;
   UserDefaults& defaults_;
   const TarvoCommonModule& module_;
-  ToolListOutlets& outlets_;
   DiskPath path_;
   Result<> written_;
 };

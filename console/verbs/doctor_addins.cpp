@@ -3,7 +3,7 @@
 #include "console/verbs/doctor_addins.h"
 
 #include "app/product.h"
-#include "console/verbs/addin_reading.h"
+#include "console/verbs/addin_session.h"
 #include "install/addin_diagnosis.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/file_service.h"
@@ -17,17 +17,17 @@ class Examination {
   explicit Examination(Product& product) : product_(product) {}
 
   std::vector<Finding> all() {
-    const std::optional<AddinsRead> addins = readAddins(product_);
-    if (!addins) {
+    AddinSession addins(product_);
+    if (!addins.read()) {
       findings_.push_back({(product_.bundle().folder() / "DefaultAddin.plist").text(), "applications that take add-ins",
                            "problem", "the manager cannot start without a list of them"});
       return std::move(findings_);
     }
-    for (const AddinEntry& entry : addins->candidates) {
-      const bool isRemembered = entry.find(addin_keys::installStatus) != nullptr;
-      examine(diagnoseAddin(entry, product_.files(), product_.locations(), product_.bundle()), isRemembered);
+    for (const AddinLists::SharedEntry& entry : addins.lists().fOfficeArray()) {
+      const bool isRemembered = entry->find(addin_keys::installStatus) != nullptr;
+      examine(diagnoseAddin(*entry, product_.files(), product_.locations(), product_.bundle()), isRemembered);
     }
-    for (const AddinEntry& entry : addins->forgotten) {
+    for (const AddinEntry& entry : addins.forgotten()) {
       add(placesOf(entry, product_.locations(), product_.files()).application, addinText(entry, addin_keys::appName),
           "problem",
           "is not listed: it was not there at the end of an earlier run; without the setting Office it comes back");

@@ -41,8 +41,7 @@ std::string templateOf(Direction direction) {
 
 ExitStatus NewDictionaryCommand::run(Console& console) {
   Product& product = console.product;
-  const DiskPath lock = lockPath(product.locations());
-  if (!console.takeLock(lock)) return tell(console, Refusal{lock.text(), "Refusal.Locked", "", ExitStatus::locked});
+  if (const std::optional<Problem> failure = takeLock(console)) return tell(console, *failure);
   UserLists lists({product.files(), product.texts(), product.bundle(), product.paths(), product.locations()});
   lists.setUp();
   const std::string name = trimmed(name_);

@@ -5,6 +5,8 @@
 #include <array>
 #include <cstdio>
 
+#include "app/product.h"
+#include "app/user_files.h"
 #include "platform/plist/json.h"
 #include "platform/services/failure_text.h"
 #include "platform/text/utf8.h"
@@ -64,6 +66,12 @@ ExitStatus tell(Console& console, const Problem& problem) {
     console.out << writeJson(Json::Object{{"done", false}, {"error", error}}) << '\n';
   }
   return statusOf(problem);
+}
+
+std::optional<Problem> takeLock(Console& console) {
+  const DiskPath lock = lockPath(console.product.locations());
+  if (console.takeLock(lock)) return std::nullopt;
+  return Refusal{lock.text(), "Refusal.Locked", "", ExitStatus::locked};
 }
 
 void note(Console& console, const Refusal& told) {

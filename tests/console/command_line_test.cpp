@@ -33,8 +33,8 @@ TEST_F(CommandLineOfTool, jsonMayBeAskedForBeforeTheVerb) {
 TEST_F(CommandLineOfTool, jsonIsRefusedWhereThereIsNone) {
   putStyles("root4.plist");
   const auto before = tree();
-  const ToolResult result = run({"tool-list", "--json"});
-  EXPECT_EQ(result.err, "tarvoctl: --json: nothing of the kind can stand here; allowed: tarvoctl tool-list [TOOL]\n");
+  const ToolResult result = run({"run", "--json"});
+  EXPECT_EQ(result.err, "tarvoctl: --json: nothing of the kind can stand here; allowed: tarvoctl run [FILE]\n");
   EXPECT_EQ(result.status, 2);
   EXPECT_EQ(tree(), before);
 }

@@ -87,7 +87,7 @@ TEST(FaultyOldScripts, areSilentAndLeaveTheRowTrue) {
     const std::string item = world.item(appleMail());
     for (const char* name : {"/a", "/b", "/sub/c"}) world.folder.write(item + name, "old");
     world.folder.makeFolder(item + "/../«MailTarvoFolderName»");
-    ASSERT_TRUE(world.lists.searchOfficeApplication());
+    ASSERT_TRUE(world.start());
     const std::string installFolder = world.real(AddinWorld::installFolder(appleMail())).text();
     const auto before = everythingBut(world.folder.path(), installFolder);
     bool wasDisturbed = false;

@@ -101,11 +101,12 @@ TEST_F(AddinListsTest, skipWhatIsNoRecordAndReadAMissingKeyAsNothing) {
 }
 
 TEST_F(AddinListsTest, haveNothingToGoOnWithoutAnyList) {
-  EXPECT_FALSE(lists.searchOfficeApplication());
+  const std::string path = folder / "resources/DefaultAddin.plist";
+  EXPECT_EQ(lists.searchOfficeApplication().error(), (Failure{path, Attempt::read, Reason::missingResource}));
   folder.write("resources/DefaultAddin.plist", "damaged");
-  EXPECT_FALSE(lists.searchOfficeApplication());
+  EXPECT_EQ(lists.searchOfficeApplication().error(), (Failure{path, Attempt::read, Reason::noPropertyList}));
   folder.write("resources/DefaultAddin.plist", writePropertyList(Dictionary()));
-  EXPECT_FALSE(lists.searchOfficeApplication());
+  EXPECT_EQ(lists.searchOfficeApplication().error(), (Failure{path, Attempt::read, Reason::damaged}));
   EXPECT_FALSE(lists.fDefaultOfficeSetArray());
 }
 
@@ -120,7 +121,7 @@ TEST_F(AddinListsTest, areContentWithARememberedListAlone) {
 TEST_F(AddinListsTest, listOnlyApplicationsThatAreThere) {
   ship({word2011(), excel2011()});
   setUp({word2011()});
-  ASSERT_TRUE(lists.searchOfficeApplication());
+  ASSERT_TRUE(start());
   ASSERT_EQ(names(lists.fOfficeAddinArray()), Rows{"Word 2011"});
   EXPECT_TRUE(lists.fOfficeAddinArray()[0].contains(installStatus));
   EXPECT_FALSE((*lists.fDefaultOfficeSetArray())[0]->contains(installStatus)) << "rows are copies";
@@ -131,9 +132,12 @@ TEST_F(AddinListsTest, listAMailProgramOnlyWithItsScriptFolder) {
   ship({appleMail(), outlook2011()});
   setUp({outlook2011()});
   folder.makeFolder(inRoot("/Applications/Mail.app"));
-  ASSERT_TRUE(lists.searchOfficeApplication());
+  ASSERT_TRUE(start());
   EXPECT_EQ(names(lists.fMailAddinArray()), Rows{"Outlook 2011"});
   EXPECT_EQ(outlets.mailTableView.numberOfRows(), 1);
+  ship({with(appleMail(), installFolderPath, "Library/Scripts/Mail Scripts"), outlook2011()});
+  ASSERT_TRUE(lists.searchOfficeApplication(AddinLists::MailFolder::asAStartMakesIt));
+  EXPECT_EQ(names(lists.fMailAddinArray()), (Rows{"Mail", "Outlook 2011"}));
 }
 
 TEST_F(AddinListsTest, keepTheOrderOfTheCandidatesAndShowUnknownCreatorsAsOffice) {

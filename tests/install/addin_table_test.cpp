@@ -19,7 +19,7 @@ class AddinTables : public testing::Test, protected AddinWorld {
     resource("Outlook/Tarvo/a.scpt", "outlook");
     ship({word2011(), excel2011(), appleMail(), outlook2011()});
     setUp({word2011(), excel2011(), appleMail(), outlook2011()});
-    EXPECT_TRUE(lists.searchOfficeApplication());
+    EXPECT_TRUE(start());
     log.clear();
   }
   bool officeStatus(int row) { return *office.cell("Value", row).checked; }

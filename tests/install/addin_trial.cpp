@@ -87,7 +87,7 @@ AddinTrial::AddinTrial(AddinKind kind, bool on) : kind_(kind), on_(on) {
   world_.folder.write("elsewhere/sub/c.scpt", "the user's");
   world_.ship({kind.entry()});
   world_.setUp({kind.entry()});
-  EXPECT_TRUE(world_.lists.searchOfficeApplication());
+  EXPECT_TRUE(world_.start());
   if (!on) table().userTick(0, true);
   world_.log.clear();
   before_ = outside();
@@ -133,8 +133,7 @@ bool AddinTrial::saysWhy() const {
 
 std::optional<bool> AddinTrial::nextStatus() {
   UserDefaults fresh(world_.disk, DiskPath("/nowhere.plist"));
-  AddinOutlets outlets;
-  AddinLists lists({world_.disk, world_.bundle, fresh, world_.locations}, world_.mailScripts, outlets);
+  AddinLists lists({world_.disk, world_.bundle, fresh, world_.locations}, world_.mailScripts);
   EXPECT_TRUE(lists.searchOfficeApplication());
   const std::vector<AddinEntry>& rows = kind_.isMail ? lists.fMailAddinArray() : lists.fOfficeAddinArray();
   return rows.empty() ? std::nullopt : std::optional(isMarkedInstalled(rows[0]));

@@ -117,6 +117,12 @@ struct AddinWorld {
   }
   DiskPath real(const std::string& path) const { return locations.onDisk(ProductPath(path)); }
   static std::string inRoot(const std::string& path) { return "root" + path; }  // for folder
+  // The rows as a start shows them; false where there is no list.
+  bool start() {
+    const bool started = lists.searchOfficeApplication().has_value();
+    if (started) table.reloadTables();
+    return started;
+  }
   // Where a record, shipped or loaded, installs to.
   static std::string installFolder(const AddinEntry& entry) {
     const std::string path = addinText(entry, addin_keys::installFolderPath);
@@ -167,7 +173,7 @@ struct AddinWorld {
   FakePanels panels{log};
   MailScriptInstaller mailScripts{files, bundle, locations};
   MacroInstaller macros{files, bundle, locations};
-  AddinLists lists{{files, bundle, defaults, locations}, mailScripts, outlets};
+  AddinLists lists{{files, bundle, defaults, locations}, mailScripts};
   AddinTable table{{panels, texts}, lists, macros, mailScripts, outlets, panes.tab};
 };
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "install/office_folder_choice.h"
 #include "install/office_folder_search.h"
 #include "platform/services/common_module.h"
 #include "platform/services/product_paths.h"
@@ -30,13 +31,13 @@ class FolderSearch : public testing::Test, protected AddinWorld {
   FolderSearch() {
     ship({word2011(), excel2011(), outlook2011()});
     choose(folder / inRoot(chosen));
-    EXPECT_TRUE(lists.searchOfficeApplication());
+    EXPECT_TRUE(start());
   }
   void choose(std::string path) { picked = std::move(path); }
   void searchFolder() {
     panels.paths.clear();
     if (picked) panels.paths.push_back(*picked);
-    search.SelectOfficeFolder();
+    choice.SelectOfficeFolder();
   }
   void application(const std::string& name, const char* type, const char* signature) const {
     Dictionary information;
@@ -55,7 +56,8 @@ class FolderSearch : public testing::Test, protected AddinWorld {
   ScriptedService scripts;
   ProductPaths paths{locations, Dictionary{}};
   TarvoCommonModule module{paths};
-  OfficeFolderSearch search{{files, locations, panels, texts, scripts, module}, lists, mailScripts};
+  OfficeFolderSearch search{{files, locations, scripts, module}, lists, mailScripts};
+  OfficeFolderChoice choice{panels, texts, search, table};
 };
 
 }  // namespace tarvo::test

@@ -109,7 +109,7 @@ class OddWorld : public AddinWorld {
   bool start() {
     const PropertyList* remembered = defaults.find(office);
     const bool isRemembered = remembered != nullptr && remembered->array() != nullptr;
-    const bool started = lists.searchOfficeApplication();
+    const bool started = AddinWorld::start();
     EXPECT_EQ(started, isRemembered || lists.fDefaultOfficeSetArray().has_value());
     return started;
   }
@@ -131,7 +131,7 @@ class OddWorld : public AddinWorld {
         }
       }
     }
-    lists.reloadTables();
+    table.reloadTables();
     for (const auto* rows : {&lists.fOfficeAddinArray(), &lists.fMailAddinArray()}) {
       for (const AddinEntry& row : *rows) diagnoseAddin(row, files, locations, bundle);
     }
@@ -175,7 +175,7 @@ class OddWorld : public AddinWorld {
   Version14 scripts_;
   ProductPaths paths_{locations, Dictionary{}};
   TarvoCommonModule module_{paths_};
-  OfficeFolderSearch search_{{files, locations, panels, texts, scripts_, module_}, lists, mailScripts};
+  OfficeFolderSearch search_{{files, locations, scripts_, module_}, lists, mailScripts};
 };
 
 TEST(OddRecords, leaveAloneWhatTheyDoNotNameAndComeBack) {

@@ -33,7 +33,7 @@ TEST_F(FolderSearch, leavesOutWhatNoRecordKnows) {
 
 TEST_F(FolderSearch, knowsEachOfTheThreeOfficePrograms) {
   for (const char* creator : {"MSWD", "XCEL", "PPT3"}) {
-    ASSERT_TRUE(lists.searchOfficeApplication());
+    ASSERT_TRUE(start());
     EXPECT_TRUE(offer(with(word2011(), appCreator, creator), 14, creator)) << creator;
     EXPECT_EQ(placeOf(lists.fOfficeAddinArray().at(0)), "/Volumes/D/Office/Office/Startup/Word");
   }
@@ -42,7 +42,7 @@ TEST_F(FolderSearch, knowsEachOfTheThreeOfficePrograms) {
 TEST_F(FolderSearch, putsOutlooksScriptsBelowTheHome) {
   folder.makeFolder(inRoot("/Users/taro/Library/Scripts/Outlook"));
   ship({with(outlook2011(), installFolderName, "/Other/Outlook")});
-  ASSERT_TRUE(lists.searchOfficeApplication());
+  ASSERT_TRUE(start());
   application("Outlook.app", "APPL", "OPIM");
   searchFolder();
   ASSERT_EQ(lists.fMailAddinArray().size(), 1U);
@@ -78,7 +78,7 @@ TEST_F(FolderSearch, takesAnOutlookThatIsRememberedForOneWithoutAScriptFolder) {
   // It did not join the remembered list, so its folder was never made absolute.
   folder.makeFolder(inRoot("/Users/taro/Library/Scripts/Outlook"));
   remember({outlook2011()});
-  ASSERT_TRUE(lists.searchOfficeApplication());
+  ASSERT_TRUE(start());
   EXPECT_TRUE(offer(*(*lists.fDefaultOfficeSetArray())[2], 14, "OPIM"));
   EXPECT_TRUE(lists.fMailAddinArray().empty());
 }

@@ -49,7 +49,7 @@ TEST_F(FolderSearch, addsTheApplicationsOfTheChosenFolder) {
 
 TEST_F(FolderSearch, addsNoSecondRowForOneApplication) {
   ship({word2011(), with(word2011(), appName, "Another Word 2011")});
-  ASSERT_TRUE(lists.searchOfficeApplication());
+  ASSERT_TRUE(start());
   application("Word.app", "APPL", "MSWD");
   for (int times = 0; times < 2; ++times) {
     searchFolder();

@@ -22,7 +22,7 @@ class OldScriptsTest : public testing::Test, protected AddinWorld {
     return folder.exists(inRoot(std::string(home) + "/" + addinText(entry, installFolderName) + "/Tarvo"));
   }
   void launch() {
-    ASSERT_TRUE(lists.searchOfficeApplication());
+    ASSERT_TRUE(start());
     old.OldscriptUninstall();
   }
   OldScripts old{{files, panels, texts}, lists, mailScripts, locations.home()};
@@ -85,7 +85,7 @@ TEST_F(OldScriptsTest, thatAreKnownButGoneAreNotTold) {
 TEST_F(OldScriptsTest, thatCannotBeRemovedAreNotTold) {
   leaveOld(appleMail(), mailName);
   leaveOld(entourage2004(), entourageName);
-  ASSERT_TRUE(lists.searchOfficeApplication());
+  ASSERT_TRUE(start());
   files.disturb(1, FaultyFiles::forbid);  // list, remove
   old.OldscriptUninstall();
   EXPECT_TRUE(isLeft(appleMail()));
@@ -94,7 +94,7 @@ TEST_F(OldScriptsTest, thatCannotBeRemovedAreNotTold) {
 
 TEST_F(OldScriptsTest, refreshTheMailRowsInAnyCase) {
   setUp({outlook2011(), appleMail()});
-  ASSERT_TRUE(lists.searchOfficeApplication());
+  ASSERT_TRUE(start());
   folder.makeFolder(item(outlook2011()));
   const std::vector<AddinEntry> before = lists.fMailAddinArray();
   old.OldscriptUninstall();
@@ -107,7 +107,7 @@ TEST_F(OldScriptsTest, takeTheirPartOfTheRowsAlongWithThem) {
   // Old and present scripts share one folder: what is removed is not installed any more.
   setUp({appleMail()});
   leaveOld(appleMail(), mailName);
-  ASSERT_TRUE(lists.searchOfficeApplication());
+  ASSERT_TRUE(start());
   EXPECT_TRUE(isMarkedInstalled(lists.fMailAddinArray().at(0)));
   old.OldscriptUninstall();
   EXPECT_FALSE(isMarkedInstalled(lists.fMailAddinArray().at(0)));

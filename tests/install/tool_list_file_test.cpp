@@ -135,11 +135,24 @@ TEST_F(ToolList, theCachePathFollowsTheConfiguration) {
   configuration.set("VolumeName", "Boot");
   const ProductPaths configured(locations, configuration);
   const TarvoCommonModule configuredModule(configured);
-  ToolListFile other(files, defaults, configuredModule, outlets, toolList.path());
-  outlets.officeToolPopup.selectItemAtIndex(0);
-  other.changeOfficeTool();
+  ToolListFile other(files, defaults, configuredModule, file.path());
+  EXPECT_TRUE(other.write(0, "MG"));
   EXPECT_NE(written().find("\r\nCache_Path=Data:Cache/1\r\n"), std::string::npos);
   EXPECT_NE(written().find("\r\nHelpfile_Path=Boot:Applications:"), std::string::npos);
+}
+
+TEST_F(ToolList, isForAToolWhenFileAndSettingsSayJustThat) {
+  EXPECT_FALSE(file.isFor(2, "UD"));
+  choose(2);
+  EXPECT_TRUE(file.isFor(2, "UD"));
+  EXPECT_FALSE(file.isFor(2, "Dictionary"));
+  EXPECT_FALSE(file.isFor(3, "UD"));
+  const std::string bytes = written();
+  folder.write(listFile, bytes + "x");
+  EXPECT_FALSE(file.isFor(2, "UD"));
+  folder.write(listFile, bytes);
+  defaults.set("Tool_Action", true);
+  EXPECT_FALSE(file.isFor(2, "UD"));
 }
 
 TEST_F(ToolList, restoringSelectsTheStoredTool) {

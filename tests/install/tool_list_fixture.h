@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "install/office_tool_choice.h"
 #include "install/tool_list_file.h"
 #include "platform/posix/posix_files.h"
 #include "platform/services/common_module.h"
@@ -59,7 +60,8 @@ class ToolList : public testing::Test {
   TarvoCommonModule module{paths};
   UserDefaults defaults{files, folder.at("Users/taro/Library/Preferences/manager.plist")};
   ToolListOutlets outlets;
-  ToolListFile toolList{files, defaults, module, outlets, folder.at(listFile)};
+  ToolListFile file{files, defaults, module, folder.at(listFile)};
+  OfficeToolChoice toolList{outlets, file};
 };
 
 }  // namespace tarvo::test

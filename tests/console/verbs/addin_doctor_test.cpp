@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 TEST_F(AddinVerbs, theDoctorTellsOfApplicationsThatAreForgotten) {
   fs::rename(root_.root() + "/Applications/O11/Word.app", root_.root() + "/away");
-  EXPECT_EQ(run({"tool-list"}).status, 0);  // the rows are remembered, without Word
+  startAndEnd();  // the rows are remembered, without Word
   EXPECT_EQ(diagnosis("Word 2011"), "nothing");
   fs::rename(root_.root() + "/away", root_.root() + "/Applications/O11/Word.app");
   EXPECT_EQ(diagnosis("Word 2011"),
@@ -43,11 +43,11 @@ TEST_F(AddinVerbs, theDoctorSaysWhereARowAndTheDiskDiffer) {
   EXPECT_EQ(diagnosis("install folder of Mail"),
             "problem: an install would fail: " + root_.root() + scripts + "/b.scpt: Failure.install; Cause.exists");
   makeFolder(startup);
-  EXPECT_EQ(run({"tool-list"}).status, 0);  // the rows are remembered, without the macro
+  startAndEnd();  // the rows are remembered, without the macro
   put(macro, "of the user");
   EXPECT_EQ(diagnosis("macro of Word 2011"),
             "problem: installed; the box was left off and goes on with the next start");
-  EXPECT_EQ(run({"tool-list"}).status, 0);
+  startAndEnd();
   EXPECT_EQ(diagnosis("macro of Word 2011"), "ok: installed");
   fs::remove(root_.root() + macro);
   EXPECT_EQ(diagnosis("macro of Word 2011"),

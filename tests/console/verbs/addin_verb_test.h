@@ -30,11 +30,25 @@ class AddinVerbs : public testing::Test {
     EXPECT_EQ(result.err, err);
     EXPECT_EQ(result.status, status);
   }
-  // A verb that refuses before anything is started.
+  // A failure as it is told: name, what, cause and cure.
+  static std::string told(const std::string& name, const std::string& parts) {
+    return "tarvoctl: " + name + ": " + parts + "\n";
+  }
+  std::string real(const std::string& path) const { return root_.root() + path; }
+  // The manager itself, from its start to its end.
+  void startAndEnd() const {
+    root_.folder().write("start.scenario", "start\nquit\n");
+    EXPECT_EQ(run({"run", root_.folder() / "start.scenario"}).status, 0);
+  }
+  // A verb that changes nothing but the lock, which it takes first.
   void expectUntouched(const std::vector<std::string>& words, int status, const std::string& err) const {
-    const auto before = tree();
+    makeFolder("/Users/taro/Library/Preferences");
+    auto before = tree();
+    before.erase(lock);
     expect(words, status, "", err);
-    EXPECT_EQ(tree(), before);
+    auto after = tree();
+    after.erase(lock);
+    EXPECT_EQ(after, before);
   }
   void put(const std::string& path, const std::string& text) const { root_.folder().write("root" + path, text); }
   std::string read(const std::string& path) const { return root_.folder().read("root" + path); }
@@ -61,9 +75,11 @@ class AddinVerbs : public testing::Test {
     }
     return all;
   }
+  static constexpr const char* lock = "root/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.lock";
   static constexpr const char* startup = "/Applications/O11/Office/Startup/Word";
   static constexpr const char* macro = "/Applications/O11/Office/Startup/Word/Tarvo.dotm";
   static constexpr const char* scripts = "/Users/taro/Library/Scripts/Applications/Mail/Tarvo";
+  static constexpr const char* styles = "/Users/taro/Library/Preferences/Wordhaven/TarvoStyle2009.plist";
   static constexpr const char* toolList = "/Users/taro/Library/Preferences/Wordhaven/TarvoManager.txt";
   const ScenarioRoot root_{"addins"};
 };

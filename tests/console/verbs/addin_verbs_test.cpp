@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include <filesystem>
 
+#include "platform/posix/instance_lock.h"
 #include "tests/console/verbs/addin_verb_test.h"
 
-// The verbs on macros, mail scripts and the tool list, as an administrator meets them.
+// The verbs on macros and mail scripts, as an administrator meets them.
 namespace tarvo::test {
 namespace {
 
@@ -36,14 +37,21 @@ TEST_F(AddinVerbs, listingShowsTheRowsOfBothTablesAndOnlyReads) {
 
 TEST_F(AddinVerbs, listingIsWhatTheNextStartShows) {
   const std::string before = run({"addins", "--json"}).out;
-  run({"tool-list"});  // starts and ends
+  startAndEnd();
   EXPECT_EQ(run({"addins", "--json"}).out, before);
 }
 
 TEST_F(AddinVerbs, listingWithoutAnyList) {
-  root_.folder().write("root/Bundle/DefaultAddin.plist", "damaged");
-  expectUntouched({"addins"}, 1, "there is no list of the applications that take add-ins\n");
-  expectUntouched({"addin", "install", "Mail"}, 1, "there is no list of the applications that take add-ins\n");
+  makeFolder("/Users/taro/Library/Preferences");
+  for (const char* lists : {"damaged", "<plist><dict/></plist>"}) {
+    root_.folder().write("root/Bundle/DefaultAddin.plist", lists);
+    const std::string line =
+        told(real("/Bundle/DefaultAddin.plist"),
+             std::string("cannot be read; ") + (*lists == 'd' ? "it is no property list" : "what it holds is damaged"));
+    expectUntouched({"addins"}, 1, line);
+    expectUntouched({"addin", "install", "Mail"}, 1, line);
+    expectUntouched({"addin", "search", real("/Applications")}, 1, line);
+  }
   EXPECT_EQ(diagnosis("applications that take add-ins"), "problem: the manager cannot start without a list of them");
 }
 
@@ -52,10 +60,8 @@ TEST_F(AddinVerbs, aMacroIsInstalledAndRemoved) {
   expect({"addin", "install", "Word 2011"}, 0, "", "");
   EXPECT_EQ(read(macro), "macro 2011/Tarvo.dotm\n");
   EXPECT_EQ(run({"addins"}).out.substr(0, 9), "installed");
-  expect({"addin", "install", "Word 2011"}, 1, "", "Word 2011 has its add-in already\n");
   expect({"addin", "remove", "Word 2011", "2011"}, 0, "", "");
   EXPECT_FALSE(exists(macro));
-  expect({"addin", "remove", "Word 2011"}, 1, "", "Word 2011 has no add-in\n");
 }
 
 TEST_F(AddinVerbs, mailScriptsAreInstalledAlsoAtTheVeryFirstStart) {
@@ -65,18 +71,79 @@ TEST_F(AddinVerbs, mailScriptsAreInstalledAlsoAtTheVeryFirstStart) {
   EXPECT_FALSE(exists(scripts));
 }
 
-TEST_F(AddinVerbs, aNameThatMeansNoRowOrSeveralIsMisuse) {
-  expectUntouched({"addin", "install", "Word"}, 2, "there is no add-in for Word\n");
-  expectUntouched({"addin", "install", "word 2011"}, 2, "there is no add-in for word 2011\n");
-  expectUntouched({"addin", "remove", "Word 2011", "2008"}, 2, "there is no add-in for Word 2011, version 2008\n");
-  expectUntouched({"addin", "install", "Outlook 2011"}, 2, "there is no add-in for Outlook 2011\n");
+TEST_F(AddinVerbs, whatIsSoAlreadyIsSaidAndNothingIsWritten) {
+  makeFolder(startup);
+  const std::string already = "already\n", json = R"({"already":true,"changed":[],"done":true,"registered":null})"
+                                                  "\n";
+  for (const std::string verb : {"install", "remove"}) {
+    expect({"addin", verb, "Word 2011", "--json"}, 0,
+           R"({"changed":["Word 2011"],"done":true,"registered":null})"
+           "\n",
+           "");
+    const auto before = tree();
+    expect({"addin", verb, "Word 2011"}, 0, already, "");
+    expect({"addin", verb, "Word 2011", "--json"}, 0, json, "");
+    EXPECT_EQ(tree(), before);
+  }
+}
+
+TEST_F(AddinVerbs, noStyleIsReadOrWrittenAndNoToolListNorService) {
+  put(styles, "broken");
+  makeFolder(startup);
+  put("/Volumes/D/Word.app/Contents/Info.plist", read("/Applications/O11/Word.app/Contents/Info.plist"));
+  expect({"addin", "install", "Word 2011"}, 0, "", "");
+  expect({"addin", "remove", "Word 2011"}, 0, "", "");
+  EXPECT_EQ(run({"addin", "search", real("/Volumes/D")}).status, 0);
+  EXPECT_FALSE(exists(toolList));
+  EXPECT_EQ(run({"tool-list"}).status, 0);
+  EXPECT_EQ(read(styles), "broken");
+  EXPECT_FALSE(exists("/Users/taro/Library/Application Support/Wordhaven/TarvoEngine.plist"));
+  EXPECT_FALSE(exists("/Users/taro/Library/Scripts")) << "Apple Mail's folder is made by a start, or for its scripts";
+  const std::string settings = read("/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.plist");
+  for (const char* key : {"SMSelectedTag", "ToolbarTag", "LastUpdate"}) {
+    EXPECT_EQ(settings.find(key), std::string::npos) << key;
+  }
+}
+
+TEST_F(AddinVerbs, theLockIsNeededToChangeAndNotToList) {
+  const InstanceLock held(DiskPath(real("/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.lock")));
+  ASSERT_EQ(held.state(), InstanceLock::State::held);
+  for (const std::vector<std::string>& words : {std::vector<std::string>{"addin", "install", "Mail"},
+                                                {"addin", "search", real("/Applications")},
+                                                {"tool-list"}}) {
+    EXPECT_EQ(run(words).status, 3) << words[0];
+  }
+  EXPECT_EQ(run({"addins"}).status, 0);
+}
+
+TEST_F(AddinVerbs, aNameThatMeansNoRowIsRefusedAndOneThatMeansSeveralIsMisuse) {
+  const std::string none =
+      "there is no such add-in; no application that is listed has this name or path; tarvoctl addins lists them";
+  expectUntouched({"addin", "install", "Word"}, 1, told("Word", none));
+  expectUntouched({"addin", "install", "word 2011"}, 1, told("word 2011", none));
+  expectUntouched({"addin", "remove", "Word 2011", "2008"}, 1, told("Word 2011 2008", none));
+  expectUntouched({"addin", "install", "Outlook 2011"}, 1, told("Outlook 2011", none));
   makeFolder("/Users/taro/Library/Scripts/Outlook");
   put("/Volumes/D/Outlook.app/Contents/Info.plist", read("/Applications/O11/Outlook.app/Contents/Info.plist"));
   EXPECT_EQ(run({"addin", "search", root_.root() + "/Volumes/D"}).status, 0);
-  expectUntouched({"addin", "install", "Outlook 2011"}, 2,
-                  "there are 2 rows for Outlook 2011; name one by the path of its application\n");
+  const ToolResult several = run({"addin", "install", "Outlook 2011"});
+  EXPECT_TRUE(several.err.starts_with("tarvoctl: NAME Outlook 2011: not a value for this; allowed: " +
+                                      real("/Applications/O11/Outlook.app") + ", " + real("/Volumes/D/Outlook.app")))
+      << several.err;
+  EXPECT_EQ(several.status, 2);
   EXPECT_EQ(run({"addin", "install"}).status, 2);
   EXPECT_EQ(run({"addin", "burn", "Mail"}).status, 2);
+}
+
+TEST_F(AddinVerbs, rowsOfOneNameAreToldApartByTheirVersions) {
+  const std::string shipped = read("/Bundle/DefaultAddin.plist");
+  std::string renamed = shipped;
+  for (std::size_t at = 0; (at = renamed.find("<string>Word 20", at)) != std::string::npos;) renamed.erase(at + 12, 5);
+  put("/Bundle/DefaultAddin.plist", renamed);
+  makeFolder(startup);
+  expectUntouched({"addin", "install", "Word"}, 2, told("VERSION", "missing; allowed: 2008, 2011"));
+  expect({"addin", "install", "Word", "2011"}, 0, "", "");
+  EXPECT_TRUE(exists(macro));
 }
 
 TEST_F(AddinVerbs, rowsOfOneNameAreToldApartByTheirApplications) {
@@ -96,10 +163,9 @@ TEST_F(AddinVerbs, rowsOfOneNameAreToldApartByTheirApplications) {
     EXPECT_FALSE(exists(found)) << path;
   }
   EXPECT_FALSE(exists(startup)) << "the other one was never meant";
-  expectUntouched({"addin", "install", "/Volumes/D/Excel.app"}, 2, "there is no add-in for /Volumes/D/Excel.app\n");
+  EXPECT_EQ(run({"addin", "install", "/Volumes/D/Excel.app"}).status, 1);
   // The second search of a run adds Outlook again: all three rows bear the name, two are for this application.
-  expectUntouched({"addin", "install", "Outlook 2011"}, 2,
-                  "there are 3 rows for Outlook 2011; name one by the path of its application\n");
+  EXPECT_EQ(run({"addin", "install", "Outlook 2011"}).status, 2);
   expect({"addin", "install", "/Volumes/D/Outlook.app"}, 0, "", "");
   EXPECT_TRUE(exists("/Users/taro/Library/Scripts/Outlook/Tarvo/a.scpt"));
 }
@@ -128,50 +194,37 @@ TEST_F(AddinVerbs, aFailedRemovalTellsWhy) {
   makeFolder("/Users/taro/Library/Scripts/Applications/Mail");
   fs::create_symlink(root_.root() + "/elsewhere", root_.root() + scripts);
   expect({"addin", "remove", "Mail"}, 1, "",
-         "Mail«MailUnInstallIsFailed» (" + root_.root() + scripts + ": Failure.uninstall; Cause.linkInTheWay)\n");
+         told(real(scripts), "cannot be taken out; a link is in its place, which is left alone; remove the link"));
   EXPECT_TRUE(exists("/elsewhere"));
   EXPECT_EQ(diagnosis("scripts of Mail"), "problem: installed; a removal would fail: " + root_.root() + scripts +
                                               ": Failure.uninstall; Cause.linkInTheWay");
 }
 
-TEST_F(AddinVerbs, aFailedInstallTellsWhatTheWindowTellsAndWhy) {
-  expect({"addin", "install", "Word 2011"}, 1, "",
-         "Word 2011«OfficeInstallIsFailed» (" + root_.root() + startup + ": Failure.write; Cause.absent)\n");
+TEST_F(AddinVerbs, aFailedInstallTellsWhyAndLeavesTheRow) {
+  const std::string noFolder = "cannot be written; it is not there";
+  expectUntouched({"addin", "install", "Word 2011"}, 1, told(real(startup), noFolder));
+  const ToolResult json = run({"addin", "install", "Word 2011", "--json"});
+  EXPECT_EQ(json.out, R"({"done":false,"error":{"cause":"it is not there","cure":"","name":")" + real(startup) +
+                          R"(","what":"cannot be written"}})"
+                          "\n");
+  EXPECT_EQ(json.status, 1);
   makeFolder(startup);
-  fs::remove(root_.root() + "/Bundle/Macros/2011/Tarvo.dotm");
-  expect({"addin", "install", "Word 2011"}, 1, "",
-         "Word 2011«OfficeInstallIsFailed» (" + root_.root() +
-             "/Bundle/Macros/2011/Tarvo.dotm: Failure.install; Cause.missingResource)\n");
+  fs::remove(real("/Bundle/Macros/2011/Tarvo.dotm"));
+  expectUntouched({"addin", "install", "Word 2011"}, 1,
+                  told(real("/Bundle/Macros/2011/Tarvo.dotm"),
+                       "cannot be installed; the product lacks it; install TarvoEiwa again"));
 }
 
-TEST_F(AddinVerbs, aSearchTellsWhatItAdded) {
+TEST_F(AddinVerbs, rowsThatCannotBeRememberedAreTold) {
+  makeFolder(startup);
+  makeFolder("/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.plist/in the way");
   put("/Volumes/D/Word.app/Contents/Info.plist", read("/Applications/O11/Word.app/Contents/Info.plist"));
-  const std::string folder = root_.root() + "/Volumes/D";
-  expect({"addin", "search", folder}, 0, "added  Word 2011  2011  root:/Volumes/D/Word.app\n", "");
-  expect({"addin", "search", folder}, 0, "",
-         "nothing was added: there is no application of Office 2011 in this folder that is not listed\n");
-  const std::string listed = run({"addins"}).out;
-  EXPECT_NE(listed.find("root:/Volumes/D/Word.app"), std::string::npos);
-  expectUntouched({"addin", "search", folder + "/none"}, 2, "there is no folder " + folder + "/none\n");
-  expectUntouched({"addin", "search", folder + "/Word.app/Contents/Info.plist"}, 2,
-                  "there is no folder " + folder + "/Word.app/Contents/Info.plist\n");
-}
-
-TEST_F(AddinVerbs, theToolListIsWrittenForAnotherTool) {
-  expect({"tool-list"}, 0, "", "");
-  EXPECT_NE(read(toolList).find("Tool_Path=tMG8\r\n"), std::string::npos);
-  expect({"tool-list", "tUD8"}, 0, "", "");
-  EXPECT_NE(read(toolList).find("Tool_Name=UD\r\nTool_Path=tUD8\r\nTool_Action=2\r\n"), std::string::npos);
-  expect({"tool-list"}, 0, "", "");
-  EXPECT_NE(read(toolList).find("Tool_Path=tUD8\r\n"), std::string::npos);
-  expectUntouched({"tool-list", "tud8"}, 2,
-                  "there is no tool tud8; the tools are tMG8 tTX8 tUD8 tTM8 tTL8 tNP8 tQB8\n");
-}
-
-TEST_F(AddinVerbs, aToolListThatCannotBeWrittenIsTold) {
-  makeFolder(toolList);
-  expect({"tool-list", "tNP8"}, 1, "", root_.root() + toolList + ": Failure.write; Cause.isFolder\n");
-  EXPECT_TRUE(fs::is_directory(root_.root() + toolList));
+  const std::string line = told(real("/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.plist"),
+                                "cannot be written; it is a folder");
+  expect({"addin", "install", "Word 2011"}, 1, "", line);
+  EXPECT_TRUE(exists(macro)) << "what was done stays done";
+  expect({"addin", "search", real("/Volumes/D")}, 1, "", line);
+  expect({"tool-list", "tNP8"}, 1, "", line);
 }
 
 }  // namespace

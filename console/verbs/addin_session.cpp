@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "console/verbs/addin_session.h"
+
+#include <algorithm>
+
+#include "app/product.h"
+#include "app/user_files.h"
+#include "install/office_folder_search.h"
+#include "platform/services/common_module.h"
+#include "platform/services/file_service.h"
+
+namespace tarvo {
+
+AddinSession::AddinSession(Product& product)
+    : product_(product),
+      defaults_(product.files(), userDefaultsPath(product.locations())),
+      mailScripts_(product.files(), product.bundle(), product.locations()),
+      macros_(product.files(), product.bundle(), product.locations()),
+      lists_({product.files(), product.bundle(), defaults_, product.locations()}, mailScripts_) {}
+
+Result<> AddinSession::read() { return lists_.searchOfficeApplication(AddinLists::MailFolder::asAStartMakesIt); }
+
+// A remembered list leaves out what was not there at the end of an earlier run.
+std::vector<AddinEntry> AddinSession::forgotten() const {
+  std::vector<AddinEntry> forgotten;
+  if (!lists_.fDefaultOfficeSetArray()) return forgotten;
+  for (const AddinLists::SharedEntry& shipped : *lists_.fDefaultOfficeSetArray()) {
+    const std::string path = addinText(*shipped, addin_keys::appPath);
+    const bool isCandidate = std::ranges::any_of(lists_.fOfficeArray(), [&](const AddinLists::SharedEntry& candidate) {
+      return addinText(*candidate, addin_keys::appPath) == path;
+    });
+    if (!isCandidate && product_.files().isThere(lists_.placesOf(*shipped).application)) forgotten.push_back(*shipped);
+  }
+  return forgotten;
+}
+
+Result<> AddinSession::setInstalled(AddinPlace place, bool on) {
+  return tarvo::setInstalled(lists_, place, on, macros_, mailScripts_);
+}
+
+Result<> AddinSession::searchFolder(const DiskPath& folder) {
+  const TarvoCommonModule module(product_.paths());
+  OfficeFolderSearch search({product_.files(), product_.locations(), product_.scripts(), module}, lists_, mailScripts_);
+  return search.searchFolder(folder);
+}
+
+Result<> AddinSession::store() {
+  lists_.storeRows();
+  if (defaults_.unwritten()) return *defaults_.unwritten();
+  return {};
+}
+
+}  // namespace tarvo
