@@ -95,19 +95,7 @@ void AppController::tellThatNothingCanBeDone(const Failure& failure) {
   terminate_();
 }
 
-void AppController::restoreTool() {
-  const std::vector<std::string> ids = toolIds(services_.texts);
-  const std::string* stored = defaults_.string(SMSelectedTag);
-  int place = 0;
-  rooms_.store.setCurrentID(std::string(siblingTools[0].key));  // the key itself: no id has been chosen yet
-  for (std::size_t i = 0; stored != nullptr && i < ids.size(); ++i) {
-    if (ids[i] != *stored) continue;
-    rooms_.store.setCurrentID(ids[i]);
-    place = static_cast<int>(i);
-    break;
-  }
-  rooms_.chooser.setSelectSeg(place);
-}
+void AppController::restoreTool() { rooms_.chooser.setSelectSeg(placeOf(rememberedTool(defaults_, services_.texts))); }
 
 void AppController::showFirstPages() {
   OptionOutlets& options = interface_.options;

@@ -40,7 +40,7 @@ bool AppController::readImportStyle(const DiskPath& path) {
 }
 
 void AppController::sendPlist() {
-  if (!rooms_.store.reconcile()) return;
+  if (rooms_.store.reconcile() != StyleStore::Reconciled::replaced) return;  // nobody waits for what was not taken
   const Awakening awakening(rooms_.store);
   showStyles();
 }

@@ -84,7 +84,7 @@ constexpr Verb verbs[] = {
     {"engine", "Verb.engine"},
     {"engine status", "Verb.engine status", "", [](Line line) { return make<EngineStatusCommand>(line.json); }, true},
     {"engine push", "Verb.engine push", "", [](Line) { return make<EnginePushCommand>(); }, true},
-    {"engine pull", "Verb.engine pull", "", [](Line) { return make<EnginePullCommand>(); }},
+    {"engine pull", "Verb.engine pull", "", [](Line) { return make<EnginePullCommand>(); }, true},
     {"doctor", "Verb.doctor", "", [](Line line) { return make<DoctorCommand>(line.json); }, true, false},
     {"run", "Verb.run", "[FILE]"},
 };

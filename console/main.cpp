@@ -57,9 +57,8 @@ ExitStatus runVerb(const CommandLine& line, Command& command) {
     std::cerr << product.problem() << '\n';
     return ExitStatus::usage;
   }
-  PosixRunLoop loop;
   HeldLock lock;
-  Console console{product, loop, std::cout, std::cerr, std::ref(lock), becomeProgram};
+  Console console{product, std::cout, std::cerr, std::ref(lock), becomeProgram};
   console.textsToTell = [&line] { return textsToTell(line); };
   console.json = line.json;
   console.engineIsWanted = line.product.engine != "none";

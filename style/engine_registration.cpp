@@ -3,6 +3,7 @@
 #include "style/engine_registration.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/services/user_defaults.h"
 #include "style/style_file.h"
@@ -28,17 +29,21 @@ void EngineRegistration::registerStyles(const StyleSet* styles) {
   }
 }
 
-std::optional<Array> EngineRegistration::reconcile(const StyleSet* styles) {
+Result<std::optional<Array>> EngineRegistration::reconcile(const StyleSet* styles) {
   if (!engine_.checkStyle()) {
     send(styles);
-    return std::nullopt;
+    return std::optional<Array>();
   }
   const std::string* stored = defaults_.string(lastUpdate);
   std::string stamp = stored != nullptr ? *stored : std::string();
   Array newer;
-  if (!engine_.requestStyle(newer, stamp) || !areStyles(newer)) return std::nullopt;
+  if (!engine_.requestStyle(newer, stamp)) {
+    if (const Result<> read = engine_.couldRead(); !read) return read.error();
+    return std::optional<Array>();
+  }
+  if (!areStyles(newer)) return Failure{"", Attempt::fetch, Reason::damaged};
   keep(stamp);
-  return newer;
+  return std::optional(std::move(newer));
 }
 
 void EngineRegistration::send(const StyleSet* styles) {

@@ -22,9 +22,9 @@ class EngineRegistration {
   // How the last registration ended; nothing before the first that had styles to hand over.
   const std::optional<Result<>>& outcome() const { return outcome_; }
   // Registers the set with an engine that holds none; else asks for a set that is newer than "LastUpdate", and answers
-  // it after its stamp was stored. Nothing when there is none, or when what came is no set of styles that a style file
-  // could hold. The caller has made sure that the engine can be reached.
-  std::optional<Array> reconcile(const StyleSet* styles);
+  // it after its stamp was stored. Nothing when there is none. Fails when what the engine holds cannot be read, or is
+  // no set of styles that a style file could hold. The caller has made sure that the engine can be reached.
+  Result<std::optional<Array>> reconcile(const StyleSet* styles);
 
  private:
   void send(const StyleSet* styles);

@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "style/sibling_tools.h"
 
+#include <algorithm>
+
 #include "platform/services/texts.h"
+#include "platform/services/user_defaults.h"
+#include "style/style_keys.h"
 
 namespace tarvo {
 
@@ -13,6 +17,15 @@ std::vector<std::string> toolIds(const Texts& texts) {
   ids.reserve(siblingTools.size());
   for (const SiblingTool& tool : siblingTools) ids.push_back(texts.localized(tool.key));
   return ids;
+}
+
+Tool rememberedTool(const UserDefaults& defaults, const Texts& texts) {
+  const std::string* stored = defaults.string(SMSelectedTag);
+  const auto tool =
+      stored != nullptr
+          ? std::ranges::find(siblingTools, *stored, [&](const SiblingTool& each) { return texts.localized(each.key); })
+          : siblingTools.end();
+  return tool != siblingTools.end() ? static_cast<Tool>(tool - siblingTools.begin()) : Tool::manager;
 }
 
 }  // namespace tarvo

@@ -11,6 +11,7 @@
 namespace tarvo {
 
 class Texts;
+class UserDefaults;
 
 // The product's tools in the order of the tool chooser; operations know them by their places in it.
 enum class Tool {
@@ -52,5 +53,7 @@ constexpr int placeOf(Tool tool) { return static_cast<int>(tool); }
 // The localized id of a tool, and those of all in their order.
 std::string toolId(Tool tool, const Texts& texts);
 std::vector<std::string> toolIds(const Texts& texts);
+// The tool that was chosen last; the first where none is remembered, or one that is not there.
+Tool rememberedTool(const UserDefaults& defaults, const Texts& texts);
 
 }  // namespace tarvo

@@ -100,12 +100,13 @@ void StyleStore::registerStyles() {
   registration_.registerStyles(styles ? &*styles : nullptr);
 }
 
-bool StyleStore::reconcile() {
+Result<StyleStore::Reconciled> StyleStore::reconcile() {
   const std::optional<StyleSet> styles = styleSet();
-  std::optional<Array> newer = registration_.reconcile(styles ? &*styles : nullptr);
-  if (!newer) return false;
-  replaceStyles(std::move(*newer));
-  return true;
+  Result<std::optional<Array>> newer = registration_.reconcile(styles ? &*styles : nullptr);
+  if (!newer) return newer.error();
+  if (!*newer) return Reconciled::kept;
+  replaceStyles(std::move(**newer));
+  return Reconciled::replaced;
 }
 
 std::optional<StyleSet> StyleStore::styleSet() {

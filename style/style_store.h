@@ -56,8 +56,9 @@ class StyleStore {
   void writeTarvoStylePlist();
   void registerStyles();  // hands all of them to the engine; nothing where the file holds none
   // Lets the engine and the store agree: an engine without styles gets these, else newer ones of the engine replace
-  // them whole, unwritten. True: they were replaced, and have to be shown.
-  bool reconcile();
+  // them whole, unwritten. Fails when the engine's cannot be taken. Those that were replaced have to be shown.
+  enum class Reconciled { kept, replaced };
+  Result<Reconciled> reconcile();
   // Why the user's file that is there could not be read, or the last write did not reach the disk.
   const std::optional<Failure>& unread() const { return unread_; }
   const std::optional<Failure>& unsaved() const { return unsaved_; }

@@ -14,7 +14,6 @@
 namespace tarvo {
 
 class Product;
-class RunLoop;
 
 // How a run of the tool ended, as its exit status. waiting: done here, but the style service does not have it yet.
 enum class ExitStatus { done = 0, refused = 1, usage = 2, locked = 3, scriptFailed = 4, waiting = 5 };
@@ -22,7 +21,6 @@ enum class ExitStatus { done = 0, refused = 1, usage = 2, locked = 3, scriptFail
 // What a verb works on. Results go to out, everything else to err.
 struct Console {
   Product& product;
-  RunLoop& runLoop;
   std::ostream& out;
   std::ostream& err;
   // Takes the lock at this path for the rest of the process. False: another process holds it.

@@ -37,8 +37,7 @@ const std::string& StyleSession::pathOfStyles() const { return store_.path().tex
 
 std::optional<Problem> StyleSession::open() {
   Product& product = console_.product;
-  const DiskPath lock = lockPath(product.locations());
-  if (!console_.takeLock(lock)) return Refusal{lock.text(), "Refusal.Locked", "", ExitStatus::locked};
+  if (std::optional<Problem> failure = takeLock(console_)) return failure;
   const LoadedStyles loaded = loadStyles(store_, medical_, product.files(), product.paths());
   if (store_.unread()) {
     return Refusal{pathOfStyles(), "Refusal.UnreadableStyles", causeOf(*store_.unread(), console_.textsToTell())};
@@ -74,10 +73,15 @@ ExitStatus StyleSession::read(const std::string& style, const Operation& operati
   return ExitStatus::done;
 }
 
-ExitStatus StyleSession::finish(std::vector<std::string> changed) {
+std::optional<Problem> StyleSession::writeLoaded() {
   if (store_.isPending() && !written_) store_.writeTarvoStylePlist();
-  if (store_.unsaved()) return tell(console_, *store_.unsaved());
+  if (store_.unsaved()) return *store_.unsaved();
   if (!inserted_.empty()) medical_.remember(inserted_);
+  return std::nullopt;
+}
+
+ExitStatus StyleSession::finish(std::vector<std::string> changed) {
+  if (const std::optional<Problem> failure = writeLoaded()) return tell(console_, *failure);
   const std::optional<bool> registered = written_ ? registerStyles() : std::nullopt;
   say(console_, {std::move(changed), registered});
   return registered == false && engine_->form() != "local" ? ExitStatus::waiting : ExitStatus::done;
@@ -95,28 +99,6 @@ std::optional<bool> StyleSession::registerStyles() {
 std::string StyleSession::service() const {
   const std::string url = console_.product.engineURL();
   return url.empty() ? engine_->form() : url;
-}
-
-ExitStatus StyleSession::push() {
-  if (const std::optional<Problem> failure = open()) return tell(console_, *failure);
-  if (store_.isPending()) store_.writeTarvoStylePlist();
-  if (store_.unsaved()) return tell(console_, *store_.unsaved());
-  if (!inserted_.empty()) medical_.remember(inserted_);
-  if (store_.root().array(keyNameStyle) == nullptr) {
-    return tell(console_, Refusal{pathOfStyles(), "Refusal.NothingToPush", ""});
-  }
-  store_.registerStyles();
-  const Result<>& outcome = *store_.registration();
-  if (!outcome) {
-    return tell(console_, Refusal{service(), "Refusal.NotPushed", causeOf(outcome.error(), console_.textsToTell())});
-  }
-  const std::size_t count = store_.root().array(keyNameStyle)->size();
-  if (console_.json) {
-    say(console_, {{service()}, true});
-  } else {
-    console_.out << "handed over " << count << " styles\n";
-  }
-  return ExitStatus::done;
 }
 
 }  // namespace tarvo

@@ -40,11 +40,18 @@ class StyleSession {
   ExitStatus read(const std::string& style, const Operation& operation);
   // Hands all styles to the service, whatever changed.
   ExitStatus push();
+  // Makes the styles here and those of the service one, as the end of a launch does: a service without styles gets
+  // these; newer ones of the service replace them, and the remembered tool keeps its choice, by its index.
+  ExitStatus pull();
 
  private:
   std::optional<Problem> open();
   std::expected<int, Problem> openOn(const std::string& style);
+  // Writes what the load has joined, where no edit did.
+  std::optional<Problem> writeLoaded();
   ExitStatus finish(std::vector<std::string> changed);
+  ExitStatus sayHandedOver();
+  std::optional<Problem> keepTaken();
   std::optional<bool> registerStyles();
   const std::string& pathOfStyles() const;
   std::string service() const;  // its address, or its form

@@ -94,7 +94,6 @@ class Verb {
   void set(int value) {
     std::ostringstream out, err;
     Console console{.product = product_,
-                    .runLoop = loop_,
                     .out = out,
                     .err = err,
                     .takeLock = [](const DiskPath&) { return true; },
@@ -105,7 +104,6 @@ class Verb {
   }
 
   Product& product_;
-  PosixRunLoop loop_;
   int value_ = 0;
 };
 

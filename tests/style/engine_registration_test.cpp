@@ -22,6 +22,8 @@ Array twoStyles() {
   return {first, second};
 }
 
+constexpr StyleStore::Reconciled kept = StyleStore::Reconciled::kept;
+
 class EngineRegistrationTest : public testing::Test {
  protected:
   StyleStore storeOf(const Dictionary& root) {
@@ -102,14 +104,14 @@ TEST_F(EngineRegistrationTest, neverSendsAFileWithoutStyles) {
   store.setSelection(0);
   EXPECT_EQ(log_, Log{"reachable"});
   log_.clear();
-  EXPECT_FALSE(store.reconcile());
+  EXPECT_EQ(store.reconcile(), kept);
   EXPECT_EQ(log_, Log{"holds none"});
   EXPECT_EQ(*stamp(), "U0");
   Dictionary odd;
   odd.set("Style", "no array");
   StyleStore other = storeOf(odd);
   other.setSelection(0);
-  EXPECT_FALSE(other.reconcile());
+  EXPECT_EQ(other.reconcile(), kept);
   EXPECT_EQ(*stamp(), "U0");
 }
 
@@ -127,7 +129,7 @@ TEST_F(EngineRegistrationTest, givesAnEmptyEngineTheStylesWithoutAskingWhetherIt
     if (*former != '\0') defaults_.set("LastUpdate", former);
     StyleStore store = storeOf(sampleRoot());
     const int writes = files_.writes();
-    EXPECT_FALSE(store.reconcile());
+    EXPECT_EQ(store.reconcile(), kept);
     EXPECT_EQ(log_, (Log{"holds none", "register 4"}));
     EXPECT_EQ(files_.writes() - writes, 1) << "the settings alone";
     ASSERT_EQ(engine_.encoded.size(), 4U);
@@ -142,13 +144,13 @@ TEST_F(EngineRegistrationTest, asksWithTheStampOfTheLastExchange) {
   engine_.held = twoStyles();
   engine_.heldStamp = "P9";
   StyleStore store = storeOf(sampleRoot());
-  EXPECT_FALSE(store.reconcile());
+  EXPECT_EQ(store.reconcile(), kept);
   defaults_.set("LastUpdate", "");
-  EXPECT_FALSE(store.reconcile());
+  EXPECT_EQ(store.reconcile(), kept);
   defaults_.set("LastUpdate", "U0");
-  EXPECT_FALSE(store.reconcile());
+  EXPECT_EQ(store.reconcile(), kept);
   defaults_.set("LastUpdate", 7);
-  EXPECT_FALSE(store.reconcile());
+  EXPECT_EQ(store.reconcile(), kept);
   EXPECT_EQ(log_, (Log{"holds", "request \"\"", "holds", "request \"\"", "holds", "request \"U0\"", "holds",
                        "request \"\""}));
   EXPECT_EQ(*defaults_.find("LastUpdate"), PropertyList(7));
@@ -160,7 +162,7 @@ TEST_F(EngineRegistrationTest, takesANewerSetWholeAndLeavesTheRest) {
   engine_.held = twoStyles();
   engine_.heldStamp = "P9";
   StyleStore store = storeOf(sampleRoot());
-  EXPECT_TRUE(store.reconcile());
+  EXPECT_EQ(store.reconcile(), StyleStore::Reconciled::replaced);
   Dictionary expected = sampleRoot();
   expected.set("Style", twoStyles());
   EXPECT_EQ(store.root(), expected);
@@ -183,7 +185,9 @@ TEST_F(EngineRegistrationTest, neverTakesWhatIsNoSetOfStyles) {
     engine_.held = answer;
     defaults_.set("LastUpdate", "U0");
     StyleStore store = storeOf(sampleRoot());
-    EXPECT_FALSE(store.reconcile());
+    const auto taken = store.reconcile();
+    ASSERT_FALSE(taken);
+    EXPECT_EQ(taken.error(), (Failure{"", Attempt::fetch, Reason::damaged}));
     EXPECT_EQ(store.root(), sampleRoot());
     EXPECT_EQ(*stamp(), "U0");
   }

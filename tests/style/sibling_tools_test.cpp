@@ -6,6 +6,8 @@
 
 #include "platform/plist/property_list.h"
 #include "platform/services/texts.h"
+#include "platform/services/user_defaults.h"
+#include "tests/support/memory_files.h"
 
 namespace tarvo {
 namespace {
@@ -26,6 +28,22 @@ TEST(SiblingTools, haveTheTextsOfTheirKeysAsIds) {
   texts.overlay(table);
   ids[3] = "Guide";
   EXPECT_EQ(toolIds(texts), ids);
+}
+
+TEST(SiblingTools, theOneThatWasChosenLastIsRememberedByItsId) {
+  Texts texts;
+  Dictionary table;
+  table.set("GD", "Guide");
+  texts.overlay(table);
+  test::MemoryFiles files;
+  UserDefaults defaults(files, DiskPath("/settings.plist"));
+  EXPECT_EQ(rememberedTool(defaults, texts), Tool::manager);
+  for (const auto& [id, tool] : {std::pair("Guide", Tool::readingGuide), {"MAIL", Tool::mail}, {"GD", Tool::manager}}) {
+    defaults.set("SMSelectedTag", id);
+    EXPECT_EQ(rememberedTool(defaults, texts), tool) << id;
+  }
+  defaults.set("SMSelectedTag", 3);
+  EXPECT_EQ(rememberedTool(defaults, texts), Tool::manager);
 }
 
 }  // namespace

@@ -69,7 +69,7 @@ TEST_F(EngineVerbs, statusOfAServerThatDoesNotListen) {
 TEST_F(EngineVerbs, pushHandsTheStylesOver) {
   expectSaid({"engine", "push"}, "handed over 4 styles\n", "", 0);
   EXPECT_NE(root_.folder().read(std::string("root/Users/taro/") + engineFile).find("Beta"), std::string::npos);
-  expectSaid({"engine", "pull"}, "nothing newer\n", "", 0);
+  expectSaid({"engine", "pull"}, "already\n", "", 0);
 }
 
 TEST_F(EngineVerbs, pullGivesAnEmptyServiceTheLocalStyles) {
@@ -81,14 +81,83 @@ TEST_F(EngineVerbs, pullTakesNewerStyles) {
   putStyles("root4.plist");
   expectSaid({"engine", "pull"}, "took 2 styles\n", "", 0);
   EXPECT_EQ(run({"styles"}).out, "0  One  MG\n1  Two\n");
-  expectSaid({"engine", "pull"}, "nothing newer\n", "", 0);
+  expectSaid({"engine", "pull"}, "already\n", "", 0);
+}
+
+TEST_F(EngineVerbs, pullKeepsTheChoiceOfTheRememberedToolAndWritesTheToolList) {
+  letTheEngineHold("root4.plist");
+  putStyles("two-styles.plist");
+  root_.folder().write(settings, "<plist><dict><key>SMSelectedTag</key><string>QB</string></dict></plist>");
+  expectSaid({"engine", "pull"}, "took 4 styles\n", "", 0);
+  EXPECT_EQ(run({"styles"}).out, "0  NomalStyle  QB\n1  Alpha       MG\n2  (divider)\n3  Beta\n");
+  const std::string stored = root_.folder().read(settings);
+  EXPECT_NE(stored.find("<key>SMSelectedTag</key>\n\t<string>QB</string>"), std::string::npos) << stored;
+  EXPECT_EQ(stored.find("ToolbarTag"), std::string::npos);
+  const std::string list = root_.folder().read("root/Users/taro/Library/Preferences/Wordhaven/TarvoManager.txt");
+  EXPECT_NE(list.find("Tool_Path=tMG8\r\n"), std::string::npos);
+}
+
+TEST_F(EngineVerbs, pullOfFewerStylesThanTheChoiceCountsChoosesNone) {
+  letTheEngineHold("two-styles.plist");
+  putStyles("root4.plist");
+  root_.folder().write(settings, "<plist><dict><key>SMSelectedTag</key><string>QB</string></dict></plist>");
+  expectSaid({"engine", "pull"}, "took 2 styles\n", "", 0);
+  EXPECT_NE(
+      root_.folder().read(std::string("root/Users/taro/") + styleFile).find("<key>QB</key>\n\t\t<integer>-1</integer>"),
+      std::string::npos);
+}
+
+TEST_F(EngineVerbs, pullOfNothingNewerWritesNothing) {
+  run({"engine", "push"});
+  const auto before = tree();
+  expectSaid({"engine", "pull"}, "already\n", "", 0);
+  expectSaid({"engine", "pull", "--json"},
+             R"({"already":true,"changed":[],"done":true,"registered":null})"
+             "\n",
+             "", 0);
+  EXPECT_EQ(tree(), before);
+}
+
+TEST_F(EngineVerbs, pullAnswersAsJson) {
+  expectSaid({"engine", "pull", "--json"},
+             R"({"changed":["local"],"done":true,"registered":true})"
+             "\n",
+             "", 0);
+  letTheEngineHold("two-styles.plist");
+  putStyles("root4.plist");
+  expectSaid({"engine", "pull", "--json"},
+             R"({"changed":[")" + stylePath() + R"("],"done":true,"registered":true})" + "\n", "", 0);
+}
+
+TEST_F(EngineVerbs, pullLeavesAStyleFileThatCannotBeRead) {
+  letTheEngineHold("two-styles.plist");
+  root_.folder().write(std::string("root/Users/taro/") + styleFile, "broken");
+  const auto before = tree();
+  expectSaid({"engine", "pull"}, "",
+             told(stylePath(),
+                  "nothing was changed, the style file cannot be read; it is no property list; mend it, or "
+                  "move it away to begin with the styles of the product"),
+             1);
+  EXPECT_EQ(tree(), before);
+}
+
+TEST_F(EngineVerbs, whatWasTakenButCannotBeStoredIsTold) {
+  letTheEngineHold("two-styles.plist");
+  putStyles("root4.plist");
+  const std::string list = root_.home() + "/Library/Preferences/Wordhaven/TarvoManager.txt";
+  fs::create_directories(list + "/in the way");
+  expectSaid({"engine", "pull"}, "", told(list, "cannot be written; it is a folder"), 1);
+  EXPECT_EQ(run({"styles"}).out, "0  One  MG\n1  Two\n");
 }
 
 TEST_F(EngineVerbs, whatWasTakenButNotWrittenIsTold) {
   letTheEngineHold("two-styles.plist");
   putStyles("no-selection.plist");
-  expectSaid({"engine", "pull"}, "took 2 styles\n",
-             "the style file remembers no choice of a style: what was taken is not in it\n", 1);
+  expectSaid({"engine", "pull"}, "",
+             told(stylePath(),
+                  "what was taken is not in it; the style file remembers no choice of a style; start the "
+                  "manager with the product's styles"),
+             1);
   expectSaid({"engine", "push"}, "handed over 4 styles\n", "", 0);
 }
 
@@ -96,26 +165,32 @@ TEST_F(EngineVerbs, stylesThatCannotBeReadAreNotSaidToBeTaken) {
   root_.folder().write(std::string("root/Users/taro/") + engineFile,
                        "<plist><dict><key>Stamp</key><string>00000000000000000007 2026-01-01T00:00:00Z</string>"
                        "<key>Style</key><array><dict/><string>two</string></array></dict></plist>");
-  expectSaid({"engine", "pull"}, "", "the styles of the service cannot be read: nothing was taken\n", 1);
+  expectSaid({"engine", "pull"}, "",
+             told("local", "no styles were taken; what it holds is damaged; tarvoctl engine status tells more"), 1);
   EXPECT_NE(run({"styles"}).out.find("Beta"), std::string::npos);
 }
 
 TEST_F(EngineVerbs, aServiceThatIsNotThereIsAFailureOfTheExchange) {
-  for (const char* verb : {"push", "pull"}) {
+  const auto before = treeButLock();
+  for (const auto& [verb, what] :
+       {std::pair("push", "the styles were not handed over"), {"pull", "no styles were taken"}}) {
     const std::string line =
-        std::string(verb) == "push"
-            ? told("none",
-                   "the styles were not handed over; there is no style service; tarvoctl engine status tells more")
-            : "the style service cannot be reached; it keeps its former styles (Failure.reach; Cause.noService)\n";
+        told("none", std::string(what) + "; there is no style service; tarvoctl engine status tells more");
     expectSaid({"--engine", "none", "engine", verb}, "", line, 1);
     expectSaid({"--paths", "fixtures/paths/no-engine-paths.plist", "engine", verb}, "", line, 1);
   }
+  expectSaid({"--engine", "http://127.0.0.1:1/styles", "engine", "pull"}, "",
+             told("http://127.0.0.1:1/styles",
+                  "no styles were taken; nobody answers there; tarvoctl engine status tells more"),
+             1);
+  EXPECT_EQ(treeButLock(), before);
 }
 
 TEST_F(EngineVerbs, aServiceThatCannotStoreIsAFailure) {
   fs::create_directories(fs::path(root_.home()) / engineFile / "in its place");
-  expectSaid({"engine", "push"}, "",
-             told("local", "the styles were not handed over; it is a folder; tarvoctl engine status tells more"), 1);
+  const std::string line =
+      told("local", "the styles were not handed over; it is a folder; tarvoctl engine status tells more");
+  expectSaid({"engine", "push"}, "", line, 1);
 }
 
 TEST_F(EngineVerbs, aFileWithoutStylesIsNotHandedOver) {

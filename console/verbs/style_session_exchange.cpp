@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/product.h"
+#include "console/verbs/style_session.h"
+#include "console/verbs/tool_list_command.h"
+#include "platform/services/engine.h"
+#include "style/sibling_tools.h"
+
+// The session's exchanges with the style service.
+namespace tarvo {
+
+namespace {
+
+Failure whyUnreached(const Engine& engine) {
+  const Result<> reached = engine.couldReach();  // some engines do not know why
+  return reached ? Failure{"", Attempt::reach, Reason::unreachable} : reached.error();
+}
+
+}  // namespace
+
+ExitStatus StyleSession::push() {
+  if (const std::optional<Problem> failure = open()) return tell(console_, *failure);
+  if (const std::optional<Problem> failure = writeLoaded()) return tell(console_, *failure);
+  if (store_.root().array(keyNameStyle) == nullptr) {
+    return tell(console_, Refusal{pathOfStyles(), "Refusal.NothingToPush", ""});
+  }
+  store_.registerStyles();
+  return sayHandedOver();
+}
+
+ExitStatus StyleSession::pull() {
+  if (const std::optional<Problem> failure = open()) return tell(console_, *failure);
+  const auto notPulled = [this](const Failure& why) {
+    return tell(console_, Refusal{service(), "Refusal.NotPulled", causeOf(why, console_.textsToTell())});
+  };
+  if (!engine_->checkConnectionWithCurl()) return notPulled(whyUnreached(*engine_));
+  const Result<StyleStore::Reconciled> reconciled = store_.reconcile();
+  if (!reconciled) return notPulled(reconciled.error());
+  if (*reconciled == StyleStore::Reconciled::replaced) {
+    if (const std::optional<Problem> failure = keepTaken()) return tell(console_, *failure);
+    if (!console_.json) console_.out << "took " << store_.root().array(keyNameStyle)->size() << " styles\n";
+    if (console_.json) say(console_, {{pathOfStyles()}, true});
+    return ExitStatus::done;
+  }
+  if (!store_.registration()) return finish({});
+  if (const std::optional<Problem> failure = writeLoaded()) return tell(console_, *failure);
+  return sayHandedOver();
+}
+
+ExitStatus StyleSession::sayHandedOver() {
+  const Result<>& outcome = *store_.registration();
+  if (!outcome) {
+    return tell(console_, Refusal{service(), "Refusal.NotPushed", causeOf(outcome.error(), console_.textsToTell())});
+  }
+  if (console_.json) {
+    say(console_, {{service()}, true});
+  } else {
+    console_.out << "handed over " << store_.root().array(keyNameStyle)->size() << " styles\n";
+  }
+  return ExitStatus::done;
+}
+
+// What the load has joined went with the former styles: it is not remembered, and joins the new ones at the next load.
+std::optional<Problem> StyleSession::keepTaken() {
+  if (store_.getSelection() == nullptr) return Refusal{pathOfStyles(), "Refusal.TakenNotKept", ""};
+  const Texts& texts = console_.product.texts();
+  store_.setPending();
+  store_.setCurrentID(toolId(rememberedTool(defaults_, texts), texts));
+  const int index = store_.selectedStyle();
+  store_.setSelection(store_.getStyleAtIndex(index) ? index : -1);  // what the window's menu shows then
+  if (store_.unsaved()) return *store_.unsaved();
+  defaults_.set(SMSelectedTag, store_.currentID());
+  defaults_.synchronize();
+  if (const Result<> written = writeToolList(console_.product, defaults_); !written) return written.error();
+  return std::nullopt;
+}
+
+}  // namespace tarvo
