@@ -74,7 +74,7 @@ TEST_F(Icons, aDisabledIconIsFaint) {
 
 TEST_F(Icons, theFileIsReadWhenTheIconIsPaintedAndOnlyOnce) {
   const QIcon before = icon(drawing("not a drawing yet"), Scheme::light);
-  const QIcon copy = before;
+  const QIcon copy = before;  // NOLINT(performance-unnecessary-copy-initialization): what a copy shows is the question
   drawing(stripes);
   EXPECT_EQ(image(before, 30).pixelColor(5, 15), QColor(0x3a, 0x42, 0x50));
   drawing("spoilt");

@@ -70,8 +70,7 @@ void QtHand::select(TableView& table, const std::vector<int>& rows) {
     throw NotReachable(table.name() + " selects one row at a time");
   }
   if (rows.empty()) {
-    const std::vector<int> selected = table.selectedRows();
-    for (const int row : selected) clickRow(list, row, Qt::ControlModifier);
+    for (const int row : std::vector<int>(table.selectedRows())) clickRow(list, row, Qt::ControlModifier);
   }
   Qt::KeyboardModifiers modifiers;
   for (const int row : rows) {

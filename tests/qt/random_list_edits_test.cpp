@@ -18,7 +18,7 @@ class RandomListEdits : public testing::TestWithParam<std::size_t> {};
 
 TEST_P(RandomListEdits, asAScriptShowTheSameInTheWindow) {
   const unsigned seed = seeds()[GetParam()];
-  std::cout << "seed " << seed << std::endl;
+  std::cout << "seed " << seed << '\n' << std::flush;
   const SoakRoot root;
   QtScenarioShell shell;
   ManualRunLoop clock;

@@ -73,7 +73,7 @@ TEST_F(TableBinding, aDragBelowTheLastRowIsMarkedThere) {
   EXPECT_NE(during, before);
   const int end = view.visualRect(view.model()->index(3, 0)).bottom() + 1;
   const QRect line(0, end - 4, before.width(), 8);
-  for (QImage copy : {before, during})
+  for (const QImage& copy : {before, during})
     EXPECT_EQ(copy.copy(0, 0, copy.width(), line.top()), before.copy(0, 0, copy.width(), line.top()));
   EXPECT_NE(during.copy(line), before.copy(line));
   QDragLeaveEvent leave;

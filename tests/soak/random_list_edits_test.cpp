@@ -32,7 +32,7 @@ class RandomListEdits : public testing::TestWithParam<std::size_t> {
 };
 
 TEST_P(RandomListEdits, keepControlsStoreAndFileAlike) {
-  std::cout << "seed " << seed() << std::endl;
+  std::cout << "seed " << seed() << '\n' << std::flush;
   MemoryShell shell;
   ManualRunLoop clock;
   ScenarioSession session(root_.options(), shell, clock);
@@ -55,7 +55,7 @@ TEST_P(RandomListEdits, keepControlsStoreAndFileAlike) {
 }
 
 TEST_P(RandomListEdits, asAScriptShowTheSameInTheConsole) {
-  std::cout << "seed " << seed() << std::endl;
+  std::cout << "seed " << seed() << '\n' << std::flush;
   ManualRunLoop clock;
   std::ostringstream out, err;
   const int count = shellEditCount() / static_cast<int>(seeds().size());

@@ -17,7 +17,7 @@ class RandomSheets : public testing::TestWithParam<std::size_t> {};
 
 TEST_P(RandomSheets, restrictTheMenusOnlyWhileTheyAreUpAndLeaveNothingBehind) {
   const unsigned seed = seeds()[GetParam()];
-  std::cout << "seed " << seed << std::endl;
+  std::cout << "seed " << seed << '\n' << std::flush;
   SheetWalk walk(seed);
   std::mt19937 lengths(seed);
   for (int i = 0; i < walks / static_cast<int>(seeds().size()) + 1; ++i) {

@@ -33,7 +33,7 @@ class OptionEditingTest : public testing::Test {
     }
     start(sampleRoot());
   }
-  void start(Dictionary root) {
+  void start(const Dictionary& root) {
     Array styles = *root.array("Style");
     store_.replaceStyles(std::move(styles));
     store_.setCurrentID("MG");

@@ -9,7 +9,7 @@ namespace {
 
 class NotificationCenterTest : public testing::Test {
  protected:
-  NotificationCenter::Observer note(std::string who) {
+  NotificationCenter::Observer note(const std::string& who) {
     return [this, who](const Notification& each) { heard += who + (each.hasObject ? "(" + each.object + ") " : " "); };
   }
   NotificationCenter center;
