@@ -39,8 +39,8 @@ std::optional<Problem> StyleSession::open() {
   Product& product = console_.product;
   if (std::optional<Problem> failure = takeLock(console_)) return failure;
   const LoadedStyles loaded = loadStyles(store_, medical_, product.files(), product.paths());
-  if (store_.unread()) {
-    return Refusal{pathOfStyles(), "Refusal.UnreadableStyles", causeOf(*store_.unread(), console_.textsToTell())};
+  if (const std::optional<Failure>& unread = store_.unread()) {
+    return Refusal{pathOfStyles(), "Refusal.UnreadableStyles", causeOf(*unread, console_.textsToTell())};
   }
   if (loaded.failure) return *loaded.failure;
   inserted_ = loaded.inserted;
@@ -56,26 +56,27 @@ std::expected<int, Problem> StyleSession::openOn(const std::string& style) {
 ExitStatus StyleSession::edit(const std::string& style, const Operation& operation) {
   const std::expected<int, Problem> index = openOn(style);
   if (!index) return tell(console_, index.error());
-  const Dictionary before = *store_.getStyleAtIndex(*index);
+  const std::optional<Dictionary> before = store_.getStyleAtIndex(*index);
   const Dictionary* selection = store_.getSelection();
   const Dictionary chosen = selection != nullptr ? *selection : Dictionary{};
   if (const std::optional<Problem> failure = operation(*index)) return tell(console_, *failure);
   const std::optional<Dictionary> after = store_.getStyleAtIndex(*index);
   const bool isChanged = after != before || (selection != nullptr && chosen != *store_.getSelection());
-  return finish(isChanged ? std::vector{styleName(before)} : std::vector<std::string>());
+  return finish(isChanged && before ? std::vector{styleName(*before)} : std::vector<std::string>());
 }
 
 ExitStatus StyleSession::read(const std::string& style, const Operation& operation) {
   const std::expected<int, Problem> index = openOn(style);
   if (!index) return tell(console_, index.error());
   if (const std::optional<Problem> failure = operation(*index)) return tell(console_, *failure);
-  say(console_, {{styleName(*store_.getStyleAtIndex(*index))}, std::nullopt});
+  const std::optional<Dictionary> record = store_.getStyleAtIndex(*index);
+  say(console_, {{record ? styleName(*record) : style}, std::nullopt});
   return ExitStatus::done;
 }
 
 std::optional<Problem> StyleSession::writeLoaded() {
   if (store_.isPending() && !written_) store_.writeTarvoStylePlist();
-  if (store_.unsaved()) return *store_.unsaved();
+  if (const std::optional<Failure>& unsaved = store_.unsaved()) return *unsaved;
   if (!inserted_.empty()) medical_.remember(inserted_);
   return std::nullopt;
 }

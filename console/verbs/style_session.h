@@ -50,7 +50,7 @@ class StyleSession {
   // Writes what the load has joined, where no edit did.
   std::optional<Problem> writeLoaded();
   ExitStatus finish(std::vector<std::string> changed);
-  ExitStatus sayHandedOver();
+  ExitStatus sayHandedOver(const Result<>& outcome);
   std::optional<Problem> keepTaken();
   std::optional<bool> registerStyles();
   const std::string& pathOfStyles() const;

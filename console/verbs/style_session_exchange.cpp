@@ -25,7 +25,7 @@ ExitStatus StyleSession::push() {
     return tell(console_, Refusal{pathOfStyles(), "Refusal.NothingToPush", ""});
   }
   store_.registerStyles();
-  return sayHandedOver();
+  return sayHandedOver(store_.registration().value_or(Result<>()));
 }
 
 ExitStatus StyleSession::pull() {
@@ -42,13 +42,13 @@ ExitStatus StyleSession::pull() {
     if (console_.json) say(console_, {{pathOfStyles()}, true});
     return ExitStatus::done;
   }
-  if (!store_.registration()) return finish({});
+  const std::optional<Result<>> handedOver = store_.registration();
+  if (!handedOver) return finish({});
   if (const std::optional<Problem> failure = writeLoaded()) return tell(console_, *failure);
-  return sayHandedOver();
+  return sayHandedOver(*handedOver);
 }
 
-ExitStatus StyleSession::sayHandedOver() {
-  const Result<>& outcome = *store_.registration();
+ExitStatus StyleSession::sayHandedOver(const Result<>& outcome) {
   if (!outcome) {
     return tell(console_, Refusal{service(), "Refusal.NotPushed", causeOf(outcome.error(), console_.textsToTell())});
   }
@@ -68,7 +68,7 @@ std::optional<Problem> StyleSession::keepTaken() {
   store_.setCurrentID(toolId(rememberedTool(defaults_, texts), texts));
   const int index = store_.selectedStyle();
   store_.setSelection(store_.getStyleAtIndex(index) ? index : -1);  // what the window's menu shows then
-  if (store_.unsaved()) return *store_.unsaved();
+  if (const std::optional<Failure>& unsaved = store_.unsaved()) return *unsaved;
   defaults_.set(SMSelectedTag, store_.currentID());
   defaults_.synchronize();
   if (const Result<> written = writeToolList(console_.product, defaults_); !written) return written.error();
