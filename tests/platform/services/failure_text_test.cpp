@@ -39,7 +39,7 @@ TEST(FailureText, hasWordsForEveryAttemptAndReasonInBothLanguages) {
   for (const char* language : {"en", "ja"}) {
     const Texts texts = shipped(language);
     for (int attempt = 0; attempt <= static_cast<int>(Attempt::fetch); ++attempt) {
-      for (int reason = 1; reason <= static_cast<int>(Reason::damaged); ++reason) {
+      for (int reason = 1; reason <= static_cast<int>(Reason::noStyle); ++reason) {
         const std::string text =
             failureCauseText({"", static_cast<Attempt>(attempt), static_cast<Reason>(reason)}, texts);
         EXPECT_EQ(text.find("Failure."), std::string::npos) << text;
