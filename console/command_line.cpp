@@ -23,7 +23,7 @@ struct Verb {
   const char* meaning;
   const char* arguments = "";
   std::unique_ptr<Command> (*make)(const CommandLine& line) = nullptr;  // null: a group, or a script to be run
-  bool lists = false;                                                   // answers as JSON when asked to
+  bool mayAnswerJson = false;
   bool needsResources = true;
 };
 
@@ -82,10 +82,10 @@ constexpr Verb verbs[] = {
     {"tool-list", "Verb.tool-list", "[TOOL]", [](Line line) { return make<ToolListCommand>(line.words.tool); }, true},
     {"open", "Verb.open", "CODE", [](Line line) { return make<OpenCommand>(wordsForWindow(line), line.words.code); }},
     {"engine", "Verb.engine"},
-    {"engine status", "Verb.engine status", "", [](Line line) { return make<EngineStatusCommand>(line.json); }, true},
+    {"engine status", "Verb.engine status", "", [](Line) { return make<EngineStatusCommand>(); }, true},
     {"engine push", "Verb.engine push", "", [](Line) { return make<EnginePushCommand>(); }, true},
     {"engine pull", "Verb.engine pull", "", [](Line) { return make<EnginePullCommand>(); }, true},
-    {"doctor", "Verb.doctor", "", [](Line line) { return make<DoctorCommand>(line.json); }, true, false},
+    {"doctor", "Verb.doctor", "", [](Line) { return make<DoctorCommand>(); }, true, false},
     {"run", "Verb.run", "[FILE]"},
 };
 
@@ -142,7 +142,7 @@ std::optional<ExitStatus> readCommandLine(CommandLine& line, const std::vector<s
     return ExitStatus::done;
   }
   const Verb* verb = std::ranges::find(verbs, read.verb, &Verb::words);
-  if (!read.error && line.json && !verb->lists) {
+  if (!read.error && line.json && !verb->mayAnswerJson) {
     read.error = {UsageError::Kind::unexpected, "--json", {}, synopsis(table, read.verb), ""};
   }
   if (read.error) {

@@ -192,7 +192,7 @@ class Examination {
 
 ExitStatus DoctorCommand::run(Console& console) {
   const std::vector<Finding> findings = Examination(console.product).all();
-  if (json_) {
+  if (console.json) {
     Json::List list;
     for (const Finding& finding : findings) {
       list.emplace_back(Json::Object{

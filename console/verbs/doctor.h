@@ -9,11 +9,7 @@ namespace tarvo {
 // doctor: every path that the manager looks at, what was found there, what is missing. Only reads.
 class DoctorCommand : public Command {
  public:
-  explicit DoctorCommand(bool json) : json_(json) {}
   ExitStatus run(Console& console) override;
-
- private:
-  bool json_;
 };
 
 }  // namespace tarvo

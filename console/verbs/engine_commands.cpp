@@ -26,7 +26,7 @@ ExitStatus EngineStatusCommand::run(Console& console) {
     console.err << "the style service cannot be reached"
                 << (reached ? "" : " (" + failureText(reached.error(), product.texts()) + ")") << '\n';
   }
-  if (json_) {
+  if (console.json) {
     console.out << writeJson(Json::Object{{"form", engine->form()},
                                           {"reachable", reachable},
                                           {"holds", holds},

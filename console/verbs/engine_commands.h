@@ -11,11 +11,7 @@ namespace tarvo {
 // reads.
 class EngineStatusCommand : public Command {
  public:
-  explicit EngineStatusCommand(bool json) : json_(json) {}
   ExitStatus run(Console& console) override;
-
- private:
-  bool json_;
 };
 
 // engine push: registers all styles.
