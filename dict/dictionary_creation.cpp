@@ -9,12 +9,15 @@
 
 namespace tarvo {
 
+std::string templateName(Direction direction) {
+  return (direction == Direction::englishToJapanese ? "EJStationery." : "JEStationery.") +
+         std::string(extensionOf(DictionaryKind::user, direction));
+}
+
 Result<> makeDictionaryFile(FileService& files, const Bundle& bundle, const DiskPath& path, DictionaryKind kind,
                             Direction direction) {
   const bool isEnglish = direction == Direction::englishToJapanese;
-  const std::optional<DiskPath> stationery = bundle.resource(isEnglish ? "EJStationery" : "JEStationery",
-                                                             std::string(extensionOf(DictionaryKind::user, direction)));
-  if (stationery) {
+  if (const std::optional<DiskPath> stationery = bundle.resource(templateName(direction), "")) {
     if (Result<> copied = files.copy(*stationery, path); !copied) return copied;
   }
   if (kind == DictionaryKind::user) {

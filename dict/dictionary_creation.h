@@ -11,8 +11,12 @@ namespace tarvo {
 class Bundle;
 class FileService;
 
-// Makes the file of a new, empty dictionary from the bundle's template: "EJStationery.eud2" for English to Japanese,
-// else "JEStationery.jud", whatever the kind. User dictionaries get their type code and a blank creator.
+// The bundle's template of an empty dictionary, whatever the kind: "EJStationery.eud2" for English to Japanese, else
+// "JEStationery.jud".
+std::string templateName(Direction direction);
+
+// Makes the file of a new, empty dictionary from the template. User dictionaries get their type code and a blank
+// creator.
 // A template that is missing is no failure: then no file is made, which the path alone shows. After a failure nothing
 // is there.
 Result<> makeDictionaryFile(FileService& files, const Bundle& bundle, const DiskPath& path, DictionaryKind kind,

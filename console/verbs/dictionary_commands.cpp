@@ -3,6 +3,7 @@
 #include "console/verbs/dictionary_commands.h"
 
 #include "app/product.h"
+#include "console/verbs/dictionary_services.h"
 #include "console/verbs/style_name.h"
 #include "console/verbs/style_reading.h"
 #include "console/verbs/style_session.h"
@@ -49,11 +50,8 @@ ExitStatus DictionariesCommand::run(Console& console) {
   if (!styles.root) return styles.status;
   const auto index = styleNamed(*styles.root, console.product.texts(), list_.style, true);
   if (!index) return tell(console, index.error());
-  Product& product = console.product;
   const Dictionary& record = *(*styles.root->array(keyNameStyle))[static_cast<std::size_t>(*index)].dictionary();
-  const ListContents contents =
-      readList({product.files(), product.texts(), product.bundle(), product.paths(), product.locations()}, record,
-               list_.direction);
+  const ListContents contents = readList(dictionaryServices(console.product), record, list_.direction);
   if (console.json) {
     console.out << writeJson(Json::Object{{"loaded", jsonFrom(contents.loaded)},
                                           {"available", jsonFrom(contents.available)},

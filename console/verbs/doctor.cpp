@@ -6,7 +6,8 @@
 #include <vector>
 
 #include "app/product.h"
-#include "app/program.h"
+#include "app/user_files.h"
+#include "console/verbs/dictionary_services.h"
 #include "console/verbs/doctor_addins.h"
 #include "console/verbs/refusal.h"
 #include "console/verbs/text_table.h"
@@ -109,15 +110,12 @@ class Examination {
   void dictionaryFolder(const DiskPath& path, const char* what, DictionaryKind kind, Direction direction) {
     const auto names = product_.files().list(path);
     if (!names) return folder(path, what);
-    DictController list(
-        {product_.files(), product_.texts(), product_.bundle(), product_.paths(), product_.locations()});
+    DictController list(dictionaryServices(product_));
     list.initializeDictController(kind, path, direction);
     const std::size_t usable = list.getAllDictionary().size();
     add(path, what, "ok", std::to_string(usable) + " usable, " + std::to_string(names->size()) + " entries");
     if (kind != DictionaryKind::technical) return;
-    for (const std::string& name : namesThatCannotBeKept(
-             {product_.files(), product_.texts(), product_.bundle(), product_.paths(), product_.locations()},
-             direction)) {
+    for (const std::string& name : namesThatCannotBeKept(dictionaryServices(product_), direction)) {
       add(path / printable(name), "dictionary", "problem", "a style file cannot hold its name: rename it");
     }
   }

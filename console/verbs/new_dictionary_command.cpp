@@ -3,8 +3,9 @@
 #include "console/verbs/new_dictionary_command.h"
 
 #include "app/product.h"
-#include "app/program.h"
+#include "console/verbs/dictionary_services.h"
 #include "console/verbs/refusal.h"
+#include "dict/dictionary_creation.h"
 #include "dict/dictionary_names.h"
 #include "dict/user_lists.h"
 #include "platform/services/file_service.h"
@@ -32,17 +33,12 @@ DictController& listOf(UserLists& lists, DictionaryKind kind, Direction directio
   return isEnglish ? lists.ejUDController : lists.jeUDController;
 }
 
-std::string templateOf(Direction direction) {
-  return (direction == Direction::englishToJapanese ? "EJStationery." : "JEStationery.") +
-         std::string(extensionOf(DictionaryKind::user, direction));
-}
-
 }  // namespace
 
 ExitStatus NewDictionaryCommand::run(Console& console) {
   Product& product = console.product;
   if (const std::optional<Problem> failure = takeLock(console)) return tell(console, *failure);
-  UserLists lists({product.files(), product.texts(), product.bundle(), product.paths(), product.locations()});
+  UserLists lists(dictionaryServices(product));
   lists.setUp();
   const std::string name = trimmed(name_);
   const DictionaryNames names{product.files(), product.texts(), product.paths()};
@@ -56,7 +52,7 @@ ExitStatus NewDictionaryCommand::run(Console& console) {
   if (!made) return tell(console, made.error());
   // Without its template a dictionary counts as made, and there is no file.
   if (product.files().isAbsent(list.getDicPath(fileName))) {
-    const DiskPath path = product.bundle().folder() / templateOf(direction_);
+    const DiskPath path = product.bundle().folder() / templateName(direction_);
     return tell(console, Failure{path.text(), Attempt::copy, Reason::missingResource});
   }
   say(console, {{fileName}, std::nullopt});

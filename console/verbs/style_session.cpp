@@ -3,21 +3,14 @@
 #include "console/verbs/style_session.h"
 
 #include "app/product.h"
-#include "app/program.h"
 #include "app/style_loading.h"
+#include "app/user_files.h"
+#include "console/verbs/dictionary_services.h"
 #include "console/verbs/style_name.h"
 #include "platform/services/engine.h"
 #include "style/style_edits.h"
 
 namespace tarvo {
-
-namespace {
-
-DictController::Services dictionaryServices(Product& product) {
-  return {product.files(), product.texts(), product.bundle(), product.paths(), product.locations()};
-}
-
-}  // namespace
 
 StyleSession::StyleSession(Console& console)
     : console_(console),
