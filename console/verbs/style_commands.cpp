@@ -7,6 +7,7 @@
 #include "console/verbs/style_reading.h"
 #include "console/verbs/text_table.h"
 #include "platform/plist/json.h"
+#include "style/divider.h"
 #include "style/sibling_tools.h"
 #include "style/style_edits.h"
 #include "style/style_keys.h"
@@ -17,10 +18,6 @@ namespace tarvo {
 namespace {
 
 using Rows = std::vector<std::vector<std::string>>;
-
-std::string nameOf(const PropertyList& record) {
-  return record.dictionary() != nullptr ? styleName(*record.dictionary()) : "";
-}
 
 // The ids of the tools whose remembered style this is.
 std::vector<std::string> toolsAt(const Dictionary& root, int index, const std::vector<std::string>& ids) {
@@ -63,20 +60,21 @@ void addRows(Rows& rows, const Dictionary& dictionary, const std::string& before
 ExitStatus StylesCommand::run(Console& console) {
   const ReadStyles styles = readStyles(console);
   if (!styles.root) return styles.status;
-  const std::string divider = console.product.texts().localized(keyNameSeparator);
-  const std::vector<std::string> ids = toolIds(console.product.texts());
+  const Texts& texts = console.product.texts();
+  const std::vector<std::string> ids = toolIds(texts);
   const Array none;
   const Array* records = styles.root->array(keyNameStyle);
   Json::List list;
   Rows rows;
   int index = 0;
   for (const PropertyList& record : records != nullptr ? *records : none) {
-    const std::string name = nameOf(record);
-    const bool isDivider = name == divider;
+    const Dictionary* style = record.dictionary();
+    const std::string name = style != nullptr ? styleName(*style) : "";
+    const bool isLine = style != nullptr && isDivider(*style, texts);
     const std::vector<std::string> tools = toolsAt(*styles.root, index, ids);
-    rows.push_back({std::to_string(index), isDivider ? "(divider)" : printable(name), joined(tools, " ")});
+    rows.push_back({std::to_string(index), isLine ? "(divider)" : printable(name), joined(tools, " ")});
     list.emplace_back(Json::Object{
-        {"index", index}, {"name", name}, {"divider", isDivider}, {"tools", Json::List(tools.begin(), tools.end())}});
+        {"index", index}, {"name", name}, {"divider", isLine}, {"tools", Json::List(tools.begin(), tools.end())}});
     ++index;
   }
   if (console.json) {
