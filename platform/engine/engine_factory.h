@@ -22,8 +22,8 @@ struct EnginePlaces {
 // name, percent-encoded but for letters, digits and "-._~" (RFC 6570, simple expansion).
 std::string addressForUser(std::string_view address, std::string_view user);
 
-// The engine that an address stands for: "none" is none, "" the local one, http://… and https://… the
-// resource of this user on a style service (isHttpAddress). Null for an address that nothing here serves.
+// The engine that an address stands for: "none" is none, "" the local one, http://… and https://… the resource of this
+// user on a style service (isHttpAddress). Null for an address that nothing here serves.
 std::unique_ptr<Engine> makeEngine(const std::string& engineURL, FileService& files, const EnginePlaces& places);
 
 }  // namespace tarvo

@@ -12,9 +12,9 @@
 // The engine's style set in a file of this machine: a property list with the array "Style" and the text "Stamp".
 // Duty: keep the set and its stamp; always reachable. Not: translating. A stamp is a counter of fixed width, one more
 // at each registration, and the time in UTC: "00000000000000000042 2026-03-31T08:15:00Z". Every other text counts as 0.
-// The set is newer than a local one when its counter is greater. After a failed write
-// the stamp handed back is that of the set which the file lacks, so that the older one does not count as newer; a
-// file that cannot be read is kept beside the new one (see PlistFile).
+// The set is newer than a local one when its counter is greater. After a failed write the stamp handed back is that of
+// the set which the file lacks, so that the older one does not count as newer; a file that cannot be read is kept
+// beside the new one (see PlistFile).
 namespace tarvo {
 
 class FileService;

@@ -30,8 +30,8 @@ struct SavePanel {
   std::string name;
 };
 
-// Alerts, file panels and the beep. What begins as
-// a sheet returns at once; its handler is told once. The host has no other sheet: who opens one has asked Covers.
+// Alerts, file panels and the beep. What begins as a sheet returns at once; its handler is told once. The host has no
+// other sheet: who opens one has asked Covers.
 class Panels {
  public:
   virtual ~Panels() = default;

@@ -9,7 +9,7 @@ class QWidget;
 // One drawing per element that gives the window its face.
 // Duty: paint what the option says, with the option's palette. Each returns false when it is not its case, so that the
 // style's base draws; so it does for every element that is not listed here. Not: sizes and places of parts, which the
-// style answers (style_metrics.h).
+// style answers (tarvo_style.h).
 namespace tarvo {
 
 using Draw = bool (*)(QPainter& painter, const QStyleOption& option, const QWidget* widget);

@@ -9,7 +9,7 @@ namespace tarvo {
 class Binder;
 class Interface;
 
-// The pane of office add-ins: which tool the macros start.
+// The pane of Office add-ins: the applications, and the tool that the macros start.
 QWidget* buildOfficePane(Interface& interface, Binder& binder, QWidget* parent);
 
 }  // namespace tarvo
