@@ -8,7 +8,7 @@ namespace {
 
 using Verbs = VerbTest;
 
-TEST_F(Verbs, styleSetStoresEachValueAndRestoresTheChoice) {
+TEST_F(Verbs, styleSetStoresEachValueAndLeavesTheChoicesAlone) {
   putStyles("root4.plist");
   const ToolResult result = run({"style", "set", "1", "Opt2=2", "TOpt5=1", "GENE_NADONO=e.g.", "alphabet=1"});
   EXPECT_EQ(result.out, "");
