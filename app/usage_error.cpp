@@ -53,16 +53,22 @@ std::string nearestWord(std::string_view word, const std::vector<std::string>& a
   return *nearest;
 }
 
-std::string told(const UsageError& error, std::string_view program, const Texts& texts) {
-  std::string line(program);
-  line.append(": ").append(error.owner.empty() ? "" : error.owner + " ").append(error.word);
-  line.append(": ").append(texts.localized(keyOf(error.kind)));
+std::string subjectOf(const UsageError& error) {
+  return error.owner.empty() ? error.word : error.owner + " " + error.word;
+}
+
+std::string reasonOf(const UsageError& error, const Texts& texts) {
+  std::string reason = texts.localized(keyOf(error.kind));
   const std::string allowed = error.allowed.empty() ? texts.localized(error.otherwise) : listed(error.allowed);
-  if (!allowed.empty()) line.append("; ").append(texts.localized("Usage.Allowed")).append(": ").append(allowed);
+  if (!allowed.empty()) reason.append("; ").append(texts.localized("Usage.Allowed")).append(": ").append(allowed);
   const bool isMissing = error.kind == UsageError::Kind::missing || error.kind == UsageError::Kind::missingValue;
   const std::string nearest = isMissing ? "" : nearestWord(error.word, error.allowed);
-  if (!nearest.empty()) line.append("; ").append(texts.localized("Usage.Nearest")).append(": ").append(nearest);
-  return line;
+  if (!nearest.empty()) reason.append("; ").append(texts.localized("Usage.Nearest")).append(": ").append(nearest);
+  return reason;
+}
+
+std::string told(const UsageError& error, std::string_view program, const Texts& texts) {
+  return std::string(program) + ": " + subjectOf(error) + ": " + reasonOf(error, texts);
 }
 
 }  // namespace tarvo

@@ -20,7 +20,11 @@ struct UsageError {
   std::string owner;                 // the option or argument whose value is wrong
 };
 
-// One line without its end: program, word, what is wrong, what is allowed and the nearest allowed word.
+// The wrong word, behind what it is a value of.
+std::string subjectOf(const UsageError& error);
+// What is wrong; what is allowed; the nearest allowed word.
+std::string reasonOf(const UsageError& error, const Texts& texts);
+// One line without its end: program, subject, reason.
 std::string told(const UsageError& error, std::string_view program, const Texts& texts);
 
 // The word that begins with this one, else the one that the fewest single characters put in, left out or exchanged make

@@ -27,7 +27,7 @@ std::array<std::string, 3> partsOf(const std::string& text) {
   return parts;
 }
 
-// A problem in the four parts of its message.
+// A problem as it is told: what it is about, and "what; cause; cure".
 struct Told {
   std::string name, parts;
 };
@@ -37,11 +37,7 @@ struct Telling {
   Told operator()(const Refusal& refusal) const {
     return {refusal.name, filledIn(texts.localized(refusal.key), printable(refusal.detail))};
   }
-  Told operator()(const UsageError& error) const {
-    const std::string line = told(error, "", texts).substr(2);
-    const std::size_t name = line.find(": ");
-    return {line.substr(0, name), line.substr(name + 2)};
-  }
+  Told operator()(const UsageError& error) const { return {subjectOf(error), reasonOf(error, texts)}; }
   Told operator()(const Failure& failure) const { return {failure.path, failureCauseText(failure, texts)}; }
 };
 

@@ -211,5 +211,12 @@ TEST_F(StyleFrame, answersAreJsonWhereTheyAreAskedFor) {
   EXPECT_EQ(refused.err, told("4", noSuchStyle));
 }
 
+TEST_F(StyleFrame, aWrongWordIsNamedWholeAlsoWithAColonInIt) {
+  EXPECT_EQ(run({"style", "set", "3", "Opt1=x: y", "--json"}).out,
+            R"({"done":false,"error":{"cause":"allowed: 0, 1, 2","cure":"","name":"Opt1 x: y",)"
+            R"("what":"not a value for this"}})"
+            "\n");
+}
+
 }  // namespace
 }  // namespace tarvo::test
