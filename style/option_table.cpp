@@ -94,12 +94,6 @@ std::span<const std::string_view> detailHeadings() {
   return headings;
 }
 
-const DetailOption* detailOption(std::string_view key) {
-  const auto* option =
-      std::find_if(detailTable.begin(), detailTable.end(), [key](const DetailOption& row) { return row.key == key; });
-  return option != detailTable.end() ? option : nullptr;
-}
-
 std::string_view DetailOption::valueForTag(int tag) const {
   return values[static_cast<std::size_t>(tag >= 0 && tag < valueCount ? tag : otherwise)];
 }

@@ -46,8 +46,7 @@ struct DetailOption {
   std::string_view valueForTag(int tag) const;
   int tagForValue(std::string_view value) const;  // the first tag that yields it; -1: none
 };
-std::span<const DetailOption> detailOptions();  // 36, in the order in which a sender is looked for
-const DetailOption* detailOption(std::string_view key);
+std::span<const DetailOption> detailOptions();       // 36, in the order in which a sender is looked for
 std::span<const std::string_view> detailHeadings();  // text keys of the groups, in the order in which they are shown
 
 // Items with their tags: titles are the texts of "<KEY>.<index>" and "<KEY>.<value>"; without one, the key or the

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <string>
 #include <vector>
@@ -27,6 +28,11 @@ std::vector<const char*> onlyForTagOne(const char* value, const char* otherwise)
 }
 std::vector<const char*> onlyForTagZero(const char* value, const char* otherwise) {
   return {otherwise, value, otherwise, otherwise, otherwise, otherwise, otherwise, otherwise};
+}
+
+const DetailOption* detailOption(std::string_view key) {
+  const auto found = std::ranges::find(detailOptions(), key, &DetailOption::key);
+  return found != detailOptions().end() ? &*found : nullptr;
 }
 
 const std::vector<Mapping> mappings{
