@@ -49,7 +49,7 @@ struct ArgumentRow {
 
 struct VerbRow {
   const char* words;           // "styles"; "style show", which stands behind the row "style" of its group
-  const char* meaning;         // key of a text
+  std::string meaning;         // key of a text
   const char* arguments = "";  // names of arguments: "N NAME... [VERSION]"; in brackets what may be left out, with dots
                                // what may come again, which goes into a list
 };

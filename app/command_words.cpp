@@ -53,7 +53,7 @@ class Parser {
   }
 
  private:
-  std::string text(const char* key) const { return texts_ != nullptr ? texts_->localized(key) : ""; }
+  std::string text(std::string_view key) const { return texts_ != nullptr ? texts_->localized(key) : ""; }
 
   void labelHelp(CLI::FormatterBase& help) const {
     help.label("Usage", text("Usage.Usage"));

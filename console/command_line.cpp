@@ -19,8 +19,7 @@ namespace tarvo {
 namespace {
 
 struct Verb {
-  const char* words;
-  const char* meaning;
+  const char* words;  // what they mean: the text "Verb.WORDS"
   const char* arguments = "";
   std::unique_ptr<Command> (*make)(const CommandLine& line) = nullptr;  // null: a group, or a script to be run
   bool mayAnswerJson = false;
@@ -47,46 +46,42 @@ AddinName addinOf(const CommandLine& line) { return {line.words.name, line.words
 using Line = const CommandLine&;
 
 constexpr Verb verbs[] = {
-    {"styles", "Verb.styles", "", [](Line) { return make<StylesCommand>(); }, true},
-    {"style", "Verb.style"},
-    {"style show", "Verb.style show", "N", [](Line line) { return make<StyleShowCommand>(line.words.style); }, true},
-    {"style set", "Verb.style set", "N KEY=VALUE...",
-     [](Line line) { return make<StyleSetCommand>(line.words.style, line.words.pairs); }, true},
-    {"style use", "Verb.style use", "N TOOLS...",
-     [](Line line) { return make<StyleUseCommand>(line.words.style, line.words.tools); }, true},
-    {"style rename", "Verb.style rename", "N NAME",
-     [](Line line) { return make<StyleRenameCommand>(line.words.style, line.words.name); }, true},
-    {"style export", "Verb.style export", "N FILE",
-     [](Line line) { return make<StyleExportCommand>(line.words.style, line.words.file); }, true},
-    {"style import", "Verb.style import", "N FILE",
-     [](Line line) { return make<StyleImportCommand>(line.words.style, line.words.file); }, true},
-    {"dictionaries", "Verb.dictionaries", "N DIRECTION",
-     [](Line line) { return make<DictionariesCommand>(listOf(line)); }, true},
-    {"dictionary", "Verb.dictionary"},
-    {"dictionary add", "Verb.dictionary add", "N DIRECTION NAMES...",
+    {"styles", "", [](Line) { return make<StylesCommand>(); }, true},
+    {"style"},
+    {"style show", "N", [](Line line) { return make<StyleShowCommand>(line.words.style); }, true},
+    {"style set", "N KEY=VALUE...", [](Line line) { return make<StyleSetCommand>(line.words.style, line.words.pairs); },
+     true},
+    {"style use", "N TOOLS...", [](Line line) { return make<StyleUseCommand>(line.words.style, line.words.tools); },
+     true},
+    {"style rename", "N NAME", [](Line line) { return make<StyleRenameCommand>(line.words.style, line.words.name); },
+     true},
+    {"style export", "N FILE", [](Line line) { return make<StyleExportCommand>(line.words.style, line.words.file); },
+     true},
+    {"style import", "N FILE", [](Line line) { return make<StyleImportCommand>(line.words.style, line.words.file); },
+     true},
+    {"dictionaries", "N DIRECTION", [](Line line) { return make<DictionariesCommand>(listOf(line)); }, true},
+    {"dictionary"},
+    {"dictionary add", "N DIRECTION NAMES...",
      [](Line line) { return make<AddDictionariesCommand>(listOf(line), line.words.names); }, true},
-    {"dictionary remove", "Verb.dictionary remove", "N DIRECTION NAMES...",
+    {"dictionary remove", "N DIRECTION NAMES...",
      [](Line line) { return make<RemoveDictionariesCommand>(listOf(line), line.words.names); }, true},
-    {"dictionary move", "Verb.dictionary move", "N DIRECTION NAME POSITION",
+    {"dictionary move", "N DIRECTION NAME POSITION",
      [](Line line) { return make<MoveDictionaryCommand>(listOf(line), line.words.name, line.words.position); }, true},
-    {"new", "Verb.new", "DIRECTION KIND NAME",
+    {"new", "DIRECTION KIND NAME",
      [](Line line) { return make<NewDictionaryCommand>(directionOf(line), kindOf(line), line.words.name); }, true},
-    {"addins", "Verb.addins", "", [](Line) { return make<AddinsCommand>(); }, true},
-    {"addin", "Verb.addin"},
-    {"addin install", "Verb.addin install", "NAME [VERSION]",
-     [](Line line) { return make<AddinEditCommand>(addinOf(line), true); }, true},
-    {"addin remove", "Verb.addin remove", "NAME [VERSION]",
-     [](Line line) { return make<AddinEditCommand>(addinOf(line), false); }, true},
-    {"addin search", "Verb.addin search", "FOLDER",
-     [](Line line) { return make<AddinSearchCommand>(line.words.folder); }, true},
-    {"tool-list", "Verb.tool-list", "[TOOL]", [](Line line) { return make<ToolListCommand>(line.words.tool); }, true},
-    {"open", "Verb.open", "CODE", [](Line line) { return make<OpenCommand>(wordsForWindow(line), line.words.code); }},
-    {"engine", "Verb.engine"},
-    {"engine status", "Verb.engine status", "", [](Line) { return make<EngineStatusCommand>(); }, true},
-    {"engine push", "Verb.engine push", "", [](Line) { return make<EnginePushCommand>(); }, true},
-    {"engine pull", "Verb.engine pull", "", [](Line) { return make<EnginePullCommand>(); }, true},
-    {"doctor", "Verb.doctor", "", [](Line) { return make<DoctorCommand>(); }, true, false},
-    {"run", "Verb.run", "[FILE]"},
+    {"addins", "", [](Line) { return make<AddinsCommand>(); }, true},
+    {"addin"},
+    {"addin install", "NAME [VERSION]", [](Line line) { return make<AddinEditCommand>(addinOf(line), true); }, true},
+    {"addin remove", "NAME [VERSION]", [](Line line) { return make<AddinEditCommand>(addinOf(line), false); }, true},
+    {"addin search", "FOLDER", [](Line line) { return make<AddinSearchCommand>(line.words.folder); }, true},
+    {"tool-list", "[TOOL]", [](Line line) { return make<ToolListCommand>(line.words.tool); }, true},
+    {"open", "CODE", [](Line line) { return make<OpenCommand>(wordsForWindow(line), line.words.code); }},
+    {"engine"},
+    {"engine status", "", [](Line) { return make<EngineStatusCommand>(); }, true},
+    {"engine push", "", [](Line) { return make<EnginePushCommand>(); }, true},
+    {"engine pull", "", [](Line) { return make<EnginePullCommand>(); }, true},
+    {"doctor", "", [](Line) { return make<DoctorCommand>(); }, true, false},
+    {"run", "[FILE]"},
 };
 
 CommandTable tableFor(CommandLine& line) {
@@ -108,7 +103,7 @@ CommandTable tableFor(CommandLine& line) {
                       {"TOOL", &words.tool, {}, "Argument.TOOL"},
                       {"CODE", &words.code, {}, "Argument.CODE"}},
                      {}};
-  for (const Verb& verb : verbs) table.verbs.push_back({verb.words, verb.meaning, verb.arguments});
+  for (const Verb& verb : verbs) table.verbs.push_back({verb.words, std::string("Verb.") + verb.words, verb.arguments});
   return table;
 }
 
