@@ -21,8 +21,7 @@ ScenarioSession::ScenarioSession(const ScenarioOptions& options, ScenarioShell& 
       engine_(configured_ ? *configured_ : scripted_, recorder_),
       panels_(recorder_, shell),
       workspace_(recorder_),
-      scripts_(product_.scripts(), recorder_),
-      usesConfigured_(options.product.engine.has_value()) {
+      scripts_(product_.scripts(), recorder_) {
   files_.name(product_.locations().inHome(gStylePath), "styles");
   files_.name(toolListPath(product_.locations()), "tool list");
   files_.name(userDefaultsPath(product_.locations()), "");
@@ -32,7 +31,7 @@ ScenarioSession::ScenarioSession(const ScenarioOptions& options, ScenarioShell& 
 ScenarioSession::~ScenarioSession() { drop(); }
 
 ScriptedEngine& ScenarioSession::engine() {
-  if (usesConfigured_) throw ScriptError("the engine is not the scripted one");
+  if (configured_) throw ScriptError("the engine is not the scripted one");
   return scripted_;
 }
 

@@ -74,14 +74,14 @@ class ScenarioSession {
   Recorder recorder_;
   RecordedFiles files_;
   ScriptedEngine scripted_;
-  std::unique_ptr<Engine> configured_;  // by --engine
+  std::unique_ptr<Engine> configured_;  // by --engine; null: the scripted one is used
   RecordedEngine engine_;
   ScriptedPanels panels_;
   RecordedWorkspace workspace_;
   RecordedScripts scripts_;
   std::unique_ptr<Program> program_;
   Phase phase_ = Phase::none;
-  bool usesConfigured_, constructed_ = false, lockedOut_ = false;
+  bool constructed_ = false, lockedOut_ = false;
 };
 
 }  // namespace tarvo
