@@ -94,7 +94,7 @@ ExitStatus runScriptFile(const CommandLine& line) {
                    text, std::cout, std::cerr);
 }
 
-// The verbs that need the product's resources do nothing without them.
+// The verbs that need the product's resources do nothing without them. Told in English: the texts are among what lacks.
 ExitStatus refuse(const Failure& missing, const CommandLine& line) {
   std::cerr << "tarvoctl: ";
   if (missing.cause == std::errc::no_such_file_or_directory) {
