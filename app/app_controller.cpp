@@ -8,11 +8,11 @@
 #include "app/rooms.h"
 #include "app/style_loading.h"
 #include "app/style_menu.h"
+#include "dict/dictionary_folders.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/notification_center.h"
 #include "platform/services/notification_names.h"
 #include "platform/services/panels.h"
-#include "platform/services/product_paths.h"
 #include "platform/services/system_version.h"
 #include "platform/services/texts.h"
 #include "platform/services/user_defaults.h"
@@ -58,12 +58,11 @@ void AppController::showStyles() {
 }
 
 void AppController::createDictControllers() {
-  const ProductPaths& paths = services_.paths;
   constexpr DictionaryKind technical = DictionaryKind::technical;
-  rooms_.lists.ejTDController().initializeDictController(technical, paths.tarvoPathTechnicalDicEngFolderURL(),
-                                                         Direction::englishToJapanese);
-  rooms_.lists.jeTDController().initializeDictController(technical, paths.tarvoPathTechnicalDicJpnFolderURL(),
-                                                         Direction::japaneseToEnglish);
+  for (const Direction direction : bothDirections) {
+    rooms_.lists.getActiveDictController(direction).initializeDictController(
+        technical, dictionaryFolder(services_.paths, technical, direction), direction);
+  }
   interface_.lists.ejTDTable.registerForDraggedTypes({"row"});
   interface_.lists.jeTDTable.registerForDraggedTypes({"row"});
   rooms_.userLists.setUp();

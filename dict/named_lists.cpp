@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "dict/dictionary_folders.h"
 #include "platform/plist/plist_writer.h"
 #include "platform/services/file_service.h"
-#include "platform/services/product_paths.h"
 #include "platform/text/text_rules.h"
 #include "style/style_keys.h"
 #include "style/style_store.h"
@@ -18,8 +18,7 @@ namespace {
 using Kind = ListProblem::Kind;
 
 DiskPath folderOf(const DictController::Services& services, Direction direction) {
-  return direction == Direction::englishToJapanese ? services.paths.tarvoPathTechnicalDicEngFolderURL()
-                                                   : services.paths.tarvoPathTechnicalDicJpnFolderURL();
+  return dictionaryFolder(services.paths, DictionaryKind::technical, direction);
 }
 
 Names storedNames(const Dictionary& record, Direction direction) {

@@ -5,11 +5,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "dict/dictionary_folders.h"
 #include "dict/display_names.h"
 #include "dict/running_application_guard.h"
 #include "platform/services/notification_center.h"
 #include "platform/services/notification_names.h"
-#include "platform/services/product_paths.h"
 #include "platform/services/texts.h"
 #include "platform/services/workspace.h"
 #include "platform/text/text_rules.h"
@@ -127,15 +127,7 @@ void TechDicController::showRoom() {
 void TechDicController::OpenFolder(int senderTag) {
   const std::optional<DictionaryKind> kind = dictionaryKindForNumber(senderTag);
   if (!kind) return;
-  DiskPath folder;
-  switch (*kind) {
-    case DictionaryKind::technical:
-      folder = request_.direction == Direction::englishToJapanese ? paths_.tarvoPathTechnicalDicEngFolderURL()
-                                                                  : paths_.tarvoPathTechnicalDicJpnFolderURL();
-      break;
-    case DictionaryKind::user: folder = paths_.tarvoPathUserDicFolderURL(); break;
-    case DictionaryKind::memory: folder = paths_.tarvoPathUserTmaFolderURL(); break;
-  }
+  const DiskPath folder = dictionaryFolder(paths_, *kind, request_.direction);
   if (!folder.empty()) with_.workspace.openFile(folder);
 }
 

@@ -11,6 +11,7 @@
 #include "console/verbs/doctor_addins.h"
 #include "console/verbs/refusal.h"
 #include "console/verbs/text_table.h"
+#include "dict/dictionary_folders.h"
 #include "dict/named_lists.h"
 #include "platform/plist/json.h"
 #include "platform/services/engine.h"
@@ -107,7 +108,8 @@ class Examination {
     }
   }
 
-  void dictionaryFolder(const DiskPath& path, const char* what, DictionaryKind kind, Direction direction) {
+  void folderOf(DictionaryKind kind, Direction direction, const char* what) {
+    const DiskPath path = dictionaryFolder(product_.paths(), kind, direction);
     const auto names = product_.files().list(path);
     if (!names) return folder(path, what);
     DictController list(dictionaryServices(product_));
@@ -121,19 +123,14 @@ class Examination {
   }
 
   void dictionaries() {
-    const ProductPaths& paths = product_.paths();
     using enum Direction;
-    dictionaryFolder(paths.tarvoPathTechnicalDicEngFolderURL(), "dictionaries English to Japanese",
-                     DictionaryKind::technical, englishToJapanese);
-    dictionaryFolder(paths.tarvoPathTechnicalDicJpnFolderURL(), "dictionaries Japanese to English",
-                     DictionaryKind::technical, japaneseToEnglish);
-    for (const Direction direction : bothDirections) {
-      const bool english = direction == englishToJapanese;
-      const char* user = english ? "user dictionaries English to Japanese" : "user dictionaries Japanese to English";
-      const char* memory = english ? "memories English to Japanese" : "memories Japanese to English";
-      dictionaryFolder(paths.tarvoPathUserDicFolderURL(), user, DictionaryKind::user, direction);
-      dictionaryFolder(paths.tarvoPathUserTmaFolderURL(), memory, DictionaryKind::memory, direction);
-    }
+    using enum DictionaryKind;
+    folderOf(technical, englishToJapanese, "dictionaries English to Japanese");
+    folderOf(technical, japaneseToEnglish, "dictionaries Japanese to English");
+    folderOf(user, englishToJapanese, "user dictionaries English to Japanese");
+    folderOf(memory, englishToJapanese, "memories English to Japanese");
+    folderOf(user, japaneseToEnglish, "user dictionaries Japanese to English");
+    folderOf(memory, japaneseToEnglish, "memories Japanese to English");
   }
 
   void medical() {
