@@ -62,7 +62,7 @@ ExitStatus runVerb(const CommandLine& line, Command& command) {
   console.textsToTell = [&line] { return textsToTell(line); };
   console.json = line.json;
   console.engineIsWanted = line.product.engine != "none";
-  if (product.unread()) return tell(console, *product.unread());
+  if (const std::optional<Failure>& unread = product.unread()) return tell(console, *unread);
   return command.run(console);
 }
 

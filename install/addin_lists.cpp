@@ -39,8 +39,7 @@ AddinPlaces AddinLists::placesOf(const AddinEntry& entry) const {
 
 Result<> AddinLists::loadAddinPlist() {
   Result<std::vector<SharedEntry>> shipped = readShipped();
-  fDefaultOfficeSetArray_.reset();
-  if (shipped) fDefaultOfficeSetArray_ = std::move(*shipped);
+  fDefaultOfficeSetArray_ = shipped ? std::optional(*shipped) : std::nullopt;
   fOfficeArray_.clear();
   const PropertyList* remembered = services_.defaults.find(office);
   if (remembered != nullptr && remembered->array() != nullptr) {
@@ -49,7 +48,7 @@ Result<> AddinLists::loadAddinPlist() {
     return {};
   }
   if (!shipped) return shipped.error();
-  fOfficeArray_ = *fDefaultOfficeSetArray_;
+  fOfficeArray_ = std::move(*shipped);
   for (const SharedEntry& entry : fOfficeArray_) {
     if (isMailAddin(*entry)) prefixHome(*entry);
   }

@@ -36,10 +36,11 @@ Result<> OfficeFolderSearch::searchFolder(const DiskPath& folder) {
     const DiskPath path = folder / name;
     const Result<Dictionary> information = readDictionary(services_.files, path / "Contents/Info.plist");
     if (!information || addinText(*information, "CFBundlePackageType") != "APPL") continue;
-    if (!lists_.fDefaultOfficeSetArray() || !canBeStored(path)) continue;
+    const auto& allShipped = lists_.fDefaultOfficeSetArray();
+    if (!allShipped || !canBeStored(path)) continue;
     const int version = getApplicationVer(path);
     const std::string signature = addinText(*information, "CFBundleSignature");
-    for (const AddinLists::SharedEntry& shipped : *lists_.fDefaultOfficeSetArray()) {
+    for (const AddinLists::SharedEntry& shipped : *allShipped) {
       getAddOfficeDictionary(*shipped, version, path, signature, folder);
     }
   }

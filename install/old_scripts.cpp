@@ -42,8 +42,8 @@ OldScripts::OldScripts(Services services, AddinLists& lists, MailScriptInstaller
 
 void OldScripts::OldscriptUninstall() {
   std::array<bool, generations.size()> removed{};
-  if (lists_.fDefaultOfficeSetArray()) {
-    for (const AddinLists::SharedEntry& shipped : *lists_.fDefaultOfficeSetArray()) {
+  if (const auto& allShipped = lists_.fDefaultOfficeSetArray()) {
+    for (const AddinLists::SharedEntry& shipped : *allShipped) {
       for (std::size_t i = 0; i < generations.size(); ++i) {
         if (isOf(generations[i], *shipped) && removeFor(*shipped, generations[i].folderKey)) removed[i] = true;
       }

@@ -57,20 +57,26 @@ std::optional<int> enter(std::optional<InstanceLock>& lock, const CommandLine& l
   return tell(locked, "the styles of this user are open in another program (it holds " + lockFile.text() + ")");
 }
 
+// As desktops and buses know it, and as people read it.
+void nameApplication(const Texts& texts) {
+  QApplication::setApplicationName(QStringLiteral("tarvo-manager"));
+  QApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("com.wordhaven.TarvoManager"));
+  QGuiApplication::setApplicationDisplayName(toQString(texts.localized("ApplicationName")));
+}
+
 int runManager(const CommandLine& line, int& argc, char** argv) {
   avoidHangingBus();
   Product product(line.product);
   if (!product.problem().empty()) return tell(misused, product.problem());
-  if (product.unread()) return tell(failed, failureText(*product.unread(), textsToTell(line)));
+  if (const std::optional<Failure>& unread = product.unread())
+    return tell(failed, failureText(*unread, textsToTell(line)));
   const BusIdentity identity = identityOf(line, product.locations());
   std::optional<InstanceLock> lock;
   const auto status = enter(lock, line, lockPath(product.locations()), identity);
   if (status) return *status;
   QApplication application(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("tarvo-manager"));
-  QApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
-  QGuiApplication::setDesktopFileName(QStringLiteral("com.wordhaven.TarvoManager"));
-  QGuiApplication::setApplicationDisplayName(toQString(product.texts().localized("ApplicationName")));
+  nameApplication(product.texts());
   applyLook(schemeFromEnvironment(), product.language());
   Shell shell(product, application, [&product] { return runningApplications(product.locations()); });
   if (line.open) shell.program().requests().eventText(*line.open);

@@ -104,8 +104,9 @@ Result<StyleStore::Reconciled> StyleStore::reconcile() {
   const std::optional<StyleSet> styles = styleSet();
   Result<std::optional<Array>> newer = registration_.reconcile(styles ? &*styles : nullptr);
   if (!newer) return newer.error();
-  if (!*newer) return Reconciled::kept;
-  replaceStyles(std::move(**newer));
+  std::optional<Array>& taken = *newer;
+  if (!taken) return Reconciled::kept;
+  replaceStyles(std::move(*taken));
   return Reconciled::replaced;
 }
 

@@ -47,7 +47,7 @@ Result<> AddinSession::searchFolder(const DiskPath& folder) {
 
 Result<> AddinSession::store() {
   lists_.storeRows();
-  if (defaults_.unwritten()) return *defaults_.unwritten();
+  if (const std::optional<Failure>& unwritten = defaults_.unwritten()) return *unwritten;
   return {};
 }
 

@@ -17,10 +17,10 @@ ExitStatus runScript(const ScenarioOptions& options, ScenarioClock& clock, const
     err << problem << '\n';
     return ExitStatus::usage;
   }
-  if (session.product().unread()) {
+  if (const std::optional<Failure>& unread = session.product().unread()) {
     CommonOptions shown;
     shown.product.language = options.product.language;
-    err << "tarvoctl: " << failureText(*session.product().unread(), textsToTell(shown)) << '\n';
+    err << "tarvoctl: " << failureText(*unread, textsToTell(shown)) << '\n';
     return ExitStatus::refused;
   }
   Interpreter interpreter(session, text, file, out);

@@ -27,7 +27,7 @@ std::size_t toolFor(const ToolListFile& file, const std::string& code) {
 Result<> write(ToolListFile& file, const UserDefaults& defaults, std::size_t tool, Product& product) {
   if (Result<> made = product.files().makeFolder(file.path().folder()); !made) return made;
   if (Result<> written = file.write(tool, officeToolTitle(tool, product.texts())); !written) return written;
-  if (defaults.unwritten()) return *defaults.unwritten();
+  if (const std::optional<Failure>& unwritten = defaults.unwritten()) return *unwritten;
   return {};
 }
 

@@ -52,9 +52,9 @@ Result<> makeFolders(const DiskPath& path) {
   if (above.empty() || above == path) return Failure{path.text(), Attempt::makeFolder, Reason::noPath};
   if (Result<> made = makeFolders(above); !made) return made;
   if (::mkdir(path.text().c_str(), 0777) != 0) {
-    if (errno == EEXIST && isFolder(path.text())) return {};
-    errno = errno == EEXIST ? ENOTDIR : errno;
-    return systemFailure(path.text(), Attempt::makeFolder);
+    if (errno != EEXIST) return systemFailure(path.text(), Attempt::makeFolder);
+    if (isFolder(path.text())) return {};
+    return Failure{path.text(), Attempt::makeFolder, std::make_error_code(std::errc::not_a_directory)};
   }
   if (::chmod(path.text().c_str(), 0777) == 0) return {};
   return systemFailure(path.text(), Attempt::makeFolder);
