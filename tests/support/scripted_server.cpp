@@ -145,7 +145,7 @@ void ScriptedServer::serve(int connection) {
 // Whether the connection goes on.
 bool ScriptedServer::answer(int connection, const Reply& reply) {
   using Way = Reply::Way;
-  const std::string head = headOf(reply);
+  const std::string head = reply.interim + headOf(reply);
   constexpr int forever = 3'600'000, betweenBytes = 20;
   switch (reply.way) {
     case Way::whole: return sendAll(connection, head + reply.body);

@@ -28,6 +28,7 @@ struct Reply {
   // How it is sent. nothing: taken and never answered; headOnly: the body never comes; drip: a byte each 20 ms;
   // half: the connection ends in the middle of the body; dropped: it ends without an answer.
   enum class Way { whole, nothing, headOnly, drip, half, dropped } way = Way::whole;
+  std::string interim = {};  // an answer that is sent before this one, as it stands
 };
 
 class ScriptedServer {

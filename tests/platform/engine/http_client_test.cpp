@@ -102,6 +102,14 @@ TEST(HttpClient, aKeptConnectionThatTheServerEndedIsReplaced) {
   EXPECT_EQ(server.connections(), 2);
 }
 
+TEST(HttpClient, theHeadersOfAnInterimAnswerAreNotThoseOfTheAnswer) {
+  const std::string early = "HTTP/1.1 103 Early Hints\r\nETag: \"early\"\r\n\r\n";
+  const ScriptedServer server([&](const SeenRequest&) { return Reply{.headers = {"Allow: PUT"}, .interim = early}; });
+  const HttpAnswer answer = HttpClient({server.address(), {}, {}}).send({"GET", {}, {}}, 10s);
+  EXPECT_TRUE(answer.headers.contains("allow"));
+  EXPECT_FALSE(answer.headers.contains("etag"));
+}
+
 TEST(HttpClient, credentialsComeFromTheUsersNetrcOnly) {
   const ScriptedServer server(
       [](const SeenRequest& request) { return Reply{200, {}, request.header("authorization")}; });
