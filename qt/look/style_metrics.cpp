@@ -36,6 +36,7 @@ constexpr std::pair<QStyle::PixelMetric, int> fixedMetrics[] = {
 constexpr std::pair<QStyle::StyleHint, int> fixedHints[] = {
     {QStyle::SH_ComboBox_AllowWheelScrolling, 0},
     {QStyle::SH_ComboBox_Popup, 1},
+    {QStyle::SH_DialogButtonBox_ButtonsHaveIcons, 0},
     {QStyle::SH_DialogButtonLayout, QDialogButtonBox::GnomeLayout},  // the default button rightmost
     {QStyle::SH_EtchDisabledText, 0},
     {QStyle::SH_FormLayoutFieldGrowthPolicy, QFormLayout::FieldsStayAtSizeHint},

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPixmap>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStyle>
@@ -163,6 +164,20 @@ TEST(Look, theDefaultButtonOfARowIsRightmostAndBare) {
   const QPushButton* ok = row.button(QDialogButtonBox::Ok);
   EXPECT_GT(ok->x(), row.button(QDialogButtonBox::Cancel)->x());
   EXPECT_TRUE(ok->icon().isNull());
+}
+
+// Stands for a desktop whose dialogs show a picture on each button.
+struct PicturesOnButtons : QProxyStyle {
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* returned) const override {
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 1 : QProxyStyle::styleHint(hint, option, widget, returned);
+  }
+};
+
+TEST(Look, buttonsOfFilePanelsStayBareWhereTheDesktopPutsPicturesOnThem) {
+  TarvoStyle look(Scheme::light);
+  look.setBaseStyle(new PicturesOnButtons);
+  EXPECT_EQ(look.styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons), 0);
 }
 
 TEST(Look, theWheelDoesNotChangePopUps) { EXPECT_EQ(style().styleHint(QStyle::SH_ComboBox_AllowWheelScrolling), 0); }
