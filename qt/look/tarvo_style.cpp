@@ -3,7 +3,7 @@
 #include "qt/look/tarvo_style.h"
 
 #include <QApplication>
-#include <QStyleOptionMenuItem>
+#include <QPainter>
 #include <QStyleOptionViewItem>
 
 #include "qt/look/draw.h"
@@ -67,6 +67,11 @@ QColor rowTint(const QStyleOption& option, const QWidget* widget) {
                 : mixed(palette.color(QPalette::Base), palette.color(QPalette::Highlight), 0.16);
 }
 
+// Tells the current item of a pop-up while another one is pointed at and tinted: the open list may cover the pop-up.
+void drawCurrentMark(QPainter& painter, const QRect& row, const QPalette& palette) {
+  painter.fillRect(QRect(row.topLeft(), QSize(3, row.height())), palette.color(QPalette::Highlight));
+}
+
 }  // namespace
 
 TarvoStyle::TarvoStyle(Scheme scheme) : QProxyStyle(QStringLiteral("fusion")), scheme_(scheme) {}
@@ -82,10 +87,17 @@ void TarvoStyle::drawControl(ControlElement element, const QStyleOption* option,
   if (drawn(controls, element, option, painter, widget)) return;
   if (const auto* cell = qstyleoption_cast<const QStyleOptionViewItem*>(option))
     return drawRow(element, *cell, painter, widget);
-  if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-      item && element == CE_MenuItem && is(*item, State_Enabled))
-    return drawRow(element, *item, painter, widget);
+  if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option); item && element == CE_MenuItem)
+    return drawItem(*item, painter, widget);
   QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void TarvoStyle::drawItem(QStyleOptionMenuItem item, QPainter* painter, const QWidget* widget) const {
+  // The base writes the title of a divider beside its line; those of the styles have one, which is no text to read.
+  if (item.menuItemType == QStyleOptionMenuItem::Separator) item.text.clear();
+  if (!is(item, State_Enabled)) return QProxyStyle::drawControl(CE_MenuItem, &item, painter, widget);
+  drawRow(CE_MenuItem, item, painter, widget);
+  if (item.checked && widget && widget->inherits("QComboBox")) drawCurrentMark(*painter, item.rect, item.palette);
 }
 
 template <class Row>

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QProxyStyle>
+#include <QStyleOptionMenuItem>
 #include <string>
 
 #include "qt/look/palette.h"
@@ -40,6 +41,9 @@ class TarvoStyle : public QProxyStyle {
   // A row of a list or menu: the base draws it as one that is not chosen, over the tint of a chosen one.
   template <class Row>
   void drawRow(ControlElement element, Row row, QPainter* painter, const QWidget* widget) const;
+
+  // An item of a menu or an open pop-up.
+  void drawItem(QStyleOptionMenuItem item, QPainter* painter, const QWidget* widget) const;
 
   Scheme scheme_;
 };

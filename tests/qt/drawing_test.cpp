@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QPainter>
 #include <QPushButton>
+#include <QStyleOptionMenuItem>
 #include <QTableWidget>
 #include <QToolButton>
 
@@ -93,6 +95,50 @@ TEST(PushButton, theDefaultOneIsFilledWithTheAccentUnlessDisabled) {
   EXPECT_EQ(plate(), accent);
   button.setEnabled(false);
   EXPECT_NE(plate(), accent);
+}
+
+// A row of an open pop-up, as the toolkit asks for it.
+QImage popUpRow(QComboBox& combo, const std::function<void(QStyleOptionMenuItem&)>& set) {
+  QStyleOptionMenuItem row;
+  row.initFrom(&combo);
+  row.rect = QRect(0, 0, 200, 26);
+  row.menuItemType = QStyleOptionMenuItem::Normal;
+  row.checkType = QStyleOptionMenuItem::NonExclusive;
+  set(row);
+  QImage image(row.rect.size(), QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  combo.style()->drawControl(QStyle::CE_MenuItem, &row, &painter, &combo);
+  return image;
+}
+
+TEST(PopUp, theCurrentItemIsMarkedWhileAnotherIsPointedAt) {
+  QComboBox combo;
+  const QColor accent = makePalette(Scheme::light).color(QPalette::Highlight);
+  const auto accented = [&](bool isCurrent, QStyle::State pointedAt) {
+    const QImage image = popUpRow(combo, [&](QStyleOptionMenuItem& row) {
+      row.checked = isCurrent;
+      row.state = QStyle::State_Enabled | pointedAt;
+    });
+    return pixels(image, [&](const QColor& c) { return c == accent; });
+  };
+  for (const QStyle::State pointedAt : {QStyle::State_None, QStyle::State_Selected}) {
+    EXPECT_GT(accented(true, pointedAt), 50);
+    EXPECT_EQ(accented(false, pointedAt), 0);
+  }
+}
+
+TEST(PopUp, aDividerIsALineWithoutItsTitle) {
+  QComboBox combo;
+  const auto divider = [&](const QString& title) {
+    return popUpRow(combo, [&](QStyleOptionMenuItem& row) {
+      row.menuItemType = QStyleOptionMenuItem::Separator;
+      row.state = QStyle::State_None;
+      row.text = title;
+    });
+  };
+  EXPECT_EQ(divider(QStringLiteral("----------")), divider(QString()));
+  EXPECT_GT(pixels(divider(QString()), [](const QColor& c) { return c != QColor(Qt::white); }), 100);
 }
 
 TEST(Table, theTintOfTheChosenRowRunsOverAllColumns) {
