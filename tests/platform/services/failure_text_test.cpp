@@ -35,6 +35,22 @@ TEST(FailureText, saysPathAttemptCauseAndCure) {
   EXPECT_EQ(failureCauseText(failureOf(EROFS), shipped("en")), "cannot be written; the disk can only be read");
 }
 
+// Long vowels at the end of a word are written out, as in the window: "フォルダー", "ユーザー".
+TEST(ShippedTexts, spellAJapaneseWordOneWay) {
+  const Locations locations("/", "/");
+  const PosixFiles files(locations);
+  const auto table = files.read(DiskPath(TARVO_SOURCE_DIR "/resources/ja.lproj/Localizable.strings"));
+  ASSERT_TRUE(table);
+  std::string text = *table;
+  const std::string example = "(ユーザ = ユーザー)";  // of an option that is about such spellings
+  text.erase(text.find(example), example.size());
+  for (const std::string word : {"フォルダ", "ユーザ", "マネージャ", "サーバ", "コンピュータ"}) {
+    for (std::size_t at = text.find(word); at != std::string::npos; at = text.find(word, at + 1)) {
+      EXPECT_EQ(text.compare(at + word.size(), 3, "ー"), 0) << text.substr(at, 60);
+    }
+  }
+}
+
 TEST(FailureText, hasWordsForEveryAttemptAndReasonInBothLanguages) {
   for (const char* language : {"en", "ja"}) {
     const Texts texts = shipped(language);
