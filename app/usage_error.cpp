@@ -17,10 +17,17 @@ const char* keyOf(UsageError::Kind kind) {
     case UsageError::Kind::unknownVerb: return "Usage.UnknownVerb";
     case UsageError::Kind::unexpected: return "Usage.Unexpected";
     case UsageError::Kind::wrongValue: return "Usage.WrongValue";
+    case UsageError::Kind::ambiguous: return "Usage.Ambiguous";
     case UsageError::Kind::missing: return "Usage.Missing";
     case UsageError::Kind::missingValue: return "Usage.MissingValue";
   }
   return "";
+}
+
+// Whether the wrong word may be meant for one that is allowed.
+bool resemblesOne(UsageError::Kind kind) {
+  return kind != UsageError::Kind::ambiguous && kind != UsageError::Kind::missing &&
+         kind != UsageError::Kind::missingValue;
 }
 
 // How many characters have to be put in, left out or exchanged (Levenshtein); none for a beginning.
@@ -61,8 +68,7 @@ std::string reasonOf(const UsageError& error, const Texts& texts) {
   std::string reason = texts.localized(keyOf(error.kind));
   const std::string allowed = error.allowed.empty() ? texts.localized(error.otherwise) : listed(error.allowed);
   if (!allowed.empty()) reason.append("; ").append(texts.localized("Usage.Allowed")).append(": ").append(allowed);
-  const bool isMissing = error.kind == UsageError::Kind::missing || error.kind == UsageError::Kind::missingValue;
-  const std::string nearest = isMissing ? "" : nearestWord(error.word, error.allowed);
+  const std::string nearest = resemblesOne(error.kind) ? nearestWord(error.word, error.allowed) : "";
   if (!nearest.empty()) reason.append("; ").append(texts.localized("Usage.Nearest")).append(": ").append(nearest);
   return reason;
 }

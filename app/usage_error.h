@@ -12,7 +12,7 @@ namespace tarvo {
 class Texts;
 
 struct UsageError {
-  enum class Kind { unknownOption, unknownVerb, unexpected, wrongValue, missing, missingValue };
+  enum class Kind { unknownOption, unknownVerb, unexpected, wrongValue, ambiguous, missing, missingValue };
   Kind kind = Kind::unexpected;
   std::string word;                  // the wrong word, or the name of the missing one
   std::vector<std::string> allowed;  // the words that can stand there; empty: see otherwise
@@ -22,7 +22,7 @@ struct UsageError {
 
 // The wrong word, behind what it is a value of.
 std::string subjectOf(const UsageError& error);
-// What is wrong; what is allowed; the nearest allowed word.
+// What is wrong; what is allowed; the nearest allowed word, where the word resembles one of them and not several.
 std::string reasonOf(const UsageError& error, const Texts& texts);
 // One line without its end: program, subject, reason.
 std::string told(const UsageError& error, std::string_view program, const Texts& texts);

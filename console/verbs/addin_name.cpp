@@ -39,7 +39,7 @@ UsageError severalMeant(const Rows& rows, const AddinLists& lists, const AddinNa
   if (name.version.empty() && versions.size() == rows.size()) {
     return {UsageError::Kind::missing, "VERSION", {versions.begin(), versions.end()}, "", ""};
   }
-  return {UsageError::Kind::wrongValue, name.name, {paths.begin(), paths.end()}, "", "NAME"};
+  return {UsageError::Kind::ambiguous, name.name, {paths.begin(), paths.end()}, "", "NAME"};
 }
 
 }  // namespace
