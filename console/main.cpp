@@ -53,15 +53,12 @@ class HeldLock {
 
 ExitStatus runVerb(const CommandLine& line, Command& command) {
   Product product(line.product);
-  if (!product.problem().empty()) {
-    std::cerr << product.problem() << '\n';
-    return ExitStatus::usage;
-  }
   HeldLock lock;
   Console console{product, std::cout, std::cerr, std::ref(lock), becomeProgram};
   console.textsToTell = [&line] { return textsToTell(line); };
   console.json = line.json;
   console.engineIsWanted = line.product.engine != "none";
+  if (!product.problem().empty()) return tell(console, unknownEngine(product.engineURL()));
   if (const std::optional<Failure>& unread = product.unread()) return tell(console, *unread);
   return command.run(console);
 }

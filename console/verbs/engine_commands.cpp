@@ -4,15 +4,26 @@
 
 #include "app/product.h"
 #include "app/user_files.h"
+#include "console/verbs/refusal.h"
 #include "console/verbs/style_session.h"
 #include "console/verbs/text_table.h"
 #include "platform/plist/json.h"
 #include "platform/services/engine.h"
-#include "platform/services/failure_text.h"
 #include "platform/services/user_defaults.h"
 #include "style/style_keys.h"
 
 namespace tarvo {
+
+namespace {
+
+void tellUnreached(Console& console, const Engine& engine) {
+  const std::string url = console.product.engineURL();
+  const Result<> reached = engine.couldReach();
+  const std::string cause = reached ? "" : causeOf(reached.error(), console.textsToTell());
+  note(console, {url.empty() ? engine.form() : url, "Refusal.NotReached", cause});
+}
+
+}  // namespace
 
 ExitStatus EngineStatusCommand::run(Console& console) {
   Product& product = console.product;
@@ -21,11 +32,7 @@ ExitStatus EngineStatusCommand::run(Console& console) {
   const std::string* stamp = defaults.string(lastUpdate);
   const bool reachable = engine->checkConnectionWithCurl();
   const bool holds = reachable && engine->checkStyle();
-  if (!reachable && console.engineIsWanted) {
-    const Result<> reached = engine->couldReach();
-    console.err << "the style service cannot be reached"
-                << (reached ? "" : " (" + failureText(reached.error(), product.texts()) + ")") << '\n';
-  }
+  if (!reachable && console.engineIsWanted) tellUnreached(console, *engine);
   if (console.json) {
     console.out << writeJson(Json::Object{{"form", engine->form()},
                                           {"reachable", reachable},

@@ -75,6 +75,10 @@ void note(Console& console, const Refusal& told) {
   print(console, Telling{texts}(told));
 }
 
+UsageError unknownEngine(const std::string& address) {
+  return {UsageError::Kind::wrongValue, address, {}, "Usage.Engine", "--engine"};
+}
+
 std::string causeOf(const Failure& failure, const Texts& texts) { return partsOf(failureCauseText(failure, texts))[1]; }
 
 void say(Console& console, const Outcome& outcome) {

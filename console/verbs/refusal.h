@@ -43,6 +43,9 @@ std::optional<Problem> takeLock(Console& console);
 // Why it failed, without what and where.
 std::string causeOf(const Failure& failure, const Texts& texts);
 
+// The address of a style service that no form of it serves.
+UsageError unknownEngine(const std::string& address);
+
 // A name as people can read it: control characters and bytes that are no UTF-8 are escaped.
 std::string printable(const std::string& name);
 

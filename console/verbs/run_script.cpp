@@ -5,6 +5,7 @@
 #include "app/common_options.h"
 #include "console/script/interpreter.h"
 #include "console/script/memory_shell.h"
+#include "console/verbs/refusal.h"
 #include "platform/services/failure_text.h"
 
 namespace tarvo {
@@ -13,13 +14,13 @@ ExitStatus runScript(const ScenarioOptions& options, ScenarioClock& clock, const
                      const std::string& text, std::ostream& out, std::ostream& err) {
   MemoryShell shell;
   ScenarioSession session(options, shell, clock);
-  if (const std::string problem = session.problem(); !problem.empty()) {
-    err << problem << '\n';
+  CommonOptions shown;
+  shown.product.language = options.product.language;
+  if (!session.problem().empty()) {
+    err << told(unknownEngine(session.product().engineURL()), "tarvoctl", textsToTell(shown)) << '\n';
     return ExitStatus::usage;
   }
   if (const std::optional<Failure>& unread = session.product().unread()) {
-    CommonOptions shown;
-    shown.product.language = options.product.language;
     err << "tarvoctl: " << failureText(*unread, textsToTell(shown)) << '\n';
     return ExitStatus::refused;
   }

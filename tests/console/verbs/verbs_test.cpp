@@ -88,8 +88,15 @@ TEST_F(Verbs, aScriptStartsNoProgramOnFilesThatAnotherOneHolds) {
 TEST_F(Verbs, anEngineAddressThatNothingServesIsAUsageError) {
   putStyles("root4.plist");
   const ToolResult result = run({"--engine", "gopher://engine.example", "style", "set", "1", "Opt1=2"});
-  EXPECT_EQ(result.err, "there is no style service of this kind: gopher://engine.example\n");
+  const std::string line = told("--engine gopher://engine.example",
+                                "not a value for this; allowed: none, or an address with http:// or https://");
+  EXPECT_EQ(result.err, line);
   EXPECT_EQ(result.status, 2);
+  const std::string script = root_.root() + "/log.scenario";
+  std::ofstream(script) << "log\n";
+  const ToolResult asScript = run({"--engine", "gopher://engine.example", "run", script});
+  EXPECT_EQ(asScript.err, line);
+  EXPECT_EQ(asScript.status, 2);
   EXPECT_EQ(run({"--engine", "none", "style", "set", "1", "Opt1=2"}).err, "");
 }
 
