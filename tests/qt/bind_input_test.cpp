@@ -71,6 +71,17 @@ TEST_F(Bind, theKeyboardSkipsDividersAndSendsEachTime) {
   EXPECT_EQ(outlets.actions, 2);
 }
 
+// As assistive tools choose: they set any item, and the combo box says that it was chosen.
+TEST_F(Bind, aDividerThatWasChosenAllTheSameIsNotShownAsChosen) {
+  auto& combo = shown(binder.popup(outlets.popup, &window));
+  constexpr int divider = 2;
+  ASSERT_FALSE(combo.model()->flags(combo.model()->index(divider, 0)).testFlag(Qt::ItemIsEnabled));
+  combo.setCurrentIndex(divider);
+  Q_EMIT combo.activated(divider);
+  EXPECT_EQ(combo.currentIndex(), outlets.popup.indexOfSelectedItem());
+  EXPECT_NE(combo.currentIndex(), divider);
+}
+
 TEST_F(Bind, theWheelChangesNoPopUp) {
   auto& combo = shown(binder.popup(outlets.popup, &window));
   QWheelEvent wheel({5, 5}, combo.mapToGlobal(QPointF(5, 5)), {0, -120}, {0, -120}, Qt::NoButton, Qt::NoModifier,

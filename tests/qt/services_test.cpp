@@ -110,15 +110,6 @@ TEST(CommandLine, takesOtherWordsAsFiles) {
   EXPECT_FALSE(line.busName);
 }
 
-TEST(CommandLine, knowsNamesOfTheBus) {
-  for (const char* name : {"none", "a.b", "com.wordhaven.TarvoManager", "_x.y-1.Z_"}) {
-    EXPECT_FALSE(readCommandLine({"--bus-name", name}).error) << name;
-  }
-  for (const char* name : {"", "a", ".a", "a.", "a..b", "1a.b", "a.1b", "a b.c", "日.本", ":1.5"}) {
-    EXPECT_TRUE(readCommandLine({"--bus-name", name}).error) << name;
-  }
-}
-
 TEST(CommandLine, saysWhatItDoesNotUnderstand) {
   const auto line = [](const std::vector<std::string>& words) {
     return told(readCommandLine(words).error.value(), "tarvo-manager", textsToTell({.product = {.language = "en"}}));
