@@ -54,6 +54,15 @@ TEST_F(TableBinding, aReloadKeepsSelectionKeyboardPlaceAndScrolling) {
   EXPECT_EQ(inStep(), "");
 }
 
+// As assistive tools select: they do not ask whether the table is enabled.
+TEST_F(TableBinding, aRowOfATableThatIsOffIsNotMarked) {
+  auto& view = build();
+  outlets.table.setEnabled(false);
+  view.selectRow(1);
+  EXPECT_FALSE(view.selectionModel()->hasSelection());
+  EXPECT_EQ(inStep(), "");
+}
+
 TEST_F(TableBinding, theProgramsSelectionIsShownAndToldOnce) {
   auto& view = build();
   outlets.table.selectRows({1, 3});
