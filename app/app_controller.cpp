@@ -8,6 +8,7 @@
 #include "app/rooms.h"
 #include "app/style_loading.h"
 #include "app/style_menu.h"
+#include "app/tool_switch.h"
 #include "dict/dictionary_folders.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/notification_center.h"
@@ -118,13 +119,13 @@ void AppController::changeStyle() {
 
 void AppController::selectTableViewAction(Tool tool) {
   interface_.style.toolIcon.setImage(std::string(rowOf(tool).icon));
-  rooms_.store.setCurrentID(toolId(tool, services_.texts));
-  if (rooms_.store.getSelection() != nullptr) {
-    interface_.style.stylePopup.selectItemAtIndex(rooms_.store.selectedStyle());
+  const auto chooseStyle = [this](int index) -> Result<> {
+    interface_.style.stylePopup.selectItemAtIndex(index);
     changeStyle();
-  }
-  defaults_.set(SMSelectedTag, rooms_.store.currentID());
-  defaults_.synchronize();
+    return {};  // what could not be written stands at the foot of the window, and the tool is chosen all the same
+  };
+  const Result<> switched = switchTool(tool, rooms_.store, defaults_, services_.texts, chooseStyle);
+  (void)switched;  // no choice fails here
 }
 
 int AppController::getOSVersion() const { return systemVersion(services_.files, services_.locations); }

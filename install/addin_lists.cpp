@@ -109,6 +109,18 @@ Result<> AddinLists::searchOfficeApplication(MailFolder mailFolder) {
   return {};
 }
 
+std::vector<AddinEntry> AddinLists::forgotten() const {
+  std::vector<AddinEntry> forgotten;
+  if (!fDefaultOfficeSetArray_) return forgotten;
+  for (const SharedEntry& shipped : *fDefaultOfficeSetArray_) {
+    const std::string path = addinText(*shipped, appPath);
+    const bool isCandidate = std::ranges::any_of(
+        fOfficeArray_, [&path](const SharedEntry& candidate) { return addinText(*candidate, appPath) == path; });
+    if (!isCandidate && services_.files.isThere(placesOf(*shipped).application)) forgotten.push_back(*shipped);
+  }
+  return forgotten;
+}
+
 bool AddinLists::getInstallStatus(const AddinEntry& entry) const {
   const Result<FileService::Kind> there = services_.files.kind(placesOf(entry).item);
   return there ? *there != FileService::Kind::absent : isMarkedInstalled(entry);

@@ -43,6 +43,9 @@ class AddinLists {
   enum class MailFolder { asItIs, asAStartMakesIt };
   // Builds both tables' rows from the candidates. Fails as loadAddinPlist.
   Result<> searchOfficeApplication(MailFolder mailFolder = MailFolder::asItIs);
+  // Shipped records that are no candidates, though their applications are there: a remembered list leaves out what was
+  // not there at the end of an earlier run.
+  std::vector<AddinEntry> forgotten() const;
   // Whether the item lies in its install folder: a file or a folder. Where it cannot be looked at, what was known last.
   bool getInstallStatus(const AddinEntry& entry) const;
   // The rows become the candidates and are remembered in the settings, Office rows first.

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "console/verbs/addin_session.h"
 
-#include <algorithm>
-
 #include "app/product.h"
 #include "app/user_files.h"
 #include "install/office_folder_search.h"
@@ -20,20 +18,6 @@ AddinSession::AddinSession(Product& product)
       lists_({product.files(), product.bundle(), defaults_, product.locations()}, mailScripts_) {}
 
 Result<> AddinSession::read() { return lists_.searchOfficeApplication(AddinLists::MailFolder::asAStartMakesIt); }
-
-// A remembered list leaves out what was not there at the end of an earlier run.
-std::vector<AddinEntry> AddinSession::forgotten() const {
-  std::vector<AddinEntry> forgotten;
-  if (!lists_.fDefaultOfficeSetArray()) return forgotten;
-  for (const AddinLists::SharedEntry& shipped : *lists_.fDefaultOfficeSetArray()) {
-    const std::string path = addinText(*shipped, addin_keys::appPath);
-    const bool isCandidate = std::ranges::any_of(lists_.fOfficeArray(), [&](const AddinLists::SharedEntry& candidate) {
-      return addinText(*candidate, addin_keys::appPath) == path;
-    });
-    if (!isCandidate && product_.files().isThere(lists_.placesOf(*shipped).application)) forgotten.push_back(*shipped);
-  }
-  return forgotten;
-}
 
 Result<> AddinSession::setInstalled(AddinPlace place, bool on) {
   return tarvo::setInstalled(lists_, place, on, macros_, mailScripts_);

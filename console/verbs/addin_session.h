@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <vector>
-
 #include "install/addin_edits.h"
 #include "install/addin_lists.h"
 #include "install/macro_installer.h"
@@ -26,8 +24,6 @@ class AddinSession {
   // Fails with neither a remembered nor a shipped list: a start would end at once.
   Result<> read();
   const AddinLists& lists() const { return lists_; }
-  // Shipped records that a start would not look at, though their applications are there.
-  std::vector<AddinEntry> forgotten() const;
 
   Result<> setInstalled(AddinPlace place, bool on);
   Result<> searchFolder(const DiskPath& folder);

@@ -27,7 +27,7 @@ class Examination {
       const bool isRemembered = entry->find(addin_keys::installStatus) != nullptr;
       examine(diagnoseAddin(*entry, product_.files(), product_.locations(), product_.bundle()), isRemembered);
     }
-    for (const AddinEntry& entry : addins.forgotten()) {
+    for (const AddinEntry& entry : addins.lists().forgotten()) {
       add(placesOf(entry, product_.locations(), product_.files()).application, addinText(entry, addin_keys::appName),
           "problem",
           "is not listed: it was not there at the end of an earlier run; without the setting Office it comes back");

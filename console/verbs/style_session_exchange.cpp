@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
 #include "app/product.h"
+#include "app/tool_switch.h"
 #include "console/verbs/style_session.h"
 #include "console/verbs/tool_list_command.h"
 #include "platform/services/engine.h"
@@ -61,16 +62,19 @@ ExitStatus StyleSession::sayHandedOver(const Result<>& outcome) {
 }
 
 // What the load has joined went with the former styles: it is not remembered, and joins the new ones at the next load.
+// The window goes another way to the same end: it shows all styles before it switches, keeps what no file could take in
+// memory until the next write, and its launch has written the tool list. Here the end of the verb is the last chance.
 std::optional<Problem> StyleSession::keepTaken() {
   if (store_.getSelection() == nullptr) return Refusal{pathOfStyles(), "Refusal.TakenNotKept", ""};
   const Texts& texts = console_.product.texts();
   store_.setPending();
-  store_.setCurrentID(toolId(rememberedTool(defaults_, texts), texts));
-  const int index = store_.selectedStyle();
-  store_.setSelection(store_.getStyleAtIndex(index) ? index : -1);  // what the window's menu shows then
-  if (const std::optional<Failure>& unsaved = store_.unsaved()) return *unsaved;
-  defaults_.set(SMSelectedTag, store_.currentID());
-  defaults_.synchronize();
+  const auto chooseStyle = [this](int index) -> Result<> {
+    store_.setSelection(store_.getStyleAtIndex(index) ? index : -1);  // what the window's menu shows then
+    if (const std::optional<Failure>& unsaved = store_.unsaved()) return *unsaved;
+    return {};
+  };
+  const Result<> switched = switchTool(rememberedTool(defaults_, texts), store_, defaults_, texts, chooseStyle);
+  if (!switched) return switched.error();
   if (const Result<> written = writeToolList(console_.product, defaults_); !written) return written.error();
   return std::nullopt;
 }

@@ -213,12 +213,14 @@ TEST_F(AddinListsTest, forgetAnApplicationThatWasAwayOnce) {
   for (int run = 0; run < 2; ++run) {
     ASSERT_TRUE(lists.searchOfficeApplication());
     EXPECT_EQ(names(lists.fOfficeAddinArray()), Rows{"Excel 2011"});
+    EXPECT_EQ(names(lists.forgotten()), run == 0 ? Rows() : Rows{"Word 2011"}) << "forgotten once it is back";
     lists.storeRows();
     setUp({word2011()});
   }
   defaults.remove("Office");
   ASSERT_TRUE(lists.searchOfficeApplication());
   EXPECT_EQ(names(lists.fOfficeAddinArray()), (Rows{"Word 2011", "Excel 2011"})) << "back once the list is forgotten";
+  EXPECT_EQ(names(lists.forgotten()), Rows());
 }
 
 }  // namespace
