@@ -87,7 +87,6 @@ void NewDictionary::newDicWindowOKAction(const std::string& name) {
   bool isLoaded = false;
   const Result<> created = name.empty() ? Result<>(Failure{name, Attempt::create, Reason::noPath})
                                         : made.controller.createDictionary(name, isLoaded);
-  notCreated_ = created ? std::nullopt : std::optional(created.error());
   made.table.reloadData();
   if (!created) return;
   if (with_.flags.saveHit == toolWithDictionaries || with_.flags.saveHit == toolWithMemories) {

@@ -68,8 +68,6 @@ class NewDictionary {
   // Makes the dictionary of that file name, of the kind and direction of the pane's own request, whoever posted it;
   // none for an empty name.
   void newDicWindowOKAction(const std::string& name);
-  // Why the last one that was asked for was not made.
-  const std::optional<Failure>& notCreated() const { return notCreated_; }
   DictionaryNameChecks& checks() { return sheet_.checks(); }
 
  private:
@@ -82,7 +80,6 @@ class NewDictionary {
   void sheetDidEnd(int returnCode);
   Collaborators with_;
   NewDictionarySheet sheet_;
-  std::optional<Failure> notCreated_;
 };
 
 }  // namespace tarvo

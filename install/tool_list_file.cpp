@@ -43,11 +43,7 @@ std::string officeToolTitle(std::size_t tool, const Texts& texts) {
 }
 
 ToolListFile::ToolListFile(FileService& files, UserDefaults& defaults, const TarvoCommonModule& module, DiskPath path)
-    : files_(files),
-      defaults_(defaults),
-      module_(module),
-      path_(std::move(path)),
-      written_(Failure{path_.text(), Attempt::write, Reason::nothingChosen}) {}
+    : files_(files), defaults_(defaults), module_(module), path_(std::move(path)) {}
 
 std::optional<std::size_t> ToolListFile::rememberedTool() const {
   const std::string* stored = defaults_.string("Tool_Path");
@@ -79,8 +75,7 @@ Result<> ToolListFile::write(std::size_t tool, const std::string& title) {
   defaults_.set("Tool_Action", action.number);
   defaults_.set("Tool_Parameter", action.parameter);
   defaults_.synchronize();
-  written_ = files_.write(path_, textFor(tool, title));
-  return written_;
+  return files_.write(path_, textFor(tool, title));
 }
 
 bool ToolListFile::isFor(std::size_t tool, const std::string& title) const {

@@ -39,8 +39,6 @@ class ToolListFile {
   Result<> write(std::size_t tool, const std::string& title);
   // Whether file and settings say just that already.
   bool isFor(std::size_t tool, const std::string& title) const;
-  bool isWritten() const { return written_.has_value(); }  // how the last write ended, for who may tell it
-  const Result<>& written() const { return written_; }
 
  private:
   std::string textFor(std::size_t tool, const std::string& title) const;
@@ -48,7 +46,6 @@ class ToolListFile {
   UserDefaults& defaults_;
   const TarvoCommonModule& module_;
   DiskPath path_;
-  Result<> written_;
 };
 
 }  // namespace tarvo

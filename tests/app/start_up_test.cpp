@@ -6,6 +6,7 @@
 
 #include "app/operations.h"
 #include "platform/plist/plist_writer.h"
+#include "platform/services/file_service.h"
 #include "platform/services/style_module.h"
 #include "style/style_keys.h"
 #include "tests/support/sample_styles.h"
@@ -79,8 +80,10 @@ TEST(StartUp, twoProgramsOfOneProcessLiveAndEndApart) {
     (firstGoesFirst ? first : second).reset();
     EXPECT_TRUE(product.paths().isInitialized());
     Program& left = firstGoesFirst ? *second : *first;
+    const DiskPath& list = left.rooms().toolList.path();
+    ASSERT_TRUE(product.files().remove(list));
     left.interface().tools.officeToolPopup.userChoose(2);
-    EXPECT_TRUE(left.rooms().toolList.isWritten());
+    EXPECT_TRUE(product.files().isThere(list));
     left.quit();
   }
   EXPECT_FALSE(product.paths().isInitialized());
