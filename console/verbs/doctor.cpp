@@ -168,13 +168,14 @@ class Examination {
   // It is not asked anything.
   void engine() {
     const std::string url = product_.engineURL();
-    const std::string form = product_.makeEngine(product_.files())->form();
-    const bool isKnown = form != "none" || url == "none";
-    findings_.push_back({url.empty() ? form : url, "style service", isKnown ? "ok" : "problem",
-                         isKnown ? form : "there is no style service of this kind"});
-    if (form == "local") {
+    const EngineForm form = product_.makeEngine(product_.files())->form();
+    const std::string word(wordOf(form));
+    const bool isKnown = form != EngineForm::none || url == "none";
+    findings_.push_back({url.empty() ? word : url, "style service", isKnown ? "ok" : "problem",
+                         isKnown ? word : "there is no style service of this kind"});
+    if (form == EngineForm::local) {
       keys(product_.paths().localEnginePath(), "styles of the local engine", "made by the first registration");
-    } else if (form == "http") {
+    } else if (form == EngineForm::http) {
       plain(product_.locations().inHome(".netrc"), "credentials of the style service", "none are sent");
     }
   }

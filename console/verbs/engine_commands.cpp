@@ -20,7 +20,7 @@ void tellUnreached(Console& console, const Engine& engine) {
   const std::string url = console.product.engineURL();
   const Result<> reached = engine.couldReach();
   const std::string cause = reached ? "" : causeOf(reached.error(), console.textsToTell());
-  note(console, {url.empty() ? engine.form() : url, "Refusal.NotReached", cause});
+  note(console, {url.empty() ? std::string(wordOf(engine.form())) : url, "Refusal.NotReached", cause});
 }
 
 }  // namespace
@@ -30,11 +30,12 @@ ExitStatus EngineStatusCommand::run(Console& console) {
   const std::unique_ptr<Engine> engine = product.makeEngine(product.files());
   const UserDefaults defaults(product.files(), userDefaultsPath(product.locations()));
   const std::string* stamp = defaults.string(lastUpdate);
+  const std::string form(wordOf(engine->form()));
   const bool reachable = engine->checkConnectionWithCurl();
   const bool holds = reachable && engine->checkStyle();
   if (!reachable && console.engineIsWanted) tellUnreached(console, *engine);
   if (console.json) {
-    console.out << writeJson(Json::Object{{"form", engine->form()},
+    console.out << writeJson(Json::Object{{"form", form},
                                           {"reachable", reachable},
                                           {"holds", holds},
                                           {"lastUpdate", stamp != nullptr ? Json(*stamp) : Json()}})
@@ -42,7 +43,7 @@ ExitStatus EngineStatusCommand::run(Console& console) {
     return ExitStatus::done;
   }
   const auto word = [](bool is) { return is ? "yes" : "no"; };
-  writeTable(console.out, {{"form", engine->form()},
+  writeTable(console.out, {{"form", form},
                            {"reachable", word(reachable)},
                            {"holds styles", word(holds)},
                            {"last update", stamp != nullptr ? *stamp : "never"}});

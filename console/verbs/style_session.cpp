@@ -78,11 +78,11 @@ ExitStatus StyleSession::finish(std::vector<std::string> changed) {
   if (const std::optional<Problem> failure = writeLoaded()) return tell(console_, *failure);
   const std::optional<bool> registered = written_ ? registerStyles() : std::nullopt;
   say(console_, {std::move(changed), registered});
-  return registered == false && engine_->form() != "local" ? ExitStatus::waiting : ExitStatus::done;
+  return registered == false && engine_->form() != EngineForm::local ? ExitStatus::waiting : ExitStatus::done;
 }
 
 std::optional<bool> StyleSession::registerStyles() {
-  if (engine_->form() == "none") return std::nullopt;
+  if (engine_->form() == EngineForm::none) return std::nullopt;
   store_.registerStyles();
   const std::optional<Result<>>& outcome = store_.registration();
   if (!outcome) return std::nullopt;
@@ -92,7 +92,7 @@ std::optional<bool> StyleSession::registerStyles() {
 
 std::string StyleSession::service() const {
   const std::string url = console_.product.engineURL();
-  return url.empty() ? engine_->form() : url;
+  return url.empty() ? std::string(wordOf(engine_->form())) : url;
 }
 
 }  // namespace tarvo

@@ -40,7 +40,7 @@ class EngineHttp : public Engine {
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override;
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
-  std::string form() const override { return "http"; }
+  EngineForm form() const override { return EngineForm::http; }
   Result<> couldReach() const override { return couldReach_; }
   Result<> didRegister() const override { return didRegister_; }
   Result<> couldRead() const override { return couldRead_; }

@@ -27,7 +27,7 @@ class EngineLocal : public Engine {
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override;
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
-  std::string form() const override { return "local"; }
+  EngineForm form() const override { return EngineForm::local; }
   Result<> didRegister() const override { return didRegister_; }
   Result<> couldRead() const override { return couldRead_; }
 

@@ -13,7 +13,7 @@ class EngineNone : public Engine {
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override;
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
-  std::string form() const override { return "none"; }
+  EngineForm form() const override { return EngineForm::none; }
   Result<> couldReach() const override { return Failure{"", Attempt::reach, Reason::noService}; }
   Result<> didRegister() const override { return Failure{"", Attempt::store, Reason::noService}; }
 };

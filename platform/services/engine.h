@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "platform/plist/property_list.h"
 #include "platform/services/result.h"
@@ -16,6 +18,20 @@ struct StyleSet {
   const Array& records;
   std::span<const std::string> encoded;
 };
+
+// How the styles are handed over. other: an engine that is none of the product's, as in a scenario.
+enum class EngineForm { none, local, http, other };
+
+struct EngineFormRow {
+  EngineForm form;
+  std::string_view word;  // for people
+};
+inline constexpr std::array<EngineFormRow, 4> engineFormRows{{{EngineForm::none, "none"},
+                                                              {EngineForm::local, "local"},
+                                                              {EngineForm::http, "http"},
+                                                              {EngineForm::other, "other"}}};
+
+constexpr std::string_view wordOf(EngineForm form) { return engineFormRows[static_cast<std::size_t>(form)].word; }
 
 // The translation engine's side of the styles. Calls are synchronous and answer soon, reachable or not.
 class Engine {
@@ -31,8 +47,7 @@ class Engine {
   // in.
   virtual bool requestStyle(Array& styles, std::string& localUpdate) = 0;
 
-  // For people: "none", "local", "http"; other kinds name themselves.
-  virtual std::string form() const { return "other"; }
+  virtual EngineForm form() const { return EngineForm::other; }
   // What is behind the answers of the operations, each of the last time and done before the first. The path of a
   // failure is the file or the address of the service. Why the service could not be reached.
   virtual Result<> couldReach() const { return {}; }

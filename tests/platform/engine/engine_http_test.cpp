@@ -14,7 +14,7 @@ TEST_F(EngineHttpTest, anEmptyServerIsReachableAndHoldsNothing) {
   EXPECT_TRUE(http.checkConnectionWithCurl());
   EXPECT_FALSE(http.checkStyle());
   EXPECT_EQ(newerThan(http, ""), std::nullopt);
-  EXPECT_EQ(http.form(), "http");
+  EXPECT_EQ(http.form(), EngineForm::http);
   EXPECT_EQ(server.methods(), (Methods{"GET", "GET", "GET"})) << "one request each";
 }
 
