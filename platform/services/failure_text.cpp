@@ -3,19 +3,13 @@
 #include "platform/services/failure_text.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 
+#include "platform/services/failure_words.h"
 #include "platform/services/texts.h"
 
 namespace tarvo {
 namespace {
-
-// By Attempt: the keys are "Failure." and one of these.
-constexpr std::array<const char*, 16> attempts{"look",  "read",   "write", "keep",    "list",      "folder",
-                                               "copy",  "remove", "codes", "install", "uninstall", "create",
-                                               "start", "reach",  "store", "fetch"};
-static_assert(attempts.size() == static_cast<std::size_t>(Attempt::fetch) + 1);
 
 // The keys are "Cause." and one of these, and "Cure." and the same where something helps.
 struct SystemCause {
@@ -54,15 +48,8 @@ constexpr SystemCause systemCauses[] = {{std::errc::permission_denied, "noPermis
                                         {std::errc::illegal_byte_sequence, "badName"},
                                         {std::errc::invalid_argument, "badName"}};
 
-constexpr std::array<const char*, 23> reasons{
-    "noPath",        "noRegularFile", "noPropertyList", "noDictionary",    "intoItself",      "wholeProduct",
-    "linkInTheWay",  "deadLink",      "nothingNamed",   "noInstallFolder", "missingResource", "emptyResource",
-    "nothingChosen", "noService",     "notAsked",       "unreachable",     "unknownHost",     "notTrusted",
-    "refused",       "contended",     "absentThere",    "damaged",         "noStyle"};
-static_assert(reasons.size() == static_cast<std::size_t>(Reason::noStyle));
-
 const char* keyOf(const std::error_code& cause) {
-  if (cause.category() == reasonCategory()) return reasons[static_cast<std::size_t>(cause.value()) - 1];
+  if (cause.category() == reasonCategory()) return wordOf(static_cast<Reason>(cause.value()));
   // Errors of the system without a name in the standard library.
   if (cause.value() == EDQUOT) return "quota";
   if (cause.value() == ESTALE) return "stale";
@@ -75,7 +62,7 @@ const char* keyOf(const std::error_code& cause) {
 
 std::string failureCauseText(const Failure& failure, const Texts& texts) {
   const char* key = keyOf(failure.cause);
-  std::string text = texts.localized(std::string("Failure.") + attempts[static_cast<std::size_t>(failure.attempt)]);
+  std::string text = texts.localized(std::string("Failure.") + wordOf(failure.attempt));
   text += "; " + (key != nullptr ? texts.localized(std::string("Cause.") + key) : failure.cause.message());
   const std::string* cure = key != nullptr ? texts.find(std::string("Cure.") + key) : nullptr;
   return cure != nullptr ? text + "; " + *cure : text;

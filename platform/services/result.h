@@ -46,7 +46,6 @@ enum class Reason {
   noInstallFolder,  // a record whose install folder is no absolute path
   missingResource,  // the product lacks what is to be installed or copied
   emptyResource,    // the product's folder of scripts holds none
-  nothingChosen,    // no tool is chosen
   noService,        // there is no style service
   notAsked,         // it did not answer in time a moment ago and is left alone
   unreachable,      // no answer came
