@@ -8,22 +8,22 @@
 namespace tarvo {
 
 void Interface::addinRows(Rooms& rooms, const Texts& texts) {
-  const auto table = [&](TableView& view, std::vector<TableView::Column> columns, int tag) {
+  const auto table = [&](TableView& view, std::vector<TableView::Column> columns, AddinKind kind) {
     view.setColumns(std::move(columns));
     view.setDataSource(&rooms.addinTable);
     view.setDelegate(&rooms.addinTable);
-    row({.control = view, .tag = tag, .tab = &manager.myTabView, .page = tagOf(Pane::office) + tag});
+    row({.control = view, .tag = rowOf(kind).tag, .tab = &manager.myTabView, .page = tagOf(rowOf(kind).pane)});
   };
   const auto onPage = [&](Control& control, Pane pane, Control::Action action = {}) {
     row({.control = control, .tab = &manager.myTabView, .page = tagOf(pane), .action = std::move(action)});
   };
   const TableView::Column check{.identifier = addin_columns::check, .checkBox = true};
-  table(addins.officeTableView, {check, {addin_columns::name}, {addin_columns::version}}, 0);
+  table(addins.officeTableView, {check, {addin_columns::name}, {addin_columns::version}}, AddinKind::office);
   onPage(addins.officeInfoField, Pane::office);
   onPage(addins.officeReasonField, Pane::office);
   onPage(addins.officeSearchButton, Pane::office, to(rooms.officeFolder, &OfficeFolderChoice::SelectOfficeFolder));
   onPage(addins.officePowerPointButton, Pane::office, to(rooms.cautions, &CautionWindows::selectPowerPoint));
-  table(addins.mailTableView, {check, {addin_columns::name}}, 1);
+  table(addins.mailTableView, {check, {addin_columns::name}}, AddinKind::mail);
   onPage(addins.mailinfoField, Pane::mail);
   onPage(addins.mailReasonField, Pane::mail);
   onPage(addins.mailCautionButton, Pane::mail, to(rooms.cautions, &CautionWindows::mailButtonAction));

@@ -30,7 +30,7 @@ class Look {
  public:
   Look(const AddinEntry& entry, const FileService& files, const Locations& locations, const Bundle& bundle)
       : entry_(entry), files_(files), source_(addinSource(entry, bundle)) {
-    found_ = {.table = isMailAddin(entry) ? "mail" : "office",
+    found_ = {.kind = kindOf(entry),
               .name = addinText(entry, appName),
               .version = addinText(entry, appVersion),
               .places = placesOf(entry, locations, files),
@@ -48,7 +48,7 @@ class Look {
     if (!source_) found_.missing.push_back(addinText(entry_, installMacroName));
     require(found_.places.folder);
     found_.obstacle = common();
-    if (!found_.obstacle) found_.obstacle = isMailAddin(entry_) ? ofScripts() : ofMacro();
+    if (!found_.obstacle) found_.obstacle = found_.kind == AddinKind::mail ? ofScripts() : ofMacro();
     if (found_.isThere) found_.removalObstacle = ofRemoval();
     return std::move(found_);
   }
@@ -105,7 +105,7 @@ class Look {
   Obstacle ofRemoval() const {
     if (!there_) return obstacle(there_);
     if (const Result<> writable = files_.checkWritable(found_.places.folder); !writable) return writable.error();
-    if (!isMailAddin(entry_)) return std::nullopt;
+    if (found_.kind == AddinKind::office) return std::nullopt;
     if (isLink(found_.places.item)) return obstacle(found_.places.item, Attempt::uninstall, Reason::linkInTheWay);
     if (*there_ != Kind::folder) return obstacle(found_.places.item, Attempt::uninstall, std::errc::not_a_directory);
     const Result<std::vector<std::string>> names = files_.list(found_.places.item);

@@ -16,7 +16,7 @@ class FileService;
 
 // What can be said of one add-in by looking at the disk, before anything was tried. What a tick met is AddinTable's.
 struct AddinDiagnosis {
-  std::string table;  // "office" or "mail"
+  AddinKind kind = AddinKind::office;
   std::string name, version;
   AddinPlaces places;
   std::vector<std::string>

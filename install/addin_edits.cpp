@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "install/addin_edits.h"
 
-#include "install/addin_lists.h"
 #include "install/macro_installer.h"
 #include "install/mail_script_installer.h"
 
@@ -11,7 +10,8 @@ namespace tarvo {
 namespace {
 
 Result<> perform(const AddinEntry& row, bool on, MacroInstaller& macros, MailScriptInstaller& mailScripts) {
-  if (isMailAddin(row)) return on ? mailScripts.installMailScript(row) : mailScripts.unInstallMailScript(row);
+  if (kindOf(row) == AddinKind::mail)
+    return on ? mailScripts.installMailScript(row) : mailScripts.unInstallMailScript(row);
   return on ? macros.installOfficeMacro(row) : macros.unInstallOfficeMacro(row);
 }
 
@@ -19,8 +19,8 @@ Result<> perform(const AddinEntry& row, bool on, MacroInstaller& macros, MailScr
 
 Result<> setInstalled(AddinLists& lists, AddinPlace place, bool on, MacroInstaller& macros,
                       MailScriptInstaller& mailScripts) {
-  Result<> done = perform(lists.rowsOf(place.tag)->at(static_cast<std::size_t>(place.row)), on, macros, mailScripts);
-  lists.setInstallStatus(place.tag, place.row, on == done.has_value());
+  Result<> done = perform(lists.rowsOf(place.kind).at(static_cast<std::size_t>(place.row)), on, macros, mailScripts);
+  lists.setInstallStatus(place, on == done.has_value());
   return done;
 }
 

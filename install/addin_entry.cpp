@@ -15,9 +15,9 @@ std::string addinText(const AddinEntry& entry, std::string_view key) {
   return text != nullptr ? *text : "";
 }
 
-bool isMailAddin(const AddinEntry& entry) {
+AddinKind kindOf(const AddinEntry& entry) {
   const std::string creator = addinText(entry, addin_keys::appCreator);
-  return creator == appleMailCreator || creator == outlookCreator;
+  return creator == appleMailCreator || creator == outlookCreator ? AddinKind::mail : AddinKind::office;
 }
 
 bool isMarkedInstalled(const AddinEntry& entry) {
@@ -35,7 +35,7 @@ Result<DiskPath> addinSource(const AddinEntry& entry, const Bundle& bundle) {
   const std::string name = addinItemName(entry), subfolder = deletingLastPathComponent(named);
   if (name.empty()) return Failure{addinText(entry, addin_keys::appName), Attempt::install, Reason::nothingNamed};
   // A folder of scripts has no extension: "Tarvo 1.0" is one name.
-  std::optional<DiskPath> source = isMailAddin(entry)
+  std::optional<DiskPath> source = kindOf(entry) == AddinKind::mail
                                        ? bundle.resource(name, "", subfolder)
                                        : bundle.resource(deletingPathExtension(name), pathExtension(name), subfolder);
   if (source) return std::move(*source);

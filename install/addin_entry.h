@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "install/addin_kind.h"
 #include "platform/plist/property_list.h"
 #include "platform/services/result.h"
 #include "platform/text/paths.h"
@@ -37,7 +38,7 @@ inline constexpr const char* appleMailCreator = "emal";  // Apple Mail
 
 // The text of a key, "" when there is none.
 std::string addinText(const AddinEntry& entry, std::string_view key);
-bool isMailAddin(const AddinEntry& entry);
+AddinKind kindOf(const AddinEntry& entry);
 bool isMarkedInstalled(const AddinEntry& entry);  // what "InstallStatus" says
 
 // The item's own name: the last component of "InstallMacroName". "" when that names nothing that can lie in a folder,

@@ -50,7 +50,7 @@ Result<> AddinLists::loadAddinPlist() {
   if (!shipped) return shipped.error();
   fOfficeArray_ = std::move(*shipped);
   for (const SharedEntry& entry : fOfficeArray_) {
-    if (isMailAddin(*entry)) prefixHome(*entry);
+    if (kindOf(*entry) == AddinKind::mail) prefixHome(*entry);
   }
   return {};
 }
@@ -100,7 +100,7 @@ Result<> AddinLists::searchOfficeApplication(MailFolder mailFolder) {
     // One that cannot be looked at stays listed: at the end of the run the others are forgotten.
     if (services_.files.isAbsent(placesOf(entry).application)) continue;
     entry.set(installStatus, getInstallStatus(entry));
-    if (!isMailAddin(entry)) {
+    if (kindOf(entry) == AddinKind::office) {
       fOfficeAddinArray_.push_back(std::move(entry));
     } else if (hasScriptFolder(entry, mailFolder)) {
       fMailAddinArray_.push_back(std::move(entry));
@@ -139,14 +139,13 @@ void AddinLists::storeRows() {
   services_.defaults.synchronize();
 }
 
-const std::vector<AddinEntry>* AddinLists::rowsOf(int tag) const {
-  if (tag == 0) return &fOfficeAddinArray_;
-  return tag == 1 ? &fMailAddinArray_ : nullptr;
+const std::vector<AddinEntry>& AddinLists::rowsOf(AddinKind kind) const {
+  return kind == AddinKind::office ? fOfficeAddinArray_ : fMailAddinArray_;
 }
 
-void AddinLists::setInstallStatus(int tag, int row, bool installed) {
-  std::vector<AddinEntry>& rows = tag == 0 ? fOfficeAddinArray_ : fMailAddinArray_;
-  rows.at(static_cast<std::size_t>(row)).set(installStatus, installed);
+void AddinLists::setInstallStatus(AddinPlace place, bool installed) {
+  std::vector<AddinEntry>& rows = place.kind == AddinKind::office ? fOfficeAddinArray_ : fMailAddinArray_;
+  rows.at(static_cast<std::size_t>(place.row)).set(installStatus, installed);
 }
 
 void AddinLists::lookAtMailRows() {

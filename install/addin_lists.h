@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <compare>
 #include <memory>
 #include <optional>
 #include <string>
@@ -24,6 +25,13 @@ class FileService;
 class Locations;
 class MailScriptInstaller;
 class UserDefaults;
+
+// A row of the tables: whose it is, and which.
+struct AddinPlace {
+  AddinKind kind = AddinKind::office;
+  int row = 0;
+  friend auto operator<=>(const AddinPlace&, const AddinPlace&) = default;
+};
 
 class AddinLists {
  public:
@@ -58,13 +66,12 @@ class AddinLists {
   // The rows of both tables, copies of their own.
   const std::vector<AddinEntry>& fOfficeAddinArray() const { return fOfficeAddinArray_; }
   const std::vector<AddinEntry>& fMailAddinArray() const { return fMailAddinArray_; }
-  // Those of the table with this tag; null for another tag.
-  const std::vector<AddinEntry>* rowsOf(int tag) const;
+  const std::vector<AddinEntry>& rowsOf(AddinKind kind) const;
   // One row more at the end; the tables show it when they are reloaded.
   void addOfficeRow(AddinEntry row) { fOfficeAddinArray_.push_back(std::move(row)); }
   void addMailRow(AddinEntry row) { fMailAddinArray_.push_back(std::move(row)); }
   // What the box of a row shows from now on. The row must be there.
-  void setInstallStatus(int tag, int row, bool installed);
+  void setInstallStatus(AddinPlace place, bool installed);
   // The boxes of the mail rows show what the disk holds now.
   void lookAtMailRows();
 

@@ -14,11 +14,11 @@ inline constexpr const char *check = "Value", *name = "AppName", *version = "Ver
 
 // The Office pane, the mail pane and the cautions that their buttons bring up. The tool's pop-up is ToolListOutlets'.
 struct AddinOutlets : Outlets {
-  TableView officeTableView{*this, "officeTableView"};  // tag 0: all three columns
+  TableView officeTableView{*this, "officeTableView"};  // all three columns
   TextField officeInfoField{*this, "officeInfoField", Control::Kind::text};
   TextField officeReasonField{*this, "officeReasonField", Control::Kind::text};
   Button officeSearchButton{*this, "officeSearchButton"}, officePowerPointButton{*this, "officePowerPointButton"};
-  TableView mailTableView{*this, "mailTableView"};  // tag 1: no versions
+  TableView mailTableView{*this, "mailTableView"};  // no versions
   TextField mailinfoField{*this, "mailinfoField", Control::Kind::text};
   TextField mailReasonField{*this, "mailReasonField", Control::Kind::text};
   Button mailCautionButton{*this, "mailCautionButton"};

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "install/addin_table.h"
 
+#include <optional>
 #include <utility>
 
 #include "install/addin_edits.h"
-#include "install/addin_lists.h"
 #include "install/addin_outlets.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/panels.h"
@@ -13,13 +13,7 @@
 
 namespace tarvo {
 
-namespace {
-
 using namespace addin_keys;
-
-constexpr int officeTag = 0, mailTag = 1;
-
-}  // namespace
 
 AddinTable::AddinTable(Services services, AddinLists& lists, MacroInstaller& macros, MailScriptInstaller& mailScripts,
                        AddinOutlets& outlets, const TabView& panes)
@@ -30,44 +24,44 @@ AddinTable::AddinTable(Services services, AddinLists& lists, MacroInstaller& mac
       outlets_(outlets),
       panes_(panes) {}
 
-const AddinEntry* AddinTable::entryAt(int tag, int row) const {
-  const std::vector<AddinEntry>* rows = lists_.rowsOf(tag);
-  if (rows == nullptr || !std::in_range<std::size_t>(row) || static_cast<std::size_t>(row) >= rows->size()) {
-    return nullptr;
-  }
-  return &(*rows)[static_cast<std::size_t>(row)];
+const AddinEntry* AddinTable::entryAt(AddinPlace place) const {
+  const std::vector<AddinEntry>& rows = lists_.rowsOf(place.kind);
+  if (!std::in_range<std::size_t>(place.row) || static_cast<std::size_t>(place.row) >= rows.size()) return nullptr;
+  return &rows[static_cast<std::size_t>(place.row)];
 }
 
 int AddinTable::numberOfRowsInTableView(TableView& table) {
-  const std::vector<AddinEntry>* rows = lists_.rowsOf(table.tag());
-  return rows != nullptr ? static_cast<int>(rows->size()) : -1;
+  const std::optional<AddinKind> kind = addinKindForTag(table.tag());
+  return kind ? static_cast<int>(lists_.rowsOf(*kind).size()) : -1;
 }
 
 CellValue AddinTable::objectValueForTableColumn(TableView& table, std::string_view column, int row) {
-  const AddinEntry* entry = entryAt(table.tag(), row);
+  const std::optional<AddinKind> kind = addinKindForTag(table.tag());
+  const AddinEntry* entry = kind ? entryAt({*kind, row}) : nullptr;
   CellValue cell;
   if (entry == nullptr) return cell;
   if (column == addin_columns::check) cell.checked = isMarkedInstalled(*entry);
   if (column == addin_columns::name) cell.text = addinText(*entry, appName);
-  if (column == addin_columns::version && table.tag() == officeTag) cell.text = addinText(*entry, appVersion);
+  if (column == addin_columns::version && kind == AddinKind::office) cell.text = addinText(*entry, appVersion);
   return cell;
 }
 
 void AddinTable::setObjectValue(TableView& table, bool value, std::string_view column, int row) {
   fIsInstalled = true;
-  const int tag = table.tag();
-  const AddinEntry* entry = entryAt(tag, row);
+  const std::optional<AddinKind> kind = addinKindForTag(table.tag());
+  const AddinEntry* entry = kind ? entryAt({*kind, row}) : nullptr;
   if (entry == nullptr || column != addin_columns::check) return;
-  const Result<> done = setInstalled(lists_, {tag, row}, value, macros_, mailScripts_);
+  const AddinPlace place{*kind, row};
+  const Result<> done = setInstalled(lists_, place, value, macros_, mailScripts_);
   if (!done) services_.panels.beep();
-  failures_.erase({tag, row});
-  if (!done) failures_.emplace(std::pair(tag, row), done.error());
-  const std::string key = std::string(tag == officeTag ? "Office" : "Mail") + (value ? "Install" : "UnInstall") +
-                          (done ? "IsSuccessed" : "IsFailed");
+  failures_.erase(place);
+  if (!done) failures_.emplace(place, done.error());
+  const std::string key =
+      std::string(rowOf(*kind).textsPrefix) + (value ? "Install" : "UnInstall") + (done ? "IsSuccessed" : "IsFailed");
   const std::string text = addinText(*entry, appName) + services_.texts.localized(key);
   table.reloadData();
-  infoField(tag).setStringValue(text);
-  showReason(tag, row);
+  infoField(*kind).setStringValue(text);
+  showReason(place);
 }
 
 void AddinTable::reloadTables() {
@@ -75,38 +69,33 @@ void AddinTable::reloadTables() {
   outlets_.mailTableView.reloadData();
 }
 
-const Failure* AddinTable::failureOf(int tag, int row) const {
-  const auto found = failures_.find({tag, row});
+const Failure* AddinTable::failureOf(AddinPlace place) const {
+  const auto found = failures_.find(place);
   return found != failures_.end() ? &found->second : nullptr;
 }
 
-void AddinTable::showReason(int tag, int row) {
-  TextField& field = tag == officeTag ? outlets_.officeReasonField : outlets_.mailReasonField;
-  const Failure* failure = failureOf(tag, row);
+void AddinTable::showReason(AddinPlace place) {
+  TextField& field = place.kind == AddinKind::office ? outlets_.officeReasonField : outlets_.mailReasonField;
+  const Failure* failure = failureOf(place);
   field.setStringValue(failure != nullptr ? failureText(*failure, services_.texts) : "");
 }
 
-TextField& AddinTable::infoField(int tag) {
-  return tag == officeTag ? outlets_.officeInfoField : outlets_.mailinfoField;
+TextField& AddinTable::infoField(AddinKind kind) {
+  return kind == AddinKind::office ? outlets_.officeInfoField : outlets_.mailinfoField;
 }
 
 void AddinTable::selectionDidChange(TableView&) {
   if (std::exchange(fIsInstalled, false)) return;
-  const int tag = panes_.selectedPage() - tagOf(Pane::office);  // the pages of the add-ins follow each other
-  if (tag != officeTag && tag != mailTag) return;
-  const TableView& table = tag == officeTag ? outlets_.officeTableView : outlets_.mailTableView;
-  const AddinEntry* entry = entryAt(tag, table.selectedRow());
+  const std::optional<AddinKind> kind = addinKindForPage(panes_.selectedPage());
+  if (!kind) return;
+  const TableView& table = kind == AddinKind::office ? outlets_.officeTableView : outlets_.mailTableView;
+  const AddinEntry* entry = entryAt({*kind, table.selectedRow()});
   if (entry == nullptr) return;
-  showReason(tag, table.selectedRow());
-  const bool installed = isMarkedInstalled(*entry);
-  const std::string name = addinText(*entry, appName);
-  if (tag == officeTag) {
-    infoField(tag).setStringValue(addinText(*entry, appPath) + "\n\n" + name +
-                                  services_.texts.localized(installed ? "OfficeisInstalled" : "OfficeisNotInstalled"));
-  } else {
-    infoField(tag).setStringValue(name +
-                                  services_.texts.localized(installed ? "MailisInstalled" : "MailisNotInstalled"));
-  }
+  showReason({*kind, table.selectedRow()});
+  const std::string where = kind == AddinKind::office ? addinText(*entry, appPath) + "\n\n" : "";
+  const std::string key =
+      std::string(rowOf(*kind).textsPrefix) + (isMarkedInstalled(*entry) ? "isInstalled" : "isNotInstalled");
+  infoField(*kind).setStringValue(where + addinText(*entry, appName) + services_.texts.localized(key));
 }
 
 }  // namespace tarvo

@@ -5,18 +5,16 @@
 #include <map>
 #include <string>
 #include <string_view>
-#include <utility>
 
-#include "install/addin_entry.h"
+#include "install/addin_lists.h"
 #include "platform/controls/table_view.h"
 #include "platform/services/result.h"
 
-// Data source and delegate of the Office table (tag 0) and the mail table (tag 1).
+// Data source and delegate of the Office table and the mail table, which it tells apart by their tags.
 // Duty: what a row shows; asking for the edit when its box is ticked; the text about the selected or the changed row.
 // Not: installing and removing (addin_edits.h).
 namespace tarvo {
 
-class AddinLists;
 class MacroInstaller;
 class MailScriptInstaller;
 class Panels;
@@ -43,23 +41,23 @@ class AddinTable : public TableDataSource, public TableDelegate {
   void reloadTables();
 
   // Why the last tick of this row failed; null when it did not. Below the texts it is shown in words.
-  const Failure* failureOf(int tag, int row) const;
+  const Failure* failureOf(AddinPlace place) const;
 
   // Set by every edit, taken back by the next selection, whose text it suppresses: the click that ticks a box also
   // selects its row, and the result must stay to be read.
   bool fIsInstalled = false;
 
  private:
-  const AddinEntry* entryAt(int tag, int row) const;
-  TextField& infoField(int tag);
-  void showReason(int tag, int row);
+  const AddinEntry* entryAt(AddinPlace place) const;
+  TextField& infoField(AddinKind kind);
+  void showReason(AddinPlace place);
   Services services_;
   AddinLists& lists_;
   MacroInstaller& macros_;
   MailScriptInstaller& mailScripts_;
   AddinOutlets& outlets_;
   const TabView& panes_;
-  std::map<std::pair<int, int>, Failure> failures_;  // by tag and row; rows never change places
+  std::map<AddinPlace, Failure> failures_;  // rows never change places
 };
 
 }  // namespace tarvo

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "console/verbs/addin_commands.h"
 
+#include <map>
+
 #include "app/product.h"
 #include "app/product_defaults.h"
 #include "console/verbs/addin_session.h"
@@ -15,9 +17,9 @@ namespace {
 
 using namespace addin_keys;
 
-Json jsonOf(const AddinEntry& row, const char* table, const Product& product) {
+Json jsonOf(const AddinEntry& row, AddinKind kind, const Product& product) {
   const AddinPlaces places = placesOf(row, product.locations(), product.files());
-  return Json::Object{{"table", table},
+  return Json::Object{{"table", std::string(rowOf(kind).word)},
                       {"name", addinText(row, appName)},
                       {"version", addinText(row, appVersion)},
                       {"creator", addinText(row, appCreator)},
@@ -40,9 +42,9 @@ ExitStatus AddinsCommand::run(Console& console) {
   const AddinLists& lists = session.lists();
   Json::List list;
   std::vector<std::vector<std::string>> lines;
-  for (const auto& [rows, table] : {std::pair(lists.rowsOf(0), "office"), std::pair(lists.rowsOf(1), "mail")}) {
-    for (const AddinEntry& row : *rows) {
-      list.push_back(jsonOf(row, table, product));
+  for (const AddinKindRow& each : addinKindRows) {
+    for (const AddinEntry& row : lists.rowsOf(each.kind)) {
+      list.push_back(jsonOf(row, each.kind, product));
       lines.push_back(lineOf(row, isMarkedInstalled(row) ? "installed" : "-", product));
     }
   }
@@ -60,7 +62,7 @@ ExitStatus AddinEditCommand::run(Console& console) {
   if (const Result<> read = session.read(); !read) return tell(console, read.error());
   const auto place = addinNamed(session.lists(), console.product.locations(), name_);
   if (!place) return tell(console, place.error());
-  const AddinEntry& row = session.lists().rowsOf(place->tag)->at(static_cast<std::size_t>(place->row));
+  const AddinEntry& row = session.lists().rowsOf(place->kind).at(static_cast<std::size_t>(place->row));
   const bool isSo = isMarkedInstalled(row) == install_;
   if (!isSo) {
     if (const Result<> done = session.setInstalled(*place, install_); !done) return tell(console, done.error());
@@ -75,14 +77,15 @@ ExitStatus AddinSearchCommand::run(Console& console) {
   AddinSession session(console.product);
   if (const Result<> read = session.read(); !read) return tell(console, read.error());
   const AddinLists& lists = session.lists();
-  const std::size_t known[] = {lists.rowsOf(0)->size(), lists.rowsOf(1)->size()};
+  std::map<AddinKind, std::size_t> known;
+  for (const AddinKindRow& each : addinKindRows) known[each.kind] = lists.rowsOf(each.kind).size();
   const DiskPath folder = absolutePath(folder_);
   if (const Result<> searched = session.searchFolder(folder); !searched) return tell(console, searched.error());
   std::vector<std::string> names;
   std::vector<std::vector<std::string>> lines;
-  for (const int table : {0, 1}) {
-    const std::vector<AddinEntry>& rows = *lists.rowsOf(table);
-    for (std::size_t i = known[table]; i < rows.size(); ++i) {
+  for (const AddinKindRow& each : addinKindRows) {
+    const std::vector<AddinEntry>& rows = lists.rowsOf(each.kind);
+    for (std::size_t i = known[each.kind]; i < rows.size(); ++i) {
       names.push_back(addinText(rows[i], appName));
       lines.push_back(lineOf(rows[i], "added", console.product));
     }

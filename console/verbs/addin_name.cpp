@@ -48,12 +48,12 @@ std::expected<AddinPlace, Problem> addinNamed(const AddinLists& lists, const Loc
                                               const AddinName& name) {
   Rows meant;
   AddinPlace place;  // of the first
-  for (const int tag : {0, 1}) {
-    const std::vector<AddinEntry>& rows = *lists.rowsOf(tag);
+  for (const AddinKindRow& each : addinKindRows) {
+    const std::vector<AddinEntry>& rows = lists.rowsOf(each.kind);
     for (std::size_t i = 0; i < rows.size(); ++i) {
       if (!isMeant(rows[i], lists, locations, name)) continue;
       if (!meant.empty() && isRepeated(rows[i], *meant.front(), name.name)) continue;
-      if (meant.empty()) place = {tag, static_cast<int>(i)};
+      if (meant.empty()) place = {each.kind, static_cast<int>(i)};
       meant.push_back(&rows[i]);
     }
   }

@@ -60,7 +60,7 @@ class Examination {
     // What is installed is in its own way; that is no fault.
     const bool isInstalled = addin.isThere && !addin.isPartial;
     const bool fails = addin.obstacle && !isInstalled;
-    const char* whenMissing = addin.table == "mail" ? "is not listed without it" : "";
+    const char* whenMissing = addin.kind == AddinKind::mail ? "is not listed without it" : "";
     add(addin.places.folder, "install folder of " + addin.name,
         !exists ? "missing"
         : fails ? "problem"
@@ -82,7 +82,7 @@ class Examination {
       detail += "; a removal would fail: " + failureText(*addin.removalObstacle, product_.texts());
     }
     const bool isProblem = addin.isPartial || differs || addin.removalObstacle;
-    add(addin.places.item, (addin.table == "mail" ? "scripts of " : "macro of ") + addin.name,
+    add(addin.places.item, (addin.kind == AddinKind::mail ? "scripts of " : "macro of ") + addin.name,
         isProblem       ? "problem"
         : addin.isThere ? "ok"
                         : "missing",

@@ -227,7 +227,7 @@ TEST(ShippedAddins, haveTheirMacrosAndScripts) {
     const auto item = addinSource(*shipped, bundle);
     ASSERT_TRUE(item) << names.back();
     const bool isFolder = test.product->files().kind(*item) == FileService::Kind::folder;
-    EXPECT_EQ(isFolder, isMailAddin(*shipped)) << names.back();
+    EXPECT_EQ(isFolder, kindOf(*shipped) == AddinKind::mail) << names.back();
   }
   std::vector<std::string> expected;
   for (const char* year : {"2011", "2008", "2004"}) {

@@ -31,8 +31,8 @@ TEST_F(Diagnosis, findsNothingInTheWayOfACleanInstall) {
     EXPECT_EQ(found.missing, Rows{});
     EXPECT_FALSE(found.isThere || found.isMarked || found.isPartial || found.differs());
   }
-  EXPECT_EQ(of(word).table, "office");
-  EXPECT_EQ(of(mail).table, "mail");
+  EXPECT_EQ(of(word).kind, AddinKind::office);
+  EXPECT_EQ(of(mail).kind, AddinKind::mail);
   EXPECT_EQ(of(word).places.item, real("/Applications/O11/Office/Startup/Word/Tarvo.dotm"));
   EXPECT_FALSE(files.uses().empty()) << "it only lists";
   for (const FaultyFiles::Use& use : files.uses()) EXPECT_EQ(use.operation, FaultyFiles::Operation::list);

@@ -18,8 +18,8 @@ class AddinEdits : public testing::Test, protected AddinWorld {
     EXPECT_TRUE(lists.searchOfficeApplication());
   }
   Result<> edit(AddinPlace place, bool on) { return setInstalled(lists, place, on, macros, mailScripts); }
-  const AddinEntry& row(AddinPlace place) const { return lists.rowsOf(place.tag)->at(0); }
-  static constexpr AddinPlace word{0, 0}, outlook{1, 0};
+  const AddinEntry& row(AddinPlace place) const { return lists.rowsOf(place.kind).at(0); }
+  static constexpr AddinPlace word{AddinKind::office, 0}, outlook{AddinKind::mail, 0};
 };
 
 TEST_F(AddinEdits, aMacroAndScriptsAreInstalledAndTakenOutAndTheRowSaysSo) {
@@ -38,7 +38,7 @@ TEST_F(AddinEdits, aFailureSaysWhyAndLeavesTheRowAsItWas) {
   ASSERT_FALSE(installed);
   EXPECT_EQ(installed.error().cause, std::errc::file_exists);
   EXPECT_FALSE(isMarkedInstalled(row(word))) << "though something lies there";
-  lists.setInstallStatus(outlook.tag, outlook.row, true);
+  lists.setInstallStatus(outlook, true);
   EXPECT_FALSE(edit(outlook, false)) << "there are no scripts to take out";
   EXPECT_TRUE(isMarkedInstalled(row(outlook)));
 }

@@ -31,8 +31,8 @@ bool isReplaced(Fault fault) {
 }
 
 Outcome expected(AddinKind kind, bool on, const Use& use, Fault fault) {
-  if (!kind.isMail && on) return {false, leavesSomething(fault)};
-  if (!kind.isMail) return fault == Fault::forbidden ? Outcome{false, true} : Outcome{true, false};
+  if (kind == AddinKind::office && on) return {false, leavesSomething(fault)};
+  if (kind == AddinKind::office) return fault == Fault::forbidden ? Outcome{false, true} : Outcome{true, false};
   if (!on && isReplaced(fault)) return {true, false};  // what bears the name goes, not what a link leads to
   if (on && use.operation == Operation::makeFolder) {
     const bool isMadeAnew = fault == Fault::vanishedFolder || fault == Fault::vanishedItem;
@@ -43,11 +43,10 @@ Outcome expected(AddinKind kind, bool on, const Use& use, Fault fault) {
   return {false, true};  // the folder of scripts is there, whole or not
 }
 
-class FaultyAddins : public testing::TestWithParam<std::pair<bool, bool>> {};
+class FaultyAddins : public testing::TestWithParam<std::tuple<AddinKind, bool>> {};
 
 TEST_P(FaultyAddins, sayWhatHappenedAndTouchNothingElse) {
-  const AddinKind kind{GetParam().first};
-  const bool on = GetParam().second;
+  const auto [kind, on] = GetParam();
   const std::vector<Use> uses = AddinTrial(kind, on).uses();
   int faults = 0, differing = 0;
   for (std::size_t i = 0; i < uses.size(); ++i) {
@@ -70,12 +69,13 @@ TEST_P(FaultyAddins, sayWhatHappenedAndTouchNothingElse) {
   }
   EXPECT_GE(faults, 5);
   std::printf("%s of %s: %zu operations, %d faults, %d of them seen otherwise by the next start\n",
-              on ? "install" : "removal", kind.isMail ? "scripts" : "a macro", uses.size(), faults, differing);
+              on ? "install" : "removal", kind == AddinKind::mail ? "scripts" : "a macro", uses.size(), faults,
+              differing);
 }
 
 INSTANTIATE_TEST_SUITE_P(Everywhere, FaultyAddins,
-                         testing::Values(std::pair(false, true), std::pair(false, false), std::pair(true, true),
-                                         std::pair(true, false)));
+                         testing::Combine(testing::Values(AddinKind::office, AddinKind::mail),
+                                          testing::Values(true, false)));
 
 // Scripts of an earlier generation: what cannot be removed is not told, and the row shows what the disk holds.
 TEST(FaultyOldScripts, areSilentAndLeaveTheRowTrue) {

@@ -35,10 +35,10 @@ TEST_F(AddinTables, keepWhyATickFailedWithItsRow) {
                         std::make_error_code(std::errc::permission_denied)};
   failFirstUse();
   office.userTick(0, true);
-  ASSERT_NE(table.failureOf(0, 0), nullptr);
-  EXPECT_EQ(*table.failureOf(0, 0), failure);
-  EXPECT_EQ(table.failureOf(0, 1), nullptr);
-  EXPECT_EQ(table.failureOf(1, 0), nullptr);
+  ASSERT_NE(table.failureOf({AddinKind::office, 0}), nullptr);
+  EXPECT_EQ(*table.failureOf({AddinKind::office, 0}), failure);
+  EXPECT_EQ(table.failureOf({AddinKind::office, 1}), nullptr);
+  EXPECT_EQ(table.failureOf({AddinKind::mail, 0}), nullptr);
   const std::string words = failureText(failure, texts);
   EXPECT_EQ(outlets.officeReasonField.stringValue(), words);
   EXPECT_EQ(outlets.mailReasonField.stringValue(), "");
@@ -52,7 +52,7 @@ TEST_F(AddinTables, keepWhyATickFailedWithItsRow) {
   table.selectionDidChange(office);
   EXPECT_EQ(outlets.officeReasonField.stringValue(), words);
   office.userTick(0, true);
-  EXPECT_EQ(table.failureOf(0, 0), nullptr);
+  EXPECT_EQ(table.failureOf({AddinKind::office, 0}), nullptr);
   EXPECT_EQ(outlets.officeReasonField.stringValue(), "");
 }
 

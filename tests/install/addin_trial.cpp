@@ -85,8 +85,8 @@ AddinTrial::AddinTrial(AddinKind kind, bool on) : kind_(kind), on_(on) {
   world_.folder.write("elsewhere/a.scpt", "the user's");
   world_.folder.write("elsewhere/Tarvo.dotm", "the user's");
   world_.folder.write("elsewhere/sub/c.scpt", "the user's");
-  world_.ship({kind.entry()});
-  world_.setUp({kind.entry()});
+  world_.ship({exampleOf(kind)});
+  world_.setUp({exampleOf(kind)});
   EXPECT_TRUE(world_.start());
   if (!on) table().userTick(0, true);
   world_.log.clear();
@@ -107,8 +107,8 @@ bool AddinTrial::befalls(Fault fault, const Use& use, bool isLast, AddinKind kin
     case Fault::linkInTheWay:
     case Fault::deadLinkInTheWay:
     case Fault::fileInTheWay: return use.operation != Operation::list && use.operation != Operation::removeEmptyFolder;
-    case Fault::vanishedItem: return kind.isMail;
-    case Fault::folderBecomesLink: return kind.isMail && !isLast;
+    case Fault::vanishedItem: return kind == AddinKind::mail;
+    case Fault::folderBecomesLink: return kind == AddinKind::mail && !isLast;
   }
   return false;
 }
@@ -123,24 +123,24 @@ void AddinTrial::run(std::size_t use, Fault fault) {
   world_.files.forget();
 }
 
-bool AddinTrial::succeeded() const { return text() == addinText(kind_.entry(), appName) + message("IsSuccessed"); }
+bool AddinTrial::succeeded() const { return text() == addinText(exampleOf(kind_), appName) + message("IsSuccessed"); }
 
-bool AddinTrial::failed() const { return text() == addinText(kind_.entry(), appName) + message("IsFailed"); }
+bool AddinTrial::failed() const { return text() == addinText(exampleOf(kind_), appName) + message("IsFailed"); }
 
 bool AddinTrial::saysWhy() const {
-  return !(kind_.isMail ? world_.outlets.mailReasonField : world_.outlets.officeReasonField).stringValue().empty();
+  return !(isMail() ? world_.outlets.mailReasonField : world_.outlets.officeReasonField).stringValue().empty();
 }
 
 std::optional<bool> AddinTrial::nextStatus() {
   UserDefaults fresh(world_.disk, DiskPath("/nowhere.plist"));
   AddinLists lists({world_.disk, world_.bundle, fresh, world_.locations}, world_.mailScripts);
   EXPECT_TRUE(lists.searchOfficeApplication());
-  const std::vector<AddinEntry>& rows = kind_.isMail ? lists.fMailAddinArray() : lists.fOfficeAddinArray();
+  const std::vector<AddinEntry>& rows = isMail() ? lists.fMailAddinArray() : lists.fOfficeAddinArray();
   return rows.empty() ? std::nullopt : std::optional(isMarkedInstalled(rows[0]));
 }
 
 std::string AddinTrial::message(const char* end) const {
-  return std::string("«") + kind_.prefix() + (on_ ? "Install" : "UnInstall") + end + "»";
+  return "«" + std::string(rowOf(kind_).textsPrefix) + (on_ ? "Install" : "UnInstall") + end + "»";
 }
 
 Result<> AddinTrial::suffer(Fault fault, const Use& use, const Perform& perform) const {
@@ -153,7 +153,7 @@ Result<> AddinTrial::suffer(Fault fault, const Use& use, const Perform& perform)
     }
     case Fault::forbidden: return FaultyFiles::forbid(use, perform);
     case Fault::vanishedFolder: fs::remove_all(installFolder()); return perform();
-    case Fault::vanishedItem: fs::remove_all(world_.folder / world_.item(kind_.entry())); return perform();
+    case Fault::vanishedItem: fs::remove_all(world_.folder / world_.item(exampleOf(kind_))); return perform();
     case Fault::linkInTheWay:
       fs::remove_all(target);
       fs::create_symlink(world_.folder / "elsewhere", target);
@@ -169,7 +169,7 @@ Result<> AddinTrial::suffer(Fault fault, const Use& use, const Perform& perform)
     }
     case Fault::folderBecomesLink: {
       Result<> done = perform();
-      const std::string item = (world_.folder / world_.item(kind_.entry()));
+      const std::string item = (world_.folder / world_.item(exampleOf(kind_)));
       fs::remove_all(item);
       fs::create_symlink(world_.folder / "elsewhere", item);
       return done;

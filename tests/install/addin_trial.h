@@ -30,12 +30,8 @@ const char* nameOf(Fault fault);
 // Everything below a folder with kind, mode and content, but for one subtree.
 std::map<std::string, std::string> everythingBut(const std::string& folder, const std::string& subtree);
 
-// One kind of add-in: an Office macro or a folder of mail scripts.
-struct AddinKind {
-  bool isMail;
-  const char* prefix() const { return isMail ? "Mail" : "Office"; }
-  AddinEntry entry() const { return isMail ? appleMail() : word2011(); }
-};
+// One of that kind.
+inline AddinEntry exampleOf(AddinKind kind) { return kind == AddinKind::mail ? appleMail() : word2011(); }
 
 // One install or removal by the box of its row, on a disk that can go wrong at one operation.
 class AddinTrial {
@@ -61,10 +57,11 @@ class AddinTrial {
   bool isOutsideUntouched() const { return before_ == outside(); }
 
  private:
-  TableView& table() { return kind_.isMail ? world_.outlets.mailTableView : world_.outlets.officeTableView; }
-  std::string text() const { return kind_.isMail ? world_.mailText() : world_.officeText(); }
+  bool isMail() const { return kind_ == AddinKind::mail; }
+  TableView& table() { return isMail() ? world_.outlets.mailTableView : world_.outlets.officeTableView; }
+  std::string text() const { return isMail() ? world_.mailText() : world_.officeText(); }
   std::string message(const char* end) const;
-  std::string installFolder() const { return world_.real(AddinWorld::installFolder(kind_.entry())).text(); }
+  std::string installFolder() const { return world_.real(AddinWorld::installFolder(exampleOf(kind_))).text(); }
   std::map<std::string, std::string> outside() const { return everythingBut(world_.folder.path(), installFolder()); }
   Result<> suffer(Fault fault, const Use& use, const std::function<Result<>()>& perform) const;
 

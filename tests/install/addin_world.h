@@ -78,7 +78,8 @@ struct AddinWorld {
     folder.makeFolder("root/Users/taro");
     folder.makeFolder("resources");
     panes.tab.setPages({{"StyleManager", "1"}, {"OA", "2"}, {"MT", "3"}});
-    outlets.mailTableView.setTag(1);
+    outlets.officeTableView.setTag(rowOf(AddinKind::office).tag);
+    outlets.mailTableView.setTag(rowOf(AddinKind::mail).tag);
     for (TableView* view : {&outlets.officeTableView, &outlets.mailTableView}) {
       view->setColumns({{.identifier = "Value", .checkBox = true}, {"AppName"}, {"Version"}});
       view->setDataSource(&table);
