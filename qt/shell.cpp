@@ -10,6 +10,7 @@
 
 #include "app/t_manager_controller.h"
 #include "platform/services/engine.h"
+#include "platform/services/failure_text.h"
 #include "qt/dialogs.h"
 #include "qt/panes/mail_pane.h"
 #include "qt/panes/office_pane.h"
@@ -101,8 +102,9 @@ void Shell::customizeToolbar() {
 void Shell::tellUnsavedStyles() {
   StyleStore& store = program_.rooms().store;
   store.didWrite = [this, &store] {
-    const QString path = toQString(store.path().text());
-    windows_.mainWindow()->setNotice(store.isSaved() ? QString() : binder_.localized("NotSavedYet") + path);
+    const std::optional<Failure>& unsaved = store.unsaved();
+    windows_.mainWindow()->setNotice(
+        unsaved ? binder_.localized("NotSavedYet") + toQString(failureText(*unsaved, product_.texts())) : QString());
   };
 }
 

@@ -6,7 +6,6 @@
 #include <QBoxLayout>
 #include <QDropEvent>
 #include <QEvent>
-#include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPainter>
@@ -22,6 +21,7 @@
 #include "qt/look/metrics.h"
 #include "qt/look/plate.h"
 #include "qt/window/frame_animation.h"
+#include "qt/window/notice_line.h"
 #include "qt/window/toolbar_view.h"
 
 namespace tarvo {
@@ -166,18 +166,10 @@ void MainWindow::fitPane() { panes_->setGeometry(paneArea_->rect()); }
 void MainWindow::setNotice(const QString& text) {
   if (notice_ == nullptr) {
     if (text.isEmpty()) return;
-    notice_ = new QLabel(this);
-    notice_->setObjectName(QStringLiteral("notice"));
-    notice_->setTextFormat(Qt::PlainText);
-    notice_->setContentsMargins(metrics::paneMargin, metrics::rowGap, metrics::paneMargin, metrics::rowGap);
-    notice_->setBackgroundRole(QPalette::Midlight);
-    notice_->setAutoFillBackground(true);
-    notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // a long path never widens the window
+    notice_ = new NoticeLine(this);
     static_cast<QBoxLayout*>(layout())->addWidget(notice_);
   }
-  notice_->setText(text);
-  notice_->setToolTip(text);
-  notice_->setVisible(!text.isEmpty());
+  notice_->tell(text);
 }
 
 }  // namespace tarvo

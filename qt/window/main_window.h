@@ -10,13 +10,13 @@
 #include "qt/bind/binder.h"
 #include "qt/window/menu_bar.h"
 
-class QLabel;
 class QStackedWidget;
 
 namespace tarvo {
 
 class FrameAnimation;
 class Interface;
+class NoticeLine;
 class ToolbarView;
 
 // The main window: menu bar, toolbar, the shown pane, and a line at the foot while something could not be saved.
@@ -32,7 +32,7 @@ class MainWindow : public QWidget {
   QSize minimumOfPane(Pane pane);
   void resizeTo(QSize client, bool animate);
   void buildPanes();  // the shown one
-  // A line at the foot; "" takes it away.
+  // A line at the foot (notice_line.h); "" takes it away.
   void setNotice(const QString& text);
 
   std::function<void()> toolbarChangedHeight;
@@ -48,7 +48,7 @@ class MainWindow : public QWidget {
   QMenuBar* menuBar_;
   ToolbarView* toolbar_;
   QWidget* paneArea_;
-  QLabel* notice_ = nullptr;
+  NoticeLine* notice_ = nullptr;
   QWidget* dropMark_ = nullptr;
   QStackedWidget* panes_ = nullptr;
   FrameAnimation* animation_;

@@ -98,7 +98,15 @@ TEST_F(MainWindowTest, whatCouldNotBeSavedIsSaidUntilItIs) {
   auto* notice = window().findChild<QLabel*>("notice");
   ASSERT_NE(notice, nullptr);
   EXPECT_TRUE(notice->isVisible());
-  EXPECT_EQ(notice->text().toStdString(), "Not saved yet: " + path);
+  const QString whole = QString::fromStdString("Not saved yet: " + path + ": cannot be written; it is a folder");
+  EXPECT_EQ(notice->accessibleDescription(), whole);
+  EXPECT_EQ(notice->toolTip(), "<p>" + whole.toHtmlEscaped() + "</p>");
+  notice->resize(4 * notice->fontMetrics().horizontalAdvance(whole), notice->height());
+  EXPECT_EQ(notice->text(), whole);
+  notice->resize(notice->fontMetrics().horizontalAdvance(whole) / 2, notice->height());
+  ASSERT_TRUE(notice->text().endsWith(QChar(0x2026)));
+  EXPECT_TRUE(whole.startsWith(notice->text().chopped(1)));
+  EXPECT_GT(notice->text().size(), whole.size() / 4);
   std::filesystem::remove(path);
   shell->program().rooms().store.writeTarvoStylePlist();
   EXPECT_FALSE(notice->isVisible());
