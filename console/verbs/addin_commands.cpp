@@ -72,23 +72,39 @@ ExitStatus AddinEditCommand::run(Console& console) {
   return ExitStatus::done;
 }
 
+namespace {
+
+using RowCounts = std::map<AddinKind, std::size_t>;
+
+RowCounts countRows(const AddinLists& lists) {
+  RowCounts counts;
+  for (const AddinKindRow& each : addinKindRows) counts[each.kind] = lists.rowsOf(each.kind).size();
+  return counts;
+}
+
+std::vector<AddinEntry> rowsBehind(const AddinLists& lists, const RowCounts& known) {
+  std::vector<AddinEntry> added;
+  for (const auto& [kind, count] : known) {
+    const std::vector<AddinEntry>& rows = lists.rowsOf(kind);
+    added.insert(added.end(), rows.begin() + static_cast<std::ptrdiff_t>(count), rows.end());
+  }
+  return added;
+}
+
+}  // namespace
+
 ExitStatus AddinSearchCommand::run(Console& console) {
   if (const std::optional<Problem> failure = takeLock(console)) return tell(console, *failure);
   AddinSession session(console.product);
   if (const Result<> read = session.read(); !read) return tell(console, read.error());
-  const AddinLists& lists = session.lists();
-  std::map<AddinKind, std::size_t> known;
-  for (const AddinKindRow& each : addinKindRows) known[each.kind] = lists.rowsOf(each.kind).size();
+  const RowCounts known = countRows(session.lists());
   const DiskPath folder = absolutePath(folder_);
   if (const Result<> searched = session.searchFolder(folder); !searched) return tell(console, searched.error());
   std::vector<std::string> names;
   std::vector<std::vector<std::string>> lines;
-  for (const AddinKindRow& each : addinKindRows) {
-    const std::vector<AddinEntry>& rows = lists.rowsOf(each.kind);
-    for (std::size_t i = known[each.kind]; i < rows.size(); ++i) {
-      names.push_back(addinText(rows[i], appName));
-      lines.push_back(lineOf(rows[i], "added", console.product));
-    }
+  for (const AddinEntry& row : rowsBehind(session.lists(), known)) {
+    names.push_back(addinText(row, appName));
+    lines.push_back(lineOf(row, "added", console.product));
   }
   if (names.empty()) {
     note(console, Refusal{folder.text(), "Refusal.NothingFound", ""});
