@@ -49,9 +49,10 @@ CellValue AddinTable::objectValueForTableColumn(TableView& table, std::string_vi
 void AddinTable::setObjectValue(TableView& table, bool value, std::string_view column, int row) {
   fIsInstalled = true;
   const std::optional<AddinKind> kind = addinKindForTag(table.tag());
-  const AddinEntry* entry = kind ? entryAt({*kind, row}) : nullptr;
-  if (entry == nullptr || column != addin_columns::check) return;
+  if (!kind || column != addin_columns::check) return;
   const AddinPlace place{*kind, row};
+  const AddinEntry* entry = entryAt(place);
+  if (entry == nullptr) return;
   const Result<> done = setInstalled(lists_, place, value, macros_, mailScripts_);
   if (!done) services_.panels.beep();
   failures_.erase(place);
