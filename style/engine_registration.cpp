@@ -24,8 +24,7 @@ void EngineRegistration::registerStyles(const StyleSet* styles) {
   if (engine_.checkConnectionWithCurl()) {
     send(styles);
   } else if (styles != nullptr) {
-    const Result<> reached = engine_.couldReach();  // some engines do not know why
-    outcome_ = reached ? Result<>(Failure{"", Attempt::reach, Reason::unreachable}) : reached;
+    outcome_ = whyUnreached(engine_);
   }
 }
 

@@ -17,10 +17,8 @@ namespace tarvo {
 namespace {
 
 void tellUnreached(Console& console, const Engine& engine) {
-  const std::string url = console.product.engineURL();
-  const Result<> reached = engine.couldReach();
-  const std::string cause = reached ? "" : causeOf(reached.error(), console.textsToTell());
-  note(console, {url.empty() ? std::string(wordOf(engine.form())) : url, "Refusal.NotReached", cause});
+  const std::string cause = causeOf(whyUnreached(engine), console.textsToTell());
+  note(console, {serviceName(console.product, engine), "Refusal.NotReached", cause});
 }
 
 }  // namespace

@@ -90,9 +90,11 @@ std::optional<bool> StyleSession::registerStyles() {
   return outcome->has_value();
 }
 
-std::string StyleSession::service() const {
-  const std::string url = console_.product.engineURL();
-  return url.empty() ? std::string(wordOf(engine_->form())) : url;
+std::string StyleSession::service() const { return serviceName(console_.product, *engine_); }
+
+std::string serviceName(const Product& product, const Engine& engine) {
+  const std::string url = product.engineURL();
+  return url.empty() ? std::string(wordOf(engine.form())) : url;
 }
 
 }  // namespace tarvo

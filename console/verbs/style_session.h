@@ -17,6 +17,10 @@
 namespace tarvo {
 
 class Engine;
+class Product;
+
+// What messages call the style service: its address, or its form.
+std::string serviceName(const Product& product, const Engine& engine);
 
 // What a verb that changes styles starts: the lock, the styles as a load finds them, one operation on the style that
 // was named, one write of the style file, one registration with the style service. What the load joined travels in that
@@ -54,7 +58,7 @@ class StyleSession {
   std::optional<Problem> keepTaken();
   std::optional<bool> registerStyles();
   const std::string& pathOfStyles() const;
-  std::string service() const;  // its address, or its form
+  std::string service() const;
   Console& console_;
   std::unique_ptr<Engine> engine_;
   UserDefaults defaults_;

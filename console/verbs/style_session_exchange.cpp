@@ -10,15 +10,6 @@
 // The session's exchanges with the style service.
 namespace tarvo {
 
-namespace {
-
-Failure whyUnreached(const Engine& engine) {
-  const Result<> reached = engine.couldReach();  // some engines do not know why
-  return reached ? Failure{"", Attempt::reach, Reason::unreachable} : reached.error();
-}
-
-}  // namespace
-
 ExitStatus StyleSession::push() {
   if (const std::optional<Problem> failure = open()) return tell(console_, *failure);
   if (const std::optional<Problem> failure = writeLoaded()) return tell(console_, *failure);

@@ -57,4 +57,10 @@ class Engine {
   virtual Result<> couldRead() const { return {}; }
 };
 
+// Why the service could not be reached, also by an engine that does not know.
+inline Failure whyUnreached(const Engine& engine) {
+  const Result<> reached = engine.couldReach();
+  return reached ? Failure{"", Attempt::reach, Reason::unreachable} : reached.error();
+}
+
 }  // namespace tarvo
