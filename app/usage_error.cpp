@@ -64,17 +64,17 @@ std::string subjectOf(const UsageError& error) {
   return error.owner.empty() ? error.word : error.owner + " " + error.word;
 }
 
-std::string reasonOf(const UsageError& error, const Texts& texts) {
-  std::string reason = texts.localized(keyOf(error.kind));
+MessageParts reasonOf(const UsageError& error, const Texts& texts) {
+  MessageParts reason{texts.localized(keyOf(error.kind)), "", ""};
   const std::string allowed = error.allowed.empty() ? texts.localized(error.otherwise) : listed(error.allowed);
-  if (!allowed.empty()) reason.append("; ").append(texts.localized("Usage.Allowed")).append(": ").append(allowed);
+  if (!allowed.empty()) reason.cause = texts.localized("Usage.Allowed") + ": " + allowed;
   const std::string nearest = resemblesOne(error.kind) ? nearestWord(error.word, error.allowed) : "";
-  if (!nearest.empty()) reason.append("; ").append(texts.localized("Usage.Nearest")).append(": ").append(nearest);
+  if (!nearest.empty()) reason.cure = texts.localized("Usage.Nearest") + ": " + nearest;
   return reason;
 }
 
 std::string told(const UsageError& error, std::string_view program, const Texts& texts) {
-  return std::string(program) + ": " + subjectOf(error) + ": " + reasonOf(error, texts);
+  return std::string(program) + ": " + subjectOf(error) + ": " + joined(reasonOf(error, texts));
 }
 
 }  // namespace tarvo

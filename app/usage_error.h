@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/services/failure_text.h"
+
 // Words of a command line that cannot be understood, told the same way by every program.
 namespace tarvo {
 
@@ -23,7 +25,7 @@ struct UsageError {
 // The wrong word, behind what it is a value of.
 std::string subjectOf(const UsageError& error);
 // What is wrong; what is allowed; the nearest allowed word, where the word resembles one of them and not several.
-std::string reasonOf(const UsageError& error, const Texts& texts);
+MessageParts reasonOf(const UsageError& error, const Texts& texts);
 // One line without its end: program, subject, reason.
 std::string told(const UsageError& error, std::string_view program, const Texts& texts);
 

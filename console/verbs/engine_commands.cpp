@@ -17,7 +17,7 @@ namespace tarvo {
 namespace {
 
 void tellUnreached(Console& console, const Engine& engine) {
-  const std::string cause = causeOf(whyUnreached(engine), console.textsToTell());
+  const std::string cause = failureParts(whyUnreached(engine), console.textsToTell()).cause;
   note(console, {serviceName(console.product, engine), "Refusal.NotReached", cause});
 }
 

@@ -15,30 +15,33 @@ namespace tarvo {
 
 namespace {
 
-// "what; cause; cure" in its parts.
-std::array<std::string, 3> partsOf(const std::string& text) {
-  std::array<std::string, 3> parts;
-  std::size_t start = 0;
-  for (std::size_t i = 0; i < parts.size() && start <= text.size(); ++i) {
-    const std::size_t end = i + 1 < parts.size() ? std::min(text.find("; ", start), text.size()) : text.size();
-    parts[i] = text.substr(start, end - start);
-    start = end + 2;
-  }
-  return parts;
+// A text "what; cause; cure" in its parts. What fills its gap comes afterwards: it may hold anything.
+MessageParts partsOf(const std::string& text) {
+  constexpr std::string_view between = "; ";
+  const std::size_t first = std::min(text.find(between), text.size());
+  const std::size_t second = std::min(text.find(between, first + 1), text.size());
+  const auto part = [&text](std::size_t start, std::size_t end) {
+    return start < text.size() ? text.substr(start, end - start) : std::string();
+  };
+  return {part(0, first), part(first + between.size(), second), part(second + between.size(), text.size())};
 }
 
-// A problem as it is told: what it is about, and "what; cause; cure".
+// A problem as it is told.
 struct Told {
-  std::string name, parts;
+  std::string name;  // what it is about
+  MessageParts parts;
 };
 
 struct Telling {
   const Texts& texts;
   Told operator()(const Refusal& refusal) const {
-    return {refusal.name, filledIn(texts.localized(refusal.key), printable(refusal.detail))};
+    MessageParts parts = partsOf(texts.localized(refusal.key));
+    for (std::string* part : {&parts.what, &parts.cause, &parts.cure})
+      *part = filledIn(*part, printable(refusal.detail));
+    return {refusal.name, std::move(parts)};
   }
   Told operator()(const UsageError& error) const { return {subjectOf(error), reasonOf(error, texts)}; }
-  Told operator()(const Failure& failure) const { return {failure.path, failureCauseText(failure, texts)}; }
+  Told operator()(const Failure& failure) const { return {failure.path, failureParts(failure, texts)}; }
 };
 
 ExitStatus statusOf(const Problem& problem) {
@@ -47,7 +50,7 @@ ExitStatus statusOf(const Problem& problem) {
 }
 
 void print(Console& console, const Told& told) {
-  console.err << "tarvoctl: " << printable(told.name) << ": " << told.parts << '\n';
+  console.err << "tarvoctl: " << printable(told.name) << ": " << joined(told.parts) << '\n';
 }
 
 }  // namespace
@@ -57,8 +60,8 @@ ExitStatus tell(Console& console, const Problem& problem) {
   const Told told = std::visit(Telling{texts}, problem);
   print(console, told);
   if (console.json) {
-    const std::array<std::string, 3> parts = partsOf(told.parts);
-    const Json::Object error{{"name", told.name}, {"what", parts[0]}, {"cause", parts[1]}, {"cure", parts[2]}};
+    const auto& [what, cause, cure] = told.parts;
+    const Json::Object error{{"name", told.name}, {"what", what}, {"cause", cause}, {"cure", cure}};
     console.out << writeJson(Json::Object{{"done", false}, {"error", error}}) << '\n';
   }
   return statusOf(problem);
@@ -78,8 +81,6 @@ void note(Console& console, const Refusal& told) {
 UsageError unknownEngine(const std::string& address) {
   return {UsageError::Kind::wrongValue, address, {}, "Usage.Engine", "--engine"};
 }
-
-std::string causeOf(const Failure& failure, const Texts& texts) { return partsOf(failureCauseText(failure, texts))[1]; }
 
 void say(Console& console, const Outcome& outcome) {
   const bool isSo = outcome.changed.empty();

@@ -40,9 +40,6 @@ void say(Console& console, const Outcome& outcome);
 // The lock of the user's files, which every verb that changes something takes. Why it does not have it, if so.
 std::optional<Problem> takeLock(Console& console);
 
-// Why it failed, without what and where.
-std::string causeOf(const Failure& failure, const Texts& texts);
-
 // The address of a style service that no form of it serves.
 UsageError unknownEngine(const std::string& address);
 

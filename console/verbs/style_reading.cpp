@@ -20,7 +20,7 @@ ReadStyles readStyles(Console& console) {
   if (!products && !isUnreadable) return {std::nullopt, tell(console, products.error())};
   if (!products) return {std::nullopt, tell(console, Failure{path.text(), Attempt::read, users.error().cause})};
   if (!isUnreadable) return {std::move(*products)};
-  const std::string cause = causeOf(users.error(), console.textsToTell());
+  const std::string cause = failureParts(users.error(), console.textsToTell()).cause;
   note(console, Refusal{path.text(), "Refusal.ProductsStyles", cause});
   return {std::move(*products), ExitStatus::refused};
 }

@@ -33,7 +33,7 @@ std::optional<Problem> StyleSession::open() {
   if (std::optional<Problem> failure = takeLock(console_)) return failure;
   const LoadedStyles loaded = loadStyles(store_, medical_, product.files(), product.paths());
   if (const std::optional<Failure>& unread = store_.unread()) {
-    return Refusal{pathOfStyles(), "Refusal.UnreadableStyles", causeOf(*unread, console_.textsToTell())};
+    return Refusal{pathOfStyles(), "Refusal.UnreadableStyles", failureParts(*unread, console_.textsToTell()).cause};
   }
   if (loaded.failure) return *loaded.failure;
   inserted_ = loaded.inserted;
@@ -86,7 +86,8 @@ std::optional<bool> StyleSession::registerStyles() {
   store_.registerStyles();
   const std::optional<Result<>>& outcome = store_.registration();
   if (!outcome) return std::nullopt;
-  if (!*outcome) note(console_, {service(), "Refusal.Waiting", causeOf(outcome->error(), console_.textsToTell())});
+  if (!*outcome)
+    note(console_, {service(), "Refusal.Waiting", failureParts(outcome->error(), console_.textsToTell()).cause});
   return outcome->has_value();
 }
 

@@ -23,7 +23,7 @@ ExitStatus StyleSession::push() {
 ExitStatus StyleSession::pull() {
   if (const std::optional<Problem> failure = open()) return tell(console_, *failure);
   const auto notPulled = [this](const Failure& why) {
-    return tell(console_, Refusal{service(), "Refusal.NotPulled", causeOf(why, console_.textsToTell())});
+    return tell(console_, Refusal{service(), "Refusal.NotPulled", failureParts(why, console_.textsToTell()).cause});
   };
   if (!engine_->checkConnectionWithCurl()) return notPulled(whyUnreached(*engine_));
   const Result<StyleStore::Reconciled> reconciled = store_.reconcile();
@@ -42,7 +42,8 @@ ExitStatus StyleSession::pull() {
 
 ExitStatus StyleSession::sayHandedOver(const Result<>& outcome) {
   if (!outcome) {
-    return tell(console_, Refusal{service(), "Refusal.NotPushed", causeOf(outcome.error(), console_.textsToTell())});
+    return tell(console_,
+                Refusal{service(), "Refusal.NotPushed", failureParts(outcome.error(), console_.textsToTell()).cause});
   }
   if (console_.json) {
     say(console_, {{service()}, true});

@@ -60,12 +60,24 @@ const char* keyOf(const std::error_code& cause) {
 
 }  // namespace
 
-std::string failureCauseText(const Failure& failure, const Texts& texts) {
+std::string joined(const MessageParts& parts) {
+  std::string text = parts.what;
+  for (const std::string* part : {&parts.cause, &parts.cure}) {
+    if (!part->empty()) text += "; " + *part;
+  }
+  return text;
+}
+
+MessageParts failureParts(const Failure& failure, const Texts& texts) {
   const char* key = keyOf(failure.cause);
-  std::string text = texts.localized(std::string("Failure.") + wordOf(failure.attempt));
-  text += "; " + (key != nullptr ? texts.localized(std::string("Cause.") + key) : failure.cause.message());
   const std::string* cure = key != nullptr ? texts.find(std::string("Cure.") + key) : nullptr;
-  return cure != nullptr ? text + "; " + *cure : text;
+  return {texts.localized(std::string("Failure.") + wordOf(failure.attempt)),
+          key != nullptr ? texts.localized(std::string("Cause.") + key) : failure.cause.message(),
+          cure != nullptr ? *cure : std::string()};
+}
+
+std::string failureCauseText(const Failure& failure, const Texts& texts) {
+  return joined(failureParts(failure, texts));
 }
 
 std::string failureText(const Failure& failure, const Texts& texts) {

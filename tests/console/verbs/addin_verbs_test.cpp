@@ -135,6 +135,17 @@ TEST_F(AddinVerbs, aNameThatMeansNoRowIsRefusedAndOneThatMeansSeveralIsMisuse) {
   EXPECT_EQ(run({"addin", "burn", "Mail"}).status, 2);
 }
 
+TEST_F(AddinVerbs, theJsonOfAFailureKeepsAPathWholeThatLooksLikeTwoParts) {
+  put("/Volumes/D; E/Outlook.app/Contents/Info.plist", read("/Applications/O11/Outlook.app/Contents/Info.plist"));
+  makeFolder("/Users/taro/Library/Scripts/Outlook");
+  EXPECT_EQ(run({"addin", "search", root_.root() + "/Volumes/D; E"}).status, 0);
+  EXPECT_EQ(run({"--json", "addin", "install", "Outlook 2011"}).out,
+            R"({"done":false,"error":{"cause":"allowed: )" + real("/Applications/O11/Outlook.app") + ", " +
+                real("/Volumes/D; E/Outlook.app") +
+                R"(","cure":"","name":"NAME Outlook 2011","what":"more than one has this name"}})"
+                "\n");
+}
+
 TEST_F(AddinVerbs, rowsOfOneNameAreToldApartByTheirVersions) {
   const std::string shipped = read("/Bundle/DefaultAddin.plist");
   std::string renamed = shipped;
