@@ -25,7 +25,7 @@ Tool rememberedTool(const UserDefaults& defaults, const Texts& texts) {
       stored != nullptr
           ? std::ranges::find(siblingTools, *stored, [&](const SiblingTool& each) { return texts.localized(each.key); })
           : siblingTools.end();
-  return tool != siblingTools.end() ? static_cast<Tool>(tool - siblingTools.begin()) : Tool::manager;
+  return tool != siblingTools.end() ? tool->tool : Tool::manager;
 }
 
 }  // namespace tarvo

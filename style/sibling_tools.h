@@ -26,27 +26,27 @@ enum class Tool {
 };
 
 struct SiblingTool {
+  Tool tool;
   std::string_view key;   // text key of the tool's id in "Selection"
   std::string_view icon;  // image name
 };
 
-inline constexpr std::array<SiblingTool, 8> siblingTools{{{"MG", "MG.tif"},
-                                                          {"QB", "QB.tif"},
-                                                          {"TX", "TX.tif"},
-                                                          {"GD", "GD32.tif"},
-                                                          {"TMA", "TMA.tif"},
-                                                          {"NP", "NP.tif"},
-                                                          {"ADD", "office32.tif"},
-                                                          {"MAIL", "mail32.tif"}}};
+inline constexpr std::array<SiblingTool, 8> siblingTools{{
+    {Tool::manager, "MG", "MG.tif"},
+    {Tool::quickTranslation, "QB", "QB.tif"},
+    {Tool::textTranslation, "TX", "TX.tif"},
+    {Tool::readingGuide, "GD", "GD32.tif"},
+    {Tool::translationMemory, "TMA", "TMA.tif"},
+    {Tool::notepad, "NP", "NP.tif"},
+    {Tool::officeAddins, "ADD", "office32.tif"},
+    {Tool::mail, "MAIL", "mail32.tif"},
+}};
 
 constexpr const SiblingTool& rowOf(Tool tool) { return siblingTools[static_cast<std::size_t>(tool)]; }
-inline constexpr std::array<Tool, siblingTools.size()> allTools{
-    Tool::manager,           Tool::quickTranslation, Tool::textTranslation, Tool::readingGuide,
-    Tool::translationMemory, Tool::notepad,          Tool::officeAddins,    Tool::mail};
 // Nothing for a place without a tool.
 constexpr std::optional<Tool> toolForPlace(int place) {
   if (place < 0 || place >= static_cast<int>(siblingTools.size())) return std::nullopt;
-  return allTools[static_cast<std::size_t>(place)];
+  return siblingTools[static_cast<std::size_t>(place)].tool;
 }
 constexpr int placeOf(Tool tool) { return static_cast<int>(tool); }
 
