@@ -23,7 +23,7 @@ void NoticeLine::tell(const QString& text) {
   elide();
   // As a paragraph it wraps, and a path is no markup.
   setToolTip(text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()));
-  setAccessibleDescription(text);
+  setAccessibleName(text);
   setVisible(!text.isEmpty());
 }
 

@@ -7,7 +7,7 @@
 namespace tarvo {
 
 // The line at the foot of the main window: one text, elided at its end where the window is too narrow. The whole text
-// is its tool tip and what assistive tools read as its description. It is hidden while it has none, and never widens
+// is its tool tip and what assistive tools read. It is hidden while it has none, and never widens
 // the window. Not: deciding what is told.
 class NoticeLine : public QLabel {
  public:

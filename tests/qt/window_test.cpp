@@ -99,7 +99,7 @@ TEST_F(MainWindowTest, whatCouldNotBeSavedIsSaidUntilItIs) {
   ASSERT_NE(notice, nullptr);
   EXPECT_TRUE(notice->isVisible());
   const QString whole = QString::fromStdString("Not saved yet: " + path + ": cannot be written; it is a folder");
-  EXPECT_EQ(notice->accessibleDescription(), whole);
+  EXPECT_EQ(notice->accessibleName(), whole);
   EXPECT_EQ(notice->toolTip(), "<p>" + whole.toHtmlEscaped() + "</p>");
   notice->resize(4 * notice->fontMetrics().horizontalAdvance(whole), notice->height());
   EXPECT_EQ(notice->text(), whole);
