@@ -33,6 +33,23 @@ std::vector<std::string> lineOf(const AddinEntry& row, const char* first, const 
   return {first, addinText(row, appName), addinText(row, appVersion), product.locations().shown(application)};
 }
 
+using RowCounts = std::map<AddinKind, std::size_t>;
+
+RowCounts countRows(const AddinLists& lists) {
+  RowCounts counts;
+  for (const AddinKindRow& each : addinKindRows) counts[each.kind] = lists.rowsOf(each.kind).size();
+  return counts;
+}
+
+std::vector<AddinEntry> rowsBehind(const AddinLists& lists, const RowCounts& known) {
+  std::vector<AddinEntry> added;
+  for (const auto& [kind, count] : known) {
+    const std::vector<AddinEntry>& rows = lists.rowsOf(kind);
+    added.insert(added.end(), rows.begin() + static_cast<std::ptrdiff_t>(count), rows.end());
+  }
+  return added;
+}
+
 }  // namespace
 
 ExitStatus AddinsCommand::run(Console& console) {
@@ -71,27 +88,6 @@ ExitStatus AddinEditCommand::run(Console& console) {
   say(console, {isSo ? std::vector<std::string>() : std::vector{addinText(row, appName)}, std::nullopt});
   return ExitStatus::done;
 }
-
-namespace {
-
-using RowCounts = std::map<AddinKind, std::size_t>;
-
-RowCounts countRows(const AddinLists& lists) {
-  RowCounts counts;
-  for (const AddinKindRow& each : addinKindRows) counts[each.kind] = lists.rowsOf(each.kind).size();
-  return counts;
-}
-
-std::vector<AddinEntry> rowsBehind(const AddinLists& lists, const RowCounts& known) {
-  std::vector<AddinEntry> added;
-  for (const auto& [kind, count] : known) {
-    const std::vector<AddinEntry>& rows = lists.rowsOf(kind);
-    added.insert(added.end(), rows.begin() + static_cast<std::ptrdiff_t>(count), rows.end());
-  }
-  return added;
-}
-
-}  // namespace
 
 ExitStatus AddinSearchCommand::run(Console& console) {
   if (const std::optional<Problem> failure = takeLock(console)) return tell(console, *failure);
