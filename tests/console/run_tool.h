@@ -19,4 +19,9 @@ struct ToolResult {
 ToolResult runTool(const std::vector<std::string>& arguments, const std::string& workingFolder,
                    const std::string& input = "");
 
+// A failure as it is told: name, what, cause and cure.
+inline std::string told(const std::string& name, const std::string& parts) {
+  return "tarvoctl: " + name + ": " + parts + "\n";
+}
+
 }  // namespace tarvo::test

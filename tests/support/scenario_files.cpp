@@ -68,6 +68,15 @@ ScenarioRoot::ScenarioRoot(const std::string& fixture, const std::string& above)
   fs::create_directories(home());
 }
 
+std::map<std::string, std::string> ScenarioRoot::tree() const {
+  std::map<std::string, std::string> all;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(root())) {
+    const std::string rest = std::filesystem::relative(entry.path(), folder_.path()).string();
+    all[rest] = entry.is_regular_file() ? folder_.read(rest) : "";
+  }
+  return all;
+}
+
 std::vector<std::string> scenarioArguments(const ScenarioFile& file, const ScenarioRoot& root) {
   std::vector<std::string> arguments{"--root", root.root(), "--home", root.home(), "--language", "en"};
   if (!file.resources.empty()) arguments.insert(arguments.end(), {"--resources", root.root() + "/" + file.resources});

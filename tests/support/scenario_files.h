@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,8 @@ class ScenarioRoot {
   std::string root() const { return folder_ / "root"; }
   std::string home() const { return folder_ / "root/Users/taro"; }
   const TemporaryFolder& folder() const { return folder_; }
+  // Every path below the root, from the folder on, with the bytes of the files.
+  std::map<std::string, std::string> tree() const;
 
  private:
   TemporaryFolder folder_;

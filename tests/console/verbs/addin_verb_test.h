@@ -30,10 +30,6 @@ class AddinVerbs : public testing::Test {
     EXPECT_EQ(result.err, err);
     EXPECT_EQ(result.status, status);
   }
-  // A failure as it is told: name, what, cause and cure.
-  static std::string told(const std::string& name, const std::string& parts) {
-    return "tarvoctl: " + name + ": " + parts + "\n";
-  }
   std::string real(const std::string& path) const { return root_.root() + path; }
   // The manager itself, from its start to its end.
   void startAndEnd() const {
@@ -66,15 +62,7 @@ class AddinVerbs : public testing::Test {
     };
     return value("state") + ": " + value("detail");
   }
-  // Every path below the root, with the bytes of the files.
-  std::map<std::string, std::string> tree() const {
-    std::map<std::string, std::string> all;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(root_.root())) {
-      const std::string rest = std::filesystem::relative(entry.path(), root_.folder().path()).string();
-      all[rest] = entry.is_regular_file() ? root_.folder().read(rest) : "";
-    }
-    return all;
-  }
+  std::map<std::string, std::string> tree() const { return root_.tree(); }
   static constexpr const char* lock = "root/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.lock";
   static constexpr const char* startup = "/Applications/O11/Office/Startup/Word";
   static constexpr const char* macro = "/Applications/O11/Office/Startup/Word/Tarvo.dotm";

@@ -39,10 +39,6 @@ class VerbTest : public testing::Test {
   // The same with the texts that people read.
   ToolResult runInEnglish(const std::vector<std::string>& words) const { return run(words, {}); }
   std::string style(int index) const { return run({"style", "show", std::to_string(index), "--json"}).out; }
-  // A failure as it is told: name, what, cause and cure.
-  static std::string told(const std::string& name, const std::string& parts) {
-    return "tarvoctl: " + name + ": " + parts + "\n";
-  }
   std::string stylePath() const { return root_.home() + "/" + styleFile; }
   std::string lockedLine() const {
     return told(
@@ -55,15 +51,7 @@ class VerbTest : public testing::Test {
     all.erase("root/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.lock");
     return all;
   }
-  // Every path below the root, with the bytes of the files.
-  std::map<std::string, std::string> tree() const {
-    std::map<std::string, std::string> all;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(root_.root())) {
-      const std::string rest = std::filesystem::relative(entry.path(), root_.folder().path()).string();
-      all[rest] = entry.is_regular_file() ? root_.folder().read(rest) : "";
-    }
-    return all;
-  }
+  std::map<std::string, std::string> tree() const { return root_.tree(); }
   const ScenarioRoot root_{"plain"};
 };
 
