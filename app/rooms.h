@@ -83,8 +83,13 @@ struct Rooms {
  public:
   ProcessFlags flags;
   PaneAlerts alerts{services_.panels, texts_};
-  StyleStore store{services_.files, services_.engine, defaults_, locations_.inHome(gStylePath),
-                   locations_.onDisk(ProductPath(std::string(gAppSupportStylePlist)))};
+  EarlierStyles earlierStyles{services_.files, locations_.inHome(gEarlierStyles)};
+  StyleStore store{services_.files,
+                   services_.engine,
+                   defaults_,
+                   locations_.inHome(gStylePath),
+                   locations_.onDisk(ProductPath(std::string(gAppSupportStylePlist))),
+                   &earlierStyles};
   OptionEditing options{store, interface_.options, texts_};
   RunningApplicationGuard guard{services_.workspace, services_.paths};
   DictionaryListEditing lists{store, stylePopup_, interface_.lists, texts_, dictionaryServices_, guard};

@@ -84,7 +84,7 @@ Result<Dictionary> readStyle(const FileService& files, const DiskPath& path) {
 void replaceStyle(StyleStore& store, int index, Dictionary record, const std::string& name) {
   record.set(keyNameName, name);
   record.set(keyNameID, index);
-  store.setStyle(index, std::move(record));
+  store.setStyle(index, std::move(record), ChangeKind::import);
 }
 
 Result<> writeStyleFile(const StyleStore& store, int index, FileService& files, const DiskPath& path) {

@@ -2,8 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "style/style_file.h"
 
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <thread>
+#include <utility>
+
 #include "platform/plist/plist_reader.h"
 #include "platform/plist/plist_writer.h"
+#include "platform/services/file_service.h"
+#include "platform/text/fingerprint.h"
 #include "style/style_keys.h"
 
 namespace tarvo {
@@ -11,6 +20,22 @@ namespace tarvo {
 namespace {
 // In the root's dictionary values stand at depth 1, the records inside "Style" at depth 2.
 constexpr int valueDepth = 1;
+
+constexpr int triesMore = 2;
+constexpr std::chrono::milliseconds betweenTries{80};
+
+// Whether a moment later the file may be read after all.
+bool mayPass(const std::error_code& cause) {
+  constexpr std::array causes{std::errc::io_error,
+                              std::errc::resource_unavailable_try_again,
+                              std::errc::too_many_files_open,
+                              std::errc::too_many_files_open_in_system,
+                              std::errc::not_enough_memory,
+                              std::errc::permission_denied};
+  return cause == std::error_code(ESTALE, std::generic_category()) ||
+         std::ranges::any_of(causes, [&cause](std::errc one) { return cause == one; });
+}
+
 }  // namespace
 
 void StyleFile::recordChanged(std::size_t index) {
@@ -27,7 +52,36 @@ std::span<const std::string> StyleFile::encode(const Dictionary& root) {
   return encoded_;
 }
 
-Result<> StyleFile::write(const Dictionary& root) {
+Result<Dictionary> StyleFile::readOnce() {
+  // Somebody may replace the file between a look at it and the reading.
+  const auto stamped = [this] {
+    const Result<FileStamp> stamp = files_.stamp(path());
+    return stamp ? std::optional(*stamp) : std::nullopt;
+  };
+  std::string bytes;
+  const std::optional<FileStamp> before = stamped();
+  Result<Dictionary> root = file_.read(&bytes);
+  stamp_ = stamped();
+  fingerprint_ = bytes.empty() || before != stamp_ ? std::string() : fingerprint(bytes);
+  if (before != stamp_) stamp_.reset();
+  return root;
+}
+
+Result<Dictionary> StyleFile::read() {
+  Result<Dictionary> root = readOnce();
+  for (int again = 0; again < triesMore && !root && mayPass(root.error().cause); ++again) {
+    std::this_thread::sleep_for(betweenTries);
+    root = readOnce();
+  }
+  return root;
+}
+
+bool StyleFile::isChangedElsewhere() const {
+  const Result<FileStamp> now = files_.stamp(path());
+  return stamp_ && now && *now != *stamp_;
+}
+
+std::string StyleFile::bytesOf(const Dictionary& root) {
   const Array* styles = root.array(keyNameStyle);
   std::size_t size = 4096;
   for (const std::string& record : encode(root)) size += record.size();
@@ -45,7 +99,30 @@ Result<> StyleFile::write(const Dictionary& root) {
   }
   bytes += "</dict>\n";
   bytes += plistFoot;
-  return file_.write(bytes);
+  return bytes;
+}
+
+Result<Replaced> StyleFile::replace(const std::string& bytes, std::optional<ChangeKind> change) {
+  if (earlier_ == nullptr) return file_.replace(bytes, {});
+  const bool isUnread = file_.isUnread();
+  if (isUnread) change = ChangeKind::unreadable;
+  const Keeping keeping = earlier_->keepingFor(change, fingerprint_, isUnread ? std::nullopt : stamp_);
+  Result<Replaced> replaced = file_.replace(bytes, keeping);
+  if (replaced) earlier_->settle(keeping, *replaced);
+  return replaced;
+}
+
+Result<> StyleFile::write(const Dictionary& root, std::optional<ChangeKind> change) {
+  const std::string bytes = bytesOf(root);
+  std::string written = fingerprint(bytes);
+  if (written == fingerprint_) change.reset();
+  const Result<Replaced> replaced = replace(bytes, change);
+  if (!replaced) return replaced.error();
+  replaced_ = *replaced;
+  stamp_ = replaced->now;
+  fingerprint_ = std::move(written);
+  if (replaced->unsynced) return *replaced->unsynced;
+  return {};
 }
 
 bool fitsStyleFile(const PropertyList& record) {

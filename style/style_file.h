@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "platform/services/plist_file.h"
+#include "style/earlier_styles.h"
 
 namespace tarvo {
 
@@ -15,11 +17,19 @@ namespace tarvo {
 // the records that changed. Not: holding the styles.
 class StyleFile {
  public:
-  StyleFile(FileService& files, DiskPath path) : file_(files, std::move(path)) {}
+  // earlier: keeps what is replaced; null keeps nothing. Not owned.
+  StyleFile(FileService& files, DiskPath path, EarlierStyles* earlier = nullptr)
+      : files_(files), file_(files, std::move(path)), earlier_(earlier) {}
   const DiskPath& path() const { return file_.path(); }
-  Result<Dictionary> read() { return file_.read(); }
-  // After a failure the file is as it was.
-  Result<> write(const Dictionary& root);
+  // What may be out of reach for an instant is tried three times within a fifth of a second.
+  Result<Dictionary> read();
+  // change: why; nothing when no style has changed. After a failure the file is as it was, but for one that says that
+  // the disk could not sync it.
+  Result<> write(const Dictionary& root, std::optional<ChangeKind> change);
+  // What became of the file that the last write replaced.
+  const Replaced& replaced() const { return replaced_; }
+  // Whether another program has changed the file since it was read or written last; nothing of it is read.
+  bool isChangedElsewhere() const;
   // Every record of the root's "Style" as it stands, or would stand, in the file; empty when that is no array.
   std::span<const std::string> encode(const Dictionary& root);
   // The record at the index, or every record, is no longer what was written last.
@@ -27,7 +37,15 @@ class StyleFile {
   void allChanged() { encoded_.clear(); }
 
  private:
+  Result<Dictionary> readOnce();
+  std::string bytesOf(const Dictionary& root);
+  Result<Replaced> replace(const std::string& bytes, std::optional<ChangeKind> change);
+  FileService& files_;
   PlistFile file_;
+  EarlierStyles* earlier_;
+  std::optional<FileStamp> stamp_;  // of the file as it was read or written last
+  std::string fingerprint_;         // of its bytes; "" where they could not be read
+  Replaced replaced_;
   std::vector<std::string> encoded_;  // by index in "Style"; an empty one has to be made anew
 };
 

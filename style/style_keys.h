@@ -9,6 +9,8 @@
 namespace tarvo {
 
 inline constexpr std::string_view gStylePath = "Library/Preferences/Wordhaven/TarvoStyle2009.plist";  // below the home
+inline constexpr std::string_view gEarlierStyles =
+    "Library/Application Support/Wordhaven/Tarvo Styles";  // below the home
 inline constexpr std::string_view gAppSupportStylePlist =
     "/Library/Application Support/Wordhaven/TarvoEiwa/TarvoStyle2009.plist";
 

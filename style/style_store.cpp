@@ -8,8 +8,9 @@
 
 namespace tarvo {
 
-StyleStore::StyleStore(FileService& files, Engine& engine, UserDefaults& defaults, DiskPath path, DiskPath seedPath)
-    : file_(files, std::move(path)), seed_(files, std::move(seedPath)), registration_(engine, defaults) {}
+StyleStore::StyleStore(FileService& files, Engine& engine, UserDefaults& defaults, DiskPath path, DiskPath seedPath,
+                       EarlierStyles* earlier)
+    : file_(files, std::move(path), earlier), seed_(files, std::move(seedPath)), registration_(engine, defaults) {}
 
 Result<> StyleStore::readFrom(StyleFile& file) {
   Result<Dictionary> root = file.read();
@@ -36,7 +37,9 @@ void StyleStore::fillInMissingOptions() {
     Dictionary* je = record != nullptr ? record->dictionary(keyNameJE) : nullptr;
     if (je == nullptr) continue;
     for (const auto& [key, value] : jeOptionDefaults()) {
-      if (!je->contains(key)) je->set(key, value);
+      if (je->contains(key)) continue;
+      je->set(key, value);
+      noteChange(ChangeKind::edit);
     }
   }
   file_.allChanged();
@@ -56,18 +59,20 @@ std::optional<Dictionary> StyleStore::getStyleAtIndex(int index) const {
   return record != nullptr ? std::optional(*record) : std::nullopt;
 }
 
-void StyleStore::setStyle(int index, Dictionary record) {
+void StyleStore::setStyle(int index, Dictionary record, ChangeKind kind) {
   Array* styles = tarvoStyle_.array(keyNameStyle);
   if (styles == nullptr || !std::in_range<std::size_t>(index) || static_cast<std::size_t>(index) >= styles->size())
     return;
   PropertyList& present = (*styles)[static_cast<std::size_t>(index)];
   if (!writesAll() && present.dictionary() != nullptr && *present.dictionary() == record) return;
   present = std::move(record);
+  noteChange(kind);
   file_.recordChanged(static_cast<std::size_t>(index));
   writeTarvoStylePlist();
 }
 
-void StyleStore::replaceStyles(Array styles) {
+void StyleStore::replaceStyles(Array styles, ChangeKind kind) {
+  noteChange(kind);
   tarvoStyle_.set(keyNameStyle, std::move(styles));
   file_.allChanged();
 }
@@ -88,7 +93,8 @@ int StyleStore::selectedStyle() const {
 }
 
 void StyleStore::writeTarvoStylePlist() {
-  const Result<> written = file_.write(tarvoStyle_);
+  const Result<> written = file_.write(tarvoStyle_, changed_);
+  if (written) changed_.reset();
   unsaved_ = written ? std::nullopt : std::optional(written.error());
   pending_ = pending_ && unsaved_;
   if (didWrite) didWrite();
@@ -106,7 +112,7 @@ Result<StyleStore::Reconciled> StyleStore::reconcile() {
   if (!newer) return newer.error();
   std::optional<Array>& taken = *newer;
   if (!taken) return Reconciled::kept;
-  replaceStyles(std::move(*taken));
+  replaceStyles(std::move(*taken), ChangeKind::pull);
   return Reconciled::replaced;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 #include <string>
@@ -21,7 +22,9 @@ namespace tarvo {
 class StyleStore {
  public:
   // path: the user's style file. seedPath: the copy that comes with the product.
-  StyleStore(FileService& files, Engine& engine, UserDefaults& defaults, DiskPath path, DiskPath seedPath);
+  // earlier: keeps the files that are replaced; null keeps none. Not owned.
+  StyleStore(FileService& files, Engine& engine, UserDefaults& defaults, DiskPath path, DiskPath seedPath,
+             EarlierStyles* earlier = nullptr);
 
   // Replaces the root by the user's file, or by the seed. After a failure the root stays.
   Result<> readUserStyles();
@@ -40,9 +43,9 @@ class StyleStore {
   void setPending() { pending_ = true; }
   bool isPending() const { return pending_; }
   // Replaces the record and writes. An index outside the array changes and writes nothing.
-  void setStyle(int index, Dictionary record);
+  void setStyle(int index, Dictionary record, ChangeKind kind = ChangeKind::edit);
   // Replaces all records without writing.
-  void replaceStyles(Array styles);
+  void replaceStyles(Array styles, ChangeKind kind = ChangeKind::edit);
   const Dictionary* getSelection() const { return tarvoStyle_.dictionary(keyNameSelection); }
   // Remembers the style of the current tool, where there is a "Selection", and writes in any case.
   void setSelection(int index) { choose({currentID_}, index); }
@@ -63,6 +66,9 @@ class StyleStore {
   const std::optional<Failure>& unread() const { return unread_; }
   const std::optional<Failure>& unsaved() const { return unsaved_; }
   bool isSaved() const { return !unsaved_; }
+  // What became of the file that the last write replaced.
+  const Replaced& replaced() const { return file_.replaced(); }
+  bool isChangedElsewhere() const { return file_.isChangedElsewhere(); }
   // How the last registration ended; nothing before the first that had styles to hand over.
   const std::optional<Result<>>& registration() const { return registration_.outcome(); }
   std::function<void()> didWrite;  // told after each write, before the engine is
@@ -79,12 +85,14 @@ class StyleStore {
   Result<> readFrom(StyleFile& file);
   bool writesAll() const { return writesUnchanged_ || pending_; }
   std::optional<StyleSet> styleSet();
+  void noteChange(ChangeKind kind) { changed_ = std::max(changed_.value_or(kind), kind); }
   StyleFile file_, seed_;
   EngineRegistration registration_;
   Dictionary tarvoStyle_;
   std::string currentID_;
   bool awakening_ = true, pending_ = false, writesUnchanged_ = true;
   std::optional<Failure> unread_, unsaved_;
+  std::optional<ChangeKind> changed_;  // what has changed styles since the last write
 };
 
 }  // namespace tarvo

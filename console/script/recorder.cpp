@@ -64,9 +64,9 @@ void RecordedFiles::noteWrite(const DiskPath& path, bool written) {
   if (!name.empty()) recorder_.note({{written ? "wrote" : "writeFailed", name}});
 }
 
-Result<> RecordedFiles::write(const DiskPath& path, std::string_view bytes) {
+Result<Replaced> RecordedFiles::replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) {
   const auto refused = refusal(Operation::write, path, Attempt::write);
-  Result<> written = refused ? *refused : disk_.write(path, bytes);
+  Result<Replaced> written = refused ? *refused : disk_.replace(path, bytes, keeping);
   noteWrite(path, written.has_value());
   return written;
 }
@@ -93,6 +93,12 @@ Result<> RecordedFiles::copy(const DiskPath& from, const DiskPath& to) {
   if (const auto refused = refusal(Operation::copy, from, Attempt::copy)) return *refused;
   if (const auto refused = refusal(Operation::copy, to, Attempt::create)) return *refused;
   return disk_.copy(from, to);
+}
+
+Result<> RecordedFiles::move(const DiskPath& from, const DiskPath& to) {
+  if (const auto refused = refusal(Operation::remove, from, Attempt::copy)) return *refused;
+  if (const auto refused = refusal(Operation::copy, to, Attempt::create)) return *refused;
+  return disk_.move(from, to);
 }
 
 Result<> RecordedFiles::remove(const DiskPath& path) {

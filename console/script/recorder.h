@@ -55,11 +55,13 @@ class RecordedFiles : public FileService {
   Result<Kind> ownKind(const DiskPath& path) const override { return disk_.ownKind(path); }
   Result<> checkWritable(const DiskPath& folder) const override { return disk_.checkWritable(folder); }
   Result<std::string> read(const DiskPath& path) const override { return disk_.read(path); }
-  Result<> write(const DiskPath& path, std::string_view bytes) override;
+  Result<Replaced> replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) override;
+  Result<FileStamp> stamp(const DiskPath& path) const override { return disk_.stamp(path); }
   Result<> keepUnreadable(const DiskPath& path) override;
   Result<std::vector<std::string>> list(const DiskPath& folder) const override;
   Result<> makeFolder(const DiskPath& path) override;
   Result<> copy(const DiskPath& from, const DiskPath& to) override;
+  Result<> move(const DiskPath& from, const DiskPath& to) override;
   Result<> remove(const DiskPath& path) override;
   Result<> removeEmptyFolder(const DiskPath& path) override;
   Result<FourCharCode> typeCode(const DiskPath& path) const override { return disk_.typeCode(path); }

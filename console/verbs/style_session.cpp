@@ -16,8 +16,9 @@ StyleSession::StyleSession(Console& console)
     : console_(console),
       engine_(console.product.makeEngine(console.product.files())),
       defaults_(console.product.files(), userDefaultsPath(console.product.locations())),
+      earlier_(console.product.files(), console.product.locations().inHome(gEarlierStyles)),
       store_(console.product.files(), *engine_, defaults_, console.product.locations().inHome(gStylePath),
-             console.product.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist)))),
+             console.product.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist))), &earlier_),
       medical_(console.product.files(), console.product.locations(), console.product.texts(), defaults_, store_),
       lists_(store_, dictionaryServices(console.product)) {
   store_.writeOnlyChanges();

@@ -62,6 +62,7 @@ class StyleSession {
   Console& console_;
   std::unique_ptr<Engine> engine_;
   UserDefaults defaults_;
+  EarlierStyles earlier_;
   StyleStore store_;
   MedicalDictionaries medical_;
   NamedLists lists_;

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 
 #include "platform/posix/descriptor.h"
 #include "platform/text/text_rules.h"
@@ -44,6 +45,17 @@ Result<> removeAt(int base, const std::string& name, const std::string& path) {
   return systemFailure(path, Attempt::remove);
 }
 
+// The mode is given to the folder that was made, not to what may have taken its name since.
+Result<> makeOne(const DiskPath& path, mode_t mode) {
+  const Descriptor above = openFolder(AT_FDCWD, path.folder().text());
+  const std::string name = path.name();
+  if (above && ::mkdirat(above.get(), name.c_str(), 0700) == 0) {
+    const Descriptor made = openFolder(above.get(), name, O_NOFOLLOW);
+    if (made && ::fchmod(made.get(), mode) == 0) return {};
+  }
+  return systemFailure(path.text(), Attempt::makeFolder);
+}
+
 }  // namespace
 
 Result<> makeFolders(const DiskPath& path) {
@@ -51,13 +63,22 @@ Result<> makeFolders(const DiskPath& path) {
   const DiskPath above = path.folder();
   if (above.empty() || above == path) return Failure{path.text(), Attempt::makeFolder, Reason::noPath};
   if (Result<> made = makeFolders(above); !made) return made;
-  if (::mkdir(path.text().c_str(), 0777) != 0) {
-    if (errno != EEXIST) return systemFailure(path.text(), Attempt::makeFolder);
-    if (isFolder(path.text())) return {};
-    return Failure{path.text(), Attempt::makeFolder, std::make_error_code(std::errc::not_a_directory)};
-  }
-  if (::chmod(path.text().c_str(), 0777) == 0) return {};
-  return systemFailure(path.text(), Attempt::makeFolder);
+  Result<> made = makeOne(path, 0777);
+  if (made || made.error().cause != std::errc::file_exists) return made;
+  if (isFolder(path.text())) return {};
+  return Failure{path.text(), Attempt::makeFolder, std::make_error_code(std::errc::not_a_directory)};
+}
+
+Result<> makePrivateFolder(const DiskPath& path) { return makeOne(path, 0700); }
+
+Result<> moveFile(const DiskPath& from, const DiskPath& to) {
+  const char *source = from.text().c_str(), *target = to.text().c_str();
+  if (::renameat2(AT_FDCWD, source, AT_FDCWD, target, RENAME_NOREPLACE) == 0) return {};
+  // Some disks can only replace.
+  struct stat status{};
+  const bool mayReplace = errno == EINVAL && ::lstat(target, &status) != 0 && errno == ENOENT;
+  if (mayReplace && ::rename(source, target) == 0) return {};
+  return systemFailure(from.text(), Attempt::copy);
 }
 
 Result<> removeTree(const DiskPath& path) { return removeAt(AT_FDCWD, path.text(), path.text()); }

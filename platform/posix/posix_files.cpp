@@ -13,6 +13,7 @@
 #include "platform/posix/descriptor.h"
 #include "platform/posix/finder_info.h"
 #include "platform/posix/folders.h"
+#include "platform/posix/keep_former.h"
 #include "platform/posix/keep_unreadable.h"
 #include "platform/posix/replace_file.h"
 #include "platform/services/locations.h"
@@ -78,12 +79,20 @@ Result<std::string> PosixFiles::read(const DiskPath& path) const {
   return std::move(*bytes);
 }
 
-Result<> PosixFiles::write(const DiskPath& path, std::string_view bytes) {
+Result<Replaced> PosixFiles::replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) {
   const Result<DiskPath> name = named(path, Attempt::write);
   if (!name) return name.error();
   if (path.text().ends_with('/'))
     return Failure{name->text(), Attempt::write, std::make_error_code(std::errc::is_a_directory)};
-  return replaceFile(*name, bytes);
+  return replaceFile(*name, bytes, keeping);
+}
+
+Result<FileStamp> PosixFiles::stamp(const DiskPath& path) const {
+  const Result<DiskPath> name = named(path, Attempt::look);
+  if (!name) return name.error();
+  struct stat status{};
+  if (::stat(name->text().c_str(), &status) == 0) return stampOf(status);
+  return systemFailure(name->text(), Attempt::look);
 }
 
 Result<> PosixFiles::keepUnreadable(const DiskPath& path) {
@@ -113,6 +122,13 @@ Result<> PosixFiles::copy(const DiskPath& from, const DiskPath& to) {
   if (!source) return source.error();
   if (!target) return target.error();
   return copyTree(*source, *target);
+}
+
+Result<> PosixFiles::move(const DiskPath& from, const DiskPath& to) {
+  const Result<DiskPath> source = named(from, Attempt::copy), target = named(to, Attempt::create);
+  if (!source) return source.error();
+  if (!target) return target.error();
+  return moveFile(*source, *target);
 }
 
 Result<> PosixFiles::remove(const DiskPath& path) {

@@ -13,6 +13,7 @@
 
 #include "platform/posix/attributes.h"
 #include "platform/posix/descriptor.h"
+#include "platform/posix/keep_former.h"
 #include "platform/text/text_rules.h"
 
 namespace tarvo {
@@ -51,6 +52,7 @@ Result<Target> findTarget(const std::string& asked) {
     if (S_ISREG(status.st_mode)) return Target{path, status};
     if (S_ISDIR(status.st_mode)) return notWritten(path, std::errc::is_a_directory);
     if (!S_ISLNK(status.st_mode)) return Failure{path, Attempt::write, Reason::noRegularFile};
+    if (status.st_uid != 0 && status.st_uid != ::geteuid()) return Failure{path, Attempt::write, Reason::foreignLink};
     const Result<std::string> content = linkContent(path);
     if (!content) return content.error();
     path = isAbsolutePath(*content) ? *content : joinPath(deletingLastPathComponent(path), *content);
@@ -78,37 +80,84 @@ bool takeOver(int folder, const std::string& name, const struct stat& present, i
   return ::fchmod(file, sameOwner ? present.st_mode & 07777 : handOver(file, present)) == 0;
 }
 
-bool fill(int folder, const std::string& name, const Target& target, Descriptor file, std::string_view bytes) {
+bool fill(int folder, const std::string& name, const Target& target, const Descriptor& file, std::string_view bytes) {
   if (target.present && !takeOver(folder, name, *target.present, file.get())) return false;
-  return writeAll(file.get(), bytes) && ::fsync(file.get()) == 0 && file.close();
+  return writeAll(file.get(), bytes) && ::fsync(file.get()) == 0;
 }
+
+// The new file beside the old one, until it has its name.
+class Replacement {
+ public:
+  Replacement(const Target& target, Descriptor folder)
+      : target_(target), folder_(std::move(folder)), name_(lastPathComponent(target.path)) {}
+
+  Result<FileStamp> write(std::string_view bytes) {
+    temporary_ = temporaryName();
+    if (temporary_.empty()) return notWritten(target_.path);
+    // A new file takes the umask's answer; one that replaces another is closed to everybody until it has its mode.
+    const mode_t mode = target_.present ? 0600 : 0666;
+    Descriptor file(
+        ::openat(folder_.get(), temporary_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
+    if (!file) return notWritten(target_.path);
+    struct stat status{};
+    const bool filled = fill(folder_.get(), name_, target_, file, bytes) && ::fstat(file.get(), &status) == 0;
+    if (filled && file.close()) return stampOf(status);
+    return givenUp(notWritten(target_.path));
+  }
+
+  Result<> keepFormer(FormerFile& former) {
+    if (!target_.present) return {};
+    Result<> kept = former.keep(folder_.get(), name_, target_.path);
+    if (!kept) return givenUp(kept.error());
+    return {};
+  }
+
+  Result<> rename() {
+    if (::renameat(folder_.get(), temporary_.c_str(), folder_.get(), name_.c_str()) != 0)
+      return givenUp(notWritten(target_.path));
+    return {};
+  }
+
+  // The new bytes are what everybody reads by now. Some disks cannot sync a folder, and that is no failure.
+  std::optional<Failure> sync() const {
+    const bool failed = ::fsync(folder_.get()) != 0 && (errno == EIO || errno == ENOSPC);
+    return failed ? std::optional(notWritten(target_.path)) : std::nullopt;
+  }
+
+ private:
+  Failure givenUp(Failure failure) const {
+    ::unlinkat(folder_.get(), temporary_.c_str(), 0);
+    return failure;
+  }
+
+  const Target& target_;
+  Descriptor folder_;
+  std::string name_, temporary_;
+};
 
 }  // namespace
 
-Result<> replaceFile(const DiskPath& path, std::string_view bytes) {
+Result<Replaced> replaceFile(const DiskPath& path, std::string_view bytes, const Keeping& keeping) {
   const Result<Target> target = findTarget(path.text());
   if (!target) return target.error();
   if (target->path.ends_with('/')) return notWritten(target->path, std::errc::is_a_directory);
-  const Descriptor folder = openFolder(AT_FDCWD, deletingLastPathComponent(target->path));
+  Descriptor folder = openFolder(AT_FDCWD, deletingLastPathComponent(target->path));
   if (!folder) return notWritten(deletingLastPathComponent(target->path));
-  const std::string name = lastPathComponent(target->path);
-  const std::string temporary = temporaryName();
-  if (temporary.empty()) return notWritten(target->path);
-  // A new file takes the umask's answer; one that replaces another is closed to everybody until it has its mode.
-  const mode_t mode = target->present ? 0600 : 0666;
-  Descriptor file(
-      ::openat(folder.get(), temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
-  if (!file) return notWritten(target->path);
-  const bool replaced = fill(folder.get(), name, *target, std::move(file), bytes) &&
-                        ::renameat(folder.get(), temporary.c_str(), folder.get(), name.c_str()) == 0;
-  if (!replaced) {
-    Failure failure = notWritten(target->path);
-    ::unlinkat(folder.get(), temporary.c_str(), 0);
-    return failure;
+  Replacement replacement(*target, std::move(folder));
+  const Result<FileStamp> written = replacement.write(bytes);
+  if (!written) return written.error();
+  FormerFile former(keeping);
+  if (const bool isKept = !keeping.folder.empty(); isKept) {
+    if (const Result<> kept = replacement.keepFormer(former); !kept) return kept.error();
   }
-  // From here on the new bytes are what everybody reads; some disks cannot sync a folder.
-  ::fsync(folder.get());
-  return {};
+  if (const Result<> renamed = replacement.rename(); !renamed) {
+    former.drop();
+    return renamed.error();
+  }
+  Replaced replaced = former.outcome();
+  replaced.now = *written;
+  replaced.unsynced = replacement.sync();
+  return replaced;
 }
 
 }  // namespace tarvo

@@ -35,7 +35,7 @@ struct ReasonWord {
   Reason reason;
   const char* word;  // the keys are "Cause." and this, and "Cure." and this where something helps
 };
-inline constexpr std::array<ReasonWord, 22> reasonWords{{{Reason::noPath, "noPath"},
+inline constexpr std::array<ReasonWord, 23> reasonWords{{{Reason::noPath, "noPath"},
                                                          {Reason::noRegularFile, "noRegularFile"},
                                                          {Reason::noPropertyList, "noPropertyList"},
                                                          {Reason::noDictionary, "noDictionary"},
@@ -56,7 +56,8 @@ inline constexpr std::array<ReasonWord, 22> reasonWords{{{Reason::noPath, "noPat
                                                          {Reason::contended, "contended"},
                                                          {Reason::absentThere, "absentThere"},
                                                          {Reason::damaged, "damaged"},
-                                                         {Reason::noStyle, "noStyle"}}};
+                                                         {Reason::noStyle, "noStyle"},
+                                                         {Reason::foreignLink, "foreignLink"}}};
 
 // Rows stand in the order of their values, so that a value finds its row by its number.
 constexpr const char* wordOf(Attempt attempt) { return attemptWords[static_cast<std::size_t>(attempt)].word; }
@@ -69,7 +70,7 @@ static_assert([] {
   for (std::size_t i = 0; i < reasonWords.size(); ++i) {
     if (reasonWords[i].reason != static_cast<Reason>(i + 1)) return false;
   }
-  return attemptWords.back().attempt == Attempt::fetch && reasonWords.back().reason == Reason::noStyle;
+  return attemptWords.back().attempt == Attempt::fetch && reasonWords.back().reason == Reason::foreignLink;
 }());
 
 }  // namespace tarvo

@@ -13,6 +13,13 @@ bool FileService::isThere(const DiskPath& path) const {
   return found && *found != Kind::absent;
 }
 
+Result<> FileService::write(const DiskPath& path, std::string_view bytes) {
+  const Result<Replaced> replaced = replace(path, bytes, {});
+  if (!replaced) return replaced.error();
+  if (replaced->unsynced) return *replaced->unsynced;
+  return {};
+}
+
 bool FileService::isAbsent(const DiskPath& path) const { return kind(path) == Kind::absent; }
 
 bool existsIgnoringCase(const FileService& files, const DiskPath& path) {

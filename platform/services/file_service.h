@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/services/keeping.h"
 #include "platform/services/result.h"
 #include "platform/text/paths.h"
 
@@ -44,7 +45,11 @@ class FileService {
   // Replaces or creates the file in one step (temporary file beside it, fsync, rename, fsync of the folder). Follows a
   // final symbolic link; keeps mode, owner and extended attributes of an existing regular file. Refuses a target that
   // is no regular file. After a failure whatever was there is unchanged and no temporary file is left.
-  virtual Result<> write(const DiskPath& path, std::string_view bytes) = 0;
+  Result<> write(const DiskPath& path, std::string_view bytes);
+  // The same, and a file that goes is kept as asked for (keeping.h).
+  virtual Result<Replaced> replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) = 0;
+  // Which file lies at the path, links followed, and as it stands.
+  virtual Result<FileStamp> stamp(const DiskPath& path) const = 0;
   // Keeps the present bytes of a regular file beside it as "<name>.unreadable" (then ".unreadable.2" to ".5", the fifth
   // being replaced), by a hard link where the disk can, else by a copy.
   virtual Result<> keepUnreadable(const DiskPath& path) = 0;
@@ -56,6 +61,8 @@ class FileService {
   // Copies a file, folder (with everything in it) or link with mode and attributes; fails when anything is at the
   // target. A file whose copy fails is removed; what was finished before it stays.
   virtual Result<> copy(const DiskPath& from, const DiskPath& to) = 0;
+  // Gives a file or folder another name on the same disk in one step. Fails when anything has that name.
+  virtual Result<> move(const DiskPath& from, const DiskPath& to) = 0;
   // Removes a file, a link, or a folder with everything in it; links are not followed. Stops at the first failure.
   virtual Result<> remove(const DiskPath& path) = 0;
   // Removes a folder that is empty.

@@ -11,19 +11,28 @@
 
 namespace tarvo {
 
-Result<Dictionary> readDictionary(const FileService& files, const DiskPath& path) {
-  const Result<std::string> bytes = files.read(path);
+namespace {
+
+Result<Dictionary> readDictionary(const FileService& files, const DiskPath& path, std::string* content) {
+  Result<std::string> bytes = files.read(path);
   if (!bytes) return bytes.error();
   std::optional<PropertyList> root = readPropertyList(*bytes);
+  if (content != nullptr) *content = std::move(*bytes);
   if (!root) return Failure{path.text(), Attempt::read, Reason::noPropertyList};
   if (root->dictionary() == nullptr) return Failure{path.text(), Attempt::read, Reason::noDictionary};
   return std::move(*root->dictionary());
 }
 
+}  // namespace
+
+Result<Dictionary> readDictionary(const FileService& files, const DiskPath& path) {
+  return readDictionary(files, path, nullptr);
+}
+
 PlistFile::PlistFile(FileService& files, DiskPath path) : files_(files), path_(std::move(path)) {}
 
-Result<Dictionary> PlistFile::read() {
-  Result<Dictionary> root = readDictionary(files_, path_);
+Result<Dictionary> PlistFile::read(std::string* bytes) {
+  Result<Dictionary> root = readDictionary(files_, path_, bytes);
   mustKeep_ = !root && mayHoldBytes();
   return root;
 }
@@ -34,12 +43,23 @@ bool PlistFile::mayHoldBytes() const {
   return !kind || *kind == FileService::Kind::file;
 }
 
-Result<> PlistFile::write(std::string_view bytes) {
-  if (mustKeep_ && mayHoldBytes()) {
-    if (Result<> kept = files_.keepUnreadable(path_); !kept) return kept;
+Result<Replaced> PlistFile::replace(std::string_view bytes, Keeping keeping) {
+  if (isUnread()) {
+    const Result<> kept = files_.keepUnreadable(path_);
+    if (!kept && keeping.folder.empty()) return kept.error();
+    if (!kept) keeping.durability = Durability::sure;
+    mustKeep_ = !kept;  // also when the write fails now: one kept copy of the same bytes is enough
   }
-  mustKeep_ = false;  // also when the write fails now: one kept copy of the same bytes is enough
-  return files_.write(path_, bytes);
+  Result<Replaced> replaced = files_.replace(path_, bytes, keeping);
+  mustKeep_ = mustKeep_ && !replaced;
+  return replaced;
+}
+
+Result<> PlistFile::write(std::string_view bytes) {
+  const Result<Replaced> replaced = replace(bytes, {});
+  if (!replaced) return replaced.error();
+  if (replaced->unsynced) return *replaced->unsynced;
+  return {};
 }
 
 Result<> PlistFile::write(const Dictionary& root) { return write(writePropertyList(root)); }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/plist/property_list.h"
+#include "platform/services/keeping.h"
 #include "platform/services/result.h"
 #include "platform/text/paths.h"
 
@@ -24,10 +25,16 @@ class PlistFile {
   const DiskPath& path() const { return path_; }
   // The root dictionary. Fails when the file is missing, cannot be looked at or read, is no property list, or has
   // another kind of root.
-  Result<Dictionary> read();
+  // bytes: where given, gets what the file holds, also when that is no property list.
+  Result<Dictionary> read(std::string* bytes = nullptr);
+  // The file that is there could not be read, and was not replaced since.
+  bool isUnread() const { return mustKeep_ && mayHoldBytes(); }
   // Replaces the file by these bytes (see plist_writer.h). After a failure the file is as it was.
   Result<> write(std::string_view bytes);
   Result<> write(const Dictionary& root);
+  // The same; what could not be read is kept beside the file, and where that cannot be, in the keeping's folder: where
+  // neither works nothing is replaced.
+  Result<Replaced> replace(std::string_view bytes, Keeping keeping);
 
  private:
   bool mayHoldBytes() const;

@@ -55,7 +55,8 @@ enum class Reason {
   contended,        // others stored at the same time
   absentThere,      // it holds none
   damaged,          // what it holds cannot be read
-  noStyle           // a property list that is no style
+  noStyle,          // a property list that is no style
+  foreignLink       // a link of somebody else, who could lead it anywhere
 };
 const std::error_category& reasonCategory();
 inline std::error_code make_error_code(Reason reason) { return {static_cast<int>(reason), reasonCategory()}; }

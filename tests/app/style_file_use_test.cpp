@@ -21,9 +21,9 @@ class WatchedFiles : public FaultyFiles {
     reads.push_back(path.text());
     return FaultyFiles::read(path);
   }
-  Result<> write(const DiskPath& path, std::string_view bytes) override {
+  Result<Replaced> replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) override {
     writes.push_back(path.text());
-    return FaultyFiles::write(path, bytes);
+    return FaultyFiles::replace(path, bytes, keeping);
   }
   mutable std::vector<std::string> reads;
   std::vector<std::string> writes;

@@ -24,11 +24,11 @@ class KeptWrites : public test::FaultyFiles {
  public:
   KeptWrites(Product& product, std::string folder) : FaultyFiles(product.files()), folder_(std::move(folder)) {}
 
-  Result<> write(const DiskPath& path, std::string_view bytes) override {
+  Result<Replaced> replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) override {
     const std::string kept = folder_ + "/" + std::to_string(count_++);
     std::ofstream(kept, std::ios::binary) << bytes;
     std::printf("%s\t%s\n", kept.c_str(), path.text().c_str());
-    return FaultyFiles::write(path, bytes);
+    return FaultyFiles::replace(path, bytes, keeping);
   }
 
  private:

@@ -25,9 +25,9 @@ inline constexpr const char* listFolder = "Users/taro/Library/Preferences/Wordha
 class NotingFiles : public PosixFiles {
  public:
   NotingFiles(const Locations& locations, std::string& log) : PosixFiles(locations), log_(log) {}
-  Result<> write(const DiskPath& path, std::string_view bytes) override {
+  Result<Replaced> replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) override {
     log_ += "write:" + path.name() + " ";
-    return PosixFiles::write(path, bytes);
+    return PosixFiles::replace(path, bytes, keeping);
   }
 
  private:

@@ -38,11 +38,15 @@ class FaultyFiles : public FileService {
   Result<Kind> ownKind(const DiskPath& path) const override { return disk_.ownKind(path); }
   Result<> checkWritable(const DiskPath& folder) const override { return disk_.checkWritable(folder); }
   Result<std::string> read(const DiskPath& path) const override { return disk_.read(path); }
-  Result<> write(const DiskPath& path, std::string_view bytes) override { return disk_.write(path, bytes); }
+  Result<Replaced> replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) override {
+    return disk_.replace(path, bytes, keeping);
+  }
+  Result<FileStamp> stamp(const DiskPath& path) const override { return disk_.stamp(path); }
   Result<> keepUnreadable(const DiskPath& path) override { return disk_.keepUnreadable(path); }
   Result<std::vector<std::string>> list(const DiskPath& folder) const override;
   Result<> makeFolder(const DiskPath& path) override;
   Result<> copy(const DiskPath& from, const DiskPath& to) override;
+  Result<> move(const DiskPath& from, const DiskPath& to) override { return disk_.move(from, to); }
   Result<> remove(const DiskPath& path) override;
   Result<> removeEmptyFolder(const DiskPath& path) override;
   Result<FourCharCode> typeCode(const DiskPath& path) const override { return disk_.typeCode(path); }

@@ -22,12 +22,12 @@ void MemoryFiles::refuse(Operation operation, const std::string& path, std::errc
 
 void MemoryFiles::put(const std::string& path, std::string_view bytes) {
   putFolder(deletingLastPathComponent(path));
-  nodes_[path] = Node{Kind::file, std::string(bytes)};
+  nodes_[path] = Node{.kind = Kind::file, .bytes = std::string(bytes)};
 }
 
 void MemoryFiles::putOther(const std::string& path) {
   putFolder(deletingLastPathComponent(path));
-  nodes_[path] = Node{Kind::other, {}};
+  nodes_[path] = Node{.kind = Kind::other};
 }
 
 std::string MemoryFiles::bytes(const std::string& path) const {
@@ -69,7 +69,7 @@ Result<std::string> MemoryFiles::read(const DiskPath& at) const {
   return bytes(path);
 }
 
-Result<> MemoryFiles::write(const DiskPath& at, std::string_view bytes) {
+Result<Replaced> MemoryFiles::replace(const DiskPath& at, std::string_view bytes, const Keeping& keeping) {
   const std::string& path = at.text();
   const Kind there = kindOf(path);
   if (!isAbsolutePath(path)) return Failure{path, Attempt::write, Reason::noPath};
@@ -78,11 +78,25 @@ Result<> MemoryFiles::write(const DiskPath& at, std::string_view bytes) {
     return failure(deletingLastPathComponent(path), Attempt::write, std::errc::no_such_file_or_directory);
   }
   if (const auto refused = refusal(Operation::write, path, Attempt::write)) return *refused;
+  Replaced replaced;
+  if (there == Kind::file && !keeping.folder.empty()) {
+    replaced.wasForeign = keeping.expected && keeping.expected != stamp(at).value();
+    replaced.kept = replaced.wasForeign ? keeping.foreignName : keeping.name;
+    if (!replaced.kept.empty()) put((keeping.folder / replaced.kept).text(), nodes_[path].bytes);
+  }
   Node& node = nodes_[path];
   node.kind = Kind::file;
   node.bytes = bytes;
-  ++writes_;
-  return {};
+  node.written = ++writes_;
+  replaced.now = stamp(at).value();
+  return replaced;
+}
+
+Result<FileStamp> MemoryFiles::stamp(const DiskPath& at) const {
+  if (const auto refused = refusal(Operation::look, at.text(), Attempt::look)) return *refused;
+  const auto node = nodes_.find(at.text());
+  if (node == nodes_.end()) return failure(at.text(), Attempt::look, std::errc::no_such_file_or_directory);
+  return FileStamp{.size = node->second.bytes.size(), .modified = node->second.written};
 }
 
 Result<> MemoryFiles::keepUnreadable(const DiskPath& at) {
@@ -134,6 +148,11 @@ Result<> MemoryFiles::copy(const DiskPath& source, const DiskPath& target) {
   nodes_[to] = nodes_[from];
   for (const std::string& path : below(from)) nodes_[to + path.substr(from.size())] = nodes_[path];
   return {};
+}
+
+Result<> MemoryFiles::move(const DiskPath& from, const DiskPath& to) {
+  if (Result<> copied = copy(from, to); !copied) return copied;
+  return remove(from);
 }
 
 Result<> MemoryFiles::remove(const DiskPath& at) {

@@ -45,11 +45,13 @@ class MemoryFiles : public FileService {
   Result<Kind> ownKind(const DiskPath& path) const override { return kind(path); }
   Result<> checkWritable(const DiskPath& folder) const override;
   Result<std::string> read(const DiskPath& path) const override;
-  Result<> write(const DiskPath& path, std::string_view bytes) override;
+  Result<Replaced> replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) override;
+  Result<FileStamp> stamp(const DiskPath& path) const override;
   Result<> keepUnreadable(const DiskPath& path) override;
   Result<std::vector<std::string>> list(const DiskPath& folder) const override;
   Result<> makeFolder(const DiskPath& path) override;
   Result<> copy(const DiskPath& from, const DiskPath& to) override;
+  Result<> move(const DiskPath& from, const DiskPath& to) override;
   Result<> remove(const DiskPath& path) override;
   Result<> removeEmptyFolder(const DiskPath& path) override;
   Result<FourCharCode> typeCode(const DiskPath& path) const override;
@@ -60,6 +62,7 @@ class MemoryFiles : public FileService {
   struct Node {
     Kind kind = Kind::folder;
     std::string bytes;
+    std::int64_t written = 0;  // which write of this disk it was
     FourCharCode type = 0, creator = 0;
   };
   static constexpr const char* anyPath = "*";

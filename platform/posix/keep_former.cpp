@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "platform/posix/keep_former.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+#include "platform/posix/folders.h"
+
+namespace tarvo {
+
+namespace {
+
+constexpr std::size_t largestCopy = std::size_t{1} << 30;
+
+// The folder is for its owner alone: other users of the machine have no business in what somebody wrote earlier.
+Descriptor openPlace(const DiskPath& folder) {
+  Descriptor open = openFolder(AT_FDCWD, folder.text(), O_NOFOLLOW);
+  if (open || errno != ENOENT) return open;
+  if (!makeFolders(folder.folder())) return Descriptor();
+  if (!makePrivateFolder(folder)) return Descriptor();
+  return openFolder(AT_FDCWD, folder.text(), O_NOFOLLOW);
+}
+
+Descriptor openRegular(int folder, const std::string& name, struct stat& status) {
+  Descriptor file(::openat(folder, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  if (!file || ::fstat(file.get(), &status) != 0) return Descriptor();
+  errno = EINVAL;
+  return S_ISREG(status.st_mode) ? std::move(file) : Descriptor();
+}
+
+Descriptor copyInto(int from, int place, const std::string& name, std::size_t size) {
+  const auto bytes = readAll(from, size, largestCopy);
+  if (!bytes) return Descriptor();
+  Descriptor copy(::openat(place, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+  if (!copy || writeAll(copy.get(), *bytes)) return copy;
+  const int cause = errno;
+  ::unlinkat(place, name.c_str(), 0);
+  errno = cause;
+  return Descriptor();
+}
+
+}  // namespace
+
+FileStamp stampOf(const struct stat& status) {
+  constexpr std::int64_t nanoseconds = 1'000'000'000;
+  return {.device = status.st_dev,
+          .inode = status.st_ino,
+          .size = static_cast<std::uint64_t>(status.st_size),
+          .modified = status.st_mtim.tv_sec * nanoseconds + status.st_mtim.tv_nsec};
+}
+
+bool FormerFile::isForeign(const struct stat& status) const {
+  return keeping_.expected && *keeping_.expected != stampOf(status);
+}
+
+bool FormerFile::sync(int kept, bool isForeign) const {
+  if (!isForeign && keeping_.durability == Durability::quick) return true;
+  return ::fsync(kept) == 0 && ::fsync(place_.get()) == 0;
+}
+
+// What the link leads to is what will go, whoever put it there a moment ago.
+bool FormerFile::link(int folder, const std::string& name) {
+  const std::string& provisional = keeping_.name.empty() ? keeping_.foreignName : keeping_.name;
+  if (::linkat(folder, name.c_str(), place_.get(), provisional.c_str(), 0) != 0) return false;
+  outcome_.kept = provisional;
+  struct stat status{};
+  const Descriptor kept = openRegular(place_.get(), provisional, status);
+  if (!kept) return false;
+  outcome_.wasForeign = isForeign(status);
+  const std::string& wanted = outcome_.wasForeign ? keeping_.foreignName : keeping_.name;
+  if (wanted.empty()) {
+    drop();
+    return true;
+  }
+  if (wanted != provisional) {
+    if (::renameat(place_.get(), provisional.c_str(), place_.get(), wanted.c_str()) != 0) return false;
+    outcome_.kept = wanted;
+  }
+  return sync(kept.get(), outcome_.wasForeign);
+}
+
+bool FormerFile::copy(int folder, const std::string& name) {
+  struct stat status{};
+  const Descriptor former = openRegular(folder, name, status);
+  if (!former) return false;
+  outcome_.wasForeign = isForeign(status);
+  const std::string& wanted = outcome_.wasForeign ? keeping_.foreignName : keeping_.name;
+  const bool isWanted = !wanted.empty() && (outcome_.wasForeign || keeping_.mayCopy);
+  if (!isWanted) return true;
+  const Descriptor kept = copyInto(former.get(), place_.get(), wanted, static_cast<std::size_t>(status.st_size));
+  if (!kept) return false;
+  outcome_.kept = wanted;
+  outcome_.wasCopied = true;
+  return sync(kept.get(), outcome_.wasForeign);
+}
+
+Result<> FormerFile::keep(int folder, const std::string& name, const std::string& path) {
+  place_ = openPlace(keeping_.folder);
+  const bool done = place_ && (link(folder, name) || (outcome_.kept.empty() && copy(folder, name)));
+  if (done) return {};
+  Failure failure = systemFailure(place_ ? path : keeping_.folder.text(), Attempt::keep);
+  drop();
+  if (keeping_.durability == Durability::sure) return failure;
+  outcome_.unkept = std::move(failure);
+  return {};
+}
+
+void FormerFile::drop() {
+  if (outcome_.kept.empty()) return;
+  ::unlinkat(place_.get(), outcome_.kept.c_str(), 0);
+  outcome_.kept.clear();
+}
+
+}  // namespace tarvo

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <sys/stat.h>
+
+#include <string>
+
+#include "platform/posix/descriptor.h"
+#include "platform/services/keeping.h"
+
+namespace tarvo {
+
+FileStamp stampOf(const struct stat& status);
+
+// A file that is about to be replaced, kept in another folder under a name of its own.
+class FormerFile {
+ public:
+  explicit FormerFile(const Keeping& keeping) : keeping_(keeping) {}
+  // Keeps the file of that name in the open folder; path is its whole path, for who is told of a failure. Nothing is
+  // followed. What could not be kept is told by outcome().unkept. A failure: it must be kept, and was not.
+  Result<> keep(int folder, const std::string& name, const std::string& path);
+  void drop();  // it was not replaced after all
+  // All but `now`.
+  const Replaced& outcome() const { return outcome_; }
+
+ private:
+  bool link(int folder, const std::string& name);
+  bool copy(int folder, const std::string& name);
+  bool settle(const Descriptor& kept, const std::string& provisional);
+  bool isForeign(const struct stat& status) const;
+  bool sync(int kept, bool isForeign) const;
+  const Keeping& keeping_;
+  Descriptor place_;
+  Replaced outcome_;
+};
+
+}  // namespace tarvo

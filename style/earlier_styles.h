@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/plist/property_list.h"
+#include "platform/services/keeping.h"
+
+// The style files that were replaced, each as it stood until then: what can be brought back.
+// Duty: say under which name the file that goes is kept, list what is kept, read it when it is whole, and let go of
+// what is old. Not: replacing files; knowing what a style is.
+//
+// They lie below "Library/Application Support/Wordhaven/Tarvo Styles" of the home, in files
+// "20261122T031729.123456Z edit 0123…ef.plist": when it was replaced (UTC), by what, and the fingerprint of its bytes,
+// "-" where this program never saw them. Several programs may keep at once. What an edit replaced is kept by a link
+// that is not synced: a power cut may take the last ones of these. Everything else is on the disk before it is
+// replaced.
+namespace tarvo {
+
+class FileService;
+
+using Moment = std::chrono::sys_time<std::chrono::microseconds>;
+
+// What replaced a set of styles, weakest first: of several at once the last one counts.
+enum class ChangeKind { edit, import, restore, merge, pull, otherProgram, unreadable };
+std::string_view nameOf(ChangeKind kind);  // "edit", as in the names of the files
+
+struct EarlierSet {
+  std::string id;  // its time: "20261122T031729.123456Z"
+  Moment time;
+  ChangeKind kind = ChangeKind::edit;
+  std::string fingerprint;  // "" where it is not known
+  DiskPath path;
+};
+std::string fileNameOf(Moment time, ChangeKind kind, const std::string& fingerprint);
+// Nothing for another name.
+std::optional<EarlierSet> earlierSetNamed(const std::string& fileName);
+
+Moment systemMoment();
+
+class EarlierStyles {
+ public:
+  EarlierStyles(FileService& files, DiskPath folder, std::function<Moment()> clock = systemMoment);
+
+  // How the file that goes is to be kept. kind: nothing when only choices of tools change, which are not kept.
+  // fingerprint: of the bytes that this program read or wrote last.
+  Keeping keepingFor(std::optional<ChangeKind> kind, const std::string& fingerprint,
+                     const std::optional<FileStamp>& expected);
+  // After the replacement: of two with the same bytes the later one stays.
+  void settle(const Keeping& keeping, const Replaced& replaced);
+
+  const DiskPath& folder() const { return folder_; }
+  std::vector<EarlierSet> list() const;  // newest first; empty where nothing can be listed
+  // Its root. Fails when it is damaged.
+  Result<Dictionary> read(const EarlierSet& set) const;
+  // Keeps all of the last day up to 200, then the last of each hour for a week and of each day for a year, and of these
+  // the newest that fit into 256 MiB; the newest of each kind in any case. What cannot be removed stays.
+  void thin();
+
+ private:
+  using Known = std::map<std::string, std::string>;  // file names by fingerprint
+  Known& known();
+  Moment nextMoment();
+  FileService& files_;
+  DiskPath folder_;
+  std::function<Moment()> clock_;
+  std::optional<Known> known_;
+  Moment last_{};
+  Moment lastCopy_{};
+};
+
+}  // namespace tarvo
