@@ -36,7 +36,7 @@ void StyleDisplay::showList(int index, Dictionary& record, Direction direction) 
     // Nothing loaded at all leaves the stored list alone: the dictionaries' disk may just be away.
     if (loaded && loaded->size() < stored->size()) {
       options->set(keyNameTD, arrayOf(*loaded));
-      store_.setStyle(index, record);
+      store_.setStyle(index, record, ChangeKind::repair);
     }
   }
   lists_.getActiveTableView(direction).reloadData();

@@ -11,8 +11,8 @@ namespace tarvo {
 
 namespace {
 
-constexpr std::array<std::string_view, 7> kindNames{"edit", "import", "restore",   "merge",
-                                                    "pull", "other",  "unreadable"};
+constexpr std::array<std::string_view, 8> kindNames{"repair", "edit", "import", "restore",
+                                                    "merge",  "pull", "other",  "unreadable"};
 static_assert(kindNames.size() == static_cast<std::size_t>(ChangeKind::unreadable) + 1);
 constexpr std::string_view pattern = "00000000T000000.000000Z";
 constexpr std::string_view ending = ".plist";

@@ -50,8 +50,8 @@ Keeping EarlierStyles::keepingFor(std::optional<ChangeKind> kind, const std::str
   keeping.foreignName = fileNameOf(now, ChangeKind::otherProgram, "");
   if (!kind) return keeping;
   keeping.name = fileNameOf(now, *kind, fingerprint);
-  keeping.durability = *kind == ChangeKind::edit ? Durability::quick : Durability::synced;
-  keeping.mayCopy = *kind != ChangeKind::edit || now - lastCopy_ >= betweenCopies;
+  keeping.durability = *kind <= ChangeKind::edit ? Durability::quick : Durability::synced;
+  keeping.mayCopy = *kind > ChangeKind::edit || now - lastCopy_ >= betweenCopies;
   return keeping;
 }
 
@@ -64,7 +64,7 @@ void EarlierStyles::settle(const Keeping& keeping, const Replaced& replaced) {
   const std::string older = std::exchange(former->second, replaced.kept);
   const std::optional<EarlierSet> other = earlierSetNamed(older);
   // A set that is kept twice does no harm: what fails here is left as it is.
-  if (!other || other->kind == ChangeKind::edit || keeping.durability != Durability::quick) {
+  if (!other || other->kind <= ChangeKind::edit || keeping.durability != Durability::quick) {
     static_cast<void>(files_.remove(folder_ / older));
     return;
   }

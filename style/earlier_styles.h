@@ -28,8 +28,9 @@ class FileService;
 
 using Moment = std::chrono::sys_time<std::chrono::microseconds>;
 
-// What replaced a set of styles, weakest first: of several at once the last one counts.
-enum class ChangeKind { edit, import, restore, merge, pull, otherProgram, unreadable };
+// What replaced a set of styles, weakest first: of several at once the last one counts. repair: what the program itself
+// mended when it met names that are gone or options that are missing.
+enum class ChangeKind { repair, edit, import, restore, merge, pull, otherProgram, unreadable };
 std::string_view nameOf(ChangeKind kind);  // "edit", as in the names of the files
 
 struct EarlierSet {

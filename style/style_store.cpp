@@ -39,7 +39,7 @@ void StyleStore::fillInMissingOptions() {
     for (const auto& [key, value] : jeOptionDefaults()) {
       if (je->contains(key)) continue;
       je->set(key, value);
-      noteChange(ChangeKind::edit);
+      noteChange(ChangeKind::repair);
     }
   }
   file_.allChanged();
@@ -65,8 +65,12 @@ void StyleStore::setStyle(int index, Dictionary record, ChangeKind kind) {
     return;
   PropertyList& present = (*styles)[static_cast<std::size_t>(index)];
   if (!writesAll() && present.dictionary() != nullptr && *present.dictionary() == record) return;
+  const bool isNew = present.dictionary() == nullptr || *present.dictionary() != record;
+  StoredChange change{.kind = kind, .index = index, .before = {}, .after = record};
+  if (present.dictionary() != nullptr) change.before = *present.dictionary();
   present = std::move(record);
   noteChange(kind);
+  if (isNew) tellChange(change);
   file_.recordChanged(static_cast<std::size_t>(index));
   writeTarvoStylePlist();
 }
@@ -83,8 +87,27 @@ void StyleStore::choose(const std::vector<std::string>& toolIds, int index) {
     const Dictionary before = *selection;
     for (const std::string& id : toolIds) selection->set(id, index);
     isChanged = before != *selection;
+    if (isChanged) tellChange({.what = StoredChange::What::selection, .before = before, .after = *selection});
   }
   if (isChanged || writesAll()) writeTarvoStylePlist();
+}
+
+void StyleStore::tellChange(const StoredChange& change) const {
+  if (didChange) didChange(change);
+}
+
+void StyleStore::replaceSelection(Dictionary selection) {
+  tarvoStyle_.set(keyNameSelection, std::move(selection));
+  writeTarvoStylePlist();
+}
+
+void StyleStore::replaceRoot(Array styles, std::optional<Dictionary> selection, ChangeKind kind) {
+  StoredChange change{.what = StoredChange::What::root, .kind = kind, .before = tarvoStyle_};
+  replaceStyles(std::move(styles), kind);
+  if (selection) tarvoStyle_.set(keyNameSelection, std::move(*selection));
+  change.after = tarvoStyle_;
+  tellChange(change);
+  writeTarvoStylePlist();
 }
 
 int StyleStore::selectedStyle() const {

@@ -19,6 +19,16 @@
 // Records leave and enter as values: a caller's copy never changes the store.
 namespace tarvo {
 
+// A change of the styles in memory, as what it was before and after: a record, "Selection", or, when many records
+// change at once, the root.
+struct StoredChange {
+  enum class What { record, selection, root };
+  What what = What::record;
+  ChangeKind kind = ChangeKind::edit;
+  int index = 0;  // of the record
+  Dictionary before, after;
+};
+
 class StyleStore {
  public:
   // path: the user's style file. seedPath: the copy that comes with the product.
@@ -44,6 +54,10 @@ class StyleStore {
   bool isPending() const { return pending_; }
   // Replaces the record and writes. An index outside the array changes and writes nothing.
   void setStyle(int index, Dictionary record, ChangeKind kind = ChangeKind::edit);
+  // Replaces all records and "Selection", where there is one, and writes.
+  void replaceRoot(Array styles, std::optional<Dictionary> selection, ChangeKind kind);
+  // Replaces "Selection" and writes.
+  void replaceSelection(Dictionary selection);
   // Replaces all records without writing.
   void replaceStyles(Array styles, ChangeKind kind = ChangeKind::edit);
   const Dictionary* getSelection() const { return tarvoStyle_.dictionary(keyNameSelection); }
@@ -71,7 +85,8 @@ class StyleStore {
   bool isChangedElsewhere() const { return file_.isChangedElsewhere(); }
   // How the last registration ended; nothing before the first that had styles to hand over.
   const std::optional<Result<>>& registration() const { return registration_.outcome(); }
-  std::function<void()> didWrite;  // told after each write, before the engine is
+  std::function<void(const StoredChange&)> didChange;  // told after a change of what is to be written, before the write
+  std::function<void()> didWrite;                      // told after each write, before the engine is
   const DiskPath& path() const { return file_.path(); }
 
   // While start-up or a take-over from the engine is running nothing is registered. It is running at first.
@@ -85,6 +100,7 @@ class StyleStore {
   Result<> readFrom(StyleFile& file);
   bool writesAll() const { return writesUnchanged_ || pending_; }
   std::optional<StyleSet> styleSet();
+  void tellChange(const StoredChange& change) const;
   void noteChange(ChangeKind kind) { changed_ = std::max(changed_.value_or(kind), kind); }
   StyleFile file_, seed_;
   EngineRegistration registration_;

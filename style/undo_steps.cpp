@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "style/undo_steps.h"
+
+#include "style/style_keys.h"
+
+namespace tarvo {
+
+namespace {
+
+constexpr std::size_t mostSteps = 100;
+
+using What = StoredChange::What;
+
+const Dictionary& leftBehind(const StoredChange& step, UndoSteps::Way way) {
+  return way == UndoSteps::Way::undo ? step.after : step.before;
+}
+const Dictionary& toPut(const StoredChange& step, UndoSteps::Way way) {
+  return way == UndoSteps::Way::undo ? step.before : step.after;
+}
+
+bool same(const PropertyList* one, const PropertyList* other) {
+  return one == nullptr || other == nullptr ? one == other : *one == *other;
+}
+
+// The tools whose choices a step has changed.
+std::vector<std::string> changedTools(const StoredChange& step) {
+  std::vector<std::string> tools;
+  for (const Dictionary* one : {&step.before, &step.after}) {
+    for (const auto& [tool, style] : one->entries()) {
+      if (!same(step.before.find(tool), step.after.find(tool))) tools.push_back(tool);
+    }
+  }
+  return tools;
+}
+
+}  // namespace
+
+UndoSteps::UndoSteps(StyleStore& store) : store_(store) {
+  store_.didChange = [this](const StoredChange& change) { note(change); };
+}
+
+UndoSteps::~UndoSteps() { store_.didChange = nullptr; }
+
+void UndoSteps::note(const StoredChange& change) {
+  if (taking_) return;
+  if (change.kind == ChangeKind::repair || store_.isAwakening()) return;
+  steps_.resize(done_);
+  steps_.push_back(change);
+  if (steps_.size() > mostSteps) steps_.pop_front();
+  done_ = steps_.size();
+  if (didChange) didChange();
+}
+
+const StoredChange* UndoSteps::next(Way way) const {
+  if (way == Way::undo) return done_ > 0 ? &steps_[done_ - 1] : nullptr;
+  return done_ < steps_.size() ? &steps_[done_] : nullptr;
+}
+
+bool UndoSteps::isPresent(const StoredChange& step, Way way) const {
+  const Dictionary& left = leftBehind(step, way);
+  if (step.what == What::record) return store_.getStyleAtIndex(step.index) == left;
+  if (step.what == What::root) {
+    return same(store_.root().find(keyNameStyle), left.find(keyNameStyle)) &&
+           same(store_.root().find(keyNameSelection), left.find(keyNameSelection));
+  }
+  const Dictionary* present = store_.getSelection();
+  return present != nullptr && std::ranges::all_of(changedTools(step), [&](const std::string& tool) {
+           return same(present->find(tool), left.find(tool));
+         });
+}
+
+UndoSteps::State UndoSteps::state(Way way) const {
+  const StoredChange* step = next(way);
+  if (step == nullptr) return State::nothing;
+  return isPresent(*step, way) ? State::ready : State::changed;
+}
+
+void UndoSteps::put(const StoredChange& step, Way way) {
+  const Dictionary& value = toPut(step, way);
+  if (step.what == What::record) return store_.setStyle(step.index, value, step.kind);
+  if (step.what == What::root) {
+    const Array* styles = value.array(keyNameStyle);
+    const Dictionary* selection = value.dictionary(keyNameSelection);
+    return store_.replaceRoot(styles != nullptr ? *styles : Array(),
+                              selection != nullptr ? std::optional(*selection) : std::nullopt, step.kind);
+  }
+  Dictionary selection = *store_.getSelection();
+  for (const std::string& tool : changedTools(step)) {
+    if (const PropertyList* style = value.find(tool)) {
+      selection.set(tool, *style);
+    } else {
+      selection.remove(tool);
+    }
+  }
+  store_.replaceSelection(std::move(selection));
+}
+
+void UndoSteps::take(Way way) {
+  if (state(way) != State::ready) return;
+  const StoredChange step = *next(way);
+  taking_ = true;
+  put(step, way);
+  taking_ = false;
+  done_ = way == Way::undo ? done_ - 1 : done_ + 1;
+  if (didChange) didChange();
+}
+
+void UndoSteps::clear() {
+  steps_.clear();
+  done_ = 0;
+  if (didChange) didChange();
+}
+
+}  // namespace tarvo

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "style/style_changes.h"
+#include "style/style_store.h"
+
+// The last edits of this run, to be taken back and made again.
+// Duty: remember what each edit of the user replaced, and put it back by an edit of the same kind: one write, one
+// registration. Not: showing. A step holds its value before and after; it can be taken only while the present value is
+// the one that it left behind, so that nothing is undone over somebody else's work. What the program repairs by itself
+// and what comes from the style service are no steps.
+namespace tarvo {
+
+class UndoSteps {
+ public:
+  // Listens to the store (StyleStore::didChange), which outlives it.
+  explicit UndoSteps(StyleStore& store);
+  ~UndoSteps();
+  UndoSteps(const UndoSteps&) = delete;
+  UndoSteps& operator=(const UndoSteps&) = delete;
+
+  enum class Way { undo, redo };
+  // nothing: there is no step. changed: its value is another one by now.
+  enum class State { ready, nothing, changed };
+  State state(Way way) const;
+  // What the next step does, whichever way: as it was made. Null when there is none.
+  const StoredChange* next(Way way) const;
+  // Puts the value back. Only when it is ready.
+  void take(Way way);
+  // Forgets all steps: the styles are no longer those that they were made on.
+  void clear();
+  std::function<void()> didChange;  // told when there are other steps than before
+
+ private:
+  void note(const StoredChange& change);
+  bool isPresent(const StoredChange& step, Way way) const;
+  void put(const StoredChange& step, Way way);
+  StyleStore& store_;
+  std::deque<StoredChange> steps_;
+  std::size_t done_ = 0;  // steps before this one can be undone, the others made again
+  bool taking_ = false;
+};
+
+}  // namespace tarvo
