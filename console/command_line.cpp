@@ -8,6 +8,7 @@
 #include "console/verbs/dictionary_commands.h"
 #include "console/verbs/doctor.h"
 #include "console/verbs/engine_commands.h"
+#include "console/verbs/history_commands.h"
 #include "console/verbs/new_dictionary_command.h"
 #include "console/verbs/open_command.h"
 #include "console/verbs/style_commands.h"
@@ -69,6 +70,8 @@ constexpr Verb verbs[] = {
      [](Line line) { return make<MoveDictionaryCommand>(listOf(line), line.words.name, line.words.position); }, true},
     {"new", "DIRECTION KIND NAME",
      [](Line line) { return make<NewDictionaryCommand>(directionOf(line), kindOf(line), line.words.name); }, true},
+    {"history", "[ID]", [](Line line) { return make<HistoryCommand>(line.words.id); }, true},
+    {"restore", "ID [N]", [](Line line) { return make<RestoreCommand>(line.words.id, line.words.style); }, true},
     {"addins", "", [](Line) { return make<AddinsCommand>(); }, true},
     {"addin"},
     {"addin install", "NAME [VERSION]", [](Line line) { return make<AddinEditCommand>(addinOf(line), true); }, true},
@@ -101,7 +104,8 @@ CommandTable tableFor(CommandLine& line) {
                       {"FILE", &words.file, {}, "Argument.FILE"},
                       {"FOLDER", &words.folder, {}, "Argument.FOLDER"},
                       {"TOOL", &words.tool, {}, "Argument.TOOL"},
-                      {"CODE", &words.code, {}, "Argument.CODE"}},
+                      {"CODE", &words.code, {}, "Argument.CODE"},
+                      {"ID", &words.id, {}, "Argument.ID"}},
                      {}};
   for (const Verb& verb : verbs) table.verbs.push_back({verb.words, std::string("Verb.") + verb.words, verb.arguments});
   return table;

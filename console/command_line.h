@@ -18,7 +18,7 @@ namespace tarvo {
 // What stands behind a verb.
 struct VerbWords {
   std::vector<std::string> pairs, names, tools;
-  std::string style, direction, kind, name, version, file, folder, tool, code;
+  std::string style, direction, kind, name, version, file, folder, tool, code, id;
   int position = 0;
 };
 

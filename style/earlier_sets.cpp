@@ -57,6 +57,12 @@ bool isFingerprint(std::string_view text) {
 
 std::string_view nameOf(ChangeKind kind) { return kindNames[static_cast<std::size_t>(kind)]; }
 
+std::string isoText(Moment time) {
+  const std::string text = textOf(time);
+  return text.substr(0, 4) + '-' + text.substr(4, 2) + '-' + text.substr(6, 5) + ':' + text.substr(11, 2) + ':' +
+         text.substr(13, 2) + 'Z';
+}
+
 std::string fileNameOf(Moment time, ChangeKind kind, const std::string& fingerprint) {
   const std::string mark = fingerprint.empty() ? std::string(unknown) : fingerprint;
   return textOf(time) + " " + std::string(nameOf(kind)) + " " + mark + std::string(ending);

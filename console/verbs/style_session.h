@@ -35,13 +35,17 @@ class StyleSession {
 
   StyleStore& store() { return store_; }
   NamedLists& lists() { return lists_; }
+  const EarlierStyles& earlier() const { return earlier_; }
 
+  enum class Unreadable { refused, replaced };  // what becomes of a style file that is there and cannot be read
   // The operation: why it cannot be done, and then nothing is written; or nothing.
   using Operation = std::function<std::optional<Problem>(int index)>;
   // On the style that the word names (style_name.h).
-  ExitStatus edit(const std::string& style, const Operation& operation);
+  ExitStatus edit(const std::string& style, const Operation& operation, Unreadable unreadable = Unreadable::refused);
   // The same for a verb that writes no styles.
   ExitStatus read(const std::string& style, const Operation& operation);
+  // All styles and choices of an earlier set (style_history.h), whether the present ones can be read or not.
+  ExitStatus restore(const Dictionary& earlier);
   // Hands all styles to the service, whatever changed.
   ExitStatus push();
   // Makes the styles here and those of the service one, as the end of a launch does: a service without styles gets
@@ -49,8 +53,8 @@ class StyleSession {
   ExitStatus pull();
 
  private:
-  std::optional<Problem> open();
-  std::expected<int, Problem> openOn(const std::string& style);
+  std::optional<Problem> open(Unreadable unreadable = Unreadable::refused);
+  std::expected<int, Problem> openOn(const std::string& style, Unreadable unreadable = Unreadable::refused);
   // Writes what the load has joined, where no edit did.
   std::optional<Problem> writeLoaded();
   ExitStatus finish(std::vector<std::string> changed);

@@ -6,6 +6,7 @@
 #include "console/verbs/tool_list_command.h"
 #include "platform/services/engine.h"
 #include "style/sibling_tools.h"
+#include "style/style_history.h"
 
 // The session's exchanges with the style service.
 namespace tarvo {
@@ -18,6 +19,13 @@ ExitStatus StyleSession::push() {
   }
   store_.registerStyles();
   return sayHandedOver(store_.registration().value_or(Result<>()));
+}
+
+ExitStatus StyleSession::restore(const Dictionary& earlier) {
+  if (const std::optional<Problem> failure = open(Unreadable::replaced)) return tell(console_, *failure);
+  const Dictionary before = store_.root();
+  restoreStyles(store_, earlier);
+  return finish(before == store_.root() ? std::vector<std::string>() : std::vector{pathOfStyles()});
 }
 
 ExitStatus StyleSession::pull() {

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "console/verbs/history_commands.h"
+
+#include "app/product.h"
+#include "console/verbs/style_reading.h"
+#include "console/verbs/style_session.h"
+#include "console/verbs/text_table.h"
+#include "dict/change_words.h"
+#include "platform/plist/json.h"
+#include "platform/services/failure_text.h"
+#include "style/style_history.h"
+#include "style/style_keys.h"
+
+namespace tarvo {
+
+namespace {
+
+Refusal noSuchSet(const std::string& id) { return {id, "Refusal.NoEarlierStyles", ""}; }
+
+std::vector<std::string> wordsOf(const HistoryEntry& entry, const Texts& texts) {
+  if (entry.damage) return {failureCauseText(*entry.damage, texts)};
+  return changesInWords(entry.changes, texts);
+}
+
+Json::Object jsonOf(const HistoryEntry& entry, const Texts& texts) {
+  const std::vector<std::string> words = wordsOf(entry, texts);
+  return {{"id", entry.set.id},
+          {"time", isoText(entry.set.time)},
+          {"kind", std::string(nameOf(entry.set.kind))},
+          {"changed", Json::List(words.begin(), words.end())}};
+}
+
+}  // namespace
+
+ExitStatus HistoryCommand::run(Console& console) {
+  const ReadStyles styles = readStyles(console);
+  if (!styles.root) return styles.status;
+  const EarlierStyles earlier(console.product.files(), console.product.locations().inHome(gEarlierStyles));
+  const std::optional<EarlierSet> only = setWithId(earlier, id_);
+  if (!id_.empty() && !only) return tell(console, noSuchSet(id_));
+  const Texts texts = console.textsToTell();
+  const Array* present = styles.root->array(keyNameStyle);
+  Json::List list;
+  std::vector<std::vector<std::string>> rows;
+  for (const HistoryEntry& entry : styleHistory(earlier, present != nullptr ? *present : Array())) {
+    if (only && entry.set.id != only->id) continue;
+    list.emplace_back(jsonOf(entry, texts));
+    std::vector<std::string> row{entry.set.id, std::string(nameOf(entry.set.kind))};
+    for (const std::string& words : wordsOf(entry, texts)) {
+      row.push_back(printable(words));
+      rows.push_back(std::exchange(row, {"", ""}));
+    }
+    if (!row.front().empty()) rows.push_back(row);
+  }
+  if (console.json) {
+    console.out << writeJson(list) << '\n';
+  } else {
+    writeTable(console.out, rows);
+  }
+  return styles.status;
+}
+
+ExitStatus RestoreCommand::run(Console& console) {
+  StyleSession session(console);
+  const std::optional<EarlierSet> set = setWithId(session.earlier(), id_);
+  if (!set) return tell(console, noSuchSet(id_));
+  const Result<Dictionary> root = session.earlier().read(*set);
+  if (!root) return tell(console, root.error());
+  if (style_.empty()) return session.restore(*root);
+  const std::string standardName = console.product.texts().localized(nomalStyle);
+  const auto bringBack = [&](int index) -> std::optional<Problem> {
+    if (restoreStyle(session.store(), index, *root, standardName)) return std::nullopt;
+    return Refusal{set->id, "Refusal.NotAmongEarlier", style_};
+  };
+  return session.edit(style_, bringBack, StyleSession::Unreadable::replaced);
+}
+
+}  // namespace tarvo

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "style/style_history.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/text/text_rules.h"
+#include "style/style_edits.h"
+#include "style/style_keys.h"
+#include "style/style_pairing.h"
+#include "style/style_store.h"
+
+namespace tarvo {
+
+namespace {
+
+Array stylesIn(const Dictionary& root) {
+  const Array* styles = root.array(keyNameStyle);
+  return styles != nullptr ? *styles : Array();
+}
+
+// The record that a style has been, as far as its name or its place tells.
+const Dictionary* formerRecord(const Array& styles, const std::string& name, std::size_t place) {
+  const auto sameName = std::ranges::find_if(
+      styles, [&name](const PropertyList& one) { return equalIgnoringCase(recordName(one), name); });
+  if (sameName != styles.end() && sameName->dictionary() != nullptr) return sameName->dictionary();
+  return place < styles.size() ? styles[place].dictionary() : nullptr;
+}
+
+}  // namespace
+
+std::vector<HistoryEntry> styleHistory(const EarlierStyles& earlier, const Array& present) {
+  std::vector<HistoryEntry> history;
+  Array following = present;
+  for (EarlierSet& set : earlier.list()) {
+    HistoryEntry entry{.set = std::move(set), .changes = {}, .damage = std::nullopt};
+    Result<Dictionary> root = earlier.read(entry.set);
+    if (root) {
+      Array styles = stylesIn(*root);
+      entry.changes = styleChanges(styles, following);
+      following = std::move(styles);
+    } else {
+      entry.damage = root.error();
+    }
+    history.push_back(std::move(entry));
+  }
+  return history;
+}
+
+std::optional<EarlierSet> setWithId(const EarlierStyles& earlier, const std::string& word) {
+  std::optional<EarlierSet> found;
+  if (word.empty()) return found;
+  for (EarlierSet& set : earlier.list()) {
+    if (set.id == word) return std::move(set);
+    if (!set.id.starts_with(word)) continue;
+    if (found) return std::nullopt;
+    found = std::move(set);
+  }
+  return found;
+}
+
+void restoreStyles(StyleStore& store, const Dictionary& earlier) {
+  const Dictionary* selection = earlier.dictionary(keyNameSelection);
+  store.replaceRoot(stylesIn(earlier), selection != nullptr ? std::optional(*selection) : std::nullopt,
+                    ChangeKind::restore);
+}
+
+bool restoreStyle(StyleStore& store, int index, const Dictionary& earlier, const std::string& standardName) {
+  const std::optional<Dictionary> present = store.getStyleAtIndex(index);
+  if (!present) return false;
+  const std::string name = styleName(*present);
+  const Array styles = stylesIn(earlier);
+  const Dictionary* former = formerRecord(styles, name, static_cast<std::size_t>(index));
+  if (former == nullptr) return false;
+  Dictionary record = *former;
+  const bool isFree = index != 0 && isNameFree(store.getAllStyle(), index, styleName(record), standardName);
+  if (!isFree) record.set(keyNameName, name);
+  if (const PropertyList* id = present->find(keyNameID)) record.set(keyNameID, *id);
+  store.setStyle(index, std::move(record), ChangeKind::restore);
+  return true;
+}
+
+}  // namespace tarvo
