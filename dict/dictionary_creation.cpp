@@ -9,6 +9,14 @@
 
 namespace tarvo {
 
+namespace {
+
+FourCharCode userDictionaryType(Direction direction) {
+  return direction == Direction::englishToJapanese ? fourCharCode("TReu") : fourCharCode("TRju");
+}
+
+}  // namespace
+
 std::string templateName(Direction direction) {
   return (direction == Direction::englishToJapanese ? "EJStationery." : "JEStationery.") +
          std::string(extensionOf(DictionaryKind::user, direction));
@@ -16,16 +24,11 @@ std::string templateName(Direction direction) {
 
 Result<> makeDictionaryFile(FileService& files, const Bundle& bundle, const DiskPath& path, DictionaryKind kind,
                             Direction direction) {
-  const bool isEnglish = direction == Direction::englishToJapanese;
-  if (const std::optional<DiskPath> stationery = bundle.resource(templateName(direction), "")) {
-    if (Result<> copied = files.copy(*stationery, path); !copied) return copied;
-  }
-  if (kind == DictionaryKind::user) {
-    const Result<> set =
-        files.setCodes(path, isEnglish ? fourCharCode("TReu") : fourCharCode("TRju"), fourCharCode("    "));
-    (void)set;  // disks that keep no codes refuse; the dictionary works without them
-  }
-  return {};
+  const std::optional<DiskPath> stationery = bundle.resource(templateName(direction), "");
+  if (!stationery) return {};
+  std::optional<FinderCodes> codes;
+  if (kind == DictionaryKind::user) codes = {userDictionaryType(direction), fourCharCode("    ")};
+  return files.copyAs(*stationery, path, codes);
 }
 
 }  // namespace tarvo

@@ -16,7 +16,7 @@ class FileService;
 std::string templateName(Direction direction);
 
 // Makes the file of a new, empty dictionary from the template. User dictionaries get their type code and a blank
-// creator.
+// creator, on disks that keep such codes, and have them as soon as they have their name.
 // A template that is missing is no failure: then no file is made, which the path alone shows. After a failure nothing
 // is there.
 Result<> makeDictionaryFile(FileService& files, const Bundle& bundle, const DiskPath& path, DictionaryKind kind,

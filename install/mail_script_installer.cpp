@@ -46,24 +46,31 @@ Result<> MailScriptInstaller::installMailScript(const AddinEntry& entry) {
   const AddinPlaces places = placesOf(entry, locations_, files_);
   const std::string name = addinItemName(entry);
   if (name.empty()) return source.error();
+  const Result<std::vector<DiskPath>> scripts = source ? scriptsIn(*source) : source.error();
+  const bool isNew = files_.ownKind(places.item) == FileService::Kind::absent;
+  if (scripts && isNew) return files_.makeFolderOf(*scripts, places.item);
   const Result<> made = createDirectoryFromPath(files_, name, places.folder);
-  if (!source) return source.error();
-  Result<> copied = copyScripts(*source, places.item);
-  return !copied && !made ? made : copied;  // without the folder no copy can be
+  Result<> added = scripts ? addScripts(*scripts, places.item) : scripts.error();
+  return source && !added && !made ? made : added;  // without the folder no copy can be
 }
 
-Result<> MailScriptInstaller::copyScripts(const DiskPath& source, const DiskPath& target) {
+Result<std::vector<DiskPath>> MailScriptInstaller::scriptsIn(const DiskPath& source) const {
   const Result<std::vector<std::string>> names = files_.list(source);
   if (!names) return names.error();
-  Result<> copied = Failure{source.text(), Attempt::install, Reason::emptyResource};
-  for (const std::string& item : *names) {
-    const DiskPath from = source / item;
-    if (files_.isAbsent(from)) continue;
-    copied = checkNoLink(files_, target, Attempt::install);
-    if (copied) copied = files_.copy(from, target / item);
-    if (!copied) return copied;
+  std::vector<DiskPath> scripts;
+  for (const std::string& name : *names) {
+    if (!files_.isAbsent(source / name)) scripts.push_back(source / name);
   }
-  return copied;
+  if (scripts.empty()) return Failure{source.text(), Attempt::install, Reason::emptyResource};
+  return scripts;
+}
+
+Result<> MailScriptInstaller::addScripts(const std::vector<DiskPath>& scripts, const DiskPath& folder) {
+  for (const DiskPath& script : scripts) {
+    if (Result<> own = checkNoLink(files_, folder, Attempt::install); !own) return own;
+    if (Result<> copied = files_.copy(script, folder / script.name()); !copied) return copied;
+  }
+  return {};
 }
 
 Result<> MailScriptInstaller::unInstallMailScript(const AddinEntry& entry) {

@@ -29,7 +29,8 @@ class MailScriptInstaller {
   // that cannot be looked at counts as there.
   bool isMailScriptFolder(const AddinEntry& entry) const;
   // Stops at the first item that cannot be copied, also because something of its name is there; what was copied stays.
-  // Fails then, and for scripts that are missing or empty. The folder is made before the scripts are looked at.
+  // Fails then, and for scripts that are missing or empty, which leaves an empty folder. A folder that is new stands
+  // there only with all that will be in it.
   Result<> installMailScript(const AddinEntry& entry);
   Result<> unInstallMailScript(const AddinEntry& entry);
   // Removes what lies in the folder, up to the first failure, then the folder itself if that left it empty. Whether
@@ -37,7 +38,8 @@ class MailScriptInstaller {
   Result<> unInstallScript(const DiskPath& folder);
 
  private:
-  Result<> copyScripts(const DiskPath& source, const DiskPath& target);
+  Result<std::vector<DiskPath>> scriptsIn(const DiskPath& source) const;
+  Result<> addScripts(const std::vector<DiskPath>& scripts, const DiskPath& folder);
   Result<> removeScripts(const DiskPath& folder, const std::vector<std::string>& names);
   FileService& files_;
   const Bundle& bundle_;

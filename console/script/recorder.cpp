@@ -89,10 +89,26 @@ Result<> RecordedFiles::makeFolder(const DiskPath& path) {
   return disk_.makeFolder(path);
 }
 
-Result<> RecordedFiles::copy(const DiskPath& from, const DiskPath& to) {
-  if (const auto refused = refusal(Operation::copy, from, Attempt::copy)) return *refused;
-  if (const auto refused = refusal(Operation::copy, to, Attempt::create)) return *refused;
-  return disk_.copy(from, to);
+std::optional<Failure> RecordedFiles::copyRefusal(const DiskPath& from, const DiskPath& to) const {
+  auto refused = refusal(Operation::copy, from, Attempt::copy);
+  return refused ? refused : refusal(Operation::copy, to, Attempt::create);
+}
+
+Result<> RecordedFiles::copyAs(const DiskPath& from, const DiskPath& to, const std::optional<FinderCodes>& codes) {
+  if (const auto refused = copyRefusal(from, to)) return *refused;
+  return disk_.copyAs(from, to, codes);
+}
+
+Result<> RecordedFiles::makeFolderOf(const std::vector<DiskPath>& items, const DiskPath& folder) {
+  if (const auto refused = refusal(Operation::make, folder, Attempt::makeFolder)) return *refused;
+  std::vector<DiskPath> allowed;  // the row ends where a copy fails
+  std::optional<Failure> refused;
+  for (const DiskPath& item : items) {
+    if ((refused = copyRefusal(item, folder / item.name()))) break;
+    allowed.push_back(item);
+  }
+  Result<> made = disk_.makeFolderOf(allowed, folder);
+  return made && refused ? *refused : made;
 }
 
 Result<> RecordedFiles::move(const DiskPath& from, const DiskPath& to) {

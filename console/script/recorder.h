@@ -54,13 +54,15 @@ class RecordedFiles : public FileService {
   Result<Kind> kind(const DiskPath& path) const override { return disk_.kind(path); }
   Result<Kind> ownKind(const DiskPath& path) const override { return disk_.ownKind(path); }
   Result<> checkWritable(const DiskPath& folder) const override { return disk_.checkWritable(folder); }
+  Result<Writers> writersOf(const DiskPath& folder) const override { return disk_.writersOf(folder); }
   Result<std::string> read(const DiskPath& path) const override { return disk_.read(path); }
   Result<Replaced> replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) override;
   Result<FileStamp> stamp(const DiskPath& path) const override { return disk_.stamp(path); }
   Result<> keepUnreadable(const DiskPath& path) override;
   Result<std::vector<std::string>> list(const DiskPath& folder) const override;
   Result<> makeFolder(const DiskPath& path) override;
-  Result<> copy(const DiskPath& from, const DiskPath& to) override;
+  Result<> copyAs(const DiskPath& from, const DiskPath& to, const std::optional<FinderCodes>& codes) override;
+  Result<> makeFolderOf(const std::vector<DiskPath>& items, const DiskPath& folder) override;
   Result<> move(const DiskPath& from, const DiskPath& to) override;
   Result<> remove(const DiskPath& path) override;
   Result<> removeEmptyFolder(const DiskPath& path) override;
@@ -72,6 +74,7 @@ class RecordedFiles : public FileService {
  private:
   // As the disk itself refuses.
   std::optional<Failure> refusal(Operation operation, const DiskPath& path, Attempt attempt) const;
+  std::optional<Failure> copyRefusal(const DiskPath& from, const DiskPath& to) const;
   void noteWrite(const DiskPath& path, bool written);
   struct Refusal {
     Operation operation;

@@ -14,6 +14,9 @@ namespace tarvo {
 // "" when there is none, also on a disk that keeps none.
 Result<std::string> attribute(const DiskPath& path, const char* name);
 Result<> setAttribute(const DiskPath& path, const char* name, std::string_view value);
+// The same of an open file: "" when there is none; what the system refuses is left out.
+std::string attributeOf(int file, const char* name);
+void giveAttribute(int file, const char* name, std::string_view value);
 // Copies all that can be copied from one open file to another; what the system refuses is left out.
 void copyAttributes(int from, int to);
 

@@ -96,6 +96,8 @@ std::optional<std::vector<std::string>> namesIn(int folder) {
   return names;
 }
 
+bool syncFolder(int folder) { return ::fsync(folder) == 0 || (errno != EIO && errno != ENOSPC); }
+
 std::string temporaryName() {
   std::array<unsigned char, 12> random{};
   if (::getentropy(random.data(), random.size()) != 0) return "";

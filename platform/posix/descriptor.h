@@ -33,6 +33,9 @@ std::optional<std::string> readAll(int file, std::size_t expected, std::size_t l
 Descriptor openFolder(int base, const std::string& path, int flags = 0);
 // The names in an open folder without "." and "..", in the disk's order.
 std::optional<std::vector<std::string>> namesIn(int folder);
+// Puts the names that an open folder holds on the disk. Some disks cannot sync a folder, and that is no failure; false
+// only where the names may be lost: after an error of the disk, and on a full one.
+bool syncFolder(int folder);
 // The name of a temporary file that nobody can guess.
 std::string temporaryName();
 

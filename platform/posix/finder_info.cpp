@@ -18,6 +18,14 @@ void put(std::string& info, std::size_t position, FourCharCode code) {
   }
 }
 
+// The attribute with other codes and all else as it was.
+std::string withCodes(std::string info, const FinderCodes& codes) {
+  info.resize(std::max(info.size(), finderInfoSize));
+  put(info, typeAt, codes.type);
+  put(info, creatorAt, codes.creator);
+  return info;
+}
+
 }  // namespace
 
 Result<FourCharCode> finderType(const DiskPath& path) {
@@ -30,12 +38,13 @@ Result<FourCharCode> finderType(const DiskPath& path) {
 }
 
 Result<> setFinderCodes(const DiskPath& path, FourCharCode type, FourCharCode creator) {
-  Result<std::string> info = attribute(path, finderInfo);
+  const Result<std::string> info = attribute(path, finderInfo);
   if (!info) return info.error();
-  info->resize(std::max(info->size(), finderInfoSize));
-  put(*info, typeAt, type);
-  put(*info, creatorAt, creator);
-  return setAttribute(path, finderInfo, *info);
+  return setAttribute(path, finderInfo, withCodes(*info, {type, creator}));
+}
+
+void giveFinderCodes(int file, const FinderCodes& codes) {
+  giveAttribute(file, finderInfo, withCodes(attributeOf(file, finderInfo), codes));
 }
 
 }  // namespace tarvo

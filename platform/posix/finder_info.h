@@ -14,5 +14,7 @@ namespace tarvo {
 
 Result<FourCharCode> finderType(const DiskPath& path);  // 0 for none
 Result<> setFinderCodes(const DiskPath& path, FourCharCode type, FourCharCode creator);
+// Gives an open file the codes, on a disk that keeps any.
+void giveFinderCodes(int file, const FinderCodes& codes);
 
 }  // namespace tarvo

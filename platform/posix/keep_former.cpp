@@ -17,10 +17,10 @@ namespace {
 constexpr std::size_t largestCopy = std::size_t{1} << 30;
 
 // The folder is for its owner alone: other users of the machine have no business in what somebody wrote earlier.
-Descriptor openPlace(const DiskPath& folder) {
+Descriptor openPlace(const DiskPath& folder, const DiskPath& privateBelow) {
   Descriptor open = openFolder(AT_FDCWD, folder.text(), O_NOFOLLOW);
   if (open || errno != ENOENT) return open;
-  if (!makeFolders(folder.folder())) return Descriptor();
+  if (!makeFolders(folder.folder(), privateBelow)) return Descriptor();
   if (!makePrivateFolder(folder)) return Descriptor();
   return openFolder(AT_FDCWD, folder.text(), O_NOFOLLOW);
 }
@@ -99,7 +99,7 @@ bool FormerFile::copy(int folder, const std::string& name) {
 }
 
 Result<> FormerFile::keep(int folder, const std::string& name, const std::string& path) {
-  place_ = openPlace(keeping_.folder);
+  place_ = openPlace(keeping_.folder, privateBelow_);
   const bool done = place_ && (link(folder, name) || (outcome_.kept.empty() && copy(folder, name)));
   if (done) return {};
   Failure failure = systemFailure(place_ ? path : keeping_.folder.text(), Attempt::keep);

@@ -16,7 +16,8 @@ FileStamp stampOf(const struct stat& status);
 // A file that is about to be replaced, kept in another folder under a name of its own.
 class FormerFile {
  public:
-  explicit FormerFile(const Keeping& keeping) : keeping_(keeping) {}
+  // privateBelow: of the folders above the keeping's, as for makeFolders (folders.h).
+  FormerFile(const Keeping& keeping, const DiskPath& privateBelow) : keeping_(keeping), privateBelow_(privateBelow) {}
   // Keeps the file of that name in the open folder; path is its whole path, for who is told of a failure. Nothing is
   // followed. What could not be kept is told by outcome().unkept. A failure: it must be kept, and was not.
   Result<> keep(int folder, const std::string& name, const std::string& path);
@@ -31,6 +32,7 @@ class FormerFile {
   bool isForeign(const struct stat& status) const;
   bool sync(int kept, bool isForeign) const;
   const Keeping& keeping_;
+  const DiskPath& privateBelow_;
   Descriptor place_;
   Replaced outcome_;
 };

@@ -51,7 +51,8 @@ Result<FileService::Kind> look(const Result<DiskPath>& name, int flags) {
 
 }  // namespace
 
-PosixFiles::PosixFiles(const Locations& locations) : locations_(locations) {}
+PosixFiles::PosixFiles(const Locations& locations, HomeFolders homeFolders)
+    : locations_(locations), privateBelow_(homeFolders == HomeFolders::forTheUser ? locations.home() : DiskPath()) {}
 
 Result<FileService::Kind> PosixFiles::kind(const DiskPath& path) const { return look(named(path, Attempt::look), 0); }
 
@@ -64,6 +65,14 @@ Result<> PosixFiles::checkWritable(const DiskPath& folder) const {
   if (!name) return name.error();
   if (::access(name->text().c_str(), W_OK | X_OK) == 0) return {};
   return systemFailure(name->text(), Attempt::write);
+}
+
+Result<FileService::Writers> PosixFiles::writersOf(const DiskPath& folder) const {
+  const Result<DiskPath> name = named(folder, Attempt::look);
+  if (!name) return name.error();
+  const Result<unsigned> mode = modeForOthers(*name);
+  if (!mode) return mode.error();
+  return (*mode & S_IWOTH) != 0 ? Writers::everybody : Writers::some;
 }
 
 Result<std::string> PosixFiles::read(const DiskPath& path) const {
@@ -84,7 +93,7 @@ Result<Replaced> PosixFiles::replace(const DiskPath& path, std::string_view byte
   if (!name) return name.error();
   if (path.text().ends_with('/'))
     return Failure{name->text(), Attempt::write, std::make_error_code(std::errc::is_a_directory)};
-  return replaceFile(*name, bytes, keeping);
+  return replaceFile(*name, bytes, keeping, privateBelow_);
 }
 
 Result<FileStamp> PosixFiles::stamp(const DiskPath& path) const {
@@ -114,14 +123,21 @@ Result<std::vector<std::string>> PosixFiles::list(const DiskPath& folder) const 
 Result<> PosixFiles::makeFolder(const DiskPath& path) {
   const Result<DiskPath> name = named(path, Attempt::makeFolder);
   if (!name) return name.error();
-  return makeFolders(*name);
+  return makeFolders(*name, privateBelow_);
 }
 
-Result<> PosixFiles::copy(const DiskPath& from, const DiskPath& to) {
+Result<> PosixFiles::copyAs(const DiskPath& from, const DiskPath& to, const std::optional<FinderCodes>& codes) {
   const Result<DiskPath> source = named(from, Attempt::copy), target = named(to, Attempt::create);
   if (!source) return source.error();
   if (!target) return target.error();
-  return copyTree(*source, *target);
+  return copyTree(*source, *target, codes);
+}
+
+Result<> PosixFiles::makeFolderOf(const std::vector<DiskPath>& items, const DiskPath& folder) {
+  const Result<DiskPath> target = named(folder, Attempt::makeFolder);
+  if (!target) return target.error();
+  if (Result<> made = makeFolders(target->folder(), privateBelow_); !made) return made;
+  return copyIntoNewFolder(items, *target, modeOfNewFolder(*target, privateBelow_));
 }
 
 Result<> PosixFiles::move(const DiskPath& from, const DiskPath& to) {

@@ -118,10 +118,9 @@ class Replacement {
     return {};
   }
 
-  // The new bytes are what everybody reads by now. Some disks cannot sync a folder, and that is no failure.
+  // The new bytes are what everybody reads by now.
   std::optional<Failure> sync() const {
-    const bool failed = ::fsync(folder_.get()) != 0 && (errno == EIO || errno == ENOSPC);
-    return failed ? std::optional(notWritten(target_.path)) : std::nullopt;
+    return syncFolder(folder_.get()) ? std::nullopt : std::optional(notWritten(target_.path));
   }
 
  private:
@@ -137,7 +136,8 @@ class Replacement {
 
 }  // namespace
 
-Result<Replaced> replaceFile(const DiskPath& path, std::string_view bytes, const Keeping& keeping) {
+Result<Replaced> replaceFile(const DiskPath& path, std::string_view bytes, const Keeping& keeping,
+                             const DiskPath& privateBelow) {
   const Result<Target> target = findTarget(path.text());
   if (!target) return target.error();
   if (target->path.ends_with('/')) return notWritten(target->path, std::errc::is_a_directory);
@@ -146,7 +146,7 @@ Result<Replaced> replaceFile(const DiskPath& path, std::string_view bytes, const
   Replacement replacement(*target, std::move(folder));
   const Result<FileStamp> written = replacement.write(bytes);
   if (!written) return written.error();
-  FormerFile former(keeping);
+  FormerFile former(keeping, privateBelow);
   if (const bool isKept = !keeping.folder.empty(); isKept) {
     if (const Result<> kept = replacement.keepFormer(former); !kept) return kept.error();
   }

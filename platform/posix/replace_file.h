@@ -19,7 +19,8 @@ namespace tarvo {
 // new file gets 0666 less the umask. Fails when the target is anything but a regular file or any step before the
 // renaming fails: the target is as it was and the temporary file is gone.
 // A former file is kept as asked for just before the renaming (keeping.h), and is dropped there when the renaming
-// fails.
-Result<Replaced> replaceFile(const DiskPath& path, std::string_view bytes, const Keeping& keeping = {});
+// fails. privateBelow: of the folders above that of kept files, as for makeFolders.
+Result<Replaced> replaceFile(const DiskPath& path, std::string_view bytes, const Keeping& keeping = {},
+                             const DiskPath& privateBelow = {});
 
 }  // namespace tarvo

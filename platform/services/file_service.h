@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,6 +25,10 @@ constexpr FourCharCode fourCharCode(const char (&text)[5]) {
   return code;
 }
 
+struct FinderCodes {
+  FourCharCode type = 0, creator = 0;
+};
+
 class FileService {
  public:
   virtual ~FileService() = default;
@@ -39,6 +44,10 @@ class FileService {
   bool isAbsent(const DiskPath& path) const;
   // Whether things may be made in a folder, as far as permissions tell; the failure says why not.
   virtual Result<> checkWritable(const DiskPath& folder) const = 0;
+  // Who, beside this user, may make and remove things in a folder, as the modes of it and of all above it say. "some"
+  // may be none; everybody: every user of the machine.
+  enum class Writers { some, everybody };
+  virtual Result<Writers> writersOf(const DiskPath& folder) const = 0;
 
   // The whole content of a regular file. Never blocks on a pipe or a device.
   virtual Result<std::string> read(const DiskPath& path) const = 0;
@@ -56,11 +65,18 @@ class FileService {
 
   // Names in a folder without "." and "..", hidden ones included, ascending by UTF-8 bytes.
   virtual Result<std::vector<std::string>> list(const DiskPath& folder) const = 0;
-  // Creates the folder and missing ones above it, each with mode 0777 whatever the umask. Done also when it is there.
+  // Creates the folder and missing ones above it, each open to every user whatever the umask, or, where the product is
+  // set up so, to the user alone at and below the home. Done also when it is there.
   virtual Result<> makeFolder(const DiskPath& path) = 0;
   // Copies a file, folder (with everything in it) or link with mode and attributes; fails when anything is at the
-  // target. A file whose copy fails is removed; what was finished before it stays.
-  virtual Result<> copy(const DiskPath& from, const DiskPath& to) = 0;
+  // target. The copy takes its name when all of it is on the disk; after a failure nothing of it is there.
+  Result<> copy(const DiskPath& from, const DiskPath& to) { return copyAs(from, to, {}); }
+  // The same; the copy of a file bears these codes, where the disk keeps codes.
+  virtual Result<> copyAs(const DiskPath& from, const DiskPath& to, const std::optional<FinderCodes>& codes) = 0;
+  // Makes a new folder as makeFolder does, with copies of the items in their order. It takes its name when all of it is
+  // on the disk. An item that cannot be copied ends the row: then the folder holds those before it, and the failure is
+  // the item's. Fails when anything has the name.
+  virtual Result<> makeFolderOf(const std::vector<DiskPath>& items, const DiskPath& folder) = 0;
   // Gives a file or folder another name on the same disk in one step. Fails when anything has that name.
   virtual Result<> move(const DiskPath& from, const DiskPath& to) = 0;
   // Removes a file, a link, or a folder with everything in it; links are not followed. Stops at the first failure.

@@ -17,7 +17,7 @@ std::string codesOn(const std::string& path) {
   return size == 32 ? bytes.substr(0, 8) : "";
 }
 
-// A disk that keeps no codes and counts what it is asked.
+// A disk that counts what it is asked.
 class CountingFiles : public PosixFiles {
  public:
   using PosixFiles::PosixFiles;
@@ -29,12 +29,24 @@ class CountingFiles : public PosixFiles {
     ++listings;
     return PosixFiles::list(folder);
   }
-  Result<> setCodes(const DiskPath& path, FourCharCode, FourCharCode) override {
-    ++codesRefused;
-    return Failure{path.text(), Attempt::setCodes, std::make_error_code(std::errc::not_supported)};
+  Result<> copyAs(const DiskPath& from, const DiskPath& to, const std::optional<FinderCodes>& codes) override {
+    copiedAs = codes ? textOf(codes->type) + textOf(codes->creator) : "";
+    return PosixFiles::copyAs(from, to, codes);
+  }
+  Result<> setCodes(const DiskPath& path, FourCharCode type, FourCharCode creator) override {
+    ++codesSetLater;
+    return PosixFiles::setCodes(path, type, creator);
   }
   mutable int attributeReads = 0, listings = 0;
-  int codesRefused = 0;
+  std::string copiedAs;  // type and creator
+  int codesSetLater = 0;
+
+ private:
+  static std::string textOf(FourCharCode code) {
+    std::string text;
+    for (int shift = 24; shift >= 0; shift -= 8) text += static_cast<char>(code >> shift & 0xff);
+    return text;
+  }
 };
 
 struct CreationCase {
@@ -148,16 +160,15 @@ TEST(DictionaryCreation, roomCountsAsLoadedEvenWhenTheScanDropsTheFile) {
   EXPECT_TRUE(entryNames(controller).empty());
 }
 
-TEST(DictionaryCreation, aDiskThatKeepsNoCodesIsNoFailure) {
+TEST(DictionaryCreation, codesComeWithTheNameAndNotAfterIt) {
   DictionaryWorld world;
   CountingFiles files(world.locations);
   DictController controller(world.servicesOver(files));
-  controller.initializeDictController(user, world.dictionaryFolder(), EJ);
+  controller.initializeDictController(user, world.dictionaryFolder(), JE);
   bool isLoaded = false;
-  EXPECT_TRUE(controller.createDictionary("n.eud2", isLoaded));
-  EXPECT_TRUE(isLoaded);
-  EXPECT_EQ(files.codesRefused, 1);
-  EXPECT_EQ(loadedOf(controller), Names{"n.eud2"});
+  EXPECT_TRUE(controller.createDictionary("n.jud", isLoaded));
+  EXPECT_EQ(files.copiedAs, "TRju    ");
+  EXPECT_EQ(files.codesSetLater, 0);
 }
 
 TEST(DictionaryCreation, scanningAsksForAttributesOnlyWhereTheExtensionDoesNotDecide) {

@@ -34,26 +34,32 @@ Outcome expected(AddinKind kind, bool on, const Use& use, Fault fault) {
   if (kind == AddinKind::office && on) return {false, leavesSomething(fault)};
   if (kind == AddinKind::office) return fault == Fault::forbidden ? Outcome{false, true} : Outcome{true, false};
   if (!on && isReplaced(fault)) return {true, false};  // what bears the name goes, not what a link leads to
-  if (on && use.operation == Operation::makeFolder) {
-    const bool isMadeAnew = fault == Fault::vanishedFolder || fault == Fault::vanishedItem;
-    return isMadeAnew ? Outcome{true, true} : Outcome{false, leavesSomething(fault)};
+  if (on && (use.operation == Operation::list || use.operation == Operation::makeFolderOf)) {
+    if (fault == Fault::vanishedFolder || fault == Fault::vanishedItem) return {true, true};  // it is made anew
+    // Scripts that cannot be had, or copied, leave a folder without them.
+    return {false, use.operation == Operation::list || fault == Fault::fullDisk || leavesSomething(fault)};
   }
   if (fault == Fault::vanishedFolder) return {false, std::nullopt};
   if (fault == Fault::vanishedItem) return {false, false};
   return {false, true};  // the folder of scripts is there, whole or not
 }
 
-class FaultyAddins : public testing::TestWithParam<std::tuple<AddinKind, bool>> {};
+struct Trial {
+  AddinKind kind;
+  bool on, intoFolder;
+};
+
+class FaultyAddins : public testing::TestWithParam<Trial> {};
 
 TEST_P(FaultyAddins, sayWhatHappenedAndTouchNothingElse) {
-  const auto [kind, on] = GetParam();
-  const std::vector<Use> uses = AddinTrial(kind, on).uses();
+  const auto [kind, on, intoFolder] = GetParam();
+  const std::vector<Use> uses = AddinTrial(kind, on, intoFolder).uses();
   int faults = 0, differing = 0;
   for (std::size_t i = 0; i < uses.size(); ++i) {
     for (const Fault fault : everyFault) {
       if (!AddinTrial::befalls(fault, uses[i], i + 1 == uses.size(), kind)) continue;
       SCOPED_TRACE(std::string(nameOf(fault)) + " at operation " + std::to_string(i + 1) + " on " + uses[i].path);
-      AddinTrial trial(kind, on);
+      AddinTrial trial(kind, on, intoFolder);
       trial.run(i, fault);
       const Outcome outcome = expected(kind, on, uses[i], fault);
       EXPECT_EQ(trial.succeeded(), outcome.success);
@@ -68,14 +74,15 @@ TEST_P(FaultyAddins, sayWhatHappenedAndTouchNothingElse) {
     }
   }
   EXPECT_GE(faults, 5);
-  std::printf("%s of %s: %zu operations, %d faults, %d of them seen otherwise by the next start\n",
-              on ? "install" : "removal", kind == AddinKind::mail ? "scripts" : "a macro", uses.size(), faults,
-              differing);
+  std::printf("%s of %s%s: %zu operations, %d faults, %d of them seen otherwise by the next start\n",
+              on ? "install" : "removal", kind == AddinKind::mail ? "scripts" : "a macro",
+              intoFolder ? " into their folder" : "", uses.size(), faults, differing);
 }
 
 INSTANTIATE_TEST_SUITE_P(Everywhere, FaultyAddins,
-                         testing::Combine(testing::Values(AddinKind::office, AddinKind::mail),
-                                          testing::Values(true, false)));
+                         testing::Values(Trial{AddinKind::office, true, false}, Trial{AddinKind::office, false, false},
+                                         Trial{AddinKind::mail, true, false}, Trial{AddinKind::mail, true, true},
+                                         Trial{AddinKind::mail, false, false}));
 
 // Scripts of an earlier generation: what cannot be removed is not told, and the row shows what the disk holds.
 TEST(FaultyOldScripts, areSilentAndLeaveTheRowTrue) {

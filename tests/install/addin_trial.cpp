@@ -76,7 +76,7 @@ std::map<std::string, std::string> everythingBut(const std::string& folder, cons
   return all;
 }
 
-AddinTrial::AddinTrial(AddinKind kind, bool on) : kind_(kind), on_(on) {
+AddinTrial::AddinTrial(AddinKind kind, bool on, bool intoFolder) : kind_(kind), on_(on) {
   const std::string large(4096, 'x');
   world_.resource("Macros/2011/Tarvo.dotm", large);
   world_.resource("Mail/Tarvo/a.scpt", large);
@@ -89,6 +89,7 @@ AddinTrial::AddinTrial(AddinKind kind, bool on) : kind_(kind), on_(on) {
   world_.setUp({exampleOf(kind)});
   EXPECT_TRUE(world_.start());
   if (!on) table().userTick(0, true);
+  if (intoFolder) world_.folder.makeFolder(world_.item(exampleOf(kind)));
   world_.log.clear();
   before_ = outside();
 }
@@ -101,7 +102,7 @@ std::vector<AddinTrial::Use> AddinTrial::uses() {
 
 bool AddinTrial::befalls(Fault fault, const Use& use, bool isLast, AddinKind kind) {
   switch (fault) {
-    case Fault::fullDisk: return use.operation == Operation::copy || use.operation == Operation::makeFolder;
+    case Fault::fullDisk: return use.operation == Operation::copy || use.operation == Operation::makeFolderOf;
     case Fault::forbidden:
     case Fault::vanishedFolder: return true;
     case Fault::linkInTheWay:
@@ -147,7 +148,6 @@ Result<> AddinTrial::suffer(Fault fault, const Use& use, const Perform& perform)
   const std::string& target = use.path;
   switch (fault) {
     case Fault::fullDisk: {
-      if (use.operation == Operation::makeFolder) return FaultyFiles::forbid(use, perform);
       const FullDisk full;
       return perform();
     }

@@ -38,7 +38,8 @@ class AddinTrial {
  public:
   using Use = FaultyFiles::Use;
 
-  AddinTrial(AddinKind kind, bool on);
+  // intoFolder: the folder of scripts is there before an install.
+  AddinTrial(AddinKind kind, bool on, bool intoFolder = false);
 
   // The operations of an undisturbed run.
   std::vector<Use> uses();

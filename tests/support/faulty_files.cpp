@@ -41,8 +41,12 @@ Result<> FaultyFiles::makeFolder(const DiskPath& path) {
   return run(Operation::makeFolder, path.text(), [&] { return disk_.makeFolder(path); });
 }
 
-Result<> FaultyFiles::copy(const DiskPath& from, const DiskPath& to) {
-  return run(Operation::copy, to.text(), [&] { return disk_.copy(from, to); });
+Result<> FaultyFiles::copyAs(const DiskPath& from, const DiskPath& to, const std::optional<FinderCodes>& codes) {
+  return run(Operation::copy, to.text(), [&] { return disk_.copyAs(from, to, codes); });
+}
+
+Result<> FaultyFiles::makeFolderOf(const std::vector<DiskPath>& items, const DiskPath& folder) {
+  return run(Operation::makeFolderOf, folder.text(), [&] { return disk_.makeFolderOf(items, folder); });
 }
 
 Result<> FaultyFiles::remove(const DiskPath& path) {

@@ -16,7 +16,7 @@ namespace tarvo::test {
 
 class FaultyFiles : public FileService {
  public:
-  enum class Operation { list, makeFolder, copy, remove, removeEmptyFolder };
+  enum class Operation { list, makeFolder, copy, makeFolderOf, remove, removeEmptyFolder };
   struct Use {
     Operation operation;
     std::string path;  // of a copy: where it goes
@@ -37,6 +37,7 @@ class FaultyFiles : public FileService {
   Result<Kind> kind(const DiskPath& path) const override { return disk_.kind(path); }
   Result<Kind> ownKind(const DiskPath& path) const override { return disk_.ownKind(path); }
   Result<> checkWritable(const DiskPath& folder) const override { return disk_.checkWritable(folder); }
+  Result<Writers> writersOf(const DiskPath& folder) const override { return disk_.writersOf(folder); }
   Result<std::string> read(const DiskPath& path) const override { return disk_.read(path); }
   Result<Replaced> replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) override {
     return disk_.replace(path, bytes, keeping);
@@ -45,7 +46,8 @@ class FaultyFiles : public FileService {
   Result<> keepUnreadable(const DiskPath& path) override { return disk_.keepUnreadable(path); }
   Result<std::vector<std::string>> list(const DiskPath& folder) const override;
   Result<> makeFolder(const DiskPath& path) override;
-  Result<> copy(const DiskPath& from, const DiskPath& to) override;
+  Result<> copyAs(const DiskPath& from, const DiskPath& to, const std::optional<FinderCodes>& codes) override;
+  Result<> makeFolderOf(const std::vector<DiskPath>& items, const DiskPath& folder) override;
   Result<> move(const DiskPath& from, const DiskPath& to) override { return disk_.move(from, to); }
   Result<> remove(const DiskPath& path) override;
   Result<> removeEmptyFolder(const DiskPath& path) override;

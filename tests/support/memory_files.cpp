@@ -135,7 +135,7 @@ Result<> MemoryFiles::makeFolder(const DiskPath& at) {
   return {};
 }
 
-Result<> MemoryFiles::copy(const DiskPath& source, const DiskPath& target) {
+Result<> MemoryFiles::copyAs(const DiskPath& source, const DiskPath& target, const std::optional<FinderCodes>& codes) {
   const std::string& from = source.text();
   const std::string& to = target.text();
   if (const auto refused = refusal(Operation::copy, from, Attempt::copy)) return *refused;
@@ -147,7 +147,19 @@ Result<> MemoryFiles::copy(const DiskPath& source, const DiskPath& target) {
   }
   nodes_[to] = nodes_[from];
   for (const std::string& path : below(from)) nodes_[to + path.substr(from.size())] = nodes_[path];
+  const bool keepsCodes = codes && !refusal(Operation::setCodes, to, Attempt::setCodes);
+  if (keepsCodes && kindOf(to) == Kind::file) {
+    nodes_[to].type = codes->type;
+    nodes_[to].creator = codes->creator;
+  }
   return {};
+}
+
+Result<> MemoryFiles::makeFolderOf(const std::vector<DiskPath>& items, const DiskPath& folder) {
+  if (kindOf(folder.text()) != Kind::absent) return failure(folder.text(), Attempt::create, std::errc::file_exists);
+  Result<> made = makeFolder(folder);
+  for (auto item = items.begin(); made && item != items.end(); ++item) made = copy(*item, folder / item->name());
+  return made;
 }
 
 Result<> MemoryFiles::move(const DiskPath& from, const DiskPath& to) {

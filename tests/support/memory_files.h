@@ -44,13 +44,15 @@ class MemoryFiles : public FileService {
   Result<Kind> kind(const DiskPath& path) const override;
   Result<Kind> ownKind(const DiskPath& path) const override { return kind(path); }
   Result<> checkWritable(const DiskPath& folder) const override;
+  Result<Writers> writersOf(const DiskPath&) const override { return Writers::some; }
   Result<std::string> read(const DiskPath& path) const override;
   Result<Replaced> replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) override;
   Result<FileStamp> stamp(const DiskPath& path) const override;
   Result<> keepUnreadable(const DiskPath& path) override;
   Result<std::vector<std::string>> list(const DiskPath& folder) const override;
   Result<> makeFolder(const DiskPath& path) override;
-  Result<> copy(const DiskPath& from, const DiskPath& to) override;
+  Result<> copyAs(const DiskPath& from, const DiskPath& to, const std::optional<FinderCodes>& codes) override;
+  Result<> makeFolderOf(const std::vector<DiskPath>& items, const DiskPath& folder) override;
   Result<> move(const DiskPath& from, const DiskPath& to) override;
   Result<> remove(const DiskPath& path) override;
   Result<> removeEmptyFolder(const DiskPath& path) override;

@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <functional>
 
 #include "platform/posix/attributes.h"
 #include "tests/support/temporary_folder.h"
@@ -19,6 +20,20 @@ namespace {
 namespace fs = std::filesystem;
 
 using Names = std::vector<std::string>;
+
+// In a process of its own, which may change what holds for it alone.
+bool holdsInAnotherProcess(const std::function<bool()>& check) {
+  const pid_t child = ::fork();
+  if (child == 0) ::_exit(check() ? 0 : 1);
+  int status = 0;
+  return ::waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+// As somebody whom modes bind; as whoever runs the tests, where that is not root.
+bool holdsForAnotherUser(const std::function<bool()>& check) {
+  constexpr uid_t nobody = 65534;
+  return holdsInAnotherProcess([&] { return (::geteuid() != 0 || ::seteuid(nobody) == 0) && check(); });
+}
 
 class CopyTree : public testing::Test {
  protected:
@@ -129,29 +144,56 @@ TEST_F(CopyTree, aFolderIsNotCopiedIntoItself) {
   EXPECT_EQ(folder.names("from/inner"), Names{"deeper"});
 }
 
-TEST_F(CopyTree, whatWasFinishedBeforeAFailureStays) {
+TEST_F(CopyTree, nothingOfAFolderStaysThatCannotBeCopiedWhole) {
   folder.write("from/a", "1");
-  ASSERT_EQ(::mkfifo((folder / "from/b pipe").c_str(), 0666), 0);
-  folder.write("from/c", "3");
-  EXPECT_FALSE(copy("from", "to"));
-  EXPECT_EQ(folder.names("to"), Names{"a"});
+  folder.write("from/closed/b", "2");
+  ASSERT_EQ(::chmod((folder / "from/closed").c_str(), 0555), 0);
+  ASSERT_EQ(::mkfifo((folder / "from/d pipe").c_str(), 0666), 0);
+  const auto copyFails = [this] { return copy("from", "to").error().cause == Reason::noRegularFile; };
+  EXPECT_TRUE(copyFails());
+  EXPECT_EQ(folder.names(), Names{"from"});
+  ASSERT_EQ(::chmod(folder.path().c_str(), 0777), 0);
+  EXPECT_TRUE(holdsForAnotherUser(copyFails));
+  EXPECT_EQ(folder.names(), Names{"from"}) << "a folder of the copy that is closed to its owner goes too";
+  ASSERT_EQ(::chmod((folder / "from/closed").c_str(), 0755), 0);
 }
 
-TEST_F(CopyTree, aFileWhoseCopyFailsIsRemoved) {
+TEST_F(CopyTree, nothingOfAFileStaysThatCannotBeCopiedWhole) {
   folder.write("from/a", "small");
   folder.write("from/b", std::string(5000, 'x'));
-  const pid_t child = ::fork();
-  if (child == 0) {
+  EXPECT_TRUE(holdsInAnotherProcess([this] {
     ::signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{1000, 1000};
     ::setrlimit(RLIMIT_FSIZE, &limit);
-    ::_exit(copyTree(folder.at("from"), folder.at("to")) ? 1 : 0);
-  }
-  int status = 0;
-  ASSERT_EQ(::waitpid(child, &status, 0), child);
-  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+    return !copy("from", "to") && !copy("from/b", "to");
+  }));
+  EXPECT_EQ(folder.names(), Names{"from"});
+}
+
+TEST_F(CopyTree, aNewFolderHoldsCopiesOfTheItems) {
+  folder.write("a", "1");
+  folder.write("some/inner/b", "2");
+  const mode_t before = ::umask(077);
+  EXPECT_TRUE(copyIntoNewFolder({folder.at("some/inner"), folder.at("a")}, folder.at("to"), 0777));
+  EXPECT_TRUE(copyIntoNewFolder({}, folder.at("empty"), 0700));
+  ::umask(before);
+  EXPECT_EQ(folder.names("to"), (Names{"a", "inner"}));
+  EXPECT_EQ(folder.read("to/inner/b"), "2");
+  EXPECT_EQ(folder.mode("to"), 0777U);
+  EXPECT_EQ(folder.mode("empty"), 0700U);
+  EXPECT_EQ(copyIntoNewFolder({folder.at("a")}, folder.at("empty"), 0777).error().cause, std::errc::file_exists);
+  EXPECT_TRUE(folder.names("empty").empty());
+}
+
+TEST_F(CopyTree, aNewFolderHoldsWhatWasCopiedBeforeTheItemThatCannotBe) {
+  folder.write("a", "1");
+  folder.write("half/x", "2");
+  ASSERT_EQ(::mkfifo((folder / "half/y pipe").c_str(), 0666), 0);
+  const Result<> made = copyIntoNewFolder({folder.at("a"), folder.at("half"), folder.at("a")}, folder.at("to"), 0777);
+  EXPECT_EQ(made.error().path, folder / "half/y pipe");
   EXPECT_EQ(folder.names("to"), Names{"a"});
-  EXPECT_EQ(folder.read("to/a"), "small");
+  EXPECT_EQ(folder.mode("to"), 0777U);
+  EXPECT_EQ(folder.names(), (Names{"a", "half", "to"}));
 }
 
 }  // namespace

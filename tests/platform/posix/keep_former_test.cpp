@@ -69,6 +69,7 @@ TEST_F(KeepFormer, aNewFileHasNoFormerOne) {
 TEST_F(KeepFormer, aFileThatAnotherProgramWroteIsKeptUnderTheOtherName) {
   const Keeping asked = keeping();
   folder.write("file", "of somebody else");
+  folder.makeFolder("Above/Kept");
   const RecordedCalls calls;
   const Result<Replaced> replaced = replaceFile(folder.at("file"), "new", asked);
   ASSERT_TRUE(replaced);
@@ -93,17 +94,18 @@ TEST_F(KeepFormer, withoutANameOnlyAnotherProgramsFileIsKept) {
 TEST_F(KeepFormer, whatMustLastIsOnTheDiskBeforeTheFileIsReplaced) {
   Keeping asked = keeping();
   asked.durability = Durability::synced;
+  folder.makeFolder("Above/Kept");
   const RecordedCalls calls;
   ASSERT_TRUE(replaceFile(folder.at("file"), "new", asked));
   EXPECT_EQ(calls.names(),
-            (Names{"mode", "write", "sync file", "mode", "sync file", "sync folder", "rename", "sync folder"}));
+            (Names{"mode", "write", "sync file", "link", "sync file", "sync folder", "rename", "sync folder"}));
 }
 
 TEST_F(KeepFormer, anEditIsNotHeldUpByASync) {
   ASSERT_TRUE(replaceFile(folder.at("file"), "new", keeping()));  // makes the folder
   const RecordedCalls calls;
   ASSERT_TRUE(replaceFile(folder.at("file"), "newer", keeping("second")));
-  EXPECT_EQ(calls.names(), (Names{"mode", "write", "sync file", "rename", "sync folder"}));
+  EXPECT_EQ(calls.names(), (Names{"mode", "write", "sync file", "link", "rename", "sync folder"}));
 }
 
 TEST_F(KeepFormer, aPlaceThatCannotBeMadeIsToldAndTheFileIsReplaced) {

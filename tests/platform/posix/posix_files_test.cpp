@@ -169,6 +169,19 @@ TEST_F(PosixFilesTest, onlyAnEmptyFolderGoesWithoutItsContent) {
   EXPECT_EQ(folder.read("folder/a"), "x");
 }
 
+TEST_F(PosixFilesTest, aFolderOfItemsIsMadeWithTheFoldersAboveIt) {
+  folder.write("from/a", "x");
+  const mode_t before = ::umask(077);
+  EXPECT_TRUE(files.makeFolderOf({at("/from/a")}, at("/above/folder/")));
+  ::umask(before);
+  EXPECT_EQ(folder.read("above/folder/a"), "x");
+  EXPECT_EQ(folder.mode("above"), 0777U);
+  EXPECT_EQ(folder.mode("above/folder"), 0777U);
+  EXPECT_FALSE(files.makeFolderOf({at("/from/a")}, at("/above/folder")));
+  EXPECT_FALSE(files.makeFolderOf({at("/from/a")}, at("relative")));
+  EXPECT_EQ(files.makeFolderOf({}, at("/from/a/folder")).error().attempt, Attempt::makeFolder);
+}
+
 TEST_F(PosixFilesTest, codesGoWithCopiesAndStayWithReplacedFiles) {
   const std::string place = test::placeForAttributes();
   if (place.empty()) GTEST_SKIP() << "this disk keeps no extended attributes";
@@ -180,6 +193,8 @@ TEST_F(PosixFilesTest, codesGoWithCopiesAndStayWithReplacedFiles) {
   EXPECT_TRUE(disk.copy(root.at("template"), root.at("copy")));
   EXPECT_TRUE(disk.write(root.at("template"), "y"));
   EXPECT_EQ(disk.typeCode(root.at("copy")), fourCharCode("TReu"));
+  EXPECT_TRUE(disk.copyAs(root.at("template"), root.at("other"), FinderCodes{fourCharCode("TRju"), 0}));
+  EXPECT_EQ(disk.typeCode(root.at("other")), fourCharCode("TRju"));
   EXPECT_EQ(disk.typeCode(root.at("template")), fourCharCode("TReu"));
 }
 

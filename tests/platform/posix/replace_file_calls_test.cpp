@@ -4,6 +4,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
+
 #include "platform/posix/replace_file.h"
 #include "tests/platform/posix/recorded_calls.h"
 #include "tests/support/temporary_folder.h"
@@ -47,11 +49,25 @@ TEST_F(ReplaceFileCalls, aReplacedFileHasItsModeBeforeItsBytes) {
 TEST_F(ReplaceFileCalls, bytesThatDidNotReachTheDiskReplaceNothing) {
   folder.write("file", "old");
   RecordedCalls calls;
-  calls.refuseSync();
+  calls.fail("sync file", EIO);
   EXPECT_FALSE(replaceFile(folder.at("file"), "new"));
   EXPECT_EQ(calls.names(), (Calls{"mode", "write", "sync file"}));
   EXPECT_EQ(folder.read("file"), "old");
   EXPECT_EQ(folder.names(""), std::vector<std::string>{"file"});
+}
+
+TEST_F(ReplaceFileCalls, aNameThatMayNotLastIsTold) {
+  for (const int cause : {EIO, ENOSPC}) {
+    RecordedCalls calls;
+    calls.fail("sync folder", cause);
+    const Result<Replaced> replaced = replaceFile(folder.at("file"), "new");
+    ASSERT_TRUE(replaced && replaced->unsynced);
+    EXPECT_EQ(replaced->unsynced->cause.value(), cause);
+  }
+  RecordedCalls calls;
+  calls.fail("sync folder", EINVAL);
+  const Result<Replaced> replaced = replaceFile(folder.at("file"), "new");
+  EXPECT_TRUE(replaced && !replaced->unsynced) << "some disks cannot";
 }
 
 TEST_F(ReplaceFileCalls, aFileThatKeepsItsOwnerKeepsItsRights) {
