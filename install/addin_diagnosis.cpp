@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "install/installed_files.h"
 #include "platform/services/file_service.h"
 #include "platform/text/text_rules.h"
 
@@ -37,6 +38,7 @@ class Look {
               .missing = {},
               .obstacle = {},
               .removalObstacle = {},
+              .faults = faultsOf(entry, files, locations, bundle),
               .isMarked = isMarkedInstalled(entry)};
     there_ = files.kind(found_.places.item);
     folder_ = files.kind(found_.places.folder);
@@ -129,6 +131,14 @@ class Look {
 AddinDiagnosis diagnoseAddin(const AddinEntry& entry, const FileService& files, const Locations& locations,
                              const Bundle& bundle) {
   return Look(entry, files, locations, bundle).all();
+}
+
+std::vector<Failure> faultsOf(const AddinEntry& entry, const FileService& files, const Locations& locations,
+                              const Bundle& bundle) {
+  const Result<DiskPath> source = addinSource(entry, bundle);
+  const DiskPath item = placesOf(entry, locations, files).item;
+  if (!source || !files.isThere(item)) return {};
+  return differencesOf(item, *source, files);
 }
 
 }  // namespace tarvo

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "install/addin_diagnosis.h"
 #include "install/mail_script_installer.h"
 #include "platform/services/bundle.h"
 #include "platform/services/file_service.h"
@@ -124,6 +125,10 @@ std::vector<AddinEntry> AddinLists::forgotten() const {
 bool AddinLists::getInstallStatus(const AddinEntry& entry) const {
   const Result<FileService::Kind> there = services_.files.kind(placesOf(entry).item);
   return there ? *there != FileService::Kind::absent : isMarkedInstalled(entry);
+}
+
+std::vector<Failure> AddinLists::faultsOf(const AddinEntry& entry) const {
+  return tarvo::faultsOf(entry, services_.files, services_.locations, services_.bundle);
 }
 
 void AddinLists::storeRows() {

@@ -56,6 +56,8 @@ class AddinLists {
   std::vector<AddinEntry> forgotten() const;
   // Whether the item lies in its install folder: a file or a folder. Where it cannot be looked at, what was known last.
   bool getInstallStatus(const AddinEntry& entry) const;
+  // In what that item differs from the product's (addin_diagnosis.h).
+  std::vector<Failure> faultsOf(const AddinEntry& entry) const;
   // The rows become the candidates and are remembered in the settings, Office rows first.
   void storeRows();
 

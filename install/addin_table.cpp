@@ -62,7 +62,7 @@ void AddinTable::setObjectValue(TableView& table, bool value, std::string_view c
   const std::string text = addinText(*entry, appName) + services_.texts.localized(key);
   table.reloadData();
   infoField(*kind).setStringValue(text);
-  showReason(place);
+  showReason(*kind, failureOf(place));
 }
 
 void AddinTable::reloadTables() {
@@ -75,9 +75,8 @@ const Failure* AddinTable::failureOf(AddinPlace place) const {
   return found != failures_.end() ? &found->second : nullptr;
 }
 
-void AddinTable::showReason(AddinPlace place) {
-  TextField& field = place.kind == AddinKind::office ? outlets_.officeReasonField : outlets_.mailReasonField;
-  const Failure* failure = failureOf(place);
+void AddinTable::showReason(AddinKind kind, const Failure* failure) {
+  TextField& field = kind == AddinKind::office ? outlets_.officeReasonField : outlets_.mailReasonField;
   field.setStringValue(failure != nullptr ? failureText(*failure, services_.texts) : "");
 }
 
@@ -92,7 +91,9 @@ void AddinTable::selectionDidChange(TableView&) {
   const TableView& table = kind == AddinKind::office ? outlets_.officeTableView : outlets_.mailTableView;
   const AddinEntry* entry = entryAt({*kind, table.selectedRow()});
   if (entry == nullptr) return;
-  showReason({*kind, table.selectedRow()});
+  const std::vector<Failure> faults = lists_.faultsOf(*entry);
+  const Failure* failed = failureOf({*kind, table.selectedRow()});
+  showReason(*kind, failed == nullptr && !faults.empty() ? &faults.front() : failed);
   const std::string where = kind == AddinKind::office ? addinText(*entry, appPath) + "\n\n" : "";
   const std::string key =
       std::string(rowOf(*kind).textsPrefix) + (isMarkedInstalled(*entry) ? "isInstalled" : "isNotInstalled");

@@ -40,7 +40,8 @@ class AddinTable : public TableDataSource, public TableDelegate {
   // Shows the rows of both tables anew.
   void reloadTables();
 
-  // Why the last tick of this row failed; null when it did not. Below the texts it is shown in words.
+  // Why the last tick of this row failed; null when it did not. Below the texts it is shown in words; of a selected row
+  // whose last tick did not fail, in what its installed macro or scripts differ from the product's.
   const Failure* failureOf(AddinPlace place) const;
 
   // Set by every edit, taken back by the next selection, whose text it suppresses: the click that ticks a box also
@@ -50,7 +51,7 @@ class AddinTable : public TableDataSource, public TableDelegate {
  private:
   const AddinEntry* entryAt(AddinPlace place) const;
   TextField& infoField(AddinKind kind);
-  void showReason(AddinPlace place);
+  void showReason(AddinKind kind, const Failure* failure);
   Services services_;
   AddinLists& lists_;
   MacroInstaller& macros_;

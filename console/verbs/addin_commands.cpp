@@ -9,7 +9,9 @@
 #include "console/verbs/addin_session.h"
 #include "console/verbs/refusal.h"
 #include "console/verbs/text_table.h"
+#include "install/addin_diagnosis.h"
 #include "platform/plist/json.h"
+#include "platform/services/failure_text.h"
 
 namespace tarvo {
 
@@ -17,7 +19,14 @@ namespace {
 
 using namespace addin_keys;
 
-Json jsonOf(const AddinEntry& row, AddinKind kind, const Product& product) {
+// What is wrong with what is installed, or why it cannot be installed; "" when all is well.
+std::string reasonOf(const AddinEntry& row, Product& product) {
+  const AddinDiagnosis found = diagnoseAddin(row, product.files(), product.locations(), product.bundle());
+  if (!found.faults.empty()) return failureText(found.faults.front(), product.texts());
+  return found.obstacle && !found.isThere ? failureText(*found.obstacle, product.texts()) : "";
+}
+
+Json jsonOf(const AddinEntry& row, AddinKind kind, Product& product) {
   const AddinPlaces places = placesOf(row, product.locations(), product.files());
   return Json::Object{{"table", std::string(rowOf(kind).word)},
                       {"name", addinText(row, appName)},
@@ -25,7 +34,8 @@ Json jsonOf(const AddinEntry& row, AddinKind kind, const Product& product) {
                       {"creator", addinText(row, appCreator)},
                       {"path", product.locations().shown(places.application)},
                       {"folder", product.locations().shown(places.folder)},
-                      {"installed", isMarkedInstalled(row)}};
+                      {"installed", isMarkedInstalled(row)},
+                      {"reason", reasonOf(row, product)}};
 }
 
 std::vector<std::string> lineOf(const AddinEntry& row, const char* first, const Product& product) {
@@ -53,7 +63,7 @@ std::vector<AddinEntry> rowsBehind(const AddinLists& lists, const RowCounts& kno
 }  // namespace
 
 ExitStatus AddinsCommand::run(Console& console) {
-  const Product& product = console.product;
+  Product& product = console.product;
   AddinSession session(console.product);
   if (const Result<> read = session.read(); !read) return tell(console, read.error());
   const AddinLists& lists = session.lists();

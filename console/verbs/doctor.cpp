@@ -191,15 +191,21 @@ ExitStatus DoctorCommand::run(Console& console) {
   if (console.json) {
     Json::List list;
     for (const Finding& finding : findings) {
-      list.emplace_back(Json::Object{
-          {"path", finding.path}, {"what", finding.what}, {"state", finding.state}, {"detail", finding.detail}});
+      list.emplace_back(Json::Object{{"path", finding.path},
+                                     {"what", finding.what},
+                                     {"state", finding.state},
+                                     {"detail", finding.detail},
+                                     {"cure", finding.cure}});
     }
     console.out << writeJson(list) << '\n';
     return ExitStatus::done;
   }
   std::vector<std::vector<std::string>> rows;
   rows.reserve(findings.size());
-  for (const Finding& finding : findings) rows.push_back({finding.state, finding.what, finding.path, finding.detail});
+  for (const Finding& finding : findings) {
+    rows.push_back({finding.state, finding.what, finding.path,
+                    joined({.what = finding.detail, .cause = "", .cure = finding.cure})});
+  }
   writeTable(console.out, rows);
   return ExitStatus::done;
 }

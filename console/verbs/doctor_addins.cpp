@@ -87,6 +87,22 @@ class Examination {
         : addin.isThere ? "ok"
                         : "missing",
         detail);
+    for (const Failure& fault : addin.faults) tell(fault, addin);
+  }
+
+  // The finding of the whole stands already.
+  void tell(const Failure& fault, const AddinDiagnosis& addin) {
+    const DiskPath path(fault.path);
+    if (isAbsence(fault) && path.folder() == addin.places.item) return;  // is among what it lacks
+    const MessageParts parts = failureParts(fault, product_.texts());
+    const std::string differs = parts.what + "; " + parts.cause;
+    if (path == addin.places.item) {
+      findings_.back().state = "problem";
+      findings_.back().detail += "; " + differs;
+    } else {
+      add(path, "script of " + addin.name, "problem", differs);
+    }
+    findings_.back().cure = parts.cure;
   }
 
   static std::string lacking(const AddinDiagnosis& addin) {

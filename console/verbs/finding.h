@@ -11,6 +11,7 @@ struct Finding {
   std::string path, what;
   const char* state;  // "ok", "missing", "problem"
   std::string detail;
+  std::string cure = {};  // what helps
 };
 
 }  // namespace tarvo

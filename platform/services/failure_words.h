@@ -14,7 +14,7 @@ struct AttemptWord {
   Attempt attempt;
   const char* word;  // the key is "Failure." and this
 };
-inline constexpr std::array<AttemptWord, 16> attemptWords{{{Attempt::look, "look"},
+inline constexpr std::array<AttemptWord, 17> attemptWords{{{Attempt::look, "look"},
                                                            {Attempt::read, "read"},
                                                            {Attempt::write, "write"},
                                                            {Attempt::keep, "keep"},
@@ -29,13 +29,14 @@ inline constexpr std::array<AttemptWord, 16> attemptWords{{{Attempt::look, "look
                                                            {Attempt::start, "start"},
                                                            {Attempt::reach, "reach"},
                                                            {Attempt::store, "store"},
-                                                           {Attempt::fetch, "fetch"}}};
+                                                           {Attempt::fetch, "fetch"},
+                                                           {Attempt::check, "check"}}};
 
 struct ReasonWord {
   Reason reason;
   const char* word;  // the keys are "Cause." and this, and "Cure." and this where something helps
 };
-inline constexpr std::array<ReasonWord, 23> reasonWords{{{Reason::noPath, "noPath"},
+inline constexpr std::array<ReasonWord, 25> reasonWords{{{Reason::noPath, "noPath"},
                                                          {Reason::noRegularFile, "noRegularFile"},
                                                          {Reason::noPropertyList, "noPropertyList"},
                                                          {Reason::noDictionary, "noDictionary"},
@@ -57,7 +58,9 @@ inline constexpr std::array<ReasonWord, 23> reasonWords{{{Reason::noPath, "noPat
                                                          {Reason::absentThere, "absentThere"},
                                                          {Reason::damaged, "damaged"},
                                                          {Reason::noStyle, "noStyle"},
-                                                         {Reason::foreignLink, "foreignLink"}}};
+                                                         {Reason::foreignLink, "foreignLink"},
+                                                         {Reason::emptied, "emptied"},
+                                                         {Reason::foreign, "foreign"}}};
 
 // Rows stand in the order of their values, so that a value finds its row by its number.
 constexpr const char* wordOf(Attempt attempt) { return attemptWords[static_cast<std::size_t>(attempt)].word; }
@@ -70,7 +73,7 @@ static_assert([] {
   for (std::size_t i = 0; i < reasonWords.size(); ++i) {
     if (reasonWords[i].reason != static_cast<Reason>(i + 1)) return false;
   }
-  return attemptWords.back().attempt == Attempt::fetch && reasonWords.back().reason == Reason::foreignLink;
+  return attemptWords.back().attempt == Attempt::check && reasonWords.back().reason == Reason::foreign;
 }());
 
 }  // namespace tarvo

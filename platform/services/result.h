@@ -29,7 +29,8 @@ enum class Attempt {
   start,
   reach,
   store,
-  fetch
+  fetch,
+  check  // that something is still as the product made it
 };
 
 // Causes that no system knows: they say what the product found.
@@ -56,7 +57,9 @@ enum class Reason {
   absentThere,      // it holds none
   damaged,          // what it holds cannot be read
   noStyle,          // a property list that is no style
-  foreignLink       // a link of somebody else, who could lead it anywhere
+  foreignLink,      // a link of somebody else, who could lead it anywhere
+  emptied,          // a file of the product that holds nothing any more
+  foreign           // a file in the place of one of the product
 };
 const std::error_category& reasonCategory();
 inline std::error_code make_error_code(Reason reason) { return {static_cast<int>(reason), reasonCategory()}; }

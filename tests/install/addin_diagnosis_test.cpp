@@ -121,6 +121,20 @@ TEST_F(Diagnosis, seesNothingInTheWayOfRemovingAMacroOrWhatBearsItsName) {
   EXPECT_TRUE(macros.unInstallOfficeMacro(word));
 }
 
+TEST_F(Diagnosis, tellsInWhatAnInstalledAddinDiffersFromTheProducts) {
+  setUp({word, mail});
+  EXPECT_TRUE(of(word).faults.empty() && of(mail).faults.empty()) << "none is there";
+  ASSERT_TRUE(macros.installOfficeMacro(word) && mailScripts.installMailScript(mail));
+  EXPECT_TRUE(of(word).faults.empty() && of(mail).faults.empty());
+  folder.write(item(word), "");
+  folder.write(item(mail) + "/a.scpt", "of the user");
+  EXPECT_EQ(of(word).faults, (std::vector<Failure>{{folder / item(word), Attempt::check, Reason::emptied}}));
+  EXPECT_EQ(of(mail).faults,
+            (std::vector<Failure>{{folder / (item(mail) + "/a.scpt"), Attempt::check, Reason::foreign}}));
+  EXPECT_TRUE(of(word).isThere && of(mail).isThere) << "they count as installed all the same";
+  EXPECT_FALSE(of(mail).isPartial);
+}
+
 TEST_F(Diagnosis, agreesWithWhatAnInstallDoes) {
   setUp({word, mail});
   for (int times = 0; times < 2; ++times) {

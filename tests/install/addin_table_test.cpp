@@ -56,6 +56,28 @@ TEST_F(AddinTables, keepWhyATickFailedWithItsRow) {
   EXPECT_EQ(outlets.officeReasonField.stringValue(), "");
 }
 
+TEST_F(AddinTables, tellOfASelectedRowInWhatItDiffersFromTheProducts) {
+  folder.write(item(word2011()), "not word");
+  folder.write(item(appleMail()) + "/a.scpt", "");
+  ASSERT_TRUE(start());
+  log.clear();
+  panes.tab.selectPage(1);
+  office.selectRows({0});
+  table.selectionDidChange(office);
+  const Failure foreign{folder / item(word2011()), Attempt::check, Reason::foreign};
+  EXPECT_EQ(outlets.officeReasonField.stringValue(), failureText(foreign, texts));
+  EXPECT_TRUE(officeText().ends_with("«OfficeisInstalled»")) << officeText();
+  office.selectRows({1});
+  table.selectionDidChange(office);
+  EXPECT_EQ(outlets.officeReasonField.stringValue(), "");
+  panes.tab.selectPage(2);
+  mail.selectRows({0});
+  table.selectionDidChange(mail);
+  const Failure emptied{folder / (item(appleMail()) + "/a.scpt"), Attempt::check, Reason::emptied};
+  EXPECT_EQ(outlets.mailReasonField.stringValue(), failureText(emptied, texts));
+  EXPECT_TRUE(log.empty()) << "no beep for what others did";
+}
+
 TEST_F(AddinTables, countTheirRowsByTag) {
   EXPECT_EQ(table.numberOfRowsInTableView(office), 2);
   EXPECT_EQ(table.numberOfRowsInTableView(mail), 2);

@@ -46,12 +46,34 @@ TEST_F(AddinVerbs, theDoctorSaysWhereARowAndTheDiskDiffer) {
   startAndEnd();  // the rows are remembered, without the macro
   put(macro, "of the user");
   EXPECT_EQ(diagnosis("macro of Word 2011"),
-            "problem: installed; the box was left off and goes on with the next start");
+            "problem: installed; the box was left off and goes on with the next start; Failure.check; Cause.foreign");
   startAndEnd();
+  EXPECT_EQ(diagnosis("macro of Word 2011"), "problem: installed; Failure.check; Cause.foreign");
+  put(macro, read("/Bundle/Macros/2011/Tarvo.dotm"));
   EXPECT_EQ(diagnosis("macro of Word 2011"), "ok: installed");
   fs::remove(root_.root() + macro);
   EXPECT_EQ(diagnosis("macro of Word 2011"),
             "problem: not installed; the box was left on and goes off with the next start");
+}
+
+TEST_F(AddinVerbs, theDoctorNamesEachInstalledFileThatIsNotTheProducts) {
+  makeFolder(startup);
+  EXPECT_EQ(run({"addin", "install", "Word 2011"}).status, 0);
+  EXPECT_EQ(run({"addin", "install", "Mail"}).status, 0);
+  EXPECT_EQ(diagnosis("script of Mail"), "nothing");
+  put(macro, "");
+  put(std::string(scripts) + "/b.scpt", "of the user");
+  fs::remove(root_.root() + scripts + "/sub/c");
+  EXPECT_EQ(diagnosis("macro of Word 2011"), "problem: installed; Failure.check; Cause.emptied");
+  EXPECT_EQ(diagnosis("scripts of Mail"), "ok: installed");
+  const std::string out = run({"doctor", "--json"}).out;
+  const std::string place = R"("path":"home:/Library/Scripts/Applications/Mail/Tarvo/)",
+                    rest = R"(,"state":"problem","what":"script of Mail"})";
+  EXPECT_NE(out.find(R"({"cure":"","detail":"Failure.check; Cause.foreign",)" + place + "b.scpt\"" + rest),
+            std::string::npos)
+      << out;
+  EXPECT_NE(out.find(R"("detail":"Failure.check; Cause.absent",)" + place + "sub/c\"" + rest), std::string::npos)
+      << out;
 }
 
 }  // namespace

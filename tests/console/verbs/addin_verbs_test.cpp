@@ -25,12 +25,13 @@ TEST_F(AddinVerbs, listingShowsTheRowsOfBothTablesAndOnlyReads) {
   const std::string json = run({"addins", "--json"}).out;
   EXPECT_EQ(json.substr(0, json.find('}') + 1),
             "[{\"creator\":\"MSWD\",\"folder\":\"root:/Applications/O11/Office/Startup/Word\",\"installed\":true,"
-            "\"name\":\"Word 2011\",\"path\":\"root:/Applications/O11/Word.app\",\"table\":\"office\","
-            "\"version\":\"2011\"}");
-  EXPECT_NE(json.find("{\"creator\":\"emal\",\"folder\":\"home:/Library/Scripts/Applications/Mail\",\"installed\":"
-                      "false,\"name\":\"Mail\",\"path\":\"root:/Applications/Mail.app\",\"table\":\"mail\","
-                      "\"version\":\"4\"}"),
-            std::string::npos);
+            "\"name\":\"Word 2011\",\"path\":\"root:/Applications/O11/Word.app\",\"reason\":\"" +
+                real(macro) + ": Failure.check; Cause.foreign\",\"table\":\"office\",\"version\":\"2011\"}");
+  EXPECT_NE(
+      json.find("{\"creator\":\"emal\",\"folder\":\"home:/Library/Scripts/Applications/Mail\",\"installed\":"
+                "false,\"name\":\"Mail\",\"path\":\"root:/Applications/Mail.app\",\"reason\":\"\",\"table\":\"mail\","
+                "\"version\":\"4\"}"),
+      std::string::npos);
   run({"doctor"});
   EXPECT_EQ(tree(), before);
 }
