@@ -22,6 +22,11 @@ Locations locationsFor(const ProductOptions& options) {
   return {places.root.text(), places.home.text()};
 }
 
+PosixFiles::HomeFolders homeFoldersFor(const Configuration& configuration) {
+  return configuration.boolean(configuration_keys::privateFolders) ? PosixFiles::HomeFolders::forTheUser
+                                                                   : PosixFiles::HomeFolders::forEverybody;
+}
+
 std::vector<std::string> languagesFor(const std::string& first) {
   return first == "ja" ? std::vector<std::string>{"ja", "en"} : std::vector<std::string>{"en", "ja"};
 }
@@ -32,8 +37,10 @@ Product::Product(const ProductOptions& options)
     : language_(options.language.value_or(languageFromEnvironment())),
       engine_(options.engine),
       locations_(locationsFor(options)),
-      files_(std::make_unique<PosixFiles>(locations_)),
+      configuration_(PosixFiles(locations_), configurationFiles()),
+      files_(std::make_unique<PosixFiles>(locations_, homeFoldersFor(configuration_))),
       styleModule_(std::make_unique<LocalStyleModule>()) {
+  unread_ = configuration_.unread();
   const DiskPath resources = options.resources ? absolutePath(*options.resources) : defaultResources();
   bundle_ = std::make_unique<Bundle>(*files_, resources, languagesFor(language_));
   layTexts(options.strings);

@@ -9,6 +9,7 @@
 
 #include "app/services.h"
 #include "platform/services/bundle.h"
+#include "platform/services/configuration.h"
 #include "platform/services/locations.h"
 #include "platform/services/product_paths.h"
 #include "platform/services/result.h"
@@ -37,12 +38,13 @@ class Product {
   Product(const Product&) = delete;
   Product& operator=(const Product&) = delete;
 
-  // The first text table or path list that was asked for and cannot be read.
+  // The first text table or path list that was asked for, or configuration that is there, and cannot be read.
   const std::optional<Failure>& unread() const { return unread_; }
   // What was asked for and there is none of; "" when all is well.
   const std::string& problem() const { return problem_; }
   const std::string& language() const { return language_; }
   const Locations& locations() const { return locations_; }
+  const Configuration& configuration() const { return configuration_; }
   FileService& files() { return *files_; }
   const FileService& files() const { return *files_; }
   Bundle& bundle() { return *bundle_; }
@@ -71,6 +73,7 @@ class Product {
   std::optional<Failure> unread_;
   std::optional<std::string> engine_;
   Locations locations_;
+  Configuration configuration_;
   std::unique_ptr<FileService> files_;
   std::unique_ptr<Bundle> bundle_;
   Texts texts_;

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <initializer_list>
+#include <sstream>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -68,6 +69,21 @@ std::string languageFromEnvironment() {
 }
 
 DiskPath defaultResources() { return besideProgram("resources").value_or(DiskPath(TARVO_BUILD_RESOURCES)); }
+
+std::vector<DiskPath> configurationFiles() {
+  std::vector<DiskPath> files;
+  // A relative folder would be another one in each working folder.
+  const auto add = [&files](const std::string& folder) {
+    if (isAbsolutePath(folder)) files.push_back(DiskPath(folder) / "tarvo-manager/config.plist");
+  };
+  const std::string own = environment("XDG_CONFIG_HOME"), home = environment("HOME");
+  if (isAbsolutePath(own)) add(own);
+  if (!isAbsolutePath(own) && isAbsolutePath(home)) add(joinPath(home, ".config"));
+  std::istringstream folders(environment("XDG_CONFIG_DIRS"));
+  for (std::string folder; std::getline(folders, folder, ':');) add(folder);
+  add("/etc");
+  return files;
+}
 
 std::optional<Failure> missingResource(const DiskPath& folder) {
   for (const char* name : {"DefaultAddin.plist", "WordhavenPaths.plist"}) {

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/services/result.h"
 #include "platform/text/paths.h"
@@ -23,6 +24,11 @@ std::string languageFromEnvironment();
 // The resource folder that belongs to the running program: beside an installed one, else the source tree it was built
 // from.
 DiskPath defaultResources();
+
+// The files that users and administrators write for every run, in the order in which they count: the user's below
+// $XDG_CONFIG_HOME, else below ".config" in $HOME; the machine's in each folder of $XDG_CONFIG_DIRS and in /etc; each
+// "tarvo-manager/config.plist". $HOME and not the product's home: a configuration may say where that is.
+std::vector<DiskPath> configurationFiles();
 
 // Why the first file without which nothing works cannot be had from this folder of resources; nothing when all are
 // there.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/user_files.h"
 
+#include "platform/services/file_service.h"
 #include "platform/services/locations.h"
 
 namespace tarvo {
@@ -16,6 +17,13 @@ DiskPath userDefaultsPath(const Locations& locations) {
 
 DiskPath lockPath(const Locations& locations) {
   return locations.inHome(std::string("Library/Preferences/") + identifier + ".lock");
+}
+
+DiskPath placeForLock(FileService& files, const Locations& locations) {
+  DiskPath path = lockPath(locations);
+  const Result<> made = files.makeFolder(path.folder());
+  (void)made;  // whoever takes the lock finds that there is none to be had
+  return path;
 }
 
 DiskPath toolListPath(const Locations& locations) {

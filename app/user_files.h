@@ -6,11 +6,14 @@
 
 namespace tarvo {
 
+class FileService;
 class Locations;
 
 // Where the settings, the lock and the tool list of a user lie.
 DiskPath userDefaultsPath(const Locations& locations);
 DiskPath lockPath(const Locations& locations);
+// The lock's path too; its folder is there now, made as all of the user's folders are, where that can be.
+DiskPath placeForLock(FileService& files, const Locations& locations);
 DiskPath toolListPath(const Locations& locations);
 
 }  // namespace tarvo

@@ -73,7 +73,7 @@ int runManager(const CommandLine& line, int& argc, char** argv) {
     return tell(failed, failureText(*unread, textsToTell(line)));
   const BusIdentity identity = identityOf(line, product.locations());
   std::optional<InstanceLock> lock;
-  const auto status = enter(lock, line, lockPath(product.locations()), identity);
+  const auto status = enter(lock, line, placeForLock(product.files(), product.locations()), identity);
   if (status) return *status;
   QApplication application(argc, argv);
   nameApplication(product.texts());

@@ -42,7 +42,7 @@ Program& ScenarioSession::program() {
 
 void ScenarioSession::takeLock() {
   const Locations& locations = product_.locations();
-  lockedOut_ = takeLock_ && !takeLock_(lockPath(locations));
+  lockedOut_ = takeLock_ && !takeLock_(placeForLock(product_.files(), locations));
   if (lockedOut_) throw ScriptError("another manager works on these files");
   takeLock_ = {};
 }

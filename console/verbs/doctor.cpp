@@ -9,6 +9,7 @@
 #include "app/user_files.h"
 #include "console/verbs/dictionary_services.h"
 #include "console/verbs/doctor_addins.h"
+#include "console/verbs/doctor_folders.h"
 #include "console/verbs/refusal.h"
 #include "console/verbs/text_table.h"
 #include "dict/dictionary_folders.h"
@@ -39,6 +40,7 @@ class Examination {
     dictionaries();
     medical();
     rest();
+    for (Finding& finding : examineFolders(product_)) findings_.push_back(std::move(finding));
     for (Finding& finding : examineAddins(product_)) findings_.push_back(std::move(finding));
     return std::move(findings_);
   }

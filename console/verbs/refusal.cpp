@@ -68,7 +68,7 @@ ExitStatus tell(Console& console, const Problem& problem) {
 }
 
 std::optional<Problem> takeLock(Console& console) {
-  const DiskPath lock = lockPath(console.product.locations());
+  const DiskPath lock = placeForLock(console.product.files(), console.product.locations());
   if (console.takeLock(lock)) return std::nullopt;
   return Refusal{lock.text(), "Refusal.Locked", "", ExitStatus::locked};
 }

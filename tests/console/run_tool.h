@@ -16,8 +16,9 @@ struct ToolResult {
   std::string out, err;
 };
 
+// variables: "NAME=VALUE", of the environment besides.
 ToolResult runTool(const std::vector<std::string>& arguments, const std::string& workingFolder,
-                   const std::string& input = "");
+                   const std::string& input = "", const std::vector<std::string>& variables = {});
 
 // A failure as it is told: name, what, cause and cure.
 inline std::string told(const std::string& name, const std::string& parts) {

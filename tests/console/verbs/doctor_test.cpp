@@ -91,6 +91,50 @@ TEST_F(Verbs, doctorFindsNothingMissingThatAStartAndAnEditMake) {
   }
 }
 
+TEST_F(Verbs, doctorNamesFoldersThatEveryUserMayWriteToAndTheirCure) {
+  const std::string library = root_.home() + "/Library/", made = library + "Application Support/Wordhaven/UserDic";
+  fs::create_directories(made);
+  fs::create_directories(library + "Preferences/Wordhaven");
+  const auto named = [this](const std::string& path) {
+    const std::string out = run({"doctor", "--json"}).out;
+    return out.find("\"detail\":\"Doctor.OpenFolder\",\"path\":\"" + path +
+                    "\",\"state\":\"ok\",\"what\":\"folder\"") != std::string::npos;
+  };
+  const auto permit = [](const std::string& path, unsigned mode) { fs::permissions(path, fs::perms(mode)); };
+  permit(root_.folder().path(), 0755);
+  for (fs::path above = root_.folder().path(); above != "/"; above = above.parent_path()) {
+    const bool isOpen = (fs::status(above).permissions() & fs::perms::others_exec) != fs::perms::none;
+    if (!isOpen) GTEST_SKIP() << "nobody else gets to " << above;
+  }
+  EXPECT_FALSE(named("home:/Library/Application Support/Wordhaven/UserDic"));
+  permit(made, 0777);
+  EXPECT_TRUE(named("home:/Library/Application Support/Wordhaven/UserDic"));
+  permit(library, 0777);
+  EXPECT_TRUE(named("home:/Library")) << "what lies above counts as well";
+  EXPECT_FALSE(named("home:/Library/Preferences"));
+  permit(root_.home(), 0700);
+  EXPECT_FALSE(named("home:/Library")) << "nobody else gets there";
+  EXPECT_FALSE(named("home:/Library/Application Support/Wordhaven/UserDic"));
+  const std::string shared = root_.root() + "/Library/Application Support/Wordhaven/TarvoEiwa/TechDic/EJ";
+  permit(shared, 0777);
+  EXPECT_TRUE(named("root:/Library/Application Support/Wordhaven/TarvoEiwa/TechDic/EJ"));
+  EXPECT_NE(runInEnglish({"doctor"}).out.find("in it; chmod o-w closes it to others"), std::string::npos);
+}
+
+TEST_F(Verbs, doctorSaysWhereFoldersAreMadePrivate) {
+  root_.folder().write("config/tarvo-manager/config.plist",
+                       "<plist><dict><key>PrivateFolders</key><true/></dict></plist>");
+  const std::string folder = root_.folder() / "config";
+  const ToolResult doctor = run({"doctor"}, {"--strings", "none"}, {"XDG_CONFIG_HOME=" + folder});
+  EXPECT_NE(doctor.out.find("PrivateFolders"), std::string::npos);
+  EXPECT_EQ(run({"new", "ej", "user", "N"}, {"--strings", "none"}, {"XDG_CONFIG_HOME=" + folder}).status, 0);
+  EXPECT_EQ(fs::status(root_.home() + "/Library").permissions(), fs::perms::owner_all);
+  root_.folder().write("config/tarvo-manager/config.plist", "damaged");
+  const ToolResult refused = run({"styles"}, {}, {"XDG_CONFIG_HOME=" + folder});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_EQ(refused.err, told(folder + "/tarvo-manager/config.plist", "cannot be read; it is no property list"));
+}
+
 TEST_F(Verbs, doctorDescribesBadStyleFiles) {
   const auto line = [this] {
     const std::string out = run({"doctor"}).out;

@@ -29,12 +29,12 @@ class VerbTest : public testing::Test {
     std::filesystem::copy_file(scenarioFolder() + "/fixtures/" + fixture, target,
                                std::filesystem::copy_options::overwrite_existing);
   }
-  ToolResult run(const std::vector<std::string>& words,
-                 const std::vector<std::string>& strings = {"--strings", "none"}) const {
+  ToolResult run(const std::vector<std::string>& words, const std::vector<std::string>& strings = {"--strings", "none"},
+                 const std::vector<std::string>& variables = {}) const {
     std::vector<std::string> arguments{"--root", root_.root(), "--home", root_.home(), "--language", "en"};
     arguments.insert(arguments.end(), strings.begin(), strings.end());
     arguments.insert(arguments.end(), words.begin(), words.end());
-    return runTool(arguments, scenarioFolder());
+    return runTool(arguments, scenarioFolder(), "", variables);
   }
   // The same with the texts that people read.
   ToolResult runInEnglish(const std::vector<std::string>& words) const { return run(words, {}); }
