@@ -3,6 +3,7 @@
 #include "platform/posix/keep_former.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <sys/stat.h>
-
 #include <string>
 
 #include "platform/posix/descriptor.h"
 #include "platform/services/keeping.h"
+
+struct stat;
 
 namespace tarvo {
 
