@@ -18,7 +18,8 @@ Result<> MacroInstaller::unInstallOfficeMacro(const AddinEntry& entry) {
   if (!there) return there.error();
   if (*there == FileService::Kind::absent) return {};
   Result<> removed = files_.remove(path);
-  if (!removed && files_.isAbsent(path)) return {};
+  if (removed) return files_.sync(path.folder());
+  if (files_.isAbsent(path)) return {};
   return removed;
 }
 

@@ -19,7 +19,8 @@ class MacroInstaller {
   // Fails without such a macro among the resources, without the folder, over something of that name, and when the copy
   // fails.
   Result<> installOfficeMacro(const AddinEntry& entry);
-  // Done also when the macro is not there. One that cannot be looked at is not taken for removed.
+  // Done also when the macro is not there. One that cannot be looked at is not taken for removed, nor is one that a
+  // power cut might bring back.
   Result<> unInstallOfficeMacro(const AddinEntry& entry);
 
  private:

@@ -82,7 +82,7 @@ Result<> MailScriptInstaller::unInstallScript(const DiskPath& folder) {
   if (!names) return names.error();
   Result<> emptied = removeScripts(folder, *names);
   Result<> removed = files_.removeEmptyFolder(folder);
-  if (removed) return removed;
+  if (removed) return files_.sync(folder.folder());
   if (!emptied) return emptied;  // what stayed is why the folder does
   const Result<> own = checkNoLink(files_, folder, Attempt::uninstall);
   return own ? removed : own;

@@ -34,7 +34,7 @@ class MailScriptInstaller {
   Result<> installMailScript(const AddinEntry& entry);
   Result<> unInstallMailScript(const AddinEntry& entry);
   // Removes what lies in the folder, up to the first failure, then the folder itself if that left it empty. Whether
-  // that is done is the answer; the failure is the first one.
+  // that is done, and on the disk, is the answer; the failure is the first one.
   Result<> unInstallScript(const DiskPath& folder);
 
  private:

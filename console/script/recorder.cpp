@@ -104,7 +104,8 @@ Result<> RecordedFiles::makeFolderOf(const std::vector<DiskPath>& items, const D
   std::vector<DiskPath> allowed;  // the row ends where a copy fails
   std::optional<Failure> refused;
   for (const DiskPath& item : items) {
-    if ((refused = copyRefusal(item, folder / item.name()))) break;
+    refused = copyRefusal(item, folder / item.name());
+    if (refused) break;
     allowed.push_back(item);
   }
   Result<> made = disk_.makeFolderOf(allowed, folder);

@@ -66,6 +66,7 @@ class RecordedFiles : public FileService {
   Result<> move(const DiskPath& from, const DiskPath& to) override;
   Result<> remove(const DiskPath& path) override;
   Result<> removeEmptyFolder(const DiskPath& path) override;
+  Result<> sync(const DiskPath& folder) override { return disk_.sync(folder); }
   Result<FourCharCode> typeCode(const DiskPath& path) const override { return disk_.typeCode(path); }
   Result<> setCodes(const DiskPath& path, FourCharCode type, FourCharCode creator) override {
     return disk_.setCodes(path, type, creator);

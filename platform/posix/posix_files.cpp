@@ -163,6 +163,14 @@ Result<> PosixFiles::removeEmptyFolder(const DiskPath& path) {
   return systemFailure(name->text(), Attempt::remove);
 }
 
+Result<> PosixFiles::sync(const DiskPath& folder) {
+  const Result<DiskPath> name = named(folder, Attempt::write);
+  if (!name) return name.error();
+  const Descriptor open = openFolder(AT_FDCWD, name->text());
+  if (open ? syncFolder(open.get()) : errno == EACCES) return {};
+  return systemFailure(name->text(), Attempt::write);
+}
+
 Result<FourCharCode> PosixFiles::typeCode(const DiskPath& path) const {
   const Result<DiskPath> name = named(path, Attempt::look);
   if (!name) return name.error();

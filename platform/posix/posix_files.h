@@ -30,6 +30,7 @@ class PosixFiles : public FileService {
   Result<> move(const DiskPath& from, const DiskPath& to) override;
   Result<> remove(const DiskPath& path) override;
   Result<> removeEmptyFolder(const DiskPath& path) override;
+  Result<> sync(const DiskPath& folder) override;
   Result<FourCharCode> typeCode(const DiskPath& path) const override;
   Result<> setCodes(const DiskPath& path, FourCharCode type, FourCharCode creator) override;
 

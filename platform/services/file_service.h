@@ -79,10 +79,15 @@ class FileService {
   virtual Result<> makeFolderOf(const std::vector<DiskPath>& items, const DiskPath& folder) = 0;
   // Gives a file or folder another name on the same disk in one step. Fails when anything has that name.
   virtual Result<> move(const DiskPath& from, const DiskPath& to) = 0;
-  // Removes a file, a link, or a folder with everything in it; links are not followed. Stops at the first failure.
+  // Removes a file, a link, or a folder with everything in it; links are not followed. Stops at the first failure. A
+  // power cut may bring it back, as with the two around this, until the folder is synced.
   virtual Result<> remove(const DiskPath& path) = 0;
   // Removes a folder that is empty.
   virtual Result<> removeEmptyFolder(const DiskPath& path) = 0;
+
+  // Puts on the disk what was made, moved and removed in a folder, so that a power cut takes nothing of it back. Fails
+  // where that may not be so; no failure are disks that cannot, and a folder that this user may not list.
+  virtual Result<> sync(const DiskPath& folder) = 0;
 
   // Type code of a file, 0 when none is kept.
   virtual Result<FourCharCode> typeCode(const DiskPath& path) const = 0;

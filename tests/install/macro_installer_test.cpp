@@ -92,6 +92,27 @@ TEST_F(Macros, areRemovedAlsoWhenTheyAreGoneAlready) {
   EXPECT_TRUE(macros.unInstallOfficeMacro(word));
 }
 
+// A disk that cannot say whether what was removed comes back.
+class FailingDisk : public PosixFiles {
+ public:
+  using PosixFiles::PosixFiles;
+  Result<> sync(const DiskPath& folder) override {
+    synced.push_back(folder);
+    return Failure{folder.text(), Attempt::write, std::make_error_code(std::errc::io_error)};
+  }
+  std::vector<DiskPath> synced;
+};
+
+TEST_F(Macros, thatAPowerCutMightBringBackAreNotTakenForRemoved) {
+  FailingDisk failing(locations);
+  MacroInstaller installer(failing, bundle, locations);
+  ASSERT_TRUE(macros.installOfficeMacro(word));
+  EXPECT_EQ(installer.unInstallOfficeMacro(word).error().cause, std::errc::io_error);
+  EXPECT_FALSE(folder.exists(target));
+  EXPECT_EQ(failing.synced, std::vector{real(installFolder(word))});
+  EXPECT_TRUE(installer.unInstallOfficeMacro(word)) << "by now it is not there";
+}
+
 TEST_F(Macros, thatCannotBeLookedAtAreNotTakenForRemoved) {
   ASSERT_EQ(::symlink("Tarvo.dotm", (folder / target).c_str()), 0) << "a link to itself";
   const Result<> removed = macros.unInstallOfficeMacro(word);

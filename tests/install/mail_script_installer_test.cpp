@@ -178,6 +178,22 @@ TEST_F(MailScripts, areRemovedWithTheirFolder) {
   EXPECT_TRUE(folder.exists(inRoot(installFolder(mail))));
 }
 
+TEST_F(MailScripts, areOnlyGoneWhenNoPowerCutBringsThemBack) {
+  class FailingDisk : public PosixFiles {
+   public:
+    using PosixFiles::PosixFiles;
+    Result<> sync(const DiskPath& folder) override {
+      return Failure{folder.text(), Attempt::write, std::make_error_code(std::errc::io_error)};
+    }
+  };
+  FailingDisk failing(locations);
+  ASSERT_TRUE(install());
+  const Result<> removed = MailScriptInstaller(failing, bundle, locations).unInstallMailScript(mail);
+  ASSERT_FALSE(removed);
+  EXPECT_EQ(removed.error().path, real(installFolder(mail)).text());
+  EXPECT_EQ(removed.error().cause, std::errc::io_error);
+}
+
 TEST_F(MailScripts, stayFromTheFirstThatCannotBeRemoved) {
   ASSERT_TRUE(install());
   files.disturb(2, FaultyFiles::forbid);  // list, a, b

@@ -10,6 +10,7 @@
 #include <QTableView>
 #include <QTest>
 #include <filesystem>
+#include <fstream>
 
 #include "tests/qt/qt_hand.h"
 #include "tests/qt/test_window.h"
@@ -68,6 +69,27 @@ TEST_F(AddinPanes, aClickOnABoxInstallsAndSelectsItsRow) {
   EXPECT_EQ(interface().addins.officeTableView.selectedRow(), 0);
   EXPECT_EQ(officeInfo().text().toStdString(), "Word 2011" + product->texts().localized("OfficeInstallIsSuccessed"));
   EXPECT_EQ(inStep(), "");
+}
+
+TEST_F(AddinPanes, aSelectedRowSaysThatItsMacroIsNotTheProducts) {
+  for (const auto& [language, word] : {std::pair("en", "emptied"), {"ja", "空"}}) {
+    begin(1, language);
+    const auto& reason = widget<QLabel>("manager.officeReasonField");
+    hand->tick(interface().addins.officeTableView, 0, true);
+    EXPECT_EQ(reason.text(), "");
+    std::ofstream(macro()).close();
+    hand->select(interface().addins.officeTableView, {1});
+    EXPECT_EQ(reason.text(), "");
+    hand->select(interface().addins.officeTableView, {0});
+    EXPECT_TRUE(reason.text().startsWith(QString::fromStdString(macro()))) << reason.text().toStdString();
+    EXPECT_TRUE(reason.text().contains(word)) << reason.text().toStdString();
+    settle();
+    EXPECT_GE(reason.height(), reason.heightForWidth(reason.width())) << "all of it is to be read";
+    EXPECT_EQ(inStep(), "");
+    std::filesystem::remove(macro());
+    hand.reset();
+    end();
+  }
 }
 
 TEST_F(AddinPanes, toolsHaveTheirIcons) {

@@ -51,6 +51,7 @@ class FaultyFiles : public FileService {
   Result<> move(const DiskPath& from, const DiskPath& to) override { return disk_.move(from, to); }
   Result<> remove(const DiskPath& path) override;
   Result<> removeEmptyFolder(const DiskPath& path) override;
+  Result<> sync(const DiskPath& folder) override { return disk_.sync(folder); }
   Result<FourCharCode> typeCode(const DiskPath& path) const override { return disk_.typeCode(path); }
   Result<> setCodes(const DiskPath& path, FourCharCode type, FourCharCode creator) override {
     return disk_.setCodes(path, type, creator);

@@ -56,6 +56,7 @@ class MemoryFiles : public FileService {
   Result<> move(const DiskPath& from, const DiskPath& to) override;
   Result<> remove(const DiskPath& path) override;
   Result<> removeEmptyFolder(const DiskPath& path) override;
+  Result<> sync(const DiskPath&) override { return {}; }
   Result<FourCharCode> typeCode(const DiskPath& path) const override;
   Result<> setCodes(const DiskPath& path, FourCharCode type, FourCharCode creator) override;
 

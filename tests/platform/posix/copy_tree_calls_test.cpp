@@ -10,6 +10,8 @@
 
 #include "platform/posix/copy_tree.h"
 #include "platform/posix/folders.h"
+#include "platform/posix/posix_files.h"
+#include "platform/services/locations.h"
 #include "tests/platform/posix/recorded_calls.h"
 #include "tests/support/temporary_folder.h"
 
@@ -157,6 +159,20 @@ TEST_F(CopyCalls, aFolderThatIsMadeIsOnTheDiskLevelByLevel) {
   const RecordedCalls calls;
   EXPECT_TRUE(makeFolders(folder.at("into/x/y")));
   EXPECT_EQ(calls.names(), (Calls{"folder", "mode", "sync folder", "folder", "mode", "sync folder"}));
+}
+
+TEST_F(CopyCalls, aFolderIsSyncedWhenThatIsAskedFor) {
+  const Locations locations{"/", folder.path()};
+  PosixFiles files(locations);
+  RecordedCalls calls;
+  EXPECT_TRUE(files.sync(folder.at("into")));
+  EXPECT_EQ(calls.names(), Calls{"sync folder"});
+  calls.fail("sync folder", EINVAL);
+  EXPECT_TRUE(files.sync(folder.at("into"))) << "some disks cannot";
+  calls.fail("sync folder", EIO);
+  EXPECT_EQ(files.sync(folder.at("into")).error().cause, std::errc::io_error);
+  EXPECT_EQ(files.sync(folder.at("missing")).error().cause, std::errc::no_such_file_or_directory);
+  EXPECT_FALSE(files.sync(DiskPath("relative")));
 }
 
 TEST_F(CopyCalls, aFolderThatMayBeLostIsNotMade) {
