@@ -28,7 +28,7 @@ class Notices {
   // Takes the shown one away; a standing one stays.
   void dismiss();
 
-  const Notice* shown() const;                              // null: the line is empty
+  const Notice* shown() const;                                  // null: the line is empty
   const std::deque<Notice>& latest() const { return latest_; }  // newest first
   std::function<void()> didChange;
 

@@ -61,9 +61,10 @@ std::optional<EarlierSet> setWithId(const EarlierStyles& earlier, const std::str
 }
 
 void restoreStyles(StyleStore& store, const Dictionary& earlier) {
-  const Dictionary* selection = earlier.dictionary(keyNameSelection);
-  store.replaceRoot(stylesIn(earlier), selection != nullptr ? std::optional(*selection) : std::nullopt,
-                    ChangeKind::restore);
+  Dictionary root = store.root().entries().empty() ? earlier : store.root();
+  root.set(keyNameStyle, stylesIn(earlier));
+  if (const Dictionary* selection = earlier.dictionary(keyNameSelection)) root.set(keyNameSelection, *selection);
+  store.replaceRoot(std::move(root), ChangeKind::restore);
 }
 
 bool restoreStyle(StyleStore& store, int index, const Dictionary& earlier, const std::string& standardName) {

@@ -25,7 +25,8 @@ std::vector<HistoryEntry> styleHistory(const EarlierStyles& earlier, const Array
 // The set whose id is the word or begins with it; nothing when there is none, or more than one.
 std::optional<EarlierSet> setWithId(const EarlierStyles& earlier, const std::string& word);
 
-// Brings an earlier set back, with the choices of the tools. One write; it is an edit like any other.
+// Brings an earlier set back, with the choices of the tools; all of it where the store holds nothing. One write; it is
+// an edit like any other.
 void restoreStyles(StyleStore& store, const Dictionary& earlier);
 // Brings the style of the same name, else the one at the same place, back into the record at the index, which keeps its
 // "ID" and, where another style has the earlier name by now, its name. False: the earlier set has no such record, and

@@ -101,12 +101,13 @@ void StyleStore::replaceSelection(Dictionary selection) {
   writeTarvoStylePlist();
 }
 
-void StyleStore::replaceRoot(Array styles, std::optional<Dictionary> selection, ChangeKind kind) {
-  StoredChange change{.what = StoredChange::What::root, .kind = kind, .before = tarvoStyle_};
-  replaceStyles(std::move(styles), kind);
-  if (selection) tarvoStyle_.set(keyNameSelection, std::move(*selection));
-  change.after = tarvoStyle_;
-  tellChange(change);
+void StyleStore::replaceRoot(Dictionary root, ChangeKind kind) {
+  const bool isNew = root != tarvoStyle_;
+  if (!isNew && !writesAll()) return;
+  noteChange(kind);
+  const Dictionary before = std::exchange(tarvoStyle_, std::move(root));
+  file_.allChanged();
+  if (isNew) tellChange({.what = StoredChange::What::root, .kind = kind, .before = before, .after = tarvoStyle_});
   writeTarvoStylePlist();
 }
 

@@ -54,8 +54,8 @@ class StyleStore {
   bool isPending() const { return pending_; }
   // Replaces the record and writes. An index outside the array changes and writes nothing.
   void setStyle(int index, Dictionary record, ChangeKind kind = ChangeKind::edit);
-  // Replaces all records and "Selection", where there is one, and writes.
-  void replaceRoot(Array styles, std::optional<Dictionary> selection, ChangeKind kind);
+  // Replaces all there is and writes.
+  void replaceRoot(Dictionary root, ChangeKind kind);
   // Replaces "Selection" and writes.
   void replaceSelection(Dictionary selection);
   // Replaces all records without writing.

@@ -79,12 +79,7 @@ UndoSteps::State UndoSteps::state(Way way) const {
 void UndoSteps::put(const StoredChange& step, Way way) {
   const Dictionary& value = toPut(step, way);
   if (step.what == What::record) return store_.setStyle(step.index, value, step.kind);
-  if (step.what == What::root) {
-    const Array* styles = value.array(keyNameStyle);
-    const Dictionary* selection = value.dictionary(keyNameSelection);
-    return store_.replaceRoot(styles != nullptr ? *styles : Array(),
-                              selection != nullptr ? std::optional(*selection) : std::nullopt, step.kind);
-  }
+  if (step.what == What::root) return store_.replaceRoot(value, step.kind);
   Dictionary selection = *store_.getSelection();
   for (const std::string& tool : changedTools(step)) {
     if (const PropertyList* style = value.find(tool)) {

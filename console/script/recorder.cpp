@@ -66,8 +66,18 @@ void RecordedFiles::noteWrite(const DiskPath& path, bool written) {
 
 Result<Replaced> RecordedFiles::replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) {
   const auto refused = refusal(Operation::write, path, Attempt::write);
-  Result<Replaced> written = refused ? *refused : disk_.replace(path, bytes, keeping);
+  Result<Replaced> written = refused ? *refused : replaceKeeping(path, bytes, keeping);
   noteWrite(path, written.has_value());
+  return written;
+}
+
+// What may not be copied cannot be kept either.
+Result<Replaced> RecordedFiles::replaceKeeping(const DiskPath& path, std::string_view bytes, const Keeping& keeping) {
+  const auto unkept = keeping.folder.empty() ? std::nullopt : refusal(Operation::copy, path, Attempt::keep);
+  if (!unkept) return disk_.replace(path, bytes, keeping);
+  if (keeping.durability == Durability::sure) return *unkept;
+  Result<Replaced> written = disk_.replace(path, bytes, {});
+  if (written) written->unkept = unkept;
   return written;
 }
 

@@ -73,7 +73,7 @@ ExitStatus RestoreCommand::run(Console& console) {
     if (restoreStyle(session.store(), index, *root, standardName)) return std::nullopt;
     return Refusal{set->id, "Refusal.NotAmongEarlier", style_};
   };
-  return session.edit(style_, bringBack, StyleSession::Unreadable::replaced);
+  return session.edit(style_, bringBack, StyleSession::Needs::any);
 }
 
 }  // namespace tarvo

@@ -5,6 +5,7 @@
 #include "app/product.h"
 #include "console/verbs/refusal.h"
 #include "platform/services/plist_file.h"
+#include "style/style_file.h"
 #include "style/style_keys.h"
 
 namespace tarvo {
@@ -12,7 +13,7 @@ namespace tarvo {
 ReadStyles readStyles(Console& console) {
   Product& product = console.product;
   const DiskPath path = product.locations().inHome(gStylePath);
-  Result<Dictionary> users = readDictionary(product.files(), path);
+  Result<Dictionary> users = StyleFile(product.files(), path).read();
   if (users) return {std::move(*users)};
   const bool isUnreadable = !isAbsence(users.error());
   Result<Dictionary> products =

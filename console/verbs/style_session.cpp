@@ -29,26 +29,26 @@ StyleSession::~StyleSession() = default;
 
 const std::string& StyleSession::pathOfStyles() const { return store_.path().text(); }
 
-std::optional<Problem> StyleSession::open(Unreadable unreadable) {
+std::optional<Problem> StyleSession::open(Needs needs) {
   Product& product = console_.product;
   if (std::optional<Problem> failure = takeLock(console_)) return failure;
   const LoadedStyles loaded = loadStyles(store_, medical_, product.files(), product.paths());
-  if (const std::optional<Failure>& unread = store_.unread(); unread && unreadable == Unreadable::refused) {
+  if (const std::optional<Failure>& unread = store_.unread(); unread && needs == Needs::readable) {
     return Refusal{pathOfStyles(), "Refusal.UnreadableStyles", failureParts(*unread, console_.textsToTell()).cause};
   }
-  if (loaded.failure) return *loaded.failure;
+  if (loaded.failure && needs != Needs::nothing) return *loaded.failure;
   inserted_ = loaded.inserted;
   return std::nullopt;
 }
 
-std::expected<int, Problem> StyleSession::openOn(const std::string& style, Unreadable unreadable) {
+std::expected<int, Problem> StyleSession::openOn(const std::string& style, Needs needs) {
   if (const std::optional<UsageError> error = wrongStyleWord(style)) return std::unexpected(*error);
-  if (std::optional<Problem> failure = open(unreadable)) return std::unexpected(std::move(*failure));
+  if (std::optional<Problem> failure = open(needs)) return std::unexpected(std::move(*failure));
   return styleNamed(store_.root(), console_.product.texts(), style, false);
 }
 
-ExitStatus StyleSession::edit(const std::string& style, const Operation& operation, Unreadable unreadable) {
-  const std::expected<int, Problem> index = openOn(style, unreadable);
+ExitStatus StyleSession::edit(const std::string& style, const Operation& operation, Needs needs) {
+  const std::expected<int, Problem> index = openOn(style, needs);
   if (!index) return tell(console_, index.error());
   const std::optional<Dictionary> before = store_.getStyleAtIndex(*index);
   const Dictionary* selection = store_.getSelection();

@@ -37,11 +37,13 @@ class StyleSession {
   NamedLists& lists() { return lists_; }
   const EarlierStyles& earlier() const { return earlier_; }
 
-  enum class Unreadable { refused, replaced };  // what becomes of a style file that is there and cannot be read
+  // What an operation needs of the styles. readable: the user's file, or that there is none; any: else the product's;
+  // nothing: it brings all with it.
+  enum class Needs { readable, any, nothing };
   // The operation: why it cannot be done, and then nothing is written; or nothing.
   using Operation = std::function<std::optional<Problem>(int index)>;
   // On the style that the word names (style_name.h).
-  ExitStatus edit(const std::string& style, const Operation& operation, Unreadable unreadable = Unreadable::refused);
+  ExitStatus edit(const std::string& style, const Operation& operation, Needs needs = Needs::readable);
   // The same for a verb that writes no styles.
   ExitStatus read(const std::string& style, const Operation& operation);
   // All styles and choices of an earlier set (style_history.h), whether the present ones can be read or not.
@@ -53,8 +55,8 @@ class StyleSession {
   ExitStatus pull();
 
  private:
-  std::optional<Problem> open(Unreadable unreadable = Unreadable::refused);
-  std::expected<int, Problem> openOn(const std::string& style, Unreadable unreadable = Unreadable::refused);
+  std::optional<Problem> open(Needs needs = Needs::readable);
+  std::expected<int, Problem> openOn(const std::string& style, Needs needs = Needs::readable);
   // Writes what the load has joined, where no edit did.
   std::optional<Problem> writeLoaded();
   ExitStatus finish(std::vector<std::string> changed);

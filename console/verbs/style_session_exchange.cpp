@@ -22,7 +22,7 @@ ExitStatus StyleSession::push() {
 }
 
 ExitStatus StyleSession::restore(const Dictionary& earlier) {
-  if (const std::optional<Problem> failure = open(Unreadable::replaced)) return tell(console_, *failure);
+  if (const std::optional<Problem> failure = open(Needs::nothing)) return tell(console_, *failure);
   const Dictionary before = store_.root();
   restoreStyles(store_, earlier);
   return finish(before == store_.root() ? std::vector<std::string>() : std::vector{pathOfStyles()});

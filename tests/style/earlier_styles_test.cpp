@@ -4,13 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "platform/plist/plist_writer.h"
 #include "platform/posix/posix_files.h"
 #include "platform/services/locations.h"
 #include "platform/text/fingerprint.h"
-#include "style/earlier_thinning.h"
 #include "style/style_file.h"
 #include "style/style_keys.h"
 #include "tests/support/memory_files.h"
@@ -202,48 +199,6 @@ TEST(StylesOutOfReach, areNotTriedAgainWhereThatCannotHelp) {
   StyleFile file(files, DiskPath("/styles.plist"));
   EXPECT_FALSE(file.read());
   EXPECT_EQ(files.reads, 1);
-}
-
-std::vector<SizedSet> every(std::chrono::microseconds step, int count, std::uint64_t size = 1) {
-  std::vector<SizedSet> sets;
-  for (int i = 0; i < count; ++i) {
-    sets.push_back({{.id = std::to_string(i), .time = noon - i * step, .kind = ChangeKind::edit}, size});
-  }
-  return sets;
-}
-
-std::size_t left(const std::vector<SizedSet>& sets) { return sets.size() - superfluousSets(sets, noon).size(); }
-
-TEST(Thinning, keepsEverythingOfADayUpToTwoHundred) {
-  EXPECT_EQ(left(every(5min, 200)), 200U);
-  EXPECT_EQ(left(every(500ms, 500)), 200U);
-}
-
-TEST(Thinning, keepsTheLastOfEachHourOfAWeekAndOfEachDayOfAYear) {
-  const auto sets = every(20min, 3 * 24 * 800);
-  const auto gone = superfluousSets(sets, noon);
-  std::set<std::string> absent;
-  for (const EarlierSet& set : gone) absent.insert(set.id);
-  std::size_t ofTheWeek = 0, ofTheYear = 0, older = 0;
-  for (const SizedSet& one : sets) {
-    if (absent.contains(one.set.id)) continue;
-    const auto age = noon - one.set.time;
-    if (age <= 24h) continue;
-    ++(age <= 7 * 24h ? ofTheWeek : age <= std::chrono::years(1) ? ofTheYear : older);
-  }
-  EXPECT_NEAR(static_cast<double>(ofTheWeek), 6 * 24, 1);
-  EXPECT_NEAR(static_cast<double>(ofTheYear), 365 - 7, 2);
-  EXPECT_EQ(older, 0U);
-}
-
-TEST(Thinning, keepsTheNewestOnesThatFitAndOneOfEachKind) {
-  auto sets = every(1min, 10, std::uint64_t{100} << 20);
-  sets[9].set.kind = ChangeKind::import;
-  sets[9].set.time = noon - std::chrono::years(2);
-  const auto gone = superfluousSets(sets, noon);
-  ASSERT_EQ(gone.size(), 7U);
-  EXPECT_EQ(gone.front().id, "2");
-  EXPECT_EQ(gone.back().id, "8");
 }
 
 TEST_F(EarlierStylesTest, thinningRemovesOnlyWhatIsSuperfluous) {

@@ -94,9 +94,11 @@ TEST_F(UndoStepsTest, theStyleOfAToolIsTakenBackAndOthersStay) {
 
 TEST_F(UndoStepsTest, aWholeSetIsTakenBackWithItsChoices) {
   const Dictionary before = store.root();
-  Dictionary selection;
+  Dictionary selection, root = before;
   selection.set("MG", 0);
-  store.replaceRoot(Array{before.array(keyNameStyle)->front()}, selection, ChangeKind::restore);
+  root.set(keyNameStyle, Array{before.array(keyNameStyle)->front()});
+  root.set(keyNameSelection, selection);
+  store.replaceRoot(root, ChangeKind::restore);
   EXPECT_EQ(store.getAllStyle()->size(), 1U);
   steps.take(Way::undo);
   EXPECT_EQ(store.root(), before);
