@@ -13,6 +13,7 @@ class Texts;
 // In the style pane: without the extension. It goes first, so that the file "cwl.TRet" of either direction bears the
 // name that stands for "cwl".
 std::string dictionaryDisplayName(const std::string& name, const Texts& texts);
+bool isMedicalDictionary(const std::string& fileName);
 // In the picker: the file name as it stands.
 std::string pickerDisplayName(const std::string& name, const Texts& texts);
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cstdio>
+#include <ctime>
 
 #include "style/earlier_styles.h"
 
@@ -61,6 +62,14 @@ std::string isoText(Moment time) {
   const std::string text = textOf(time);
   return text.substr(0, 4) + '-' + text.substr(4, 2) + '-' + text.substr(6, 5) + ':' + text.substr(11, 2) + ':' +
          text.substr(13, 2) + 'Z';
+}
+
+std::string localText(Moment time) {
+  const std::time_t seconds = std::chrono::system_clock::to_time_t(std::chrono::floor<std::chrono::seconds>(time));
+  std::array<char, 32> text{};
+  const std::tm* local = std::localtime(&seconds);
+  if (local == nullptr || std::strftime(text.data(), text.size(), "%F %T", local) == 0) return isoText(time);
+  return text.data();
 }
 
 std::string fileNameOf(Moment time, ChangeKind kind, const std::string& fingerprint) {

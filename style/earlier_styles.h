@@ -40,7 +40,8 @@ struct EarlierSet {
   std::string fingerprint;  // "" where it is not known
   DiskPath path;
 };
-std::string isoText(Moment time);  // "2026-11-22T03:17:29Z"
+std::string isoText(Moment time);    // "2026-11-22T03:17:29Z"
+std::string localText(Moment time);  // "2026-11-22 12:17:29", as the clocks here show it
 std::string fileNameOf(Moment time, ChangeKind kind, const std::string& fingerprint);
 // Nothing for another name.
 std::optional<EarlierSet> earlierSetNamed(const std::string& fileName);

@@ -23,6 +23,8 @@ class StyleFile {
   const DiskPath& path() const { return file_.path(); }
   // What may be out of reach for an instant is tried three times within a fifth of a second.
   Result<Dictionary> read();
+  // The same once, and as if it had not been read.
+  Result<Dictionary> readPresent() const { return readDictionary(files_, path()); }
   // change: why; nothing when no style has changed. After a failure the file is as it was, but for one that says that
   // the disk could not sync it.
   Result<> write(const Dictionary& root, std::optional<ChangeKind> change);

@@ -30,22 +30,36 @@ const Dictionary* formerRecord(const Array& styles, const std::string& name, std
 
 }  // namespace
 
-std::vector<HistoryEntry> styleHistory(const EarlierStyles& earlier, const Array& present) {
-  std::vector<HistoryEntry> history;
-  Array following = present;
-  for (EarlierSet& set : earlier.list()) {
-    HistoryEntry entry{.set = std::move(set), .changes = {}, .damage = std::nullopt};
-    Result<Dictionary> root = earlier.read(entry.set);
-    if (root) {
-      Array styles = stylesIn(*root);
-      entry.changes = styleChanges(styles, following);
-      following = std::move(styles);
-    } else {
-      entry.damage = root.error();
-    }
-    history.push_back(std::move(entry));
+StyleHistory::StyleHistory(const EarlierStyles& earlier, Array present)
+    : earlier_(earlier), present_(std::move(present)), sets_(earlier.list()) {}
+
+const Result<Array>& StyleHistory::stylesOf(std::size_t place) {
+  constexpr std::size_t mostRead = 2;
+  if (const auto known = read_.find(place); known != read_.end()) return known->second;
+  if (read_.size() >= mostRead) read_.erase(place > read_.begin()->first ? read_.begin() : std::prev(read_.end()));
+  const Result<Dictionary> root = earlier_.read(sets_[place]);
+  Result<Array> styles = root ? Result<Array>(stylesIn(*root)) : Result<Array>(root.error());
+  return read_.emplace(place, std::move(styles)).first->second;
+}
+
+// What followed: the next newer set that can be read, else the present one.
+const Array& StyleHistory::followerOf(std::size_t place) {
+  while (place > 0) {
+    if (const Result<Array>& styles = stylesOf(--place)) return *styles;
   }
-  return history;
+  return present_;
+}
+
+const HistoryEntry& StyleHistory::entry(std::size_t place) {
+  if (const auto known = entries_.find(place); known != entries_.end()) return known->second;
+  HistoryEntry entry{.set = sets_[place], .changes = {}, .damage = std::nullopt};
+  const Array follower = followerOf(place);
+  if (const Result<Array>& styles = stylesOf(place)) {
+    entry.changes = styleChanges(*styles, follower);
+  } else {
+    entry.damage = styles.error();
+  }
+  return entries_.emplace(place, std::move(entry)).first->second;
 }
 
 std::optional<EarlierSet> setWithId(const EarlierStyles& earlier, const std::string& word) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,8 +20,25 @@ struct HistoryEntry {
   std::vector<StyleChange> changes;  // from it to the set that followed it, or to the present one
   std::optional<Failure> damage;     // why it cannot be brought back
 };
-// Newest first. present: the styles as they are. Reads every earlier set.
-std::vector<HistoryEntry> styleHistory(const EarlierStyles& earlier, const Array& present);
+
+// Duty: the earlier sets as they are listed now, newest first, each with what was done to it. A set is read when its
+// entry is asked for. Not: bringing one back.
+class StyleHistory {
+ public:
+  // present: the styles as they are. earlier outlives it.
+  StyleHistory(const EarlierStyles& earlier, Array present);
+  const std::vector<EarlierSet>& sets() const { return sets_; }
+  const HistoryEntry& entry(std::size_t place);
+
+ private:
+  const Result<Array>& stylesOf(std::size_t place);
+  const Array& followerOf(std::size_t place);
+  const EarlierStyles& earlier_;
+  Array present_;
+  std::vector<EarlierSet> sets_;
+  std::map<std::size_t, HistoryEntry> entries_;
+  std::map<std::size_t, Result<Array>> read_;  // the two that were read last: neighbours are asked for in turn
+};
 
 // The set whose id is the word or begins with it; nothing when there is none, or more than one.
 std::optional<EarlierSet> setWithId(const EarlierStyles& earlier, const std::string& word);

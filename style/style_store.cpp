@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "style/style_store.h"
 
+#include <ranges>
 #include <utility>
 
 #include "style/option_table.h"
@@ -16,6 +17,7 @@ Result<> StyleStore::readFrom(StyleFile& file) {
   Result<Dictionary> root = file.read();
   if (!root) return root.error();
   tarvoStyle_ = std::move(*root);
+  unwritten_.clear();
   file_.allChanged();
   return {};
 }
@@ -70,13 +72,14 @@ void StyleStore::setStyle(int index, Dictionary record, ChangeKind kind) {
   if (present.dictionary() != nullptr) change.before = *present.dictionary();
   present = std::move(record);
   noteChange(kind);
-  if (isNew) tellChange(change);
+  if (isNew) tellChange(std::move(change));
   file_.recordChanged(static_cast<std::size_t>(index));
   writeTarvoStylePlist();
 }
 
 void StyleStore::replaceStyles(Array styles, ChangeKind kind) {
   noteChange(kind);
+  unwritten_.push_back({.what = StoredChange::What::root, .kind = kind, .before = tarvoStyle_, .after = {}});
   tarvoStyle_.set(keyNameStyle, std::move(styles));
   file_.allChanged();
 }
@@ -92,13 +95,32 @@ void StyleStore::choose(const std::vector<std::string>& toolIds, int index) {
   if (isChanged || writesAll()) writeTarvoStylePlist();
 }
 
-void StyleStore::tellChange(const StoredChange& change) const {
-  if (didChange) didChange(change);
+void StyleStore::tellChange(StoredChange change) {
+  unwritten_.push_back(std::move(change));
+  if (didChange) didChange(StoredChange(unwritten_.back()));
 }
 
 void StyleStore::replaceSelection(Dictionary selection) {
+  const Dictionary* present = getSelection();
+  StoredChange change{.what = StoredChange::What::selection, .before = present != nullptr ? *present : Dictionary()};
+  change.after = selection;
   tarvoStyle_.set(keyNameSelection, std::move(selection));
+  tellChange(std::move(change));
   writeTarvoStylePlist();
+}
+
+Dictionary StyleStore::lastStored() const {
+  Dictionary root = tarvoStyle_;
+  for (const StoredChange& change : std::views::reverse(unwritten_)) {
+    Array* styles = root.array(keyNameStyle);
+    switch (change.what) {
+      case StoredChange::What::root: root = change.before; break;
+      case StoredChange::What::selection: root.set(keyNameSelection, change.before); break;
+      case StoredChange::What::record:
+        if (styles != nullptr) (*styles)[static_cast<std::size_t>(change.index)] = change.before;
+    }
+  }
+  return root;
 }
 
 void StyleStore::replaceRoot(Dictionary root, ChangeKind kind) {
@@ -118,7 +140,12 @@ int StyleStore::selectedStyle() const {
 
 void StyleStore::writeTarvoStylePlist() {
   const Result<> written = file_.write(tarvoStyle_, changed_);
-  if (written) changed_.reset();
+  if (written) {
+    const Replaced& replaced = file_.replaced();
+    if (replaced.wasForeign) foreign_ = {.kept = replaced.kept, .base = lastStored()};
+    changed_.reset();
+    unwritten_.clear();
+  }
   unsaved_ = written ? std::nullopt : std::optional(written.error());
   pending_ = pending_ && unsaved_;
   if (didWrite) didWrite();
@@ -128,6 +155,7 @@ void StyleStore::writeTarvoStylePlist() {
 void StyleStore::registerStyles() {
   const std::optional<StyleSet> styles = styleSet();
   registration_.registerStyles(styles ? &*styles : nullptr);
+  if (didRegister) didRegister();
 }
 
 Result<StyleStore::Reconciled> StyleStore::reconcile() {

@@ -82,11 +82,24 @@ class StyleStore {
   bool isSaved() const { return !unsaved_; }
   // What became of the file that the last write replaced.
   const Replaced& replaced() const { return file_.replaced(); }
+  // What another program had written and a write here has replaced last: the name under which it is kept, and the root
+  // from which both had parted.
+  struct ForeignSet {
+    std::string kept;
+    Dictionary base;
+  };
+  const std::optional<ForeignSet>& foreign() const { return foreign_; }
+  // Whether another program has changed the file since it was read or written last; nothing of it is read.
   bool isChangedElsewhere() const { return file_.isChangedElsewhere(); }
+  // What the file held when it was read or written last: from where another program's set and this one parted.
+  Dictionary lastStored() const;
+  // What the file holds now, whoever has written it; the styles in memory stay.
+  Result<Dictionary> readPresent() const { return file_.readPresent(); }
   // How the last registration ended; nothing before the first that had styles to hand over.
   const std::optional<Result<>>& registration() const { return registration_.outcome(); }
   std::function<void(const StoredChange&)> didChange;  // told after a change of what is to be written, before the write
   std::function<void()> didWrite;                      // told after each write, before the engine is
+  std::function<void()> didRegister;                   // told after each registration
   const DiskPath& path() const { return file_.path(); }
 
   // While start-up or a take-over from the engine is running nothing is registered. It is running at first.
@@ -100,7 +113,7 @@ class StyleStore {
   Result<> readFrom(StyleFile& file);
   bool writesAll() const { return writesUnchanged_ || pending_; }
   std::optional<StyleSet> styleSet();
-  void tellChange(const StoredChange& change) const;
+  void tellChange(StoredChange change);
   void noteChange(ChangeKind kind) { changed_ = std::max(changed_.value_or(kind), kind); }
   StyleFile file_, seed_;
   EngineRegistration registration_;
@@ -109,6 +122,8 @@ class StyleStore {
   bool awakening_ = true, pending_ = false, writesUnchanged_ = true;
   std::optional<Failure> unread_, unsaved_;
   std::optional<ChangeKind> changed_;  // what has changed styles since the last write
+  std::optional<ForeignSet> foreign_;
+  std::vector<StoredChange> unwritten_;  // the changes since the last write, in their order
 };
 
 }  // namespace tarvo

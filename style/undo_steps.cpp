@@ -36,20 +36,16 @@ std::vector<std::string> changedTools(const StoredChange& step) {
 
 }  // namespace
 
-UndoSteps::UndoSteps(StyleStore& store) : store_(store) {
-  store_.didChange = [this](const StoredChange& change) { note(change); };
-}
-
-UndoSteps::~UndoSteps() { store_.didChange = nullptr; }
-
-void UndoSteps::note(const StoredChange& change) {
-  if (taking_) return;
-  if (change.kind == ChangeKind::repair || store_.isAwakening()) return;
-  steps_.resize(done_);
-  steps_.push_back(change);
-  if (steps_.size() > mostSteps) steps_.pop_front();
-  done_ = steps_.size();
-  if (didChange) didChange();
+bool UndoSteps::note(const StoredChange& change) {
+  const bool isStep = !taking_ && change.kind != ChangeKind::repair && !store_.isAwakening();
+  if (isStep) {
+    steps_.resize(done_);
+    steps_.push_back(change);
+    if (steps_.size() > mostSteps) steps_.pop_front();
+    done_ = steps_.size();
+  }
+  if (!taking_ && didChange) didChange();
+  return isStep;
 }
 
 const StoredChange* UndoSteps::next(Way way) const {

@@ -19,11 +19,11 @@ namespace tarvo {
 
 class UndoSteps {
  public:
-  // Listens to the store (StyleStore::didChange), which outlives it.
-  explicit UndoSteps(StyleStore& store);
-  ~UndoSteps();
-  UndoSteps(const UndoSteps&) = delete;
-  UndoSteps& operator=(const UndoSteps&) = delete;
+  // The store outlives it.
+  explicit UndoSteps(StyleStore& store) : store_(store) {}
+
+  // A change of the store (StyleStore::didChange). True: it is a step of its own.
+  bool note(const StoredChange& change);
 
   enum class Way { undo, redo };
   // nothing: there is no step. changed: its value is another one by now.
@@ -35,10 +35,9 @@ class UndoSteps {
   void take(Way way);
   // Forgets all steps: the styles are no longer those that they were made on.
   void clear();
-  std::function<void()> didChange;  // told when there are other steps than before
+  std::function<void()> didChange;  // told when there may be other steps, or others that can be taken, than before
 
  private:
-  void note(const StoredChange& change);
   bool isPresent(const StoredChange& step, Way way) const;
   void put(const StoredChange& step, Way way);
   StyleStore& store_;

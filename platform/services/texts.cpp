@@ -44,15 +44,32 @@ void overlayShippedTable(Texts& texts, const Bundle& bundle, const FileService& 
   }
 }
 
-std::string filledIn(std::string text, std::string_view value) {
-  std::size_t first = std::string::npos, length = 0;
-  for (const std::string_view place : {"%@", "%d", "%i", "%ld"}) {
-    const std::size_t found = text.find(place);
-    if (found >= first) continue;
-    first = found;
-    length = place.size();
+namespace {
+
+struct Place {
+  std::size_t at = std::string::npos, length = 0;
+};
+
+Place firstPlace(const std::string& text) {
+  Place first;
+  for (const std::string_view mark : {"%@", "%d", "%i", "%ld"}) {
+    const std::size_t found = text.find(mark);
+    if (found < first.at) first = {found, mark.size()};
   }
-  return first == std::string::npos ? text : text.replace(first, length, value);
+  return first;
+}
+
+}  // namespace
+
+std::string filledIn(std::string text, std::string_view value) {
+  const Place place = firstPlace(text);
+  return place.at == std::string::npos ? text : text.replace(place.at, place.length, value);
+}
+
+std::string filledIn(const std::string& text, std::string_view first, std::string_view second) {
+  const Place place = firstPlace(text);
+  if (place.at == std::string::npos) return text;
+  return text.substr(0, place.at) + std::string(first) + filledIn(text.substr(place.at + place.length), second);
 }
 
 }  // namespace tarvo

@@ -37,6 +37,8 @@ class Texts {
 // The text with the first place for a value in it (%@, %d, %i or %ld) filled. Texts are never used as formats
 // themselves: a translated one may hold anything.
 std::string filledIn(std::string text, std::string_view value);
+// The same for two places in their order; what the first value holds is no place.
+std::string filledIn(const std::string& text, std::string_view first, std::string_view second);
 
 class Bundle;
 class FileService;

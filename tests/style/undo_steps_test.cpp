@@ -23,6 +23,7 @@ class UndoStepsTest : public testing::Test {
     files.put("/styles.plist", writePropertyList(sampleRoot()));
     EXPECT_TRUE(store.readUserStyles());
     store.setAwakening(false);
+    store.didChange = [this](const StoredChange& change) { steps.note(change); };
   }
   std::string name(int index = 1) const { return *store.getStyleAtIndex(index)->string(keyNameName); }
   void rename(const std::string& name, ChangeKind kind = ChangeKind::edit, int index = 1) {
