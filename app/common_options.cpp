@@ -51,6 +51,7 @@ std::vector<OptionRow> commonOptions(CommonOptions& into, Front front) {
   if (front == Front::console) {
     rows.push_back({"--clock", "manual|real", "Option.Clock", "", &into.clock, {{"manual", "real"}}});
     rows.push_back({"--json", "", "Option.Json", "", &into.json});
+    rows.push_back({"--reseed", "", "Option.Reseed", "", &into.reseed});
   }
   rows.push_back({"--version", "", "Option.Version", "", &into.version, {}, true});
   rows.push_back({"-h,--help", "", "Option.Help", "", &into.help, {}, true});

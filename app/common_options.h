@@ -19,7 +19,7 @@ struct CommonOptions {
   ProductOptions product;
   std::optional<std::string> busName;  // on the session bus; "none" to stay off it
   std::string clock;                   // "manual", "real"; "" as the verb has it
-  bool json = false, help = false, version = false;
+  bool json = false, reseed = false, help = false, version = false;
 };
 
 enum class Front { window, console };

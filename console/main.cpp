@@ -57,6 +57,7 @@ ExitStatus runVerb(const CommandLine& line, Command& command) {
   Console console{product, std::cout, std::cerr, std::ref(lock), becomeProgram};
   console.textsToTell = [&line] { return textsToTell(line); };
   console.json = line.json;
+  console.reseed = line.reseed;
   console.engineIsWanted = line.product.engine != "none";
   if (!product.problem().empty()) return tell(console, unknownEngine(product.engineURL()));
   if (const std::optional<Failure>& unread = product.unread()) return tell(console, *unread);

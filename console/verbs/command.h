@@ -30,6 +30,7 @@ struct Console {
   // The shipped texts in the language that was asked for, in which failures are told.
   std::function<Texts()> textsToTell;
   bool json = false;           // answers are JSON
+  bool reseed = false;         // styles that are there and cannot be read give way to the product's
   bool engineIsWanted = true;  // an engine that cannot be reached is worth a word
 };
 

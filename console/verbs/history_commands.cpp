@@ -43,8 +43,10 @@ ExitStatus HistoryCommand::run(Console& console) {
   const Array* present = styles.root->array(keyNameStyle);
   Json::List list;
   std::vector<std::vector<std::string>> rows;
-  for (const HistoryEntry& entry : styleHistory(earlier, present != nullptr ? *present : Array())) {
-    if (only && entry.set.id != only->id) continue;
+  StyleHistory history(earlier, present != nullptr ? *present : Array());
+  for (std::size_t place = 0; place < history.sets().size(); ++place) {
+    if (only && history.sets()[place].id != only->id) continue;
+    const HistoryEntry& entry = history.entry(place);
     list.emplace_back(jsonOf(entry, texts));
     std::vector<std::string> row{entry.set.id, std::string(nameOf(entry.set.kind))};
     for (const std::string& words : wordsOf(entry, texts)) {

@@ -33,7 +33,7 @@ std::optional<Problem> StyleSession::open(Needs needs) {
   Product& product = console_.product;
   if (std::optional<Problem> failure = takeLock(console_)) return failure;
   const LoadedStyles loaded = loadStyles(store_, medical_, product.files(), product.paths());
-  if (const std::optional<Failure>& unread = store_.unread(); unread && needs == Needs::readable) {
+  if (const std::optional<Failure>& unread = store_.unread(); unread && needs == Needs::readable && !console_.reseed) {
     return Refusal{pathOfStyles(), "Refusal.UnreadableStyles", failureParts(*unread, console_.textsToTell()).cause};
   }
   if (loaded.failure && needs != Needs::nothing) return *loaded.failure;
@@ -79,6 +79,7 @@ ExitStatus StyleSession::finish(std::vector<std::string> changed) {
   if (const std::optional<Problem> failure = writeLoaded()) return tell(console_, *failure);
   const std::optional<bool> registered = written_ ? registerStyles() : std::nullopt;
   say(console_, {std::move(changed), registered});
+  earlier_.thin();
   return registered == false && engine_->form() != EngineForm::local ? ExitStatus::waiting : ExitStatus::done;
 }
 

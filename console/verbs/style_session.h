@@ -37,7 +37,8 @@ class StyleSession {
   NamedLists& lists() { return lists_; }
   const EarlierStyles& earlier() const { return earlier_; }
 
-  // What an operation needs of the styles. readable: the user's file, or that there is none; any: else the product's;
+  // What an operation needs of the styles. readable: the user's file, or that there is none, or the word to begin with
+  // the product's; any: else the product's;
   // nothing: it brings all with it.
   enum class Needs { readable, any, nothing };
   // The operation: why it cannot be done, and then nothing is written; or nothing.

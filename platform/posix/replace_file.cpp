@@ -77,7 +77,8 @@ bool takeOver(int folder, const std::string& name, const struct stat& present, i
   struct stat fresh{};
   if (::fstat(file, &fresh) != 0) return false;
   const bool sameOwner = fresh.st_uid == present.st_uid && fresh.st_gid == present.st_gid;
-  return ::fchmod(file, sameOwner ? present.st_mode & 07777 : handOver(file, present)) == 0;
+  const mode_t mode = sameOwner ? present.st_mode & 07777 : handOver(file, present);
+  return ::fchmod(file, mode | S_IRUSR) == 0;  // what its owner cannot read would be lost to him a second time
 }
 
 bool fill(int folder, const std::string& name, const Target& target, const Descriptor& file, std::string_view bytes) {

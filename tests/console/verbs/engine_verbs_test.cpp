@@ -138,8 +138,8 @@ TEST_F(EngineVerbs, pullLeavesAStyleFileThatCannotBeRead) {
   const auto before = tree();
   expectSaid({"engine", "pull"}, "",
              told(stylePath(),
-                  "nothing was changed, the style file cannot be read; it is no property list; mend it, or "
-                  "move it away to begin with the styles of the product"),
+                  "nothing was changed, the style file cannot be read; it is no property list; mend it, bring "
+                  "earlier styles back with restore, or begin with the styles of the product with --reseed"),
              1);
   EXPECT_EQ(tree(), before);
 }

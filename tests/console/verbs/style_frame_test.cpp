@@ -153,11 +153,23 @@ TEST_F(StyleFrame, stylesThatCannotBeReadAreLeftAloneByEveryEdit) {
     const ToolResult result = run(edit);
     EXPECT_EQ(result.err,
               told(stylePath(),
-                   "nothing was changed, the style file cannot be read; it is no property list; mend it, or "
-                   "move it away to begin with the styles of the product"));
+                   "nothing was changed, the style file cannot be read; it is no property list; mend it, bring "
+                   "earlier styles back with restore, or begin with the styles of the product with --reseed"));
     EXPECT_EQ(result.status, 1) << edit[1];
   }
   EXPECT_EQ(treeButLock(), before);
+}
+
+TEST_F(StyleFrame, stylesThatCannotBeReadGiveWayOnlyWhereThatIsAskedForAndAreKept) {
+  fs::copy_file(stylePath(), root_.root() + "/Library/Application Support/Wordhaven/TarvoEiwa/TarvoStyle2009.plist");
+  root_.folder().write(std::string("root/Users/taro/") + styleFile, "broken");
+  const ToolResult result = run({"style", "set", "1", "Opt1=2", "--reseed"});
+  EXPECT_EQ(result.status, 0) << result.err;
+  EXPECT_NE(style(1).find("\"Opt1\":2"), std::string::npos);
+  EXPECT_EQ(root_.folder().read(std::string("root/Users/taro/") + styleFile + ".unreadable"), "broken");
+  const ToolResult history = run({"history"});
+  EXPECT_NE(history.out.find("  unreadable  "), std::string::npos) << history.out;
+  EXPECT_NE(run({"doctor"}).out.find("TarvoStyle2009.plist.unreadable"), std::string::npos);
 }
 
 TEST_F(StyleFrame, stylesThatCannotBeReadAreShownAsTheProductsAndTold) {
