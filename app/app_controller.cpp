@@ -53,8 +53,7 @@ bool AppController::awakeFromNib() {
 void AppController::showStyles() {
   fillStyleMenu(interface_.style.stylePopup, rooms_.store, services_.texts);
   restoreTool();
-  for (const Direction direction : bothDirections) rooms_.lists.updateButton(direction);
-  rooms_.naming.updateStyleNameButton();
+  adaptButtons();
   showFirstPages();
 }
 
@@ -82,6 +81,7 @@ bool AppController::loadUserInfor() {
   }
   rooms_.medical.remember(loaded.inserted);
   if (rooms_.store.isPending()) rooms_.store.writeTarvoStylePlist();
+  rooms_.news.didLoad();
   return true;
 }
 
@@ -107,14 +107,31 @@ void AppController::showFirstPages() {
 
 void AppController::changeStyle() {
   const int index = interface_.style.stylePopup.indexOfSelectedItem();
+  showStyle(index);
+  rooms_.store.setSelection(index);
+  adaptButtons();
+}
+
+void AppController::showStyle(int index) {
   rooms_.lists.ejTDController().clearInformation();
   rooms_.lists.jeTDController().clearInformation();
   rooms_.display.setupStyleData2(index);
   interface_.lists.ejTDTable.reloadData();
   interface_.lists.jeTDTable.reloadData();
-  rooms_.store.setSelection(index);
+}
+
+void AppController::adaptButtons() {
   for (const Direction direction : bothDirections) rooms_.lists.updateButton(direction);
   rooms_.naming.updateStyleNameButton();
+}
+
+void AppController::showStylesAgain() {
+  PopUpButton& stylePopup = interface_.style.stylePopup;
+  const int shown = stylePopup.indexOfSelectedItem();
+  fillStyleMenu(stylePopup, rooms_.store, services_.texts);
+  stylePopup.selectItemAtIndex(rooms_.store.getSelection() != nullptr ? rooms_.store.selectedStyle() : shown);
+  showStyle(stylePopup.indexOfSelectedItem());
+  adaptButtons();
 }
 
 void AppController::selectTableViewAction(Tool tool) {

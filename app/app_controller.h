@@ -39,6 +39,8 @@ class AppController {
   bool awakeFromNib();
   // Action of the style menu; also run by the choice of a tool.
   void changeStyle();
+  // Shows the styles after a change that no control made; the chosen tool and its style stay.
+  void showStylesAgain();
   void selectTableViewAction(Tool tool);
   // Lets the user choose a style file and puts it in the place of the chosen style.
   void importStyle();
@@ -59,6 +61,8 @@ class AppController {
   void createDictControllers();
   void showStyles();  // all of them anew: the menu, the remembered tool and its style, the first pages
   void restoreTool();
+  void showStyle(int index);
+  void adaptButtons();
   void showFirstPages();
   void answerCaller(const CallerRequest& request);
 

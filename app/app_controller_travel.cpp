@@ -5,7 +5,9 @@
 #include "app/rooms.h"
 #include "platform/services/notification_center.h"
 #include "platform/services/notification_names.h"
+#include "platform/services/texts.h"
 #include "style/caller_requests.h"
+#include "style/style_pairing.h"
 
 // What reaches the style pane from outside: style files, the engine's styles, requests of other tools.
 namespace tarvo {
@@ -24,6 +26,14 @@ class Awakening {
   StyleStore& store_;
 };
 
+std::vector<std::string> namesOf(const StyleStore& store) {
+  std::vector<std::string> names;
+  if (const Array* styles = store.getAllStyle()) {
+    for (const PropertyList& style : *styles) names.push_back(recordName(style));
+  }
+  return names;
+}
+
 }  // namespace
 
 void AppController::importStyle() {
@@ -36,13 +46,18 @@ bool AppController::readImportStyle(const DiskPath& path) {
   if (!rooms_.exchange.install(path, index, stylePopup.titleOfSelectedItem())) return false;
   rooms_.display.setupStyleData2(index);
   for (const Direction direction : bothDirections) rooms_.lists.updateButton(direction);
+  rooms_.notices.tell(
+      {.text = filledIn(services_.texts.localized("Notice.imported"), path.name(), stylePopup.titleOfSelectedItem()),
+       .offer = Notice::Offer::undo});
   return true;
 }
 
 void AppController::sendPlist() {
+  const std::vector<std::string> names = namesOf(rooms_.store);
   if (rooms_.store.reconcile() != StyleStore::Reconciled::replaced) return;  // nobody waits for what was not taken
   const Awakening awakening(rooms_.store);
   showStyles();
+  rooms_.undo.stylesCameFromElsewhere(names == namesOf(rooms_.store));
 }
 
 void AppController::handleAppleEvent(const std::optional<std::string>& bytes) {

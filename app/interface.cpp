@@ -31,6 +31,9 @@ void Interface::connect(const Actors& actors, const Texts& texts) {
   sheetRows(rooms, texts);
   travelRows(actors, texts);
   connectionRows(actors, texts);
+  editRows(actors);
+  earlierStylesRows(actors.rooms, texts);
+  noticeRows(actors.rooms);
   apply(texts);
   for (PopUpButton& popup : options.detailPopups) popup.selectItemAtIndex(-1);  // no style is shown yet
 }
@@ -55,7 +58,7 @@ std::vector<Control*> Interface::controls() const {
   std::vector<Control*> all;
   const std::initializer_list<const Outlets*> structs{&style,      &options,  &lists,   &userLists, &newDictionary,
                                                       &naming,     &exchange, &manager, &tools,     &addins,
-                                                      &connection, &help,     &picker};
+                                                      &connection, &help,     &picker,  &earlier,   &notices};
   for (const Outlets* outlets : structs) {
     all.insert(all.end(), outlets->controls().begin(), outlets->controls().end());
   }

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "app/earlier_styles_panel.h"
+#include "app/notice_board.h"
 #include "app/toolbar.h"
 #include "dict/dictionary_list_editing.h"
 #include "dict/new_dictionary.h"
@@ -43,6 +45,7 @@ struct StyleOutlets : Outlets {
   SegmentedControl TEAppSeg1{*this, "TEAppSeg1"}, TEAppSeg2{*this, "TEAppSeg2"}, TEAppSeg3{*this, "TEAppSeg3"};
   ImageView toolIcon{*this, "toolIcon"};
   MenuItem quitMenu{*this, "quitMenu"};
+  MenuItem undoMenu{*this, "undoMenu"}, redoMenu{*this, "redoMenu"}, earlierStylesMenu{*this, "earlierStylesMenu"};
   StyleOutlets() : Outlets("style") {}
 };
 
@@ -93,6 +96,8 @@ class Interface {
   HelpOutlets help;
   PickerOutlets picker;
   AddinOutlets addins;
+  EarlierStylesOutlets earlier;
+  NoticeOutlets notices;
 
   Interface() = default;
   Interface(const Interface&) = delete;
@@ -124,6 +129,9 @@ class Interface {
   void addinRows(Rooms& rooms, const Texts& texts);
   void addinCautionRows(Rooms& rooms, const Texts& texts);
   void menuRows(const Actors& actors);
+  void editRows(const Actors& actors);
+  void earlierStylesRows(Rooms& rooms, const Texts& texts);
+  void noticeRows(Rooms& rooms);
   // A menu command, which both controllers must allow.
   void menuItem(const Actors& actors, MenuItem& menu, int tag, std::string label, Control::Action action);
   void row(Row row) { rows_.push_back(std::move(row)); }

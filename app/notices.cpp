@@ -25,6 +25,12 @@ void Notices::tell(Notice notice) {
   changed();
 }
 
+void Notices::tellAside(Notice notice) {
+  if (!told_ || told_->offer == Notice::Offer::none) return tell(std::move(notice));
+  remember(notice);
+  changed();
+}
+
 void Notices::setStanding(std::optional<Notice> notice) {
   const bool isSame = notice.has_value() == standing_.has_value() && (!notice || notice->text == standing_->text);
   if (isSame) return;

@@ -23,6 +23,8 @@ class Notices {
  public:
   // Shown until another one is told or the user takes it away.
   void tell(Notice notice);
+  // The same for what is said beside an edit: it does not take the place of a notice that offers something.
+  void tellAside(Notice notice);
   // A state: it stands in the line before all others until it ends with nothing. Not among the latest twice.
   void setStanding(std::optional<Notice> notice);
   // Takes the shown one away; a standing one stays.

@@ -29,7 +29,7 @@ Program::Program(const Services& given)
       services_{static_cast<const Surroundings&>(given), panels_},
       defaults_(services_.files, userDefaultsPath(services_.locations)),
       rooms_({interface_, services_, defaults_, notifications_, windows_,
-              [this](Tool tool) { styles_.selectTableViewAction(tool); }}),
+              [this](Tool tool) { styles_.selectTableViewAction(tool); }, [this] { styles_.showStylesAgain(); }}),
       manager_(interface_, rooms_, services_, defaults_, notifications_, windows_, [this] { quit(); }),
       styles_(interface_, rooms_, services_, defaults_, notifications_, [this] { quit(); }),
       opening_({interface_, styles_, manager_, panels_, rooms_.connection, windows_, services_.texts}),

@@ -4,10 +4,34 @@
 
 #include <utility>
 
+#include "dict/dictionary_folders.h"
+#include "dict/display_names.h"
+#include "platform/services/file_service.h"
+#include "style/divider.h"
+
 namespace tarvo {
 
 Rooms::Rooms(With with) : with_(std::move(with)) {}
 
 Rooms::~Rooms() = default;
+
+void Rooms::follow(const Notice& notice) {
+  switch (notice.offer) {
+    case Notice::Offer::none: return;
+    case Notice::Offer::undo: return undo.undo();
+    case Notice::Offer::restore: return earlierPanel.run(notice.earlierSet);
+    case Notice::Offer::merge: return joining.join(notice.earlierSet);
+  }
+}
+
+MergeKnowledge Rooms::mergeKnowledge() const {
+  return {.isOnDisk =
+              [this](Direction direction, const std::string& fileName) {
+                const DiskPath folder = dictionaryFolder(services_.paths, DictionaryKind::technical, direction);
+                return services_.files.isThere(folder / fileName);
+              },
+          .isInserted = [](Direction, const std::string& fileName) { return isMedicalDictionary(fileName); },
+          .isDivider = [this](const Dictionary& record) { return isDivider(record, texts_); }};
+}
 
 }  // namespace tarvo

@@ -6,9 +6,13 @@
 #include <string>
 
 #include "app/interface.h"
+#include "app/notices.h"
 #include "app/services.h"
 #include "app/style_display.h"
+#include "app/style_joining.h"
+#include "app/style_news.h"
 #include "app/tool_chooser.h"
+#include "app/undo_commands.h"
 #include "app/user_files.h"
 #include "dict/dictionary_list_editing.h"
 #include "dict/dictionary_loading.h"
@@ -58,6 +62,7 @@ struct Rooms {
     NotificationCenter& notifications;
     Windows& windows;
     std::function<void(Tool tool)> chooseTool;  // the sequence that follows the choice of a tool
+    std::function<void()> showStyles;           // the one that follows a change of the styles by no control
   };
   explicit Rooms(With with);
   ~Rooms();
@@ -65,6 +70,8 @@ struct Rooms {
   Rooms& operator=(const Rooms&) = delete;
 
  private:
+  void follow(const Notice& notice);
+  MergeKnowledge mergeKnowledge() const;
   With with_;
   Interface& interface_ = with_.interface;
   const Services& services_ = with_.services;
@@ -82,6 +89,7 @@ struct Rooms {
 
  public:
   ProcessFlags flags;
+  Notices notices;
   PaneAlerts alerts{services_.panels, texts_};
   EarlierStyles earlierStyles{services_.files, locations_.inHome(gEarlierStyles)};
   StyleStore store{services_.files,
@@ -108,6 +116,15 @@ struct Rooms {
   StyleExchange exchange{{interface_.exchange, stylePopup_, myWindow_, store, services_.files, services_.locations,
                           services_.panels, alerts, windows_, texts_}};
   StyleDisplay display{store, options, lists, texts_};
+  UndoSteps undoSteps{store};
+  UndoCommands undo{{undoSteps, interface_.style.undoMenu, interface_.style.redoMenu, interface_.manager.myTabView,
+                     myWindow_, windows_, flags, notices, texts_, with_.showStyles}};
+  StyleNews news{{store, earlierStyles, services_.runLoop, undoSteps, notices, texts_}};
+  EarlierStylesPanel earlierPanel{{interface_.earlier, stylePopup_, store, earlierStyles, windows_, notices, texts_,
+                                   texts_.localized(nomalStyle), with_.showStyles}};
+  StyleJoining joining{{store, earlierStyles, services_.panels, notices, undo, texts_, mergeKnowledge(),
+                        with_.showStyles, [this](const std::string& id) { earlierPanel.run(id); }}};
+  NoticeBoard board{interface_.notices, notices, texts_, [this](const Notice& notice) { follow(notice); }};
   ToolChooser chooser{interface_.style, interface_.options, flags, with_.chooseTool};
   ToolListFile toolList{services_.files, defaults_, module_, toolListPath(services_.locations)};
   OfficeToolChoice officeTool{interface_.tools, toolList};

@@ -5,6 +5,7 @@
 #include "app/interface.h"
 #include "qt/sheets/caution_window.h"
 #include "qt/sheets/connection_sheet.h"
+#include "qt/sheets/earlier_styles_window.h"
 #include "qt/sheets/export_window.h"
 #include "qt/sheets/naming_dialog.h"
 #include "qt/sheets/new_dictionary_dialog.h"
@@ -46,6 +47,9 @@ void addDialogs(QtWindows& windows, Interface& interface, Binder& binder) {
   });
   windows.addDialog(interface.exchange.exportWindow, [&interface, &binder](QWidget* parent) {
     return buildExportWindow(interface.exchange, binder, parent);
+  });
+  windows.addDialog(interface.earlier.earlierStylesWindow, [&interface, &binder](QWidget* parent) {
+    return buildEarlierStyles(interface.earlier, binder, parent);
   });
   windows.addDialog(interface.connection.sslPanel, [&interface, &binder](QWidget* parent) {
     return buildConnectionSheet(interface.connection, binder, parent);

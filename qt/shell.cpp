@@ -10,7 +10,6 @@
 
 #include "app/t_manager_controller.h"
 #include "platform/services/engine.h"
-#include "platform/services/failure_text.h"
 #include "qt/dialogs.h"
 #include "qt/panes/mail_pane.h"
 #include "qt/panes/office_pane.h"
@@ -46,7 +45,6 @@ Shell::~Shell() {
   bus_.reset();
   program_.requests().bringForward = nullptr;
   program_.manager().customizeToolbar = nullptr;
-  program_.rooms().store.didWrite = nullptr;
   windows_.close();
 }
 
@@ -56,7 +54,9 @@ bool Shell::start() {
   addDialogs(windows_, program_.interface(), binder_);
   windows_.mainWindow()->styleFilesDropped = [this](const std::vector<std::string>& paths) { openFiles(paths); };
   program_.requests().bringForward = [this] { windows_.bringForward(); };
-  tellUnsavedStyles();
+  QObject::connect(&application_, &QGuiApplication::applicationStateChanged, windows_.mainWindow(), [this](auto state) {
+    if (state == Qt::ApplicationActive) program_.rooms().news.look();
+  });
   program_.manager().customizeToolbar = [this] {
     program_.windows().covers().whenFree(program_.interface().manager.myWindow, [this] { customizeToolbar(); });
   };
@@ -97,15 +97,6 @@ void Shell::customizeToolbar() {
   covers.beginSheet(host, nullptr);
   QObject::connect(dialog, &QDialog::finished, dialog, [&covers, &host] { covers.endSheet(host, nullptr, [] {}); });
   dialog->open();
-}
-
-void Shell::tellUnsavedStyles() {
-  StyleStore& store = program_.rooms().store;
-  store.didWrite = [this, &store] {
-    const std::optional<Failure>& unsaved = store.unsaved();
-    windows_.mainWindow()->setNotice(
-        unsaved ? binder_.localized("NotSavedYet") + toQString(failureText(*unsaved, product_.texts())) : QString());
-  };
 }
 
 // What nobody sees in the first picture.

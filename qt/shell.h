@@ -50,7 +50,6 @@ class Shell {
 
  private:
   void customizeToolbar();
-  void tellUnsavedStyles();
   void finishLater();
   Product& product_;
   QApplication& application_;

@@ -65,19 +65,13 @@ void RecordedFiles::noteWrite(const DiskPath& path, bool written) {
 }
 
 Result<Replaced> RecordedFiles::replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) {
-  const auto refused = refusal(Operation::write, path, Attempt::write);
-  Result<Replaced> written = refused ? *refused : replaceKeeping(path, bytes, keeping);
-  noteWrite(path, written.has_value());
-  return written;
-}
-
-// What may not be copied cannot be kept either.
-Result<Replaced> RecordedFiles::replaceKeeping(const DiskPath& path, std::string_view bytes, const Keeping& keeping) {
+  // What may not be copied cannot be kept either.
   const auto unkept = keeping.folder.empty() ? std::nullopt : refusal(Operation::copy, path, Attempt::keep);
-  if (!unkept) return disk_.replace(path, bytes, keeping);
-  if (keeping.durability == Durability::sure) return *unkept;
-  Result<Replaced> written = disk_.replace(path, bytes, {});
-  if (written) written->unkept = unkept;
+  if (unkept && keeping.durability == Durability::sure) return *unkept;  // noted when it could not be kept beside
+  const auto refused = refusal(Operation::write, path, Attempt::write);
+  Result<Replaced> written = refused ? *refused : disk_.replace(path, bytes, unkept ? Keeping() : keeping);
+  if (written && unkept) written->unkept = unkept;
+  noteWrite(path, written.has_value());
   return written;
 }
 

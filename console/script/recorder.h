@@ -73,7 +73,6 @@ class RecordedFiles : public FileService {
   }
 
  private:
-  Result<Replaced> replaceKeeping(const DiskPath& path, std::string_view bytes, const Keeping& keeping);
   // As the disk itself refuses.
   std::optional<Failure> refusal(Operation operation, const DiskPath& path, Attempt attempt) const;
   std::optional<Failure> copyRefusal(const DiskPath& from, const DiskPath& to) const;

@@ -66,8 +66,10 @@ QLabel* Binder::text(TextField& control, QWidget* parent) {
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
   label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  new TextView(control, *label, registry_);
+  text(control, *label);
   return label;
 }
+
+void Binder::text(TextField& control, QLabel& shown) { new TextView(control, shown, registry_); }
 
 }  // namespace tarvo

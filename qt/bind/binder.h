@@ -60,6 +60,7 @@ class Binder {
   QCheckBox* check(CheckBox& control, QWidget* parent);   // likewise
   QLineEdit* field(TextField& control, QWidget* parent);
   QLabel* text(TextField& control, QWidget* parent);  // wraps; may be selected with the mouse
+  void text(TextField& control, QLabel& shown);       // one that somebody built
   QWidget* image(ImageView& control, int side, QWidget* parent);
   QComboBox* popup(PopUpButton& control, QWidget* parent);
   QComboBox* detailPopup(PopUpButton& control, QWidget* parent);  // says "Not set" while it has no item selected

@@ -87,6 +87,7 @@ MainWindow::MainWindow(Interface& interface, Binder& binder, std::vector<PageBui
   rows->setMenuBar(menuBar_);
   rows->addWidget(toolbar_);
   rows->addWidget(paneArea_, 1);
+  rows->addWidget(new NoticeLine(interface.notices, binder, this));
   paneArea_->installEventFilter(this);
   // The items change theirs in the same round of events.
   connect(toolbar_, &QToolBar::toolButtonStyleChanged, this, [this] {
@@ -162,14 +163,5 @@ void MainWindow::giveKeyboardToPane() {
 }
 
 void MainWindow::fitPane() { panes_->setGeometry(paneArea_->rect()); }
-
-void MainWindow::setNotice(const QString& text) {
-  if (notice_ == nullptr) {
-    if (text.isEmpty()) return;
-    notice_ = new NoticeLine(this);
-    static_cast<QBoxLayout*>(layout())->addWidget(notice_);
-  }
-  notice_->tell(text);
-}
 
 }  // namespace tarvo

@@ -16,10 +16,9 @@ namespace tarvo {
 
 class FrameAnimation;
 class Interface;
-class NoticeLine;
 class ToolbarView;
 
-// The main window: menu bar, toolbar, the shown pane, and a line at the foot while something could not be saved.
+// The main window: menu bar, toolbar, the shown pane, and the line of notices at the foot.
 // Duty: lay them out and change its size. Not: its place on the screen, or deciding which pane is shown. The user
 // cannot resize it; panes are built when they are first shown or measured.
 class MainWindow : public QWidget {
@@ -32,8 +31,6 @@ class MainWindow : public QWidget {
   QSize minimumOfPane(Pane pane);
   void resizeTo(QSize client, bool animate);
   void buildPanes();  // the shown one
-  // A line at the foot (notice_line.h); "" takes it away.
-  void setNotice(const QString& text);
 
   std::function<void()> toolbarChangedHeight;
   std::function<void(std::vector<std::string> paths)> styleFilesDropped;  // at least one
@@ -48,7 +45,6 @@ class MainWindow : public QWidget {
   QMenuBar* menuBar_;
   ToolbarView* toolbar_;
   QWidget* paneArea_;
-  NoticeLine* notice_ = nullptr;
   QWidget* dropMark_ = nullptr;
   QStackedWidget* panes_ = nullptr;
   FrameAnimation* animation_;

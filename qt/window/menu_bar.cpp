@@ -43,6 +43,9 @@ MenuActions::MenuActions(Interface& interface, Binder& binder, QWidget& window) 
   importStyle = boundAction(interface.exchange.importMenu, binder, window, Qt::CTRL | Qt::Key_O);
   exportStyle = boundAction(interface.exchange.exportMenu, binder, window, Qt::CTRL | Qt::Key_E);
   exportWindow = boundAction(interface.exchange.exportWindowMenu, binder, window, Qt::CTRL | Qt::SHIFT | Qt::Key_E);
+  earlierStyles = boundAction(interface.style.earlierStylesMenu, binder, window);
+  undo = boundAction(interface.style.undoMenu, binder, window, Qt::CTRL | Qt::Key_Z);
+  redo = boundAction(interface.style.redoMenu, binder, window, Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
   quit = boundAction(interface.style.quitMenu, binder, window, Qt::CTRL | Qt::Key_Q);
   styles = boundAction(manager.styleManagerMenu, binder, window, Qt::CTRL | Qt::Key_1);
   office = boundAction(manager.officeAddinMenu, binder, window, Qt::CTRL | Qt::Key_2);
@@ -59,9 +62,11 @@ MenuActions::MenuActions(Interface& interface, Binder& binder, QWidget& window) 
 
 QMenuBar* buildMenuBar(const MenuActions& actions, Interface& interface, Binder& binder, QWidget* parent) {
   auto* bar = new QMenuBar(parent);
-  lazyMenu(*bar, binder, "Menu.File",
-           {actions.newEJDictionary, actions.newJEDictionary, nullptr, actions.newEJMemory, actions.newJEMemory,
-            nullptr, actions.importStyle, actions.exportStyle, actions.exportWindow, nullptr, actions.quit});
+  lazyMenu(
+      *bar, binder, "Menu.File",
+      {actions.newEJDictionary, actions.newJEDictionary, nullptr, actions.newEJMemory, actions.newJEMemory, nullptr,
+       actions.importStyle, actions.exportStyle, actions.exportWindow, actions.earlierStyles, nullptr, actions.quit});
+  lazyMenu(*bar, binder, "Menu.Edit", {actions.undo, actions.redo});
   QMenu* view =
       lazyMenu(*bar, binder, "Menu.View",
                {actions.styles, actions.office, actions.mail, nullptr, actions.showToolbar, actions.customizeToolbar});

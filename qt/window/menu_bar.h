@@ -16,12 +16,13 @@ class Interface;
 struct MenuActions {
   MenuActions(Interface& interface, Binder& binder, QWidget& window);
   QAction *newEJDictionary, *newJEDictionary, *newEJMemory, *newJEMemory;
-  QAction *importStyle, *exportStyle, *exportWindow, *quit;
+  QAction *importStyle, *exportStyle, *exportWindow, *earlierStyles, *quit;
+  QAction *undo, *redo;
   QAction *styles, *office, *mail, *showToolbar, *customizeToolbar;
   QAction *help, *homePage, *supportPage, *oldDictionaryPage, *about;
 };
 
-// File, View and Help. The menus get their entries when they are opened for the first time.
+// File, Edit, View and Help. The menus get their entries when they are opened for the first time.
 QMenuBar* buildMenuBar(const MenuActions& actions, Interface& interface, Binder& binder, QWidget* parent);
 
 // Puts a tick before "Show Toolbar" as the menu opens.

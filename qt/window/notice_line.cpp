@@ -2,41 +2,97 @@
 // SPDX-License-Identifier: MIT
 #include "qt/window/notice_line.h"
 
+#include <QAccessibleWidget>
+#include <QBoxLayout>
 #include <QEvent>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QTableView>
+#include <QToolTip>
+#include <algorithm>
 
+#include "app/notice_board.h"
+#include "qt/bind/binder.h"
+#include "qt/bind/control_view.h"
 #include "qt/look/metrics.h"
 
 namespace tarvo {
 
-NoticeLine::NoticeLine(QWidget* parent) : QLabel(parent) {
-  setObjectName(QStringLiteral("notice"));
+namespace {
+
+constexpr int mostRows = 8;  // of the list that are seen at once
+
+QAccessibleInterface* textForAssistiveTools(const QString&, QObject* object) {
+  auto* text = dynamic_cast<ElidedText*>(object);
+  return text == nullptr ? nullptr : new QAccessibleWidget(text, QAccessible::Notification, text->text());
+}
+
+}  // namespace
+
+ElidedText::ElidedText(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
-  setContentsMargins(metrics::paneMargin, metrics::rowGap, metrics::paneMargin, metrics::rowGap);
+  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
+QSize ElidedText::minimumSizeHint() const { return {0, fontMetrics().height()}; }
+
+bool ElidedText::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QLabel::event(event);
+  // As a paragraph it wraps, and a path is no markup.
+  const QPoint at = static_cast<QHelpEvent*>(event)->globalPos();
+  QToolTip::showText(at, text().isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text().toHtmlEscaped()), this);
+  return true;
+}
+
+void ElidedText::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+  painter.setPen(palette().color(foregroundRole()));
+  painter.drawText(contentsRect(), static_cast<int>(Qt::AlignVCenter | Qt::AlignLeft) | Qt::TextSingleLine, shown);
+}
+
+NoticeLine::NoticeLine(NoticeOutlets& outlets, Binder& binder, QWidget* surroundings)
+    : QFrame(surroundings), list_(binder.table(outlets.noticeTable, surroundings)) {
+  QAccessible::installFactory(textForAssistiveTools);
+  setObjectName(QStringLiteral("noticeLine"));
   setBackgroundRole(QPalette::Midlight);
   setAutoFillBackground(true);
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  hide();
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(metrics::paneMargin, metrics::grid, metrics::paneMargin, metrics::grid);
+  row->setSpacing(metrics::rowGap);
+  auto* text = new ElidedText(this);
+  binder.text(outlets.noticeText, *text);
+  row->addWidget(text, 1);
+  for (Button* button : {&outlets.noticeButton, &outlets.noticeListButton}) {
+    QPushButton* shown = binder.button(*button, this);
+    row->addWidget(shown);
+    shown->installEventFilter(this);
+  }
+  list_->installEventFilter(this);
+  surroundings->installEventFilter(this);
+  setVisible(!outlets.noticeListButton.isHidden());
 }
 
-void NoticeLine::tell(const QString& text) {
-  text_ = text;
-  elide();
-  // As a paragraph it wraps, and a path is no markup.
-  setToolTip(text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()));
-  setAccessibleName(text);
-  setVisible(!text.isEmpty());
+// The line is there while one of its buttons is; the list lies right above it.
+bool NoticeLine::eventFilter(QObject* watched, QEvent* event) {
+  const QEvent::Type type = event->type();
+  if (type == QEvent::ShowToParent || type == QEvent::HideToParent) {
+    const auto buttons = findChildren<QPushButton*>();
+    const bool isTelling = std::any_of(buttons.begin(), buttons.end(), [](auto* one) { return !isHiddenItself(*one); });
+    if (isTelling == isHiddenItself(*this)) setVisible(isTelling);
+    if (watched == list_) list_->raise();
+  }
+  if (type == QEvent::Resize || type == QEvent::Show || type == QEvent::LayoutRequest) placeList();
+  return QFrame::eventFilter(watched, event);
 }
 
-void NoticeLine::elide() { setText(fontMetrics().elidedText(text_, Qt::ElideRight, contentsRect().width())); }
-
-void NoticeLine::resizeEvent(QResizeEvent* event) {
-  QLabel::resizeEvent(event);
-  elide();
-}
-
-void NoticeLine::changeEvent(QEvent* event) {
-  QLabel::changeEvent(event);
-  if (event->type() == QEvent::FontChange) elide();
+void NoticeLine::placeList() {
+  const int rows = std::clamp(list_->model()->rowCount(), 1, mostRows);
+  const int height = std::min(y(), rows * metrics::rowHeight(list_->fontMetrics()) + 2 * metrics::listPadding);
+  list_->setGeometry(metrics::grid, y() - height, width() - 2 * metrics::grid, height);
 }
 
 }  // namespace tarvo

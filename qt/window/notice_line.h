@@ -2,25 +2,42 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QFrame>
 #include <QLabel>
+
+class QTableView;
 
 namespace tarvo {
 
-// The line at the foot of the main window: one text, elided at its end where the window is too narrow. The whole text
-// is its tool tip and what assistive tools read. It is hidden while it has none, and never widens
-// the window. Not: deciding what is told.
-class NoticeLine : public QLabel {
- public:
-  explicit NoticeLine(QWidget* parent);
-  void tell(const QString& text);
+class Binder;
+struct NoticeOutlets;
 
- private:
-  void elide();
-  QString text_;
+// A text in one line, elided at its end where the line is too short. The whole text is its tool tip and what assistive
+// tools read, which hear of it as of a notification.
+class ElidedText : public QLabel {
+ public:
+  explicit ElidedText(QWidget* parent);
+  QSize minimumSizeHint() const override;
 
  protected:
-  void resizeEvent(QResizeEvent* event) override;
-  void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+};
+
+// The line at the foot of the main window: what happened last, what can be done about it, and a button that opens the
+// list of the latest notices above it. It is hidden while there was nothing to tell, never widens the window and
+// never takes the keyboard. Not: deciding what is told.
+class NoticeLine : public QFrame {
+ public:
+  // The list covers the lower part of the surroundings, which the line stands in.
+  NoticeLine(NoticeOutlets& outlets, Binder& binder, QWidget* surroundings);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void placeList();
+  QTableView* list_;
 };
 
 }  // namespace tarvo

@@ -30,7 +30,7 @@ TEST_F(MainWindowTest, aShortcutIsRefusedWhileASheetOfTheStylePaneIsOpen) {
 TEST_F(MainWindowTest, aMenuAsksItsItemsWhenItOpensAndForgetsWhenItCloses) {
   start();
   auto* bar = window().findChild<QMenuBar*>();
-  QMenu* view = bar->actions()[1]->menu();
+  QMenu* view = bar->actions()[2]->menu();
   EXPECT_TRUE(view->isEmpty());
   ProcessFlags& flags = shell->program().rooms().flags;
   flags.gMenuControllFlag = true;

@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/earlier_styles_panel.h"
+
+#include <utility>
+
+#include "app/notices.h"
+#include "dict/change_words.h"
+#include "platform/services/failure_text.h"
+#include "platform/services/texts.h"
+#include "style/style_changes.h"
+#include "style/style_edits.h"
+#include "style/style_keys.h"
+#include "style/style_store.h"
+
+namespace tarvo {
+
+namespace {
+
+constexpr std::size_t mostLines = 12;  // of what a set would change; a set of another machine may differ in everything
+
+const Array& stylesIn(const Dictionary& root) {
+  static const Array none;
+  const Array* styles = root.array(keyNameStyle);
+  return styles != nullptr ? *styles : none;
+}
+
+std::string joinedLines(const std::vector<std::string>& words, const char* between) {
+  std::string text;
+  for (const std::string& line : words) text += (text.empty() ? "" : between) + line;
+  return text;
+}
+
+}  // namespace
+
+void EarlierStylesPanel::run(const std::string& id) {
+  EarlierStylesOutlets& outlets = with_.outlets;
+  history_.emplace(with_.earlier, stylesIn(with_.store.root()));
+  outlets.earlierStylesTable.deselectAll();
+  outlets.earlierStylesTable.reloadData();
+  if (const int row = rowOfSet(id); row >= 0) {
+    outlets.earlierStylesTable.selectRows({row});
+    outlets.earlierStylesTable.scrollRowToVisible(row);
+  }
+  selectionDidChange(outlets.earlierStylesTable);
+  with_.windows.runModalForWindow(outlets.earlierStylesWindow);
+  with_.windows.orderOut(outlets.earlierStylesWindow);
+  history_.reset();
+  outlets.earlierStylesTable.reloadData();
+}
+
+int EarlierStylesPanel::rowOfSet(const std::string& id) {
+  for (std::size_t row = 0; row < history_->sets().size(); ++row) {
+    const EarlierSet& set = history_->sets()[row];
+    if (id.empty() ? set.kind != ChangeKind::unreadable : set.id == id) return static_cast<int>(row);
+  }
+  return -1;
+}
+
+std::optional<std::size_t> EarlierStylesPanel::chosenRow() const {
+  const int row = with_.outlets.earlierStylesTable.selectedRow();
+  if (!history_ || row < 0 || std::cmp_greater_equal(row, history_->sets().size())) return std::nullopt;
+  return static_cast<std::size_t>(row);
+}
+
+void EarlierStylesPanel::selectionDidChange(TableView&) {
+  const std::optional<std::size_t> row = chosenRow();
+  chosen_.reset();
+  std::string text = row ? std::string() : with_.texts.localized("History.none");
+  if (row) {
+    Result<Dictionary> root = with_.earlier.read(history_->sets()[*row]);
+    text = root ? effectOf(*root) : failureText(root.error(), with_.texts);
+    if (root) chosen_ = std::move(*root);
+  }
+  const std::optional<Dictionary> shown = with_.store.getStyleAtIndex(with_.stylePopup.indexOfSelectedItem());
+  with_.outlets.earlierStylesText.setStringValue(text);
+  with_.outlets.restoreAllButton.setEnabled(chosen_.has_value());
+  with_.outlets.restoreStyleButton.setEnabled(chosen_.has_value() && shown.has_value());
+  with_.outlets.restoreStyleButton.setLabel(
+      filledIn(with_.texts.localized("History.restoreStyle"), shown ? styleName(*shown) : std::string()));
+}
+
+std::string EarlierStylesPanel::effectOf(const Dictionary& root) const {
+  std::vector<std::string> words =
+      changesInWords(styleChanges(stylesIn(with_.store.root()), stylesIn(root)), with_.texts);
+  if (words.empty()) return with_.texts.localized("History.same");
+  if (words.size() > mostLines) {
+    const std::size_t more = words.size() - mostLines;
+    words.resize(mostLines);
+    words.push_back(filledIn(with_.texts.localized("History.more"), std::to_string(more)));
+  }
+  return with_.texts.localized("History.would") + "\n" + joinedLines(words, "\n");
+}
+
+void EarlierStylesPanel::restoreAll() {
+  const std::optional<std::size_t> row = chosenRow();
+  if (!row || !chosen_) return;
+  const std::string time = localText(history_->sets()[*row].time);
+  restoreStyles(with_.store, *chosen_);
+  didRestore("Notice.restoredAll", time);
+}
+
+void EarlierStylesPanel::restoreStyle() {
+  const int index = with_.stylePopup.indexOfSelectedItem();
+  const std::optional<Dictionary> shown = with_.store.getStyleAtIndex(index);
+  if (!chosen_ || !shown) return;
+  const std::string name = styleName(*shown);
+  if (!tarvo::restoreStyle(with_.store, index, *chosen_, with_.standardName)) {
+    return with_.outlets.earlierStylesText.setStringValue(filledIn(with_.texts.localized("History.noStyle"), name));
+  }
+  didRestore("Notice.restoredStyle", name);
+}
+
+void EarlierStylesPanel::didRestore(const std::string& key, const std::string& value) {
+  with_.showStyles();
+  with_.notices.tell({.text = filledIn(with_.texts.localized(key), value), .offer = Notice::Offer::undo});
+  close();
+}
+
+int EarlierStylesPanel::numberOfRowsInTableView(TableView&) {
+  return history_ ? static_cast<int>(history_->sets().size()) : 0;
+}
+
+CellValue EarlierStylesPanel::objectValueForTableColumn(TableView&, std::string_view column, int row) {
+  CellValue cell;
+  if (!history_ || row < 0 || std::cmp_greater_equal(row, history_->sets().size())) return cell;
+  const std::size_t place = static_cast<std::size_t>(row);
+  const EarlierSet& set = history_->sets()[place];
+  if (column == history_columns::time) cell.text = localText(set.time);
+  if (column == history_columns::kind)
+    cell.text = with_.texts.localized("History.kind." + std::string(nameOf(set.kind)));
+  if (column == history_columns::changed) {
+    const HistoryEntry& entry = history_->entry(place);
+    cell.text = entry.damage ? failureCauseText(*entry.damage, with_.texts)
+                             : joinedLines(changesInWords(entry.changes, with_.texts), "; ");
+  }
+  return cell;
+}
+
+}  // namespace tarvo

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/style_joining.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/notices.h"
+#include "app/undo_commands.h"
+#include "dict/change_words.h"
+#include "platform/services/failure_text.h"
+#include "platform/services/panels.h"
+#include "platform/services/texts.h"
+#include "style/style_changes.h"
+#include "style/style_history.h"
+#include "style/style_keys.h"
+#include "style/style_store.h"
+
+namespace tarvo {
+
+namespace {
+
+Array stylesIn(const Dictionary& root) {
+  const Array* styles = root.array(keyNameStyle);
+  return styles != nullptr ? *styles : Array();
+}
+
+// Each tool keeps its style, wherever that is now; the tool of a style that is gone takes the first one.
+Dictionary movedChoices(const Dictionary& selection, const std::vector<std::optional<std::size_t>>& places) {
+  Dictionary moved = selection;
+  for (const auto& [tool, style] : selection.entries()) {
+    if (!style.hasIntegerValue()) continue;
+    const int index = style.integerValue();
+    if (index < 0 || std::cmp_greater_equal(index, places.size())) continue;
+    moved.set(tool, static_cast<int>(places[static_cast<std::size_t>(index)].value_or(0)));
+  }
+  return moved;
+}
+
+bool keepsOrder(const MergedStyles& joined) {
+  for (std::size_t place = 0; place < joined.placesOfMine.size(); ++place) {
+    if (joined.placesOfMine[place] != place) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+Result<StyleJoining::Sets> StyleJoining::setsFor(const std::string& id) const {
+  if (id.empty()) {
+    Result<Dictionary> theirs = with_.store.readPresent();
+    if (!theirs) return theirs.error();
+    return Sets{.base = with_.store.lastStored(), .theirs = std::move(*theirs)};
+  }
+  const std::optional<EarlierSet> set = setWithId(with_.earlier, id);
+  const std::optional<StyleStore::ForeignSet>& foreign = with_.store.foreign();
+  if (!set || !foreign) return Failure{with_.earlier.folder().text(), Attempt::read, Reason::noStyle};
+  Result<Dictionary> theirs = with_.earlier.read(*set);
+  if (!theirs) return theirs.error();
+  return Sets{.base = foreign->base, .theirs = std::move(*theirs)};
+}
+
+void StyleJoining::join(const std::string& id) {
+  const Result<Sets> sets = setsFor(id);
+  if (!sets) return with_.notices.tell({.text = failureText(sets.error(), with_.texts)});
+  const Array base = stylesIn(sets->base), mine = stylesIn(with_.store.root()), theirs = stylesIn(sets->theirs);
+  MergedStyles joined =
+      mergeStyles({.base = base, .mine = mine, .theirs = theirs, .mineIsNewer = true}, with_.knowledge);
+  const Texts& texts = with_.texts;
+  const int answer = with_.panels.runAlertPanel(
+      {.title = texts.localized("JoinHeader"),
+       .message = effectOf(joined.styles, joined.notes),
+       .buttons = {texts.localized("JoinButton"), texts.localized("JoinCancel"), texts.localized("JoinEarlier")},
+       .details = {},
+       .cancelButton = 1});
+  if (answer == 0) store(sets->theirs, std::move(joined));
+  if (answer == 2) with_.showEarlier(id);
+}
+
+std::string StyleJoining::effectOf(const Array& joined, const std::vector<MergeNote>& notes) const {
+  const auto words = changesInWords(styleChanges(stylesIn(with_.store.root()), joined), with_.texts);
+  constexpr std::size_t mostLines = 8;
+  std::string text = with_.texts.localized(words.empty() ? "JoinNothing" : "JoinMessage");
+  for (std::size_t line = 0; line < std::min(words.size(), mostLines); ++line) text += "\n" + words[line];
+  if (words.size() > mostLines) {
+    text += "\n" + filledIn(with_.texts.localized("History.more"), std::to_string(words.size() - mostLines));
+  }
+  const auto clashes = std::ranges::count(notes, MergeNote::Kind::otherValue, &MergeNote::kind);
+  if (clashes > 0) text += "\n" + filledIn(with_.texts.localized("JoinClashes"), std::to_string(clashes));
+  return text;
+}
+
+void StyleJoining::store(const Dictionary& theirs, MergedStyles joined) {
+  Dictionary root = with_.store.root();
+  if (const Dictionary* selection = root.dictionary(keyNameSelection)) {
+    root.set(keyNameSelection, movedChoices(*selection, joined.placesOfMine));
+  } else if (const Dictionary* other = theirs.dictionary(keyNameSelection)) {
+    root.set(keyNameSelection, *other);
+  }
+  const bool isInOrder = keepsOrder(joined);
+  root.set(keyNameStyle, std::move(joined.styles));
+  with_.undo.stylesCameFromElsewhere(isInOrder);
+  with_.store.replaceRoot(std::move(root), ChangeKind::merge);
+  with_.showStyles();
+  with_.notices.tell({.text = with_.texts.localized("Notice.joined"), .offer = Notice::Offer::undo});
+}
+
+}  // namespace tarvo

@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#include "app/style_news.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/notices.h"
+#include "dict/change_words.h"
+#include "dict/display_names.h"
+#include "platform/services/failure_text.h"
+#include "platform/services/run_loop.h"
+#include "platform/services/texts.h"
+#include "style/style_changes.h"
+#include "style/undo_steps.h"
+
+namespace tarvo {
+
+namespace {
+
+using Kind = StyleChange::Kind;
+
+// The dictionaries that the change has taken out, as people call them; "" when it did anything else.
+std::string removedDictionaries(const StoredChange& change, const Texts& texts) {
+  if (change.what != StoredChange::What::record) return "";
+  std::string names;
+  for (const StyleChange& one : recordChanges(change.before, change.after)) {
+    if (one.kind != Kind::dictionaryRemoved) return "";
+    names += (names.empty() ? "" : ", ") + dictionaryDisplayName(one.key, texts);
+  }
+  return names;
+}
+
+std::string inOneLine(const std::vector<std::string>& words) {
+  std::string line;
+  for (const std::string& one : words) line += (line.empty() ? "" : "; ") + one;
+  return line;
+}
+
+bool isServiceMissing(const Failure& failure) { return failure.cause == Reason::noService; }
+
+}  // namespace
+
+StyleNews::StyleNews(const Collaborators& with) : with_(with) {
+  with_.store.didChange = [this](const StoredChange& change) { didChange(change); };
+  with_.store.didWrite = [this] { didWrite(); };
+  with_.store.didRegister = [this] { didRegister(); };
+}
+
+StyleNews::~StyleNews() {
+  with_.store.didChange = nullptr;
+  with_.store.didWrite = nullptr;
+  with_.store.didRegister = nullptr;
+}
+
+void StyleNews::didLoad() {
+  const std::optional<Failure>& unread = with_.store.unread();
+  if (!unread) return;
+  with_.notices.tell(
+      {.text = filledIn(with_.texts.localized("Notice.unreadable"), failureCauseText(*unread, with_.texts)),
+       .offer = Notice::Offer::restore});
+}
+
+void StyleNews::didChange(const StoredChange& change) {
+  const bool isStep = with_.steps.note(change);
+  const Notice* shown = with_.notices.shown();
+  // The offer was to take back the step before this one.
+  if (isStep && shown != nullptr && shown->offer == Notice::Offer::undo) with_.notices.dismiss();
+  const std::string removed = removedDictionaries(change, with_.texts);
+  if (change.kind == ChangeKind::repair && !removed.empty()) {
+    const auto words = changesInWords(styleChanges(Array{change.before}, Array{change.after}), with_.texts);
+    with_.notices.tell({.text = filledIn(with_.texts.localized("Notice.repaired"), inOneLine(words))});
+  } else if (isStep && change.kind == ChangeKind::edit && !removed.empty()) {
+    with_.notices.tell(
+        {.text = filledIn(with_.texts.localized("Notice.removed"), removed), .offer = Notice::Offer::undo});
+  }
+}
+
+void StyleNews::didWrite() {
+  const std::optional<Failure>& unsaved = with_.store.unsaved();
+  with_.notices.setStanding(
+      unsaved ? std::optional(Notice{.text = with_.texts.localized("NotSavedYet") + failureText(*unsaved, with_.texts)})
+              : std::nullopt);
+  tellForeignSet();
+  thinLater();
+  const Replaced& replaced = with_.store.replaced();
+  if (replaced.unkept && !std::exchange(toldUnkept_, true)) {
+    with_.notices.tellAside(
+        {.text = filledIn(with_.texts.localized("Notice.unkept"), failureText(*replaced.unkept, with_.texts))});
+  }
+}
+
+void StyleNews::thinLater() {
+  constexpr int writesBetween = 64;
+  if (writes_++ % writesBetween != 0) return;
+  with_.runLoop.post([this, alive = std::weak_ptr(alive_)] {
+    if (!alive.expired()) with_.earlier.thin();
+  });
+}
+
+void StyleNews::tellForeignSet() {
+  const std::optional<StyleStore::ForeignSet>& foreign = with_.store.foreign();
+  if (!foreign || foreign->kept == toldForeign_) return;
+  toldForeign_ = foreign->kept;
+  toldElsewhere_ = false;
+  const std::optional<EarlierSet> set = earlierSetNamed(foreign->kept);
+  with_.notices.tell({.text = with_.texts.localized("Notice.foreignReplaced"),
+                      .offer = set ? Notice::Offer::merge : Notice::Offer::none,
+                      .earlierSet = set ? set->id : std::string()});
+}
+
+void StyleNews::look() {
+  if (!with_.store.isChangedElsewhere()) {
+    toldElsewhere_ = false;
+  } else if (!std::exchange(toldElsewhere_, true)) {
+    with_.notices.tell({.text = with_.texts.localized("Notice.foreign"), .offer = Notice::Offer::merge});
+  }
+}
+
+void StyleNews::didRegister() {
+  const std::optional<Result<>>& outcome = with_.store.registration();
+  if (!outcome) return;
+  const bool isTold = !*outcome && !isServiceMissing(outcome->error());
+  const std::string cause = isTold ? failureCauseText(outcome->error(), with_.texts) : std::string();
+  if (cause == toldService_) return;
+  toldService_ = cause;
+  with_.notices.tellAside({.text = isTold ? filledIn(with_.texts.localized("Notice.service"), cause)
+                                          : with_.texts.localized("Notice.serviceAgain")});
+}
+
+}  // namespace tarvo

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+
+// What happens to the styles without a question becomes notices; what the user does to them becomes steps to take back.
+// Duty: listen to the store and say it once; have old earlier sets let go of, between the edits. Not: showing.
+namespace tarvo {
+
+class EarlierStyles;
+class Notices;
+class RunLoop;
+class StyleStore;
+class Texts;
+class UndoSteps;
+struct StoredChange;
+
+class StyleNews {
+ public:
+  // Not owned; the store is listened to as long as this lives.
+  struct Collaborators {
+    StyleStore& store;
+    EarlierStyles& earlier;
+    RunLoop& runLoop;
+    UndoSteps& steps;
+    Notices& notices;
+    const Texts& texts;
+  };
+  explicit StyleNews(const Collaborators& with);
+  ~StyleNews();
+  StyleNews(const StyleNews&) = delete;
+  StyleNews& operator=(const StyleNews&) = delete;
+
+  // The styles were loaded: tells when the user's could not be read.
+  void didLoad();
+  // The window has become the active one: tells when another program has changed the style file.
+  void look();
+
+ private:
+  void didChange(const StoredChange& change);
+  void didWrite();
+  void didRegister();
+  void tellForeignSet();
+  void thinLater();
+  Collaborators with_;
+  std::string toldForeign_, toldService_;
+  bool toldUnkept_ = false, toldElsewhere_ = false;
+  int writes_ = 0;
+  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);  // the loop may outlive this
+};
+
+}  // namespace tarvo
