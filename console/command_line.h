@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "app/common_options.h"
+#include "app/command_line/common_options.h"
 #include "console/verbs/command.h"
 
 // The command line of tarvoctl: its verbs and their words.

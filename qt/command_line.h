@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "app/common_options.h"
+#include "app/command_line/common_options.h"
 
 namespace tarvo {
 

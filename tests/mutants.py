@@ -207,9 +207,9 @@ MUTANTS = [
            "screens that are wide enough get the caution"),
     Mutant("platform/services/locations.cpp", "files.isAbsent(below) && ", "",
            "applications of the product are looked for outside it"),
-    Mutant("app/common_options.cpp", "if (isFirst ? !isLetter", "if (isFirst ? !isLetter && !isDigit",
+    Mutant("app/command_line/common_options.cpp", "if (isFirst ? !isLetter", "if (isFirst ? !isLetter && !isDigit",
            "a name is taken that no session bus has"),
-    Mutant("app/usage_error.cpp", "b.starts_with(a)", "a == b", "half a word is not completed"),
+    Mutant("app/command_line/usage_error.cpp", "b.starts_with(a)", "a == b", "half a word is not completed"),
     # the console
     Mutant("console/script/script_reader.cpp", "text_[at_] == '#'", "false", "comments of scripts are run"),
     Mutant("console/script/interpreter.cpp", 'if (session_.panels().hasAnswers()) fail(line, "an answer is left over");', "",

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "app/usage_error.h"
+#include "app/command_line/usage_error.h"
 #include "style/style_edits.h"
 
 namespace tarvo {

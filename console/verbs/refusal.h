@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-#include "app/usage_error.h"
+#include "app/command_line/usage_error.h"
 #include "console/verbs/command.h"
 #include "platform/services/result.h"
 

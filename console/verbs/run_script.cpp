@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "console/verbs/run_script.h"
 
-#include "app/common_options.h"
+#include "app/command_line/common_options.h"
 #include "console/script/interpreter.h"
 #include "console/script/memory_shell.h"
 #include "console/verbs/refusal.h"

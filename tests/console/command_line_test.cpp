@@ -6,7 +6,7 @@
 
 #include "tests/console/verbs/verb_test.h"
 
-// The words of tarvoctl as its user meets them; the rules are tested with app/command_words.
+// The words of tarvoctl as its user meets them; the rules are tested with app/command_line/command_words.
 namespace tarvo::test {
 namespace {
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "app/usage_error.h"
+#include "app/command_line/usage_error.h"
 
 #include <algorithm>
 #include <numeric>

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "app/command_words.h"
+#include "app/command_line/command_words.h"
 #include "app/product.h"
 #include "platform/services/texts.h"
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "app/common_options.h"
+#include "app/command_line/common_options.h"
 
 namespace tarvo {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "app/command_table.h"
+#include "app/command_line/command_table.h"
 
 // Reads the words of a command line by a table, and explains the table. Words are bytes, whatever the locale.
 namespace tarvo {

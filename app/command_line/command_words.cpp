@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "app/command_words.h"
+#include "app/command_line/command_words.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>

@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-#include "app/usage_error.h"
+#include "app/command_line/usage_error.h"
 
 // What a program takes on its command line, as tables: options, verbs and the arguments of verbs.
 // Duty: say it, check one value, put it where its row says. Not: telling options from other words (command_words.h),
