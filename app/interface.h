@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "app/earlier_styles_panel.h"
-#include "app/notice_board.h"
+#include "app/history/earlier_styles_panel.h"
+#include "app/history/notice_board.h"
 #include "app/toolbar.h"
 #include "dict/dictionary_list_editing.h"
 #include "dict/new_dictionary.h"

@@ -5,14 +5,14 @@
 #include <functional>
 #include <string>
 
+#include "app/history/notices.h"
+#include "app/history/style_joining.h"
+#include "app/history/style_news.h"
+#include "app/history/undo_commands.h"
 #include "app/interface.h"
-#include "app/notices.h"
 #include "app/services.h"
 #include "app/style_display.h"
-#include "app/style_joining.h"
-#include "app/style_news.h"
 #include "app/tool_chooser.h"
-#include "app/undo_commands.h"
 #include "app/user_files.h"
 #include "dict/dictionary_list_editing.h"
 #include "dict/dictionary_loading.h"

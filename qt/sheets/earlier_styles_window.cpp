@@ -10,7 +10,7 @@
 #include <QScrollArea>
 #include <QTableView>
 
-#include "app/earlier_styles_panel.h"
+#include "app/history/earlier_styles_panel.h"
 #include "qt/bind/binder.h"
 #include "qt/look/metrics.h"
 

@@ -13,7 +13,7 @@
 #include <QToolTip>
 #include <algorithm>
 
-#include "app/notice_board.h"
+#include "app/history/notice_board.h"
 #include "qt/bind/binder.h"
 #include "qt/bind/control_view.h"
 #include "qt/look/metrics.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "app/notices.h"
+#include "app/history/notices.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "app/undo_commands.h"
+#include "app/history/undo_commands.h"
 
 #include <string>
 #include <utility>
 
-#include "app/notices.h"
+#include "app/history/notices.h"
 #include "app/panes.h"
 #include "dict/change_words.h"
 #include "platform/controls/windows.h"

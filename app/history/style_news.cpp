@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "app/style_news.h"
+#include "app/history/style_news.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "app/notices.h"
+#include "app/history/notices.h"
 #include "dict/change_words.h"
 #include "dict/display_names.h"
 #include "platform/services/failure_text.h"

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "app/notices.h"
+#include "app/history/notices.h"
 #include "platform/controls/controls.h"
 #include "platform/controls/table_view.h"
 

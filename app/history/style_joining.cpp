@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "app/style_joining.h"
+#include "app/history/style_joining.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "app/notices.h"
-#include "app/undo_commands.h"
+#include "app/history/notices.h"
+#include "app/history/undo_commands.h"
 #include "dict/change_words.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/panels.h"

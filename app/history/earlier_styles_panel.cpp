@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "app/earlier_styles_panel.h"
+#include "app/history/earlier_styles_panel.h"
 
 #include <utility>
 
-#include "app/notices.h"
+#include "app/history/notices.h"
 #include "dict/change_words.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/texts.h"

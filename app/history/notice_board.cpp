@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "app/notice_board.h"
+#include "app/history/notice_board.h"
 
 #include <array>
 #include <utility>
