@@ -137,7 +137,7 @@ MUTANTS = [
            "names keep the blanks around them"),
     Mutant("style/style_store.cpp", "if (!awakening_) registerStyles();", "registerStyles();",
            "styles that were just pulled are sent back"),
-    Mutant("style/style_store.cpp", "if (!je->contains(key)) je->set(key, value);", "je->set(key, value);",
+    Mutant("style/style_store.cpp", "if (je->contains(key)) continue;", "if (je->empty()) continue;",
            "each load resets the options of a direction"),
     Mutant("style/style_file.cpp", "encoded_[index].clear();", "(void)index;",
            "an edit is shown and not saved"),

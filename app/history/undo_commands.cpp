@@ -27,30 +27,32 @@ std::string styleOf(const StoredChange& step) {
 
 UndoCommands::UndoCommands(Collaborators with) : with_(std::move(with)) {
   with_.steps.didChange = [this] {
-    nameCommand(Way::undo);
-    nameCommand(Way::redo);
+    with_.undoMenu.setTitle(titleOf(Way::undo));
+    with_.redoMenu.setTitle(titleOf(Way::redo));
   };
+}
+
+bool UndoCommands::isCovered() const {
+  return with_.flags.gMenuControllFlag || with_.windows.covers().hasSheet(with_.myWindow);
 }
 
 bool UndoCommands::allows(Way way) const {
   const bool isInView = paneForTag(with_.panes.selectedPage()) == Pane::style;
-  return isInView && !with_.flags.gMenuControllFlag && !with_.windows.covers().hasSheet(with_.myWindow) &&
-         with_.steps.state(way) == State::ready;
+  return isInView && !isCovered() && with_.steps.state(way) == State::ready;
 }
 
-void UndoCommands::nameCommand(Way way) {
-  MenuItem& command = way == Way::undo ? with_.undoMenu : with_.redoMenu;
+std::string UndoCommands::titleOf(Way way) const {
   const StoredChange* step = with_.steps.next(way);
-  if (step == nullptr) return command.setTitle(command.label());
-  std::string title =
+  if (step == nullptr) return (way == Way::undo ? with_.undoMenu : with_.redoMenu).label();
+  const std::string title =
       filledIn(with_.texts.localized(way == Way::undo ? "Undo.step" : "Redo.step"), nameOfEdit(*step, with_.texts));
   // Who meets the command switched off reads or hears why.
-  if (with_.steps.state(way) == State::changed) title += with_.texts.localized("Undo.changed");
-  command.setTitle(std::move(title));
+  return with_.steps.state(way) == State::changed ? title + with_.texts.localized("Undo.changed") : title;
 }
 
 void UndoCommands::take(Way way) {
-  if (!allows(way)) return;
+  if (isCovered() || with_.steps.next(way) == nullptr) return;
+  if (with_.steps.state(way) != State::ready) return with_.notices.tell({.text = titleOf(way)});
   const StoredChange step = *with_.steps.next(way);
   with_.steps.take(way);
   with_.showStyles();

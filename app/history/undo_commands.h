@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "style/undo_steps.h"
 
@@ -37,16 +38,19 @@ class UndoCommands {
   };
   explicit UndoCommands(Collaborators with);
 
+  // Also from a notice, whichever pane is in view. A step that does not find what it left behind is not taken, and that
+  // is told.
   void undo() { take(Way::undo); }
   void redo() { take(Way::redo); }
-  // While the style pane is in view, no sheet hangs over it and the next step finds what it left behind.
+  // Whether the menu offers it: while the style pane is in view, no sheet hangs over it and the step can be taken.
   bool allows(Way way) const;
   // The styles are others than those that the steps were made on. keepsOrder: each still has its place.
   void stylesCameFromElsewhere(bool keepsOrder);
 
  private:
   void take(Way way);
-  void nameCommand(Way way);
+  bool isCovered() const;
+  std::string titleOf(Way way) const;
   Collaborators with_;
 };
 

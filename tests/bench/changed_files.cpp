@@ -12,6 +12,7 @@ FileIdentities fileIdentities(const std::string& folder) {
   FileIdentities found;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
     struct stat status{};
+    if (entry.path().parent_path().filename() == "Tarvo Styles") continue;  // names that a former file got
     if (stat(entry.path().c_str(), &status) == 0 && S_ISREG(status.st_mode)) found[entry.path()] = status.st_ino;
   }
   return found;

@@ -25,8 +25,9 @@
 // edit_bench KIND ROOT HOME ENGINE FLOOR COUNT
 //
 // KIND is "gesture", an option chosen in a program that runs, or "verb", all that "style set" does on the first style
-// but for the start of its process. ENGINE is "local" or "none", FLOOR a folder on the same disk. Prints the medians in
-// milliseconds and the number of files that one edit replaces: "EDIT FLOOR FILES".
+// but for the start of its process, or "keeping", the gesture in HOME beside the same gesture in the home FLOOR, where
+// something stands in the way of keeping what is replaced. ENGINE is "local" or "none", FLOOR a folder on the same
+// disk. Prints the medians in milliseconds and the number of files that one edit replaces: "EDIT FLOOR FILES".
 namespace {
 
 using namespace tarvo;
@@ -152,6 +153,18 @@ void measure(EditBench bench, int count) {
   bench.print();
 }
 
+// How long one edit takes beside another one.
+void compare(const Edit& edit, const Edit& other, int count) {
+  Times edits, others;
+  for (int i = -3; i < count; ++i) {
+    const double here = milliseconds(edit), there = milliseconds(other);
+    if (i < 0) continue;  // what warms both up
+    edits.push_back(here);
+    others.push_back(there);
+  }
+  std::printf("%.4f %.4f 1\n", median(edits), median(others));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -160,7 +173,12 @@ int main(int argc, char** argv) {
     const std::string kind = argv[1], root = argv[2], floor = argv[5];
     Product product(optionsFor(root, argv[3], argv[4]));
     const std::unique_ptr<Engine> engine = product.makeEngine(product.files());
-    if (kind == "gesture") {
+    if (kind == "keeping") {
+      Product other(optionsFor(root, floor, argv[4]));
+      const std::unique_ptr<Engine> otherEngine = other.makeEngine(other.files());
+      Gesture gesture(product, *engine), otherGesture(other, *otherEngine);
+      compare(std::ref(gesture), std::ref(otherGesture), std::atoi(argv[6]));
+    } else if (kind == "gesture") {
       Gesture gesture(product, *engine);
       measure({root, floor, false, std::ref(gesture)}, std::atoi(argv[6]));
     } else {

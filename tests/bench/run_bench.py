@@ -34,6 +34,7 @@ PICKER_BENCH = BUILD / "tests/bench/picker_bench"
 REQUEST_BENCH = BUILD / "tests/bench/request_bench"
 REGISTER_BENCH = BUILD / "tests/bench/register_bench"
 HANG_BENCH = BUILD / "tests/bench/hang_bench"
+EARLIER_STYLES = "Library/Application Support/Wordhaven/Tarvo Styles"
 SEED = "Library/Application Support/Wordhaven/TarvoEiwa/TarvoStyle2009.plist"
 USER_STYLES = "Library/Preferences/Wordhaven/TarvoStyle2009.plist"
 
@@ -165,6 +166,20 @@ def give_styles(root, count):
         plistlib.dump(styles, file)
 
 
+def keeping_row():
+    root, other = fresh_root("root"), WORK / "floor"
+    give_styles(root, 100)
+    shutil.rmtree(other, ignore_errors=True)
+    shutil.copytree(home_of(root), other)
+    (other / EARLIER_STYLES).parent.mkdir(parents=True, exist_ok=True)
+    (other / EARLIER_STYLES).write_bytes(b"")  # a file where a folder must be
+    command = [EDIT_BENCH, "keeping", root, home_of(root), "none", other, 5 * EDITS]
+    done = subprocess.run([str(word) for word in command], check=True, stdout=subprocess.PIPE, text=True)
+    here, bare, _ = done.stdout.split()
+    print_row("edit that keeps the former styles", float(here), float(bare), "ms", "at most 1.05x",
+              float(here) <= 1.05 * float(bare))
+
+
 def edit_rows():
     for kind, engine in itertools.product(("gesture", "verb"), ("local", "none")):
         root, floor = fresh_root("root"), WORK / "floor"
@@ -263,6 +278,7 @@ def main(arguments):
         start_rows(wanted)
     if "edit" in wanted:
         edit_rows()
+        keeping_row()
     if "scan" in wanted:
         scan_rows()
     if "picker" in wanted:
