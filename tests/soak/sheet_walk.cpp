@@ -150,7 +150,8 @@ bool SheetWalk::endOneSheet() {
 void SheetWalk::leaveModalRun() {
   if (endOneSheet()) return clock_.settle();
   Interface& all = interface();
-  for (Button* button : {&all.picker.cancelButton, &all.exchange.exportCloseButton, &all.manager.displayCloseButton}) {
+  for (Button* button : {&all.picker.cancelButton, &all.exchange.exportCloseButton, &all.manager.displayCloseButton,
+                         &all.earlier.earlierStylesCloseButton}) {
     if (program().windows().isReachable(*button)) return shell_.hand().press(*button);
   }
 }
