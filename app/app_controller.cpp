@@ -58,10 +58,8 @@ void AppController::showStyles() {
 }
 
 void AppController::createDictControllers() {
-  constexpr DictionaryKind technical = DictionaryKind::technical;
   for (const Direction direction : bothDirections) {
-    rooms_.lists.getActiveDictController(direction).initializeDictController(
-        technical, dictionaryFolder(services_.paths, technical, direction), direction);
+    rooms_.lists.setUp(direction, dictionaryFolder(services_.paths, DictionaryKind::technical, direction));
   }
   interface_.lists.ejTDTable.registerForDraggedTypes({"row"});
   interface_.lists.jeTDTable.registerForDraggedTypes({"row"});

@@ -11,7 +11,9 @@
 
 namespace tarvo {
 
-Rooms::Rooms(With with) : with_(std::move(with)) {}
+Rooms::Rooms(With with) : with_(std::move(with)) {
+  unreadFolders.tell = [this](const std::string& sentence) { notices.tell({.text = sentence}); };
+}
 
 Rooms::~Rooms() = default;
 

@@ -21,6 +21,7 @@
 #include "dict/new_dictionary.h"
 #include "dict/running_application_guard.h"
 #include "dict/tech_dic_controller.h"
+#include "dict/unread_folders.h"
 #include "dict/user_list_rows.h"
 #include "dict/user_lists.h"
 #include "install/addin_lists.h"
@@ -100,11 +101,12 @@ struct Rooms {
                    &earlierStyles};
   OptionEditing options{store, interface_.options, texts_};
   RunningApplicationGuard guard{services_.workspace, services_.paths};
-  DictionaryListEditing lists{store, stylePopup_, interface_.lists, texts_, dictionaryServices_, guard};
+  UnreadFolders unreadFolders{texts_};
+  DictionaryListEditing lists{store, stylePopup_, interface_.lists, texts_, dictionaryServices_, guard, unreadFolders};
   DictionaryTable dictionaryTable{lists, texts_};
   MedicalDictionaries medical{services_.files, locations_, texts_, defaults_, store};
   UserLists userLists{dictionaryServices_};
-  UserListRows userListRows{interface_.userLists, userLists, dictionaryServices_};
+  UserListRows userListRows{interface_.userLists, userLists, dictionaryServices_, unreadFolders};
   TechDicController picker{{interface_.picker, windows_, services_.workspace, alerts, guard, with_.notifications},
                            nameServices_};
   DictionaryLoading loading{lists, picker, request_, alerts, guard, texts_};

@@ -33,8 +33,9 @@ void StyleDisplay::showList(int index, Dictionary& record, Direction direction) 
   if (stored != nullptr) {
     controller.updateDictionary(namesOf(*stored));
     const std::optional<Names> loaded = controller.selectedDictionary();
-    // Nothing loaded at all leaves the stored list alone: the dictionaries' disk may just be away.
-    if (loaded && loaded->size() < stored->size()) {
+    // Nothing loaded at all leaves the stored list alone: the dictionaries' disk may just be away. A folder that could
+    // not be read says nothing of what is gone.
+    if (loaded && !controller.unread() && loaded->size() < stored->size()) {
       options->set(keyNameTD, arrayOf(*loaded));
       store_.setStyle(index, record, ChangeKind::repair);
     }

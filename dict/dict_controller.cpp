@@ -29,36 +29,40 @@ bool DictController::initializeDictController(DictionaryKind kind, DiskPath dicP
   kind_ = kind;
   dicFolderPath_ = std::move(dicPath);
   direction_ = direction;
+  handedIn_.clear();
   return initializeDictionary();
 }
 
 bool DictController::initializeDictionary() {
   const DictionaryScan scan{services_.files, services_.texts, services_.locations, dicFolderPath_, kind_, direction_};
+  DictionaryScan::Found found = scan.find();
+  unread_ = std::move(found.unread);
   entries_.emplace();
   positions_.clear();
-  for (std::string& name : scan.names()) {
+  for (std::string& name : found.names) {
     positions_.try_emplace(caseFolded(name), entries_->size());
     entries_->push_back({.name = std::move(name)});
   }
   return !entries_->empty();
 }
 
-DictionaryEntry* DictController::entryNamed(const std::string& name) {
+std::optional<std::size_t> DictController::entryNamed(const std::string& name) const {
   const auto found = positions_.find(caseFolded(name));
-  return !entries_ || found == positions_.end() ? nullptr : &(*entries_)[found->second];
+  return found == positions_.end() ? std::nullopt : std::optional(found->second);
 }
 
 void DictController::updateDictionary(Names names) {
   if (!entries_) return;
   clearInformation();
+  handedIn_ = names;
   for (std::size_t i = 0; i < names.size(); ++i) {
     // Without an entry there is nothing to mark, and only a common dictionary's file may have to be made.
-    if (entryNamed(names[i]) == nullptr && !isCommonName(names[i])) continue;
+    if (!entryNamed(names[i]) && !isCommonName(names[i])) continue;
     if (!isExitsDic(names[i])) continue;
     // Looked up anew: making a common dictionary has rescanned.
-    if (DictionaryEntry* entry = entryNamed(names[i])) {
-      entry->check = true;
-      entry->order = static_cast<int>(i);
+    if (const std::optional<std::size_t> entry = entryNamed(names[i])) {
+      (*entries_)[*entry].check = true;
+      (*entries_)[*entry].order = static_cast<int>(i);
     }
   }
 }
@@ -120,12 +124,13 @@ void DictController::exchangeDictionary(int position, int downDicNum) {
 }
 
 void DictController::updateAllDictionary() {
-  Names names = loadedNames();
+  Names names = namesToKeep();
   initializeDictionary();
   updateDictionary(std::move(names));
 }
 
 void DictController::clearInformation() {
+  handedIn_.clear();
   if (!entries_) return;
   for (DictionaryEntry& entry : *entries_) {
     entry.check = false;
@@ -161,6 +166,9 @@ bool DictController::isBeingCreated(const std::string& name) const {
 }
 
 bool DictController::isExitsDic2(const std::string& name) const {
+  // A folder that could be scanned and cannot be listed now still has the file of the entry, whatever its letter case.
+  const std::optional<std::size_t> entry = entryNamed(name);
+  if (entry && !services_.files.isAbsent(getDicPath((*entries_)[*entry].name))) return true;
   return existsIgnoringCase(services_.files, getDicPath(name));
 }
 
@@ -187,7 +195,7 @@ Result<> DictController::createDictionary(const std::string& name, bool& isLoade
 }
 
 bool DictController::addCreatedDictionary(const std::string& name) {
-  Names names = loadedNames();
+  Names names = namesToKeep();
   const bool hasRoom = !checkMaxOver(Names{name});
   if (hasRoom) names.push_back(name);
   initializeDictionary();

@@ -15,8 +15,9 @@
 // The model of one ordered dictionary list: a folder of dictionary files, and which of them are loaded, in which order.
 // Duty: scan the folder, mark what a style names, answer the loaded names in order, create dictionaries from the
 // bundle's templates. Not: holding style data, or any user interface. The caller hands in a style's names and reads
-// them back. Names are file names with extension, compared ignoring case (but for the four medical file names of the
-// scan).
+// them back. A folder that cannot be read is no empty one: the model then answers as for one, says why, and keeps the
+// names that were handed in until a scan succeeds. Names are file names with extension, compared ignoring case (but for
+// the four medical file names of the scan).
 namespace tarvo {
 
 class Bundle;
@@ -58,6 +59,8 @@ class DictController {
   const DiskPath& dicFolderPath() const { return dicFolderPath_; }
 
   bool initializeDictionary();  // rescan; true when an entry was found
+  // Why the last scan may lack names: nothing may be taken out of a style for that they have no entry.
+  const std::optional<Failure>& unread() const { return unread_; }
   // Loads exactly these, in this order, as far as they have an entry and their file still exists. A common dictionary
   // among them that is missing is made anew, which rescans.
   void updateDictionary(Names names);
@@ -82,8 +85,9 @@ class DictController {
   }  // nothing before a scan
 
  private:
-  DictionaryEntry* entryNamed(const std::string& name);
+  std::optional<std::size_t> entryNamed(const std::string& name) const;
   Names loadedNames() const;
+  Names namesToKeep() const { return unread_ ? handedIn_ : loadedNames(); }  // over a scan
   bool isCommonName(const std::string& name) const;
   bool isBeingCreated(const std::string& name) const;
   Services services_;
@@ -93,6 +97,8 @@ class DictController {
   std::optional<std::vector<DictionaryEntry>> entries_;
   std::unordered_map<std::string, std::size_t> positions_;  // of the first entry under a folded name
   Names beingCreated_;
+  Names handedIn_;  // to be loaded, since the marks were cleared last
+  std::optional<Failure> unread_;
 };
 
 }  // namespace tarvo

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "dict/running_application_guard.h"
+#include "dict/unread_folders.h"
 #include "platform/services/texts.h"
 
 namespace tarvo {
@@ -18,14 +19,44 @@ bool isRowOf(const std::optional<Names>& names, int row) {
 
 DictionaryListEditing::DictionaryListEditing(StyleStore& store, const PopUpButton& stylePopup, ListOutlets& outlets,
                                              const Texts& texts, DictController::Services services,
-                                             RunningApplicationGuard& guard)
+                                             RunningApplicationGuard& guard, UnreadFolders& unread)
     : ejTDController_(services),
       jeTDController_(services),
       edits_(store, texts),
       stylePopup_(stylePopup),
       outlets_(outlets),
       texts_(texts),
-      guard_(guard) {}
+      guard_(guard),
+      unread_(unread) {}
+
+void DictionaryListEditing::setUp(Direction direction, DiskPath folder) {
+  DictController& controller = getActiveDictController(direction);
+  controller.initializeDictController(DictionaryKind::technical, std::move(folder), direction);
+  unread_.scanned(controller, getActiveTableView(direction));
+}
+
+void DictionaryListEditing::rescan(Direction direction) {
+  DictController& controller = getActiveDictController(direction);
+  TableView& table = getActiveTableView(direction);
+  const bool wasOutOfReach = controller.unread().has_value();
+  controller.updateAllDictionary();
+  unread_.scanned(controller, table);
+  if (!wasOutOfReach) return;
+  table.reloadData();
+  updateButton(direction);
+}
+
+Result<> DictionaryListEditing::mayEdit(Direction direction) const {
+  const DictController& list = direction == Direction::englishToJapanese ? ejTDController_ : jeTDController_;
+  if (list.unread()) return *list.unread();
+  return {};
+}
+
+bool DictionaryListEditing::isRefused(const Result<>& edit) const {
+  if (edit) return false;
+  unread_.refused(edit.error());
+  return true;
+}
 
 void DictionaryListEditing::raiseUpTD(int senderTag) { move(directionForTag(senderTag), -1); }
 
@@ -38,7 +69,7 @@ void DictionaryListEditing::move(Direction direction, int step) {
   const int row = table.selectedRow();
   // The buttons see to this in a window; a script may move without a selection, or at the ends.
   if (!isRowOf(loaded, row) || !isRowOf(loaded, row + step)) return;
-  edits_.exchange(placeOf(direction), controller, row, row + step);
+  if (isRefused(edits_.exchange(placeOf(direction), controller, row, row + step))) return;
   table.reloadData();
   table.selectRows({row + step});
   updateButton(direction);
@@ -51,14 +82,15 @@ void DictionaryListEditing::removeTD(int senderTag) {
   const std::optional<Names> loaded = controller.selectedDictionary();
   const int row = table.selectedRow();
   if (!loaded || !isRowOf(loaded, row)) return;
-  edits_.remove(placeOf(direction), controller, {(*loaded)[static_cast<std::size_t>(row)]});
+  const std::string& name = (*loaded)[static_cast<std::size_t>(row)];
+  if (isRefused(edits_.remove(placeOf(direction), controller, {name}))) return;
   table.reloadData();
   updateButton(direction);
   guard_.alertStartedApplication(2);
 }
 
 void DictionaryListEditing::writeUpdateDicTarvoPlist(Direction direction) {
-  edits_.store(placeOf(direction), getActiveDictController(direction).selectedDictionary());
+  isRefused(edits_.storeLoaded(placeOf(direction), getActiveDictController(direction)));
 }
 
 void DictionaryListEditing::updateButton(Direction buttons, Direction tableOf) {

@@ -11,11 +11,13 @@
 #include "platform/controls/table_view.h"
 
 // Editing of the technical dictionary lists in the style pane. Every edit goes through the direction's list model and
-// is written into the shown style at once. Tables and buttons bear their direction as their tag.
+// is written into the shown style at once; of a list whose folder could not be read none is, which is told. Tables and
+// buttons bear their direction as their tag.
 namespace tarvo {
 
 class RunningApplicationGuard;
 class StyleStore;
+class UnreadFolders;
 
 struct ListOutlets : Outlets {
   TabView directionTab{*this, "directionTab"};  // pages "EJTab", "JETab"
@@ -31,7 +33,7 @@ struct ListOutlets : Outlets {
 class DictionaryListEditing {
  public:
   DictionaryListEditing(StyleStore& store, const PopUpButton& stylePopup, ListOutlets& outlets, const Texts& texts,
-                        DictController::Services services, RunningApplicationGuard& guard);
+                        DictController::Services services, RunningApplicationGuard& guard, UnreadFolders& unread);
 
   DictController& ejTDController() { return ejTDController_; }
   DictController& jeTDController() { return jeTDController_; }
@@ -44,6 +46,14 @@ class DictionaryListEditing {
 
   const ListEdits& edits() const { return edits_; }
   ListPlace placeOf(Direction direction) const { return {stylePopup_.indexOfSelectedItem(), direction}; }  // the shown
+
+  void setUp(Direction direction, DiskPath folder);  // scans it for the first time
+  // Scans the direction's folder anew. A list that was out of reach and is not any more has its rows again.
+  void rescan(Direction direction);
+  // Why nothing can be edited in the direction's list now.
+  Result<> mayEdit(Direction direction) const;
+  // Whether an edit was refused, which is then told.
+  bool isRefused(const Result<>& edit) const;
 
   void raiseUpTD(int senderTag);
   void raiseDownTD(int senderTag);
@@ -64,6 +74,7 @@ class DictionaryListEditing {
   ListOutlets& outlets_;
   const Texts& texts_;
   RunningApplicationGuard& guard_;
+  UnreadFolders& unread_;
   Direction shownDirection_ = Direction::englishToJapanese;
 };
 

@@ -37,7 +37,8 @@ DictionaryLoading::DictionaryLoading(DictionaryListEditing& lists, TechDicContro
 void DictionaryLoading::loadTD(int senderTag) {
   request_.direction = directionForTag(senderTag);
   DictController& controller = lists_.getActiveDictController(request_.direction);
-  controller.updateAllDictionary();
+  lists_.rescan(request_.direction);
+  picker_.setPlaceholder(lists_.getActiveTableView(request_.direction).placeholder());
   setNonSelectionDic(request_.direction);
   picker_.setRoom(TDMax - static_cast<int>(controller.selectedDictionary().value_or(Names{}).size()));
   if (request_.direction == Direction::englishToJapanese) {
@@ -55,11 +56,13 @@ void DictionaryLoading::dicWindowOK() {
     picker_.OKButtonAction();
     return;
   }
+  if (lists_.isRefused(lists_.mayEdit(direction))) return;  // which of them are gone is not known
   if (const std::optional<std::string> missing = removeMissing(names, controller)) {
     alerts_.beepAndAlertWithText(texts_.localized("notExistsFileAlertHeader"),
                                  texts_.localized("notExistsFileAlertContents") + "\n" + "\n" + *missing);
   }
-  if (!lists_.edits().add(lists_.placeOf(direction), controller, names)) return alerts_.openMaxOverAlert(technical);
+  if (controller.checkMaxOver(names)) return alerts_.openMaxOverAlert(technical);
+  if (lists_.isRefused(lists_.edits().add(lists_.placeOf(direction), controller, names))) return;
   lists_.getActiveTableView(direction).reloadData();
   lists_.updateButton(direction);
   if (!names.empty()) guard_.alertStartedApplication(2);
@@ -70,9 +73,10 @@ void DictionaryLoading::dicWindowOK2() {
   const Direction direction = request_.direction;
   DictController& controller = lists_.getActiveDictController(direction);
   const Names names = picker_.getCheckedArray(technical);
+  if (lists_.isRefused(lists_.mayEdit(direction))) return;
   if (controller.checkMaxOver(names)) return alerts_.openMaxOverAlert(technical);
   picker_.OKButtonAction();
-  lists_.edits().add(lists_.placeOf(direction), controller, names);
+  if (lists_.isRefused(lists_.edits().add(lists_.placeOf(direction), controller, names))) return;
   lists_.getActiveTableView(direction).reloadData();
   lists_.updateButton(direction);
 }

@@ -22,8 +22,9 @@ class DictionaryLoading {
 
   // Scans the direction's folder anew and opens the picker on what the list does not hold. Returns when it was closed.
   void loadTD(int senderTag);
-  // Adds what is ticked. Tells about a file that has vanished and adds the others; a list that would become too long
-  // is told, and nothing is added and the picker stays.
+  // Adds what is ticked; where the folder could not be read nothing is added and the picker stays. Tells about a file
+  // that has vanished and adds the others; a list that would become too long is told, and nothing is added and the
+  // picker stays.
   void dicWindowOK();
   // The same without looking for vanished files; closes the picker before it saves.
   void dicWindowOK2();

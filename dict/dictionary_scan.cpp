@@ -44,21 +44,38 @@ class MedicalFilter {
   std::string displayName_, abbreviationName_;
 };
 
-bool isOfKind(const DictionaryScan& scan, const std::string& name) {
+// Whether the type code makes a dictionary of the file. unread: the code cannot be read.
+bool hasTechnicalType(const DictionaryScan& scan, const std::string& name, std::optional<Failure>& unread) {
+  const DiskPath path = scan.folder / name;
+  const Result<FourCharCode> code = scan.files.typeCode(path);
+  if (code) return *code == technicalType;
+  // Folders bear no type of a file. Some that others made on the dictionaries' disk let nobody look.
+  if (scan.files.kind(path) != FileService::Kind::folder && !isAbsence(code.error())) unread = code.error();
+  return false;
+}
+
+bool isOfKind(const DictionaryScan& scan, const std::string& name, std::optional<Failure>& unread) {
   const std::string extension = pathExtension(name);
   const auto is = [&](std::string_view other) { return equalIgnoringCase(extension, other); };
   if (scan.kind != DictionaryKind::technical) return is(extensionOf(scan.kind, scan.direction));
   if (!canHoldText(name)) return false;  // a style could not keep it
   // The type code is asked for last: it costs a look at the disk.
-  return is("TRet") || is("jtd") || scan.files.typeCode(scan.folder / name) == technicalType;
+  return is("TRet") || is("jtd") || hasTechnicalType(scan, name, unread);
 }
 
 }  // namespace
 
-std::vector<std::string> DictionaryScan::names() const {
-  std::vector<std::string> found = files.list(folder).value_or(std::vector<std::string>{});
+DictionaryScan::Found DictionaryScan::find() const {
+  Found found;
+  Result<std::vector<std::string>> names = files.list(folder);
+  if (!names) {
+    if (!isAbsence(names.error())) found.unread = names.error();
+    return found;
+  }
   const MedicalFilter medical(*this);
-  std::erase_if(found, [&](const std::string& name) { return !medical.keeps(name) || !isOfKind(*this, name); });
+  std::erase_if(*names,
+                [&](const std::string& name) { return !medical.keeps(name) || !isOfKind(*this, name, found.unread); });
+  found.names = std::move(*names);
   return found;
 }
 

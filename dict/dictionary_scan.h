@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "platform/services/result.h"
 #include "platform/text/paths.h"
 #include "style/dictionary_kind.h"
 
@@ -23,12 +25,16 @@ struct DictionaryScan {
   DictionaryKind kind = DictionaryKind::technical;
   Direction direction = Direction::japaneseToEnglish;
 
+  struct Found {
+    std::vector<std::string> names;
+    std::optional<Failure> unread;  // why there may be more: the folder, or the type code of a file, cannot be read
+  };
   // The names in the folder that are dictionaries of the kind, in the order of the listing; none when the folder cannot
-  // be listed. Folders and hidden names count like any other. Extensions are compared ignoring case; a technical
-  // dictionary may have the type code 'TRjt' instead, and has a name that a style file can hold. Files of the Corwell
-  // medical dictionary are left out while its data is known not to be installed, and files under its Japanese display
-  // names always.
-  std::vector<std::string> names() const;
+  // be listed, and one that is not there is an empty one. Folders and hidden names count like any other. Extensions are
+  // compared ignoring case; a technical dictionary may have the type code 'TRjt' instead, and has a name that a style
+  // file can hold. Files of the Corwell medical dictionary are left out while its data is known not to be installed,
+  // and files under its Japanese display names always.
+  Found find() const;
 };
 
 }  // namespace tarvo

@@ -71,6 +71,9 @@ bool DictionaryTable::acceptDrop(TableView& table, const Pasteboard& pasteboard,
   // The rows may come from the other table, whose list is longer.
   const std::optional<DroppedRows> dropped = withRowsDropped(*loaded, *rows, row);
   if (!dropped) return false;
+  for (const Direction direction : {directionForTag(table.tag()), editing_.shownDirection()}) {
+    if (editing_.isRefused(editing_.mayEdit(direction))) return false;
+  }
 
   controller.updateDictionary(dropped->names);
   table.reloadData();

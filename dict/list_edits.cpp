@@ -10,26 +10,35 @@
 
 namespace tarvo {
 
-bool ListEdits::add(ListPlace place, DictController& list, const Names& names) const {
-  if (list.checkMaxOver(names)) return false;
+Result<> ListEdits::add(ListPlace place, DictController& list, const Names& names) const {
+  if (list.unread()) return *list.unread();
   if (!names.empty()) list.loadDictionary(names);
-  store(place, list.selectedDictionary());
-  return true;
+  return storeLoaded(place, list);
 }
 
-void ListEdits::remove(ListPlace place, DictController& list, const Names& names) const {
+Result<> ListEdits::remove(ListPlace place, DictController& list, const Names& names) const {
+  if (list.unread()) return *list.unread();
   for (const std::string& name : names) list.unloadDictionary(name);
-  store(place, list.selectedDictionary());
+  return storeLoaded(place, list);
 }
 
-void ListEdits::exchange(ListPlace place, DictController& list, int position, int other) const {
+Result<> ListEdits::exchange(ListPlace place, DictController& list, int position, int other) const {
+  if (list.unread()) return *list.unread();
   list.exchangeDictionary(position, other);
-  store(place, list.selectedDictionary());
+  return storeLoaded(place, list);
 }
 
-void ListEdits::arrange(ListPlace place, DictController& list, const Names& order) const {
+Result<> ListEdits::arrange(ListPlace place, DictController& list, const Names& order) const {
+  if (list.unread()) return *list.unread();
   list.updateDictionary(order);
+  return storeLoaded(place, list);
+}
+
+// Marking may have scanned anew, since a common dictionary that is missing is made: the folder is asked about again.
+Result<> ListEdits::storeLoaded(ListPlace place, const DictController& list) const {
+  if (list.unread()) return *list.unread();
   store(place, list.selectedDictionary());
+  return {};
 }
 
 void ListEdits::store(ListPlace place, const std::optional<Names>& names) const {

@@ -10,7 +10,8 @@
 
 // What an edit does to the technical dictionaries that a style uses, below the controls that ask for it.
 // Duty: one edit, one write, one registration. Not: checking that a file exists, telling, showing.
-// list: the model that shows this list; it is edited, and what it has loaded then is stored.
+// list: the model that shows this list; it is edited, and what it has loaded then is stored. Where the folder of the
+// list could not be read each fails with the reason, and nothing has changed: what it has loaded is not all there is.
 namespace tarvo {
 
 class StyleStore;
@@ -25,13 +26,14 @@ struct ListPlace {
 class ListEdits {
  public:
   ListEdits(StyleStore& store, const Texts& texts) : store_(store), texts_(texts) {}
-  // False: the list would become too long; nothing has changed.
-  bool add(ListPlace place, DictController& list, const Names& names) const;
-  void remove(ListPlace place, DictController& list, const Names& names) const;
-  void exchange(ListPlace place, DictController& list, int position, int other) const;
-  void arrange(ListPlace place, DictController& list, const Names& order) const;  // loads exactly these
-  // Stores the names under "TD"; nothing removes the key. The divider, and a record without the direction's half, get
-  // none; they are written back as they are.
+  // The caller has seen that there is room for them (DictController::checkMaxOver).
+  Result<> add(ListPlace place, DictController& list, const Names& names) const;
+  Result<> remove(ListPlace place, DictController& list, const Names& names) const;
+  Result<> exchange(ListPlace place, DictController& list, int position, int other) const;
+  Result<> arrange(ListPlace place, DictController& list, const Names& order) const;  // loads exactly these
+  Result<> storeLoaded(ListPlace place, const DictController& list) const;
+  // Stores the names, whatever a model has loaded, under "TD"; nothing removes the key. The divider, and a record
+  // without the direction's half, get none; they are written back as they are.
   void store(ListPlace place, const std::optional<Names>& names) const;
 
  private:

@@ -49,9 +49,18 @@ ListContents contentsOf(DictController& list, const Names& stored) {
   Names present = stored;
   std::erase_if(present, [&list](const std::string& name) { return !list.isExitsDic2(name); });
   list.updateDictionary(std::move(present));
-  ListContents contents{list.selectedDictionary().value_or(Names{}), list.notSelectedDictionary(), stored};
+  ListContents contents{list.selectedDictionary().value_or(Names{}), list.notSelectedDictionary(), stored,
+                        list.unread()};
   std::erase_if(contents.missing, [&contents](const std::string& name) { return isIn(contents.loaded, name); });
   return contents;
+}
+
+ListProblem problemOf(const Failure& why) { return {.kind = Kind::unread, .name = why.path, .why = why}; }
+
+// What the list lost with an edit that was made, or why it was not made.
+std::expected<Names, ListProblem> answerOf(const Result<>& edit, const Names& lost) {
+  if (!edit) return std::unexpected(problemOf(edit.error()));
+  return lost;
 }
 
 }  // namespace
@@ -76,6 +85,7 @@ std::expected<NamedLists::Opened, ListProblem> NamedLists::open(ListPlace place)
     return std::unexpected(ListProblem{Kind::noHalf, std::string(halfKey(place.direction))});
   }
   DictController list = scanned(services_, place.direction);
+  if (list.unread()) return std::unexpected(problemOf(*list.unread()));
   ListContents contents = contentsOf(list, storedNames(*record, place.direction));
   return Opened{std::move(list), std::move(contents)};
 }
@@ -94,8 +104,8 @@ std::expected<Names, ListProblem> NamedLists::add(ListPlace place, const Names& 
   // The folder may hold a second file under the name of a loaded one, letter case aside.
   std::erase_if(added, [&](const std::string& name) { return !isIn(names, name) || isIn(contents.loaded, name); });
   if (added.empty()) return Names{};
-  if (!edits_.add(place, opened->list, added)) return std::unexpected(ListProblem{Kind::tooMany, ""});
-  return contents.missing;
+  if (opened->list.checkMaxOver(added)) return std::unexpected(ListProblem{Kind::tooMany, ""});
+  return answerOf(edits_.add(place, opened->list, added), contents.missing);
 }
 
 std::expected<Names, ListProblem> NamedLists::remove(ListPlace place, const Names& names) {
@@ -116,8 +126,7 @@ std::expected<Names, ListProblem> NamedLists::remove(ListPlace place, const Name
     edits_.store(place, contents.missing.empty() ? std::nullopt : std::optional(contents.missing));
     return Names{};
   }
-  edits_.remove(place, opened->list, removed);
-  return contents.missing;
+  return answerOf(edits_.remove(place, opened->list, removed), contents.missing);
 }
 
 std::expected<Names, ListProblem> NamedLists::move(ListPlace place, const std::string& name, int position) {
@@ -135,8 +144,7 @@ std::expected<Names, ListProblem> NamedLists::move(ListPlace place, const std::s
   Names order = contents.loaded;
   order.erase(order.begin() + static_cast<std::ptrdiff_t>(*from));
   order.insert(order.begin() + static_cast<std::ptrdiff_t>(to), contents.loaded[*from]);
-  edits_.arrange(place, opened->list, order);
-  return contents.missing;
+  return answerOf(edits_.arrange(place, opened->list, order), contents.missing);
 }
 
 }  // namespace tarvo

@@ -17,9 +17,10 @@ namespace tarvo {
 class StyleStore;
 
 struct ListContents {
-  Names loaded;     // in the style's order, as far as they are on the disk
-  Names available;  // the others in the folder
-  Names missing;    // in the style's order, those without a file
+  Names loaded;                   // in the style's order, as far as they are on the disk
+  Names available;                // the others in the folder
+  Names missing;                  // in the style's order, those without a file
+  std::optional<Failure> unread;  // why the folder cannot be read: then nothing is known to be missing
 };
 // Only reads: not even a missing common dictionary is made.
 ListContents readList(const DictController::Services& services, const Dictionary& record, Direction direction);
@@ -28,10 +29,12 @@ ListContents readList(const DictController::Services& services, const Dictionary
 Names namesThatCannotBeKept(const DictController::Services& services, Direction direction);
 
 struct ListProblem {
-  // unkeepable: a style file cannot hold the name. noPosition: name is the position.
-  enum class Kind { noHalf, unknown, notLoaded, unkeepable, tooMany, noPosition };
+  // unkeepable: a style file cannot hold the name. noPosition: name is the position. unread: the folder, because of
+  // why.
+  enum class Kind { noHalf, unknown, notLoaded, unkeepable, tooMany, noPosition, unread };
   Kind kind;
   std::string name;
+  Failure why = {};
 };
 
 class NamedLists {

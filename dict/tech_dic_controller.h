@@ -78,6 +78,8 @@ class TechDicController : public TableDataSource, public TableDelegate {
   // No names: the list stays as it is, and is read anew.
   void setNotSelectedArray(const std::optional<Names>& names, DictionaryKind kind);
   void OpenFolder(int senderTag);
+  // What stands in the list of technical dictionaries instead of rows; "" shows the rows.
+  void setPlaceholder(const std::string& text) { with_.outlets.techDicTable.setPlaceholder(text); }
   // How many dictionaries the style's list can still take; the text beside the list counts the ticks off.
   void setRoom(int room);
   void selectShown();  // ticks every row that the filter shows

@@ -4,14 +4,17 @@
 
 #include <utility>
 
+#include "dict/unread_folders.h"
 #include "dict/user_lists.h"
 
 namespace tarvo {
 
-UserListRows::UserListRows(UserListOutlets& outlets, const UserLists& lists, DictController::Services services)
+UserListRows::UserListRows(UserListOutlets& outlets, const UserLists& lists, DictController::Services services,
+                           UnreadFolders& unread)
     : shown_{&outlets.ejUDTableView, &outlets.ejUTMATableView, &outlets.jeUDTableView, &outlets.jeUTMATableView},
       lists_{&lists.ejUDController, &lists.ejUTMAController, &lists.jeUDController, &lists.jeUTMAController},
-      services_(services) {}
+      services_(services),
+      unread_(unread) {}
 
 int UserListRows::numberOfRowsInTableView(TableView& table) {
   const std::size_t pair = pairOf(table);
@@ -20,6 +23,7 @@ int UserListRows::numberOfRowsInTableView(TableView& table) {
     DictController folder(services_);
     const DiskPath& path = lists_[pair]->dicFolderPath();
     if (!path.empty()) folder.initializeDictController(lists_[pair]->kind(), path, lists_[pair]->direction());
+    unread_.scanned(folder, table);
     rows_[pair] = folder.getAllDictionary();
   } else {
     shown_[pair]->reloadData();

@@ -9,6 +9,7 @@
 
 namespace tarvo {
 
+class UnreadFolders;
 class UserLists;
 
 // Tables of the user's own dictionaries, tags 20 to 27: one shown table per direction and kind, and then, in the same
@@ -26,7 +27,8 @@ struct UserListOutlets : Outlets {
 class UserListRows : public TableDataSource {
  public:
   static constexpr int firstTag = 20, pairs = 4;
-  UserListRows(UserListOutlets& outlets, const UserLists& lists, DictController::Services services);
+  UserListRows(UserListOutlets& outlets, const UserLists& lists, DictController::Services services,
+               UnreadFolders& unread);
   int numberOfRowsInTableView(TableView& table) override;
   CellValue objectValueForTableColumn(TableView& table, std::string_view column, int row) override;
 
@@ -36,6 +38,7 @@ class UserListRows : public TableDataSource {
   std::array<const DictController*, pairs> lists_;
   std::array<Names, pairs> rows_;
   DictController::Services services_;
+  UnreadFolders& unread_;
 };
 
 }  // namespace tarvo

@@ -17,17 +17,18 @@ namespace {
 
 Json jsonFrom(const Names& names) { return Json::List(names.begin(), names.end()); }
 
-Refusal refusalOf(const ListProblem& problem, const std::string& style) {
+Problem problemOf(const ListProblem& problem, const std::string& style) {
   using Kind = ListProblem::Kind;
   switch (problem.kind) {
-    case Kind::noHalf: return {style, "Refusal.NoHalf", problem.name};
-    case Kind::unknown: return {problem.name, "Refusal.NoDictionary", ""};
-    case Kind::notLoaded: return {problem.name, "Refusal.NotLoaded", ""};
-    case Kind::unkeepable: return {problem.name, "Refusal.UnkeepableName", ""};
-    case Kind::tooMany: return {style, "Refusal.TooManyDictionaries", ""};
+    case Kind::noHalf: return Refusal{style, "Refusal.NoHalf", problem.name};
+    case Kind::unknown: return Refusal{problem.name, "Refusal.NoDictionary", ""};
+    case Kind::notLoaded: return Refusal{problem.name, "Refusal.NotLoaded", ""};
+    case Kind::unkeepable: return Refusal{problem.name, "Refusal.UnkeepableName", ""};
+    case Kind::tooMany: return Refusal{style, "Refusal.TooManyDictionaries", ""};
+    case Kind::unread: return problem.why;
     case Kind::noPosition: break;
   }
-  return {style, "Refusal.NoPosition", problem.name};
+  return Refusal{style, "Refusal.NoPosition", problem.name};
 }
 
 // One operation on the list; names that it lost are told.
@@ -36,7 +37,7 @@ ExitStatus edit(Console& console, const NamedList& list, Operation operation) {
   StyleSession session(console);
   return session.edit(list.style, [&](int index) -> std::optional<Problem> {
     const std::expected<Names, ListProblem> gone = operation(session.lists(), ListPlace{index, list.direction});
-    if (!gone) return refusalOf(gone.error(), styleName(*session.store().getStyleAtIndex(index)));
+    if (!gone) return problemOf(gone.error(), styleName(*session.store().getStyleAtIndex(index)));
     for (const std::string& name : *gone) note(console, {name, "Refusal.Gone", ""});
     return std::nullopt;
   });
@@ -52,6 +53,7 @@ ExitStatus DictionariesCommand::run(Console& console) {
   if (!index) return tell(console, index.error());
   const Dictionary& record = *(*styles.root->array(keyNameStyle))[static_cast<std::size_t>(*index)].dictionary();
   const ListContents contents = readList(dictionaryServices(console.product), record, list_.direction);
+  if (contents.unread) return tell(console, *contents.unread);
   if (console.json) {
     console.out << writeJson(Json::Object{{"loaded", jsonFrom(contents.loaded)},
                                           {"available", jsonFrom(contents.available)},

@@ -131,6 +131,8 @@ class Examination {
     const std::size_t usable = list.getAllDictionary().size();
     add(path, what, "ok", std::to_string(usable) + " usable, " + std::to_string(names->size()) + " entries");
     if (kind != DictionaryKind::technical) return;
+    if (const std::optional<Failure>& unread = list.unread())
+      add(DiskPath(unread->path), "dictionary", "problem", causeOf(*unread));
     for (const std::string& name : namesThatCannotBeKept(dictionaryServices(product_), direction)) {
       add(path / printable(name), "dictionary", "problem", "a style file cannot hold its name: rename it");
     }

@@ -69,6 +69,12 @@ void TableView::selectRows(std::vector<int> rows, bool extend) {
   setSelection(std::move(rows));
 }
 
+void TableView::setPlaceholder(std::string text) {
+  if (text == placeholder_) return;
+  placeholder_ = std::move(text);
+  changed(Change::filter);
+}
+
 void TableView::setRowFilter(std::function<bool(int row)> filter) {
   filter_ = std::move(filter);
   changed(Change::filter);

@@ -82,7 +82,11 @@ class TableView : public Control {
   // A row that the filter refuses is not shown and out of the user's reach, but stays a row: counts, indexes, selection
   // and values are those of the source. Asked at every look; an empty filter shows all.
   void setRowFilter(std::function<bool(int row)> filter);
-  bool isRowShown(int row) const { return !filter_ || filter_(row); }
+  bool isRowShown(int row) const { return placeholder_.empty() && (!filter_ || filter_(row)); }
+  // A text that stands in the table instead of its rows, and is heard: why there are none to be seen. They stay rows,
+  // as those do that a filter refuses. "": none.
+  void setPlaceholder(std::string text);
+  const std::string& placeholder() const { return placeholder_; }
   void scrollRowToVisible(int row);
   int scrolledRow() const { return scrolledRow_; }
 
@@ -107,6 +111,7 @@ class TableView : public Control {
   TableDataSource* source_ = nullptr;
   TableDelegate* delegate_ = nullptr;
   std::function<bool(int row)> filter_;
+  std::string placeholder_;
   int reported_ = 0, scrolledRow_ = 0;
   bool multiple_ = false;
 };

@@ -41,6 +41,7 @@ class TableControlView : public ControlView {
       table_.adoptColumns();
     }
     if (change != Control::Change::filter) table_.rows().reload();
+    table_.setPlaceholder(toQString(control_.placeholder()));
     table_.showRows([this](int row) { return control_.isRowShown(row); });
     table_.setSelectionMode(control_.allowsMultipleSelection() ? QAbstractItemView::ExtendedSelection
                                                                : QAbstractItemView::SingleSelection);

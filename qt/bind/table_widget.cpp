@@ -79,14 +79,25 @@ void TableWidget::showRows(const std::function<bool(int row)>& isShown) {
 
 void TableWidget::setEmptyText(const QString& text) {
   emptyText_ = text;
-  connect(&model_, &QAbstractItemModel::rowsInserted, this, &TableWidget::tellWhetherEmpty);
-  connect(&model_, &QAbstractItemModel::rowsRemoved, this, &TableWidget::tellWhetherEmpty);
-  tellWhetherEmpty();
+  connect(&model_, &QAbstractItemModel::rowsInserted, this, &TableWidget::tellTextInstead);
+  connect(&model_, &QAbstractItemModel::rowsRemoved, this, &TableWidget::tellTextInstead);
+  tellTextInstead();
+}
+
+void TableWidget::setPlaceholder(const QString& text) {
+  if (placeholder_ == text) return;
+  placeholder_ = text;
+  tellTextInstead();
+}
+
+QString TableWidget::textInstead() const {
+  if (!placeholder_.isEmpty()) return placeholder_;
+  return model_.rowCount() == 0 ? emptyText_ : QString();
 }
 
 // Who cannot see the text hears it.
-void TableWidget::tellWhetherEmpty() {
-  setAccessibleDescription(model_.rowCount() == 0 ? emptyText_ : QString());
+void TableWidget::tellTextInstead() {
+  setAccessibleDescription(textInstead());
   viewport()->update();
 }
 
@@ -139,7 +150,7 @@ void TableWidget::markEnd(bool marked) {
 void TableWidget::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
   QPainter painter(viewport());
-  if (model_.rowCount() == 0 && !emptyText_.isEmpty()) paintEmptyText(painter);
+  paintTextInstead(painter);
   if (!isEndMarked_) return;
   QStyleOption mark;
   mark.initFrom(this);
@@ -147,10 +158,12 @@ void TableWidget::paintEvent(QPaintEvent* event) {
   style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemDrop, &mark, &painter, this);
 }
 
-void TableWidget::paintEmptyText(QPainter& painter) {
+void TableWidget::paintTextInstead(QPainter& painter) {
+  const QString text = textInstead();
+  if (text.isEmpty()) return;
   const QRect place =
       viewport()->rect().adjusted(metrics::paneMargin, metrics::rowGap, -metrics::paneMargin, -metrics::rowGap);
-  style()->drawItemText(&painter, place, Qt::AlignCenter | Qt::TextWordWrap, palette(), isEnabled(), emptyText_,
+  style()->drawItemText(&painter, place, Qt::AlignCenter | Qt::TextWordWrap, palette(), isEnabled(), text,
                         QPalette::PlaceholderText);
 }
 

@@ -22,6 +22,8 @@ class TableWidget : public QTableView {
   void showRows(const std::function<bool(int row)>& isShown);
   // What stands in the list while it has no rows.
   void setEmptyText(const QString& text);
+  // What stands in it instead of its rows, all of which are hidden; "" for none.
+  void setPlaceholder(const QString& text);
 
  protected:
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
@@ -34,11 +36,12 @@ class TableWidget : public QTableView {
  private:
   bool isOnBox(const QModelIndex& index, const QPoint& place) const;
   void markEnd(bool marked);
-  void tellWhetherEmpty();
-  void paintEmptyText(QPainter& painter);
+  QString textInstead() const;  // of rows; "" while there are any
+  void tellTextInstead();
+  void paintTextInstead(QPainter& painter);
   TableModel& model_;
   IconedDelegate* iconed_;
-  QString emptyText_;
+  QString emptyText_, placeholder_;
   bool isEndMarked_ = false;  // a drag would go behind the last row
 };
 

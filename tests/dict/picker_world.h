@@ -91,7 +91,7 @@ struct PickerWorld : StylePaneWorld {
   UserListOutlets tables;
   NewDictionaryRequest request;
   UserLists userLists{servicesOver(userFiles)};
-  UserListRows userRows{tables, userLists, servicesOver(userFiles)};
+  UserListRows userRows{tables, userLists, servicesOver(userFiles), unread};
   DictionaryNameChecks::Services nameServices{userFiles, texts, paths, panels};
   TechDicController controller{{picker, windows, workspace, alerts, guard, notifications}, nameServices};
   DictionaryLoading loading{editing, controller, request, alerts, guard, texts};

@@ -8,6 +8,7 @@
 #include "dict/dictionary_list_editing.h"
 #include "dict/dictionary_table.h"
 #include "dict/running_application_guard.h"
+#include "dict/unread_folders.h"
 #include "platform/engine/engine_none.h"
 #include "platform/plist/plist_writer.h"
 #include "platform/services/plist_file.h"
@@ -104,7 +105,8 @@ struct StylePaneWorld : DictionaryWorld {
   FakeWorkspace workspace;
   ListOutlets outlets;
   RunningApplicationGuard guard{workspace, paths};
-  DictionaryListEditing editing{store, menu.stylePopup, outlets, texts, services(), guard};
+  UnreadFolders unread{texts};
+  DictionaryListEditing editing{store, menu.stylePopup, outlets, texts, services(), guard, unread};
   DictionaryTable table{editing, texts};
   int writes = 0;
   std::vector<int> changedKinds;  // of the lists that were told to have changed

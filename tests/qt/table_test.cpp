@@ -135,6 +135,22 @@ TEST_F(TableBinding, aListWithoutRowsSaysWhatItHasNot) {
   EXPECT_EQ(view.viewport()->grab().toImage(), full);
 }
 
+TEST_F(TableBinding, aTextStandsInsteadOfRowsThatAreOutOfReach) {
+  auto& view = build();
+  const QImage full = view.viewport()->grab().toImage();
+  outlets.table.setPlaceholder("It cannot be read");
+  EXPECT_EQ(view.accessibleDescription(), "It cannot be read");
+  EXPECT_TRUE(view.isRowHidden(0));
+  EXPECT_NE(view.viewport()->grab().toImage(), full);
+  EXPECT_EQ(inStep(), "");
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.viewport()->rect().center());
+  EXPECT_EQ(rows.calls, std::vector<std::string>{});
+  outlets.table.setPlaceholder("");
+  EXPECT_EQ(view.accessibleDescription(), "");
+  EXPECT_EQ(view.viewport()->grab().toImage(), full);
+  EXPECT_EQ(inStep(), "");
+}
+
 TEST_F(TableBinding, aCheckBoxIsReadByTheNameOfItsRow) {
   withBoxes();
   auto& view = build();

@@ -183,5 +183,26 @@ TEST_F(DictionaryVerbs, wordsAreChecked) {
   }
 }
 
+// A link that leads to itself is there and can be listed by nobody, whoever runs the test.
+TEST_F(DictionaryVerbs, aFolderThatCannotBeReadIsNoEmptyOne) {
+  const std::filesystem::path folder = root_.folder() / (technical + std::string("EJ"));
+  std::filesystem::rename(folder, folder.string() + ".away");
+  std::filesystem::create_directory_symlink("EJ", folder);
+  const std::string why = "cannot be listed; links lead round in a circle; remove one of them";
+  const std::string before = root_.folder().read(std::string("root/Users/taro/") + styleFile);
+  for (const std::vector<std::string>& words : {std::vector<std::string>{"dictionary", "remove", "0", "ej", "a.TRet"},
+                                                {"dictionary", "add", "3", "ej", "c.TRet"},
+                                                {"dictionary", "move", "0", "ej", "c.TRet", "1"},
+                                                {"dictionaries", "0", "ej"}}) {
+    const ToolResult result = run(words);
+    EXPECT_EQ(result.out, "") << words[1];
+    EXPECT_EQ(result.err, told(folder, why)) << words[1];
+    EXPECT_EQ(result.status, 1) << words[1];
+  }
+  EXPECT_EQ(root_.folder().read(std::string("root/Users/taro/") + styleFile), before);
+  expectDone({"dictionary", "remove", "0", "je", "j1.TRet"});
+  EXPECT_NE(style(0).find("\"TD\":[\"a.TRet\",\"b.TRet\",\"c.TRet\"]"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace tarvo::test
