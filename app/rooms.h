@@ -104,7 +104,7 @@ struct Rooms {
   UnreadFolders unreadFolders{texts_};
   DictionaryListEditing lists{store, stylePopup_, interface_.lists, texts_, dictionaryServices_, guard, unreadFolders};
   DictionaryTable dictionaryTable{lists, texts_};
-  MedicalDictionaries medical{services_.files, locations_, texts_, defaults_, store};
+  MedicalDictionaries medical{{services_.files, locations_, services_.paths, texts_, defaults_, store}};
   UserLists userLists{dictionaryServices_};
   UserListRows userListRows{interface_.userLists, userLists, dictionaryServices_, unreadFolders};
   TechDicController picker{{interface_.picker, windows_, services_.workspace, alerts, guard, with_.notifications},

@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "dict/dictionary_folders.h"
 #include "platform/services/file_service.h"
 #include "platform/services/locations.h"
 #include "platform/services/texts.h"
@@ -45,55 +46,57 @@ Kind copyOr(const Kind* value) {
 
 }  // namespace
 
-MedicalDictionaries::MedicalDictionaries(const FileService& files, const Locations& locations, const Texts& texts,
-                                         UserDefaults& defaults, StyleStore& store)
-    : files_(files), locations_(locations), texts_(texts), defaults_(defaults), store_(store) {}
+// A flag that is there counts, whatever it says: what a user has removed from a list is not put back.
+bool MedicalDictionaries::isDue(std::string_view dataPathKey, std::string_view flag, Direction direction) const {
+  const DiskPath data = with_.locations.onDisk(ProductPath(with_.texts.localized(dataPathKey)));
+  if (!with_.files.isThere(data) || with_.defaults.find(flag) != nullptr || with_.defaults.isUnknown()) return false;
+  const auto names = with_.files.list(dictionaryFolder(with_.paths, DictionaryKind::technical, direction));
+  return names || isAbsence(names.error());
+}
 
 std::vector<std::string_view> MedicalDictionaries::insertInstalled() {
+  using enum Direction;
   std::vector<std::string_view> flags;
-  // A flag that is there counts, whatever it says: what a user has removed from a list is not put back.
-  const auto isDue = [&](std::string_view dataPathKey, std::string_view flag) {
-    const DiskPath data = locations_.onDisk(ProductPath(texts_.localized(dataPathKey)));
-    return files_.isThere(data) && defaults_.find(flag) == nullptr && !defaults_.isUnknown();
-  };
-  if (isDue("TechECorwell6", "Corwell1stE")) {
-    insertCorwell(Direction::englishToJapanese, "cwl.TRet", "cwla.TRet");
+  if (isDue("TechECorwell6", "Corwell1stE", englishToJapanese)) {
+    insertCorwell(englishToJapanese, "cwl.TRet", "cwla.TRet");
     flags.emplace_back("Corwell1stE");
   }
-  if (isDue("TechJCorwell6", "Corwell1stJ")) {
-    insertCorwell(Direction::japaneseToEnglish, "cwl", "cwla");  // the files of this direction have no extension
+  if (isDue("TechJCorwell6", "Corwell1stJ", japaneseToEnglish)) {
+    insertCorwell(japaneseToEnglish, "cwl", "cwla");  // the files of this direction have no extension
     flags.emplace_back("Corwell1stJ");
   }
-  if (isDue("TechETekado", "Tekado1stE")) {
-    insertTekado(Direction::englishToJapanese, texts_.localized("NameETekado"));
+  if (isDue("TechETekado", "Tekado1stE", englishToJapanese)) {
+    insertTekado(englishToJapanese, with_.texts.localized("NameETekado"));
     flags.emplace_back("Tekado1stE");
   }
-  if (isDue("TechJTekado", "Tekado1stJ")) {
-    insertTekado(Direction::japaneseToEnglish, texts_.localized("NameJTekado"));
+  if (isDue("TechJTekado", "Tekado1stJ", japaneseToEnglish)) {
+    insertTekado(japaneseToEnglish, with_.texts.localized("NameJTekado"));
     flags.emplace_back("Tekado1stJ");
   }
   return flags;
 }
 
 void MedicalDictionaries::remember(const std::vector<std::string_view>& flags) {
-  for (const std::string_view flag : flags) defaults_.set(flag, true);
-  defaults_.synchronize();
+  for (const std::string_view flag : flags) {
+    with_.defaults.setLater(flag, true, [&store = with_.store] { return store.isLoadStored(); });
+  }
+  with_.defaults.synchronize();
 }
 
 void MedicalDictionaries::insertCorwell(Direction direction, std::string_view techName, std::string_view abbrevName) {
-  insert(direction, "Corwell", texts_.localized(techName), texts_.localized(abbrevName));
+  insert(direction, "Corwell", with_.texts.localized(techName), with_.texts.localized(abbrevName));
 }
 
 void MedicalDictionaries::insertTekado(Direction direction, std::string_view techName) {
-  insert(direction, "Tekado", texts_.localized(techName), std::nullopt);
+  insert(direction, "Tekado", with_.texts.localized(techName), std::nullopt);
 }
 
 void MedicalDictionaries::insert(Direction direction, std::string_view word, const std::string& name,
                                  const std::optional<std::string>& abbreviation) {
-  const Array* present = store_.root().array(keyNameStyle);
+  const Array* present = with_.store.root().array(keyNameStyle);
   if (present == nullptr) return;  // no styles at all means something else than an empty list of them
-  const std::string general = texts_.localized("IgakuSougou"), clinical = texts_.localized("Shinryouka");
-  const std::string wordText = texts_.localized(word);
+  const std::string general = with_.texts.localized("IgakuSougou"), clinical = with_.texts.localized("Shinryouka");
+  const std::string wordText = with_.texts.localized(word);
   Array styles = *present;
   for (PropertyList& style : styles) {
     Dictionary* record = style.dictionary();
@@ -108,7 +111,7 @@ void MedicalDictionaries::insert(Direction direction, std::string_view word, con
     half.set(keyNameTD, std::move(list));
     record->set(halfKey(direction), std::move(half));
   }
-  store_.replaceStyles(std::move(styles));
+  with_.store.replaceStyles(std::move(styles));
 }
 
 }  // namespace tarvo

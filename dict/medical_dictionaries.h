@@ -15,18 +15,30 @@ namespace tarvo {
 
 class FileService;
 class Locations;
+class ProductPaths;
 class StyleStore;
 class Texts;
 class UserDefaults;
 
 class MedicalDictionaries {
  public:
-  MedicalDictionaries(const FileService& files, const Locations& locations, const Texts& texts, UserDefaults& defaults,
-                      StyleStore& store);
-  // Inserts those that are installed and were never inserted, as far as the settings are known. The flags of those that
+  // Not owned. No settings are flushed once the store is gone.
+  struct Services {
+    const FileService& files;
+    const Locations& locations;
+    const ProductPaths& paths;
+    const Texts& texts;
+    UserDefaults& defaults;
+    StyleStore& store;
+  };
+  explicit MedicalDictionaries(const Services& services) : with_(services) {}
+  // Inserts those that are installed and were never inserted, as far as the settings are known and the folder of the
+  // direction's dictionaries is not out of reach. The flags of those that
   // were: where there are any, a list may have changed and the style file has to be written.
   std::vector<std::string_view> insertInstalled();
-  // Sets these flags, so that they are not inserted again, and flushes the settings.
+  // Sets these flags, so that they are not inserted again, and flushes the settings. On the disk they are from the
+  // first flush on after the styles with the dictionaries have been written in this run: whatever stops the program
+  // before, the next start inserts them.
   void remember(const std::vector<std::string_view>& flags);
   // Names are looked up in the text table once more.
   void insertCorwell(Direction direction, std::string_view techName, std::string_view abbrevName);
@@ -36,11 +48,8 @@ class MedicalDictionaries {
   // word: text key of the word that tells the dictionary in a list.
   void insert(Direction direction, std::string_view word, const std::string& name,
               const std::optional<std::string>& abbreviation);
-  const FileService& files_;
-  const Locations& locations_;
-  const Texts& texts_;
-  UserDefaults& defaults_;
-  StyleStore& store_;
+  bool isDue(std::string_view dataPathKey, std::string_view flag, Direction direction) const;
+  Services with_;
 };
 
 }  // namespace tarvo

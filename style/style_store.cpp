@@ -126,6 +126,7 @@ Dictionary StyleStore::lastStored() const {
 void StyleStore::replaceRoot(Dictionary root, ChangeKind kind) {
   const bool isNew = root != tarvoStyle_;
   if (!isNew && !writesAll()) return;
+  if (isNew) ofLoad_ = false;
   noteChange(kind);
   const Dictionary before = std::exchange(tarvoStyle_, std::move(root));
   file_.allChanged();
@@ -145,6 +146,7 @@ void StyleStore::writeTarvoStylePlist() {
     if (replaced.wasForeign) foreign_ = {.kept = replaced.kept, .base = lastStored()};
     changed_.reset();
     unwritten_.clear();
+    if (ofLoad_) loadStored_ = true;
   }
   unsaved_ = written ? std::nullopt : std::optional(written.error());
   pending_ = pending_ && unsaved_;
@@ -164,6 +166,7 @@ Result<StyleStore::Reconciled> StyleStore::reconcile() {
   if (!newer) return newer.error();
   std::optional<Array>& taken = *newer;
   if (!taken) return Reconciled::kept;
+  ofLoad_ = false;
   replaceStyles(std::move(*taken), ChangeKind::pull);
   return Reconciled::replaced;
 }

@@ -80,6 +80,9 @@ class StyleStore {
   const std::optional<Failure>& unread() const { return unread_; }
   const std::optional<Failure>& unsaved() const { return unsaved_; }
   bool isSaved() const { return !unsaved_; }
+  // Whether what was loaded, with all that joined it then, has reached the disk in this run, edited or not. Styles that
+  // came from elsewhere as a whole say nothing of that.
+  bool isLoadStored() const { return loadStored_; }
   // What became of the file that the last write replaced.
   const Replaced& replaced() const { return file_.replaced(); }
   // What another program had written and a write here has replaced last: the name under which it is kept, and the root
@@ -119,7 +122,7 @@ class StyleStore {
   EngineRegistration registration_;
   Dictionary tarvoStyle_;
   std::string currentID_;
-  bool awakening_ = true, pending_ = false, writesUnchanged_ = true;
+  bool awakening_ = true, pending_ = false, writesUnchanged_ = true, ofLoad_ = true, loadStored_ = false;
   std::optional<Failure> unread_, unsaved_;
   std::optional<ChangeKind> changed_;  // what has changed styles since the last write
   std::optional<ForeignSet> foreign_;

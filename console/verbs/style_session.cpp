@@ -19,7 +19,8 @@ StyleSession::StyleSession(Console& console)
       earlier_(console.product.files(), console.product.locations().inHome(gEarlierStyles)),
       store_(console.product.files(), *engine_, defaults_, console.product.locations().inHome(gStylePath),
              console.product.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist))), &earlier_),
-      medical_(console.product.files(), console.product.locations(), console.product.texts(), defaults_, store_),
+      medical_({console.product.files(), console.product.locations(), console.product.paths(), console.product.texts(),
+                defaults_, store_}),
       lists_(store_, dictionaryServices(console.product)) {
   store_.writeOnlyChanges();
   store_.didWrite = [this] { written_ = true; };

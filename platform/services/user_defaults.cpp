@@ -19,14 +19,32 @@ UserDefaults::UserDefaults(FileService& files, DiskPath path) : files_(files), f
 
 void UserDefaults::set(std::string_view key, PropertyList value) {
   const PropertyList* present = values_.find(key);
-  if (present == nullptr || *present != value) {
+  if (forgetLater(key) || present == nullptr || *present != value) {
     values_.set(key, std::move(value));
     changed_ = true;
   }
   if (observer) observer(key, values_.find(key));
 }
 
+void UserDefaults::setLater(std::string_view key, PropertyList value, std::function<bool()> mayStore) {
+  const bool others = changed_;
+  set(key, std::move(value));
+  changed_ = others;
+  later_.push_back({std::string(key), std::move(mayStore)});
+}
+
+bool UserDefaults::forgetLater(std::string_view key) {
+  return std::erase_if(later_, [key](const Later& each) { return each.key == key; }) > 0;
+}
+
+Dictionary UserDefaults::toStore() const {
+  Dictionary values = values_;
+  for (const Later& each : later_) values.remove(each.key);
+  return values;
+}
+
 void UserDefaults::remove(std::string_view key) {
+  forgetLater(key);
   if (values_.remove(key)) changed_ = true;
   if (observer) observer(key, nullptr);
 }
@@ -43,10 +61,11 @@ void UserDefaults::readAgain() {
 
 void UserDefaults::synchronize() {
   if (observer) observer({}, nullptr);
+  if (std::erase_if(later_, [](const Later& each) { return each.mayStore(); }) > 0) changed_ = true;
   if (!changed_) return;
   if (isUnknown()) readAgain();
   const Result<> made = files_.makeFolder(file_.path().folder());
-  const Result<> written = file_.write(values_);
+  const Result<> written = file_.write(later_.empty() ? values_ : toStore());
   changed_ = !written;
   unwritten_.reset();
   if (!written) unwritten_ = made ? written.error() : made.error();  // without its folder no file can be

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/services/plist_file.h"
 
@@ -20,6 +21,9 @@ class UserDefaults {
   const PropertyList* find(std::string_view key) const { return values_.find(key); }
   const std::string* string(std::string_view key) const { return values_.string(key); }
   void set(std::string_view key, PropertyList value);
+  // Sets a key that is absent; its value goes to the disk with the first synchronise at which it may. Until then, and
+  // where it never may, the file has no such key, whatever else is written.
+  void setLater(std::string_view key, PropertyList value, std::function<bool()> mayStore);
   void remove(std::string_view key);
   // Why the file that is there could not be read, so that every key counts as absent.
   const std::optional<Failure>& unread() const { return unread_; }
@@ -35,10 +39,17 @@ class UserDefaults {
   std::function<void(std::string_view key, const PropertyList* value)> observer;
 
  private:
+  struct Later {
+    std::string key;
+    std::function<bool()> mayStore;
+  };
   void readAgain();
+  bool forgetLater(std::string_view key);
+  Dictionary toStore() const;
   FileService& files_;
   PlistFile file_;
   Dictionary values_;
+  std::vector<Later> later_;
   std::optional<Failure> unread_, unwritten_;
   bool changed_ = false;
 };

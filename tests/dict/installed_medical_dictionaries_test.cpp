@@ -45,6 +45,10 @@ TEST_P(MedicalRows, runOnceWhenTheirDataAppears) {
   EXPECT_EQ(world.list(GetParam().direction), GetParam().after);
   EXPECT_EQ(world.list(std::string_view(GetParam().direction) == "EJ" ? "JE" : "EJ"), Array{G});
 
+  EXPECT_EQ(UserDefaults(world.files, world.folder.at("defaults.plist")).find(GetParam().flag), nullptr)
+      << "the styles are not written yet";
+  world.store.writeTarvoStylePlist();
+  world.defaults.synchronize();
   const UserDefaults anotherRun(world.files, world.folder.at("defaults.plist"));
   ASSERT_NE(anotherRun.find(GetParam().flag), nullptr);
   EXPECT_EQ(*anotherRun.find(GetParam().flag), PropertyList(true));
@@ -133,7 +137,7 @@ TEST(InstalledMedicalDictionaries, waitForSettingsThatCannotBeRead) {
   disk.put("/settings.plist", "");
   disk.refuse(MemoryFiles::Operation::read, "/settings.plist", std::errc::io_error);
   UserDefaults unread(disk, DiskPath("/settings.plist"));
-  MedicalDictionaries medical(world.files, world.locations, world.texts, unread, world.store);
+  MedicalDictionaries medical({world.files, world.locations, world.paths, world.texts, unread, world.store});
   EXPECT_TRUE(medical.insertInstalled().empty()) << "the user may have taken it out of the list";
   EXPECT_EQ(world.list("EJ"), Array{G});
 }

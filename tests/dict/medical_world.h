@@ -50,7 +50,7 @@ struct MedicalWorld : StylePaneWorld {
     return !flags.empty();
   }
 
-  MedicalDictionaries medical{files, locations, texts, defaults, store};
+  MedicalDictionaries medical{{files, locations, paths, texts, defaults, store}};
   std::string log;
 };
 
