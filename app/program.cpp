@@ -30,8 +30,8 @@ Program::Program(const Services& given)
       defaults_(services_.files, userDefaultsPath(services_.locations)),
       rooms_({interface_, services_, defaults_, notifications_, windows_,
               [this](Tool tool) { styles_.selectTableViewAction(tool); }, [this] { styles_.showStylesAgain(); }}),
-      manager_(interface_, rooms_, services_, defaults_, notifications_, windows_, [this] { quit(); }),
-      styles_(interface_, rooms_, services_, defaults_, notifications_, [this] { quit(); }),
+      manager_(interface_, rooms_, services_, defaults_, notifications_, windows_, [this] { userQuits(); }),
+      styles_(interface_, rooms_, services_, defaults_, notifications_, [this] { userQuits(); }),
       opening_({interface_, styles_, manager_, panels_, rooms_.connection, windows_, services_.texts}),
       requests_(services_.runLoop, styles_, opening_) {
   rooms_.connection.didEndAsking = [this] {
@@ -69,6 +69,11 @@ bool Program::start() {
   if (!construct() || !load()) return false;
   launch();
   return true;
+}
+
+void Program::userQuits() {
+  if (!hasUser || !managerAwake_ || terminated_) return quit();
+  rooms_.quitting.ask([this] { quit(); });
 }
 
 void Program::quit() {

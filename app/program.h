@@ -33,6 +33,10 @@ class Program {
   void launch();     // the window comes up
   bool start();      // all three
 
+  // The user wants the program to end, who is asked first where the styles could not be saved (quit_question.h), if
+  // anybody is there to answer. Its owner says so once it is up.
+  void userQuits();
+  bool hasUser = false;
   // Ends the program: what has to be stored is stored, once, if the main controller was ready for it.
   void quit();
   bool isTerminated() const { return terminated_; }

@@ -42,6 +42,7 @@
 #include "style/option_editing.h"
 #include "style/pane_alerts.h"
 #include "style/process_flags.h"
+#include "style/quit_question.h"
 #include "style/style_exchange.h"
 #include "style/style_keys.h"
 #include "style/style_naming.h"
@@ -117,6 +118,7 @@ struct Rooms {
                      texts_.localized(nomalStyle)};
   StyleExchange exchange{{interface_.exchange, stylePopup_, myWindow_, store, services_.files, services_.locations,
                           services_.panels, alerts, windows_, texts_}};
+  QuitQuestion quitting{{store, services_.panels, texts_, locations_, windows_.covers(), myWindow_}};
   StyleDisplay display{store, options, lists, texts_};
   UndoSteps undoSteps{store};
   UndoCommands undo{{undoSteps, interface_.style.undoMenu, interface_.style.redoMenu, interface_.manager.myTabView,

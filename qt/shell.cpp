@@ -5,7 +5,9 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLibraryInfo>
+#include <QTimer>
 #include <QTranslator>
+#include <chrono>
 #include <utility>
 
 #include "app/t_manager_controller.h"
@@ -19,6 +21,12 @@
 #include "qt/window/toolbar_customise.h"
 
 namespace tarvo {
+
+namespace {
+
+constexpr std::chrono::minutes endOfSession(2);  // longer than desktops wait for their programs
+
+}  // namespace
 
 std::vector<PageBuilder> paneBuilders(Interface& interface, Binder& binder) {
   using Build = QWidget* (*)(Interface&, Binder&, QWidget*);
@@ -87,7 +95,16 @@ void Shell::openFiles(const std::vector<std::string>& paths) {
 void Shell::run() {
   if (program_.isTerminated()) return;
   program_.didTerminate = [] { QApplication::exit(); };
+  program_.hasUser = true;
+  for (const auto request : {&QGuiApplication::commitDataRequest, &QGuiApplication::saveStateRequest}) {
+    QObject::connect(&application_, request, windows_.mainWindow(), [this] { sessionEnds(); });
+  }
   QApplication::exec();
+}
+
+void Shell::sessionEnds() {
+  program_.hasUser = false;
+  QTimer::singleShot(endOfSession, windows_.mainWindow(), [this] { program_.hasUser = true; });
 }
 
 void Shell::customizeToolbar() {

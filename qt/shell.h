@@ -41,8 +41,11 @@ class Shell {
   void openFiles(const std::vector<std::string>& paths);
   // False: the program has ended instead.
   bool start();
-  // Runs until the program ends.
+  // Runs until the program ends; whoever sits before it is asked what quitting would lose.
   void run();
+  // The desktop's session is about to end: quitting asks nobody. Where the session goes on after all it does again,
+  // after a while.
+  void sessionEnds();
 
   Program& program() { return program_; }
   QtWindows& windows() { return windows_; }

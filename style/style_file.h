@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/services/file_service.h"
 #include "platform/services/plist_file.h"
 #include "style/earlier_styles.h"
 
@@ -28,6 +29,8 @@ class StyleFile {
   // change: why; nothing when no style has changed. After a failure the file is as it was, but for one that says that
   // the disk could not sync it.
   Result<> write(const Dictionary& root, std::optional<ChangeKind> change);
+  // All that a write would put there, in a file of the user's choice; what is known of the style file stays.
+  Result<> writeCopy(const Dictionary& root, const DiskPath& path) { return files_.write(path, bytesOf(root)); }
   // What became of the file that the last write replaced.
   const Replaced& replaced() const { return replaced_; }
   // Whether another program has changed the file since it was read or written last; nothing of it is read.

@@ -71,6 +71,8 @@ class StyleStore {
   // Writes the file; then, once awake, registers all styles. A failed write registers all the same: memory is the
   // truth.
   void writeTarvoStylePlist();
+  // All styles with the choices of the tools, as one file for elsewhere.
+  Result<> writeCopy(const DiskPath& path) { return file_.writeCopy(tarvoStyle_, path); }
   void registerStyles();  // hands all of them to the engine; nothing where the file holds none
   // Lets the engine and the store agree: an engine without styles gets these, else newer ones of the engine replace
   // them whole, unwritten. Fails when the engine's cannot be taken. Those that were replaced have to be shown.
