@@ -50,6 +50,7 @@ void EarlierStylesPanel::run(const std::string& id) {
 }
 
 int EarlierStylesPanel::rowOfSet(const std::string& id) {
+  if (!history_) return -1;
   for (std::size_t row = 0; row < history_->sets().size(); ++row) {
     const EarlierSet& set = history_->sets()[row];
     if (id.empty() ? set.kind != ChangeKind::unreadable : set.id == id) return static_cast<int>(row);
@@ -67,7 +68,7 @@ void EarlierStylesPanel::selectionDidChange(TableView&) {
   const std::optional<std::size_t> row = chosenRow();
   chosen_.reset();
   std::string text = row ? std::string() : with_.texts.localized("History.none");
-  if (row) {
+  if (row && history_) {
     Result<Dictionary> root = with_.earlier.read(history_->sets()[*row]);
     text = root ? effectOf(*root) : failureText(root.error(), with_.texts);
     if (root) chosen_ = std::move(*root);
@@ -94,7 +95,7 @@ std::string EarlierStylesPanel::effectOf(const Dictionary& root) const {
 
 void EarlierStylesPanel::restoreAll() {
   const std::optional<std::size_t> row = chosenRow();
-  if (!row || !chosen_) return;
+  if (!row || !history_ || !chosen_) return;
   const std::string time = localText(history_->sets()[*row].time);
   restoreStyles(with_.store, *chosen_);
   didRestore("Notice.restoredAll", time);
