@@ -168,7 +168,7 @@ bool DictController::isBeingCreated(const std::string& name) const {
 bool DictController::isExitsDic2(const std::string& name) const {
   // A folder that could be scanned and cannot be listed now still has the file of the entry, whatever its letter case.
   const std::optional<std::size_t> entry = entryNamed(name);
-  if (entry && !services_.files.isAbsent(getDicPath((*entries_)[*entry].name))) return true;
+  if (entry && entries_ && !services_.files.isAbsent(getDicPath((*entries_)[*entry].name))) return true;
   return existsIgnoringCase(services_.files, getDicPath(name));
 }
 

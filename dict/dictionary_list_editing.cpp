@@ -48,7 +48,8 @@ void DictionaryListEditing::rescan(Direction direction) {
 
 Result<> DictionaryListEditing::mayEdit(Direction direction) const {
   const DictController& list = direction == Direction::englishToJapanese ? ejTDController_ : jeTDController_;
-  if (list.unread()) return *list.unread();
+  const std::optional<Failure>& unread = list.unread();
+  if (unread) return *unread;
   return {};
 }
 

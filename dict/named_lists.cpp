@@ -85,7 +85,8 @@ std::expected<NamedLists::Opened, ListProblem> NamedLists::open(ListPlace place)
     return std::unexpected(ListProblem{Kind::noHalf, std::string(halfKey(place.direction))});
   }
   DictController list = scanned(services_, place.direction);
-  if (list.unread()) return std::unexpected(problemOf(*list.unread()));
+  const std::optional<Failure>& unread = list.unread();
+  if (unread) return std::unexpected(problemOf(*unread));
   ListContents contents = contentsOf(list, storedNames(*record, place.direction));
   return Opened{std::move(list), std::move(contents)};
 }
