@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/plist/plist_numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <cmath>
 #include <limits>
 #include <system_error>
@@ -24,6 +26,8 @@ bool takeSign(std::string_view& text) {
   takePrefix(text, "+");
   return false;
 }
+
+void skipSpace(std::string_view& text) { text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size())); }
 
 bool beginsWithSign(std::string_view text) { return text.starts_with('-') || text.starts_with('+'); }
 
@@ -64,7 +68,9 @@ void appendPadded(std::string& out, std::int64_t number, std::size_t width) {
 
 std::optional<Integer> integerFromText(std::string_view text) {
   Integer integer;
+  const std::size_t size = text.size();
   integer.negative = takeSign(text);
+  if (text.size() < size) skipSpace(text);
   const int base = takePrefix(text, "0x") || takePrefix(text, "0X") ? 16 : 10;
   const char* end = text.data() + text.size();
   const auto result = std::from_chars(text.data(), end, integer.magnitude, base);
@@ -115,6 +121,24 @@ std::optional<std::string> textFromDate(double seconds) {
   }
   out += 'Z';
   return out;
+}
+
+bool isSoundDate(std::string_view text) {
+  constexpr std::string_view whole = "0000-00-00T00:00:00";
+  constexpr std::array<std::size_t, 4> ends{10, 13, 16, 19};  // behind the day, the hour, the minute, the second
+  if (!text.ends_with('Z') || std::ranges::find(ends, text.size() - 1) == ends.end()) return false;
+  text.remove_suffix(1);
+  const auto fits = [](char c, char form) { return form == '0' ? c >= '0' && c <= '9' : c == form; };
+  if (!std::equal(text.begin(), text.end(), whole.begin(), fits)) return false;
+  const auto number = [&text](std::size_t at, std::size_t width) {
+    unsigned value = 0;
+    for (const char digit : text.substr(std::min(at, text.size()), width))
+      value = value * 10 + static_cast<unsigned>(digit - '0');
+    return value;
+  };
+  const std::chrono::year year(static_cast<int>(number(0, 4)));
+  const std::chrono::year_month_day day(year, std::chrono::month(number(5, 2)), std::chrono::day(number(8, 2)));
+  return year > std::chrono::year(0) && day.ok() && number(11, 2) < 24 && number(14, 2) < 60 && number(17, 2) < 60;
 }
 
 }  // namespace tarvo

@@ -11,6 +11,7 @@ enum class PlistForm {
   binary,      // "bplist00"
   markedUtf8,  // XML behind a byte-order mark
   markedUtf16,
+  markedUtf32,
   declared,  // XML in the encoding that its declaration names, UTF-8 if none; or no property list at all
 };
 

@@ -8,6 +8,7 @@
 #include <array>
 #include <limits>
 #include <memory>
+#include <new>
 #include <utility>
 
 #include "platform/plist/plist_numbers.h"
@@ -161,9 +162,14 @@ class Builder {
 struct Parser {
   std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> handle;
   Builder builder;
-  bool isStopped = false;
+  PlistDamage damage;  // of what the builder did not take
+  bool isStopped = false, isOutOfMemory = false;
 
+  PlistDamage place() const {
+    return {XML_GetCurrentLineNumber(handle.get()), XML_GetCurrentColumnNumber(handle.get()) + 1};
+  }
   void stop() {
+    damage = place();
     isStopped = true;
     XML_StopParser(handle.get(), XML_FALSE);
   }
@@ -171,11 +177,16 @@ struct Parser {
 
 Parser& parserOf(void* data) { return *static_cast<Parser*>(data); }
 
-// The parser may still tell of an event or two after it was stopped.
+// The parser may still tell of an event or two after it was stopped. Nothing may be thrown through it.
 template <class Event, class Content>
 void pass(void* data, Event event, Content content) {
   Parser& parser = parserOf(data);
-  if (!parser.isStopped && !(parser.builder.*event)(content)) parser.stop();
+  try {
+    if (!parser.isStopped && !(parser.builder.*event)(content)) parser.stop();
+  } catch (const std::bad_alloc&) {
+    parser.isOutOfMemory = true;
+    parser.stop();
+  }
 }
 
 void XMLCALL onBegin(void* data, const XML_Char* name, const XML_Char**) {
@@ -198,17 +209,23 @@ void XMLCALL onSkippedEntity(void* data, const XML_Char*, int) { parserOf(data).
 
 }  // namespace
 
-std::optional<PropertyList> readXmlPropertyList(std::string_view text, XmlEncoding encoding) {
-  Parser parser{{XML_ParserCreate(encoding == XmlEncoding::utf8 ? "UTF-8" : nullptr), &XML_ParserFree}, {}};
+std::expected<PropertyList, PlistDamage> readXmlPropertyList(std::string_view text, XmlEncoding encoding) {
+  Parser parser{{XML_ParserCreate(encoding == XmlEncoding::utf8 ? "UTF-8" : nullptr), &XML_ParserFree}, {}, {}};
   XML_Parser handle = parser.handle.get();
-  if (!handle || text.size() > std::size_t{std::numeric_limits<int>::max()}) return std::nullopt;
+  if (!handle) throw std::bad_alloc();
+  if (text.size() > std::size_t{std::numeric_limits<int>::max()}) return std::unexpected(PlistDamage{});
   XML_SetUserData(handle, &parser);
   XML_SetElementHandler(handle, onBegin, onEnd);
   XML_SetCharacterDataHandler(handle, onText);
   XML_SetEntityDeclHandler(handle, onEntityDeclaration);
   XML_SetSkippedEntityHandler(handle, onSkippedEntity);
   const bool isWhole = XML_Parse(handle, text.data(), static_cast<int>(text.size()), XML_TRUE) == XML_STATUS_OK;
-  return isWhole ? parser.builder.root() : std::nullopt;
+  if (parser.isOutOfMemory || XML_GetErrorCode(handle) == XML_ERROR_NO_MEMORY) throw std::bad_alloc();
+  std::optional<PropertyList> root = isWhole ? parser.builder.root() : std::nullopt;
+  if (root) return std::move(*root);
+  const PlistDamage damage = parser.isStopped ? parser.damage : parser.place();
+  const bool isNoListAtAll = damage == PlistDamage{1, 1};
+  return std::unexpected(isNoListAtAll ? PlistDamage{} : damage);
 }
 
 }  // namespace tarvo

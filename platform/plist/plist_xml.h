@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
+#include <expected>
 #include <string_view>
 
+#include "platform/plist/plist_reader.h"
 #include "platform/plist/property_list.h"
 
 // The XML form of property lists; for plist_reader only, whose header states what is taken and what is not.
@@ -15,6 +16,6 @@ enum class XmlEncoding {
   declared,  // as the declaration says, UTF-8 if it does not
 };
 
-std::optional<PropertyList> readXmlPropertyList(std::string_view text, XmlEncoding encoding);
+std::expected<PropertyList, PlistDamage> readXmlPropertyList(std::string_view text, XmlEncoding encoding);
 
 }  // namespace tarvo

@@ -58,6 +58,10 @@ const char* keyOf(const std::error_code& cause) {
   return found != std::end(systemCauses) ? found->key : nullptr;
 }
 
+std::string placeText(const Failure& failure, const Texts& texts) {
+  return filledInAll(texts.localized("DamagePlace"), {std::to_string(failure.line), std::to_string(failure.column)});
+}
+
 }  // namespace
 
 std::string joined(const MessageParts& parts) {
@@ -70,10 +74,10 @@ std::string joined(const MessageParts& parts) {
 
 MessageParts failureParts(const Failure& failure, const Texts& texts) {
   const char* key = keyOf(failure.cause);
+  const std::string cause = key != nullptr ? texts.localized(std::string("Cause.") + key) : failure.cause.message();
   const std::string* cure = key != nullptr ? texts.find(std::string("Cure.") + key) : nullptr;
   return {texts.localized(std::string("Failure.") + wordOf(failure.attempt)),
-          key != nullptr ? texts.localized(std::string("Cause.") + key) : failure.cause.message(),
-          cure != nullptr ? *cure : std::string()};
+          failure.line == 0 ? cause : cause + placeText(failure, texts), cure != nullptr ? *cure : std::string()};
 }
 
 std::string failureCauseText(const Failure& failure, const Texts& texts) {

@@ -36,7 +36,7 @@ struct ReasonWord {
   Reason reason;
   const char* word;  // the keys are "Cause." and this, and "Cure." and this where something helps
 };
-inline constexpr std::array<ReasonWord, 25> reasonWords{{{Reason::noPath, "noPath"},
+inline constexpr std::array<ReasonWord, 27> reasonWords{{{Reason::noPath, "noPath"},
                                                          {Reason::noRegularFile, "noRegularFile"},
                                                          {Reason::noPropertyList, "noPropertyList"},
                                                          {Reason::noDictionary, "noDictionary"},
@@ -60,7 +60,9 @@ inline constexpr std::array<ReasonWord, 25> reasonWords{{{Reason::noPath, "noPat
                                                          {Reason::noStyle, "noStyle"},
                                                          {Reason::foreignLink, "foreignLink"},
                                                          {Reason::emptied, "emptied"},
-                                                         {Reason::foreign, "foreign"}}};
+                                                         {Reason::foreign, "foreign"},
+                                                         {Reason::overLimit, "overLimit"},
+                                                         {Reason::plainPassword, "plainPassword"}}};
 
 // Rows stand in the order of their values, so that a value finds its row by its number.
 constexpr const char* wordOf(Attempt attempt) { return attemptWords[static_cast<std::size_t>(attempt)].word; }
@@ -73,7 +75,7 @@ static_assert([] {
   for (std::size_t i = 0; i < reasonWords.size(); ++i) {
     if (reasonWords[i].reason != static_cast<Reason>(i + 1)) return false;
   }
-  return attemptWords.back().attempt == Attempt::check && reasonWords.back().reason == Reason::foreign;
+  return attemptWords.back().attempt == Attempt::check && reasonWords.back().reason == Reason::plainPassword;
 }());
 
 }  // namespace tarvo

@@ -13,12 +13,25 @@ namespace tarvo {
 
 namespace {
 
-Result<Dictionary> readDictionary(const FileService& files, const DiskPath& path, std::string* content) {
+// Looked at first: what is too large is not taken into memory. It may grow in between.
+Result<std::string> readBytes(const FileService& files, const DiskPath& path) {
+  const Failure tooLarge{path.text(), Attempt::read, Reason::overLimit};
+  const Result<FileStamp> stamp = files.stamp(path);
+  if (stamp && stamp->size > largestListFile) return tooLarge;
   Result<std::string> bytes = files.read(path);
+  if (bytes && bytes->size() > largestListFile) return tooLarge;
+  return bytes;
+}
+
+Result<Dictionary> readDictionary(const FileService& files, const DiskPath& path, std::string* content) {
+  Result<std::string> bytes = readBytes(files, path);
   if (!bytes) return bytes.error();
-  std::optional<PropertyList> root = readPropertyList(*bytes);
+  std::expected<PropertyList, PlistDamage> root = parsePropertyList(*bytes);
   if (content != nullptr) *content = std::move(*bytes);
-  if (!root) return Failure{path.text(), Attempt::read, Reason::noPropertyList};
+  if (!root) {
+    const auto& [line, column] = root.error();
+    return Failure{path.text(), Attempt::read, Reason::noPropertyList, line, column};
+  }
   if (root->dictionary() == nullptr) return Failure{path.text(), Attempt::read, Reason::noDictionary};
   return std::move(*root->dictionary());
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "platform/plist/property_list.h"
@@ -16,16 +17,20 @@ namespace tarvo {
 
 class FileService;
 
-// The root dictionary of a property-list file that is only read.
+// Of a list that the product reads, in bytes: no set of styles comes near it, and what is larger would only use up the
+// memory.
+inline constexpr std::size_t largestListFile = std::size_t{64} << 20;
+
+// The root dictionary of a property-list file that is only read. A damaged one fails with the place, where it is known.
 Result<Dictionary> readDictionary(const FileService& files, const DiskPath& path);
 
 class PlistFile {
  public:
   PlistFile(FileService& files, DiskPath path);
   const DiskPath& path() const { return path_; }
-  // The root dictionary. Fails when the file is missing, cannot be looked at or read, is no property list, or has
-  // another kind of root.
-  // bytes: where given, gets what the file holds, also when that is no property list.
+  // The root dictionary. Fails when the file is missing, cannot be looked at or read, is too large, is no property
+  // list, or has another kind of root. bytes: where given, gets what the file holds, also when that is no property
+  // list.
   Result<Dictionary> read(std::string* bytes = nullptr);
   // The file that is there could not be read, and was not replaced since.
   bool isUnread() const { return mustKeep_ && mayHoldBytes(); }

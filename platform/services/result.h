@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <expected>
 #include <string>
 #include <system_error>
@@ -59,7 +60,9 @@ enum class Reason {
   noStyle,          // a property list that is no style
   foreignLink,      // a link of somebody else, who could lead it anywhere
   emptied,          // a file of the product that holds nothing any more
-  foreign           // a file in the place of one of the product
+  foreign,          // a file in the place of one of the product
+  overLimit,        // a list of more than largestListFile (plist_file.h)
+  plainPassword     // it asks for a name and a password, which go out over an encrypted connection only
 };
 const std::error_category& reasonCategory();
 inline std::error_code make_error_code(Reason reason) { return {static_cast<int>(reason), reasonCategory()}; }
@@ -68,6 +71,7 @@ struct Failure {
   std::string path;  // on this disk, or the address of a service; where nothing was found, what it was looked for
   Attempt attempt = Attempt::look;
   std::error_code cause;
+  std::size_t line = 0, column = 0;  // of the damage in a text, from 1; 0 where no place is known
   friend bool operator==(const Failure&, const Failure&) = default;
 };
 

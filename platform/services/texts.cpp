@@ -72,4 +72,19 @@ std::string filledIn(const std::string& text, std::string_view first, std::strin
   return text.substr(0, place.at) + std::string(first) + filledIn(text.substr(place.at + place.length), second);
 }
 
+std::string filledInAll(std::string_view text, const std::vector<std::string>& values) {
+  std::string filled;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char digit = text[i] == '%' && i + 1 < text.size() ? text[i + 1] : '\0';
+    const auto value = static_cast<std::size_t>(digit - '1');
+    if (digit < '1' || digit > '9' || value >= values.size()) {
+      filled += text[i];
+      continue;
+    }
+    filled += values[value];
+    ++i;
+  }
+  return filled;
+}
+
 }  // namespace tarvo

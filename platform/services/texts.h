@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "platform/plist/property_list.h"
 #include "platform/services/result.h"
@@ -39,6 +40,8 @@ class Texts {
 std::string filledIn(std::string text, std::string_view value);
 // The same for two places in their order; what the first value holds is no place.
 std::string filledIn(const std::string& text, std::string_view first, std::string_view second);
+// The values in place of "%1", "%2" and so on, in whatever order the language has them; a value is not looked through.
+std::string filledInAll(std::string_view text, const std::vector<std::string>& values);
 
 class Bundle;
 class FileService;

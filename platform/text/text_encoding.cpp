@@ -133,4 +133,20 @@ std::optional<std::string> utf8FromUtf16(std::string_view bytes) {
   return out;
 }
 
+std::optional<std::string> utf8FromUtf32(std::string_view bytes) {
+  constexpr std::string_view littleMark("\xFF\xFE\0\0", 4), bigMark("\0\0\xFE\xFF", 4);
+  constexpr char32_t last = 0x10FFFF;
+  if (bytes.size() % 4 != 0) return std::nullopt;
+  const bool littleEndianOrder = bytes.starts_with(littleMark);
+  if (littleEndianOrder || bytes.starts_with(bigMark)) bytes.remove_prefix(4);
+  std::string out;
+  for (std::size_t i = 0; i < bytes.size(); i += 4) {
+    const char32_t first = unitAt(bytes, i, littleEndianOrder), second = unitAt(bytes, i + 2, littleEndianOrder);
+    const char32_t codePoint = littleEndianOrder ? (second << 16) | first : (first << 16) | second;
+    if (codePoint > last || isHighSurrogate(codePoint) || isLowSurrogate(codePoint)) return std::nullopt;
+    appendCodePoint(out, codePoint);
+  }
+  return out;
+}
+
 }  // namespace tarvo

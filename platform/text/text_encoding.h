@@ -18,5 +18,7 @@ std::optional<std::string> utf8FromShiftJis(std::string_view bytes);
 // With a byte-order mark in its order (that one mark is taken off), else big-endian. Nothing for an odd length or an
 // unpaired surrogate; zero bytes are an empty text.
 std::optional<std::string> utf8FromUtf16(std::string_view bytes);
+// The same for four bytes a character; nothing also for what is no code point of a character.
+std::optional<std::string> utf8FromUtf32(std::string_view bytes);
 
 }  // namespace tarvo

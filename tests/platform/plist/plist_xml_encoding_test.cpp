@@ -45,6 +45,31 @@ TEST(XmlPropertyList, readsEveryEncodingThatAMarkOrTheDeclarationShows) {
   EXPECT_EQ(readPropertyList("\xFF\xFE" + utf16(text, true) + "\n"), std::nullopt);
 }
 
+std::string utf32(std::u32string_view text, bool littleEndian) {
+  std::string bytes;
+  for (const char32_t unit : text) {
+    for (int i = 0; i < 4; ++i) bytes += static_cast<char>((unit >> (8 * (littleEndian ? i : 3 - i))) & 0xFF);
+  }
+  return bytes;
+}
+
+TEST(XmlPropertyList, readsUtf32BehindAMarkWhateverTheDeclarationSays) {
+  const PropertyList expected("辞書\U0001F600");
+  for (const bool littleEndian : {true, false}) {
+    const auto read = [littleEndian](std::u32string_view text) { return readPropertyList(utf32(text, littleEndian)); };
+    EXPECT_EQ(read(U"\uFEFF<string>辞書\U0001F600</string>"), expected);
+    EXPECT_EQ(read(U"\uFEFF<?xml version=\"1.0\" encoding=\"UTF-8\"?><string>辞書\U0001F600</string>"), expected);
+    EXPECT_EQ(read(U"\uFEFF<?xml version=\"1.0\" encoding=\"UTF-32\"?><string>辞書\U0001F600</string>"), expected);
+    EXPECT_EQ(read(U"<string>a</string>"), std::nullopt) << "without a mark";
+    EXPECT_EQ(read(U"\uFEFF"), std::nullopt);
+    const std::string cut = utf32(U"\uFEFF<string>a</string>", littleEndian);
+    EXPECT_EQ(readPropertyList(cut.substr(0, cut.size() - 1)), std::nullopt);
+    for (const char32_t wrong : {char32_t{0xD800}, char32_t{0xDFFF}, char32_t{0x110000}, char32_t{0xFFFFFFFF}}) {
+      EXPECT_EQ(read(std::u32string(U"\uFEFF<string>") + wrong + U"</string>"), std::nullopt);
+    }
+  }
+}
+
 TEST(XmlPropertyList, theDocumentTypeIsNeitherFetchedNorAbleToDeclareText) {
   const auto read = [](const std::string& type, const std::string& text) {
     return readPropertyList("<?xml version='1.0'?>" + type + "<plist><string>" + text + "</string></plist>");

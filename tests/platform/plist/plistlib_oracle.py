@@ -6,6 +6,7 @@
   reemit IN OUT        reads each list of IN and writes it in XML and in binary
   generate COUNT OUT   writes COUNT generated values, each in XML and in binary
   compare COUNT IN     reads COUNT pairs of lists and compares them with what generate wrote
+  dates IN OUT         tells of each text of IN, with "1" or "0", whether a list with that date can be read
 
 Files hold records: eight bytes of length, big-endian, then the bytes. An empty record stands for a value that a form
 cannot hold or a list that could not be read. Exit status 1: something differs, and is printed.
@@ -165,6 +166,18 @@ def compare(count, source):
     return 1 if different else 0
 
 
+def dates(source, target):
+    def records():
+        for record in read_records(source):
+            try:
+                plistlib.loads(b"<plist><date>" + record + b"</date></plist>")
+                yield b"1"
+            except Exception:  # plistlib throws whatever its date parser does
+                yield b"0"
+    write_records(target, records())
+    return 0
+
+
 if __name__ == "__main__":
     sys.setrecursionlimit(10 * DEEPEST)
-    sys.exit({"reemit": reemit, "generate": generate, "compare": compare}[sys.argv[1]](*sys.argv[2:]))
+    sys.exit({"reemit": reemit, "generate": generate, "compare": compare, "dates": dates}[sys.argv[1]](*sys.argv[2:]))

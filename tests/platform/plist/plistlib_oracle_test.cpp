@@ -195,6 +195,29 @@ TEST(PlistlibOracle, findsItsOwnValuesInWhatWeReadAndWrite) {
   EXPECT_TRUE(runScript("compare " + count + " " + quoted(folder / "ours")));
 }
 
+// Where the two differ on purpose: plistlib overlooks what stands behind the "Z".
+TEST(PlistlibOracle, takesExactlyTheDatesThatWeCallSound) {
+  std::vector<std::string> dates{"2009-01-31T12:00:00Z", "2009-01-31Z", "2009-01-31T12Z", "2009-01-31T12:30Z"};
+  for (const std::string& whole : {std::string("2009-01-31T12:00:00Z"), std::string("9999-12-31T23:59:59Z"),
+                                   std::string("0001-01-01T00:00:00Z"), std::string("2008-02-29T00:00:00Z")}) {
+    for (std::size_t at = 0; at < whole.size(); ++at) {
+      dates.push_back(whole.substr(0, at) + whole.substr(at + 1));
+      for (const char digit : std::string_view("0123456789-:TZ+ .")) {
+        if (digit == 'Z' && at + 1 < whole.size()) continue;
+        std::string changed = whole;
+        changed[at] = digit;
+        dates.push_back(std::move(changed));
+      }
+    }
+  }
+  const test::TemporaryFolder folder;
+  folder.write("dates", joined(dates));
+  ASSERT_TRUE(runScript("dates " + quoted(folder / "dates") + " " + quoted(folder / "answers")));
+  const std::vector<std::string> answers = split(folder.read("answers"));
+  ASSERT_EQ(answers.size(), dates.size());
+  for (std::size_t i = 0; i < dates.size(); ++i) EXPECT_EQ(isSoundDate(dates[i]), answers[i] == "1") << dates[i];
+}
+
 // Our own round trip keeps even what plistlib does not: the spelling of reals, and every line break.
 TEST(PlistlibOracle, ourOwnRoundTripChangesNothing) {
   for (int i = 0; i < values; ++i) EXPECT_EQ(readPropertyList(writePropertyList(generated(i))), generated(i));

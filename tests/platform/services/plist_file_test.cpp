@@ -59,15 +59,39 @@ TEST(PlistFile, keepsAFileThatRefusesToBeRead) {
   EXPECT_EQ(files.bytes(kept), writePropertyList(sample(1)));
 }
 
+TEST(PlistFile, takesNoListThatIsTooLargeAndKeepsItBesideLikeADamagedOne) {
+  const std::string large = writePropertyList(sample(1)) + std::string(largestListFile, ' ');
+  MemoryFiles files;
+  files.put(path, large);
+  PlistFile file(files, DiskPath(path));
+  EXPECT_EQ(file.read().error(), (Failure{path, Attempt::read, Reason::overLimit}));
+  EXPECT_TRUE(file.write(sample(2)));
+  EXPECT_EQ(files.bytes(kept).size(), large.size());
+  files.put(path, large.substr(0, largestListFile));
+  EXPECT_EQ(file.read(), sample(1)) << "that much is taken";
+}
+
+TEST(PlistFile, takesNoListThatGrewTooLargeWhileItWasLookedAt) {
+  MemoryFiles files;
+  files.put(path, std::string(largestListFile + 1, ' '));
+  files.refuse(Operation::look);
+  EXPECT_EQ(readDictionary(files, DiskPath(path)).error().cause, Reason::overLimit);
+}
+
 TEST(PlistFile, saysWhyItCouldNotBeRead) {
   const struct {
     const char* bytes;
     std::error_code cause;
-  } rows[] = {{"garbage", Reason::noPropertyList}, {"<plist version=\"1.0\"><array/></plist>", Reason::noDictionary}};
+    std::size_t line = 0, column = 0;
+  } rows[] = {{"garbage", Reason::noPropertyList},
+              {"<plist>\n<dict><key>", Reason::noPropertyList, 2, 12},
+              {"bplist00", Reason::noPropertyList},
+              {"<plist version=\"1.0\"><array/></plist>", Reason::noDictionary}};
   for (const auto& row : rows) {
     MemoryFiles files;
     files.put(path, row.bytes);
-    EXPECT_EQ(PlistFile(files, DiskPath(path)).read().error(), (Failure{path, Attempt::read, row.cause}));
+    EXPECT_EQ(PlistFile(files, DiskPath(path)).read().error(),
+              (Failure{path, Attempt::read, row.cause, row.line, row.column}));
   }
   MemoryFiles files;
   EXPECT_TRUE(isAbsence(PlistFile(files, DiskPath(path)).read().error()));
