@@ -19,6 +19,7 @@
 #include "platform/services/failure_text.h"
 
 // tarvoctl: a verb or a script, on the real disk and the real clock.
+#include "platform/text/printable.h"
 namespace tarvo {
 
 namespace {
@@ -65,7 +66,7 @@ ExitStatus runVerb(const CommandLine& line, Command& command) {
 }
 
 ExitStatus cannotRead(const CommandLine& line, const Failure& failure) {
-  std::cerr << "tarvoctl: " << failureText(failure, textsToTell(line)) << '\n';
+  std::cerr << "tarvoctl: " << printable(failureText(failure, textsToTell(line))) << '\n';
   return ExitStatus::refused;
 }
 
@@ -96,10 +97,11 @@ ExitStatus runScriptFile(const CommandLine& line) {
 ExitStatus refuse(const Failure& missing, const CommandLine& line) {
   std::cerr << "tarvoctl: ";
   if (missing.cause == std::errc::no_such_file_or_directory) {
-    std::cerr << missing.path << ": is not there; the folder holds no resources of the product; name another "
+    std::cerr << printable(missing.path)
+              << ": is not there; the folder holds no resources of the product; name another "
               << "one with --resources, or install the product again\n";
   } else {
-    std::cerr << failureText(missing, textsToTell(line)) << '\n';
+    std::cerr << printable(failureText(missing, textsToTell(line))) << '\n';
   }
   return ExitStatus::refused;
 }

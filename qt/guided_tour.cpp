@@ -17,6 +17,7 @@
 #include <QTimer>
 #include <iostream>
 
+#include "platform/text/printable.h"
 #include "qt/bind/in_step.h"
 #include "qt/shell.h"
 #include "qt/window/main_window.h"
@@ -51,7 +52,7 @@ class Tour {
   bool mail() { return press("manager.MT") && tick("manager.mailTableView") && picture("mail"); }
 
   bool fail(const std::string& reason) {
-    std::cerr << "tarvo-manager: tour: " << reason << '\n';
+    std::cerr << "tarvo-manager: tour: " << printable(reason) << '\n';
     return false;
   }
 
@@ -190,7 +191,7 @@ void answerByDefault(QObject& owner) {
 bool takeGuidedTour(Shell& shell, const std::string& folder) {
   const QString place = QDir().absoluteFilePath(toQString(folder));
   if (!QDir().mkpath(place)) {
-    std::cerr << "tarvo-manager: tour: cannot make the folder " << folder << '\n';
+    std::cerr << "tarvo-manager: tour: cannot make the folder " << printable(folder) << '\n';
     return false;
   }
   Tour tour(shell, place);

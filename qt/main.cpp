@@ -13,6 +13,7 @@
 #include "platform/posix/running_applications.h"
 #include "platform/services/failure_text.h"
 #include "qt/command_line.h"
+#include "platform/text/printable.h"
 #include "qt/guided_tour.h"
 #include "qt/look/tarvo_style.h"
 #include "qt/services/bus_probe.h"
@@ -25,7 +26,7 @@ namespace {
 enum Status { done = 0, failed = 1, misused = 2, locked = 3 };
 
 int tell(Status status, const std::string& message) {
-  std::cerr << "tarvo-manager: " << message << '\n';
+  std::cerr << "tarvo-manager: " << printable(message) << '\n';
   return status;
 }
 

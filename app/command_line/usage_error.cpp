@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "platform/services/texts.h"
+#include "platform/text/printable.h"
 
 namespace tarvo {
 
@@ -74,7 +75,7 @@ MessageParts reasonOf(const UsageError& error, const Texts& texts) {
 }
 
 std::string told(const UsageError& error, std::string_view program, const Texts& texts) {
-  return std::string(program) + ": " + subjectOf(error) + ": " + joined(reasonOf(error, texts));
+  return printable(std::string(program) + ": " + subjectOf(error) + ": " + joined(reasonOf(error, texts)));
 }
 
 }  // namespace tarvo

@@ -62,8 +62,8 @@ ExitStatus DictionariesCommand::run(Console& console) {
     return styles.status;
   }
   std::vector<std::vector<std::string>> rows;
-  for (const std::string& name : contents.loaded) rows.push_back({std::to_string(rows.size() + 1), printable(name)});
-  for (const std::string& name : contents.available) rows.push_back({"-", printable(name)});
+  for (const std::string& name : contents.loaded) rows.push_back({std::to_string(rows.size() + 1), name});
+  for (const std::string& name : contents.available) rows.push_back({"-", name});
   writeTable(console.out, rows);
   return styles.status;
 }

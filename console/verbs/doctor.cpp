@@ -92,7 +92,7 @@ class Examination {
     if (!names) return;  // told for the file itself
     for (const std::string& name : *names) {
       if (!name.starts_with(path.name() + ".unreadable")) continue;
-      add(path.folder() / printable(name), "kept copy", "problem",
+      add(path.folder() / name, "kept copy", "problem",
           "a style file that could not be read; bring its styles back with restore, then remove the copy");
     }
   }
@@ -134,7 +134,7 @@ class Examination {
     if (const std::optional<Failure>& unread = list.unread())
       add(DiskPath(unread->path), "dictionary", "problem", causeOf(*unread));
     for (const std::string& name : namesThatCannotBeKept(dictionaryServices(product_), direction)) {
-      add(path / printable(name), "dictionary", "problem", "a style file cannot hold its name: rename it");
+      add(path / name, "dictionary", "problem", "a style file cannot hold its name: rename it");
     }
   }
 

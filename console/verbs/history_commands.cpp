@@ -50,7 +50,7 @@ ExitStatus HistoryCommand::run(Console& console) {
     list.emplace_back(jsonOf(entry, texts));
     std::vector<std::string> row{entry.set.id, std::string(nameOf(entry.set.kind))};
     for (const std::string& words : wordsOf(entry, texts)) {
-      row.push_back(printable(words));
+      row.push_back(words);
       rows.push_back(std::exchange(row, {"", ""}));
     }
     if (!row.front().empty()) rows.push_back(row);

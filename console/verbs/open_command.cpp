@@ -8,6 +8,7 @@
 #include "app/product.h"
 #include "app/product_defaults.h"
 #include "platform/services/failure_text.h"
+#include "platform/text/printable.h"
 
 namespace tarvo {
 
@@ -32,15 +33,16 @@ std::optional<std::string> findWindowProgram() {
 ExitStatus OpenCommand::run(Console& console) {
   const std::optional<std::string> program = findWindowProgram();
   if (!program) {
-    console.err << windowProgram << " is not there: it belongs beside this program, in " << programFolder().text()
-                << '\n';
+    console.err << windowProgram << " is not there: it belongs beside this program, in "
+                << printable(programFolder().text()) << '\n';
     return ExitStatus::refused;
   }
   std::vector<std::string> words{*program};
   words.insert(words.end(), options_.begin(), options_.end());
   words.push_back("--open=" + code_);
   console.out.flush();
-  console.err << failureText(console.become(DiskPath(*program), std::move(words)), console.product.texts()) << '\n';
+  const Failure failure = console.become(DiskPath(*program), std::move(words));
+  console.err << printable(failureText(failure, console.product.texts())) << '\n';
   return ExitStatus::refused;
 }
 

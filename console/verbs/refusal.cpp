@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "console/verbs/refusal.h"
 
-#include <array>
-#include <cstdio>
+#include <algorithm>
 
 #include "app/product.h"
 #include "app/user_files.h"
 #include "platform/plist/json.h"
 #include "platform/services/failure_text.h"
-#include "platform/text/utf8.h"
+#include "platform/services/user_defaults.h"
+#include "platform/text/printable.h"
 
 namespace tarvo {
 
@@ -36,8 +36,7 @@ struct Telling {
   const Texts& texts;
   Told operator()(const Refusal& refusal) const {
     MessageParts parts = partsOf(texts.localized(refusal.key));
-    for (std::string* part : {&parts.what, &parts.cause, &parts.cure})
-      *part = filledIn(*part, printable(refusal.detail));
+    for (std::string* part : {&parts.what, &parts.cause, &parts.cure}) *part = filledIn(*part, refusal.detail);
     return {refusal.name, std::move(parts)};
   }
   Told operator()(const UsageError& error) const { return {subjectOf(error), reasonOf(error, texts)}; }
@@ -50,7 +49,7 @@ ExitStatus statusOf(const Problem& problem) {
 }
 
 void print(Console& console, const Told& told) {
-  console.err << "tarvoctl: " << printable(told.name) << ": " << joined(told.parts) << '\n';
+  console.err << "tarvoctl: " << printable(told.name) << ": " << printable(joined(told.parts)) << '\n';
 }
 
 }  // namespace
@@ -78,6 +77,16 @@ void note(Console& console, const Refusal& told) {
   print(console, Telling{texts}(told));
 }
 
+void note(Console& console, const std::string& name, const std::string& words) {
+  print(console, Told{name, {words, "", ""}});
+}
+
+void noteUnread(Console& console, const UserDefaults& settings) {
+  const std::optional<Failure>& unread = settings.unread();
+  if (!unread) return;
+  note(console, {unread->path, "Refusal.UnreadableSettings", failureParts(*unread, console.textsToTell()).cause});
+}
+
 UsageError unknownEngine(const std::string& address) {
   return {UsageError::Kind::wrongValue, address, {}, "Usage.Engine", "--engine"};
 }
@@ -93,23 +102,6 @@ void say(Console& console, const Outcome& outcome) {
   if (outcome.registered) answer["registered"] = *outcome.registered;
   if (isSo) answer.emplace("already", true);
   console.out << writeJson(answer) << '\n';
-}
-
-std::string printable(const std::string& name) {
-  std::string text;
-  for (std::size_t at = 0; at < name.size();) {
-    const std::size_t start = at;
-    const char32_t codePoint = nextCodePoint(name, at);
-    if (codePoint >= 0x20 && codePoint != 0x7F && codePoint < invalidByte) {
-      text.append(name, start, at - start);
-      continue;
-    }
-    std::array<char, 8> escaped{};
-    const int length =
-        std::snprintf(escaped.data(), escaped.size(), "\\x%02X", static_cast<unsigned char>(name[start]));
-    text.append(escaped.data(), static_cast<std::size_t>(length));
-  }
-  return text;
 }
 
 }  // namespace tarvo

@@ -15,6 +15,8 @@
 namespace tarvo {
 
 // Well-formed words that cannot be followed.
+class UserDefaults;
+
 struct Refusal {
   std::string name;    // of what it is about: a style, a dictionary, an application; or a real path
   std::string key;     // of the text "what; cause; cure"
@@ -30,6 +32,11 @@ ExitStatus tell(Console& console, const Problem& failure);
 // The same line for something that is no failure.
 void note(Console& console, const Refusal& told);
 
+// A line of words that stand for themselves, about something.
+void note(Console& console, const std::string& name, const std::string& words);
+
+// Settings that are there and could not be read, where that is so.
+void noteUnread(Console& console, const UserDefaults& settings);
 // What a verb that changes something says at its end.
 struct Outcome {
   std::vector<std::string> changed;  // names of what changed; empty: it was so already
@@ -42,8 +49,5 @@ std::optional<Problem> takeLock(Console& console);
 
 // The address of a style service that no form of it serves.
 UsageError unknownEngine(const std::string& address);
-
-// A name as people can read it: control characters and bytes that are no UTF-8 are escaped.
-std::string printable(const std::string& name);
 
 }  // namespace tarvo

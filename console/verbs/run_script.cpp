@@ -7,6 +7,7 @@
 #include "console/script/memory_shell.h"
 #include "console/verbs/refusal.h"
 #include "platform/services/failure_text.h"
+#include "platform/text/printable.h"
 
 namespace tarvo {
 
@@ -21,7 +22,7 @@ ExitStatus runScript(const ScenarioOptions& options, ScenarioClock& clock, const
     return ExitStatus::usage;
   }
   if (const std::optional<Failure>& unread = session.product().unread()) {
-    err << "tarvoctl: " << failureText(*unread, textsToTell(shown)) << '\n';
+    err << "tarvoctl: " << printable(failureText(*unread, textsToTell(shown))) << '\n';
     return ExitStatus::refused;
   }
   Interpreter interpreter(session, text, file, out);
@@ -29,7 +30,7 @@ ExitStatus runScript(const ScenarioOptions& options, ScenarioClock& clock, const
   while (interpreter.step()) {
   }
   if (interpreter.failure().empty()) return ExitStatus::done;
-  err << interpreter.failure() << '\n';
+  err << printable(interpreter.failure()) << '\n';
   return session.isLockedOut() ? ExitStatus::locked : ExitStatus::scriptFailed;
 }
 

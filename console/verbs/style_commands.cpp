@@ -36,7 +36,7 @@ std::string joined(const std::vector<std::string>& words, const char* between) {
 }
 
 std::string shortForm(const PropertyList& value) {
-  if (value.string() != nullptr) return printable(*value.string());
+  if (value.string() != nullptr) return *value.string();
   const Array* array = value.array();
   if (array == nullptr) return writeJson(jsonFromPropertyList(value));
   std::vector<std::string> elements;
@@ -72,7 +72,7 @@ ExitStatus StylesCommand::run(Console& console) {
     const std::string name = style != nullptr ? styleName(*style) : "";
     const bool isLine = style != nullptr && isDivider(*style, texts);
     const std::vector<std::string> tools = toolsAt(*styles.root, index, ids);
-    rows.push_back({std::to_string(index), isLine ? "(divider)" : printable(name), joined(tools, " ")});
+    rows.push_back({std::to_string(index), isLine ? "(divider)" : name, joined(tools, " ")});
     list.emplace_back(Json::Object{
         {"index", index}, {"name", name}, {"divider", isLine}, {"tools", Json::List(tools.begin(), tools.end())}});
     ++index;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "platform/text/printable.h"
 #include "platform/text/utf8.h"
 
 namespace tarvo {
@@ -25,8 +26,9 @@ std::size_t places(std::string_view text) {
 
 }  // namespace
 
-void writeTable(std::ostream& out, const std::vector<std::vector<std::string>>& rows) {
+void writeTable(std::ostream& out, std::vector<std::vector<std::string>> rows) {
   std::vector<std::size_t> widths;
+  for (auto& row : rows) std::ranges::transform(row, row.begin(), printable);
   for (const auto& row : rows) {
     widths.resize(std::max(widths.size(), row.size()));
     for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], places(row[i]));

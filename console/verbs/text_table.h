@@ -9,6 +9,6 @@
 namespace tarvo {
 
 // Rows of texts, each column as wide as its widest cell; East Asian wide characters take two places.
-void writeTable(std::ostream& out, const std::vector<std::vector<std::string>>& rows);
+void writeTable(std::ostream& out, std::vector<std::vector<std::string>> rows);
 
 }  // namespace tarvo

@@ -72,7 +72,7 @@ class SegmentsView : public ControlView {
       const SegmentedControl::Segment& segment = control_.segments()[static_cast<std::size_t>(i)];
       at(i).setIcon(binder_.icon(segment.image));
       if (hasImages) at(i).setMinimumSize(metrics::segmentWidth, metrics::segmentHeight);  // also the one without
-      at(i).setToolTip(toQString(segment.toolTip));
+      at(i).setToolTip(plainToolTip(segment.toolTip));
       at(i).setAccessibleName(toQString(segment.toolTip));
       at(i).setEnabled(segment.enabled);
       if (!isNew) continue;

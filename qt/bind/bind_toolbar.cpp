@@ -25,7 +25,7 @@ class ToolbarItemView : public ControlView {
     button_.setText(toQString(control_.label()));
     button_.setIcon(binder_.icon(control_.image()));
     button_.setAccessibleName(button_.text());
-    button_.setToolTip(toQString(control_.toolTip()));
+    button_.setToolTip(plainToolTip(control_.toolTip()));
     button_.setEnabled(control_.isEnabled());
   }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "qt/bind/binder.h"
 
+#include <QTextDocument>
+
 #include "platform/services/bundle.h"
 #include "platform/services/texts.h"
 #include "qt/look/icons.h"
@@ -18,6 +20,11 @@ QIcon Binder::icon(std::string_view image) {
   if (known != icons_.end()) return known->second;
   const std::optional<DiskPath> path = image.empty() ? std::nullopt : bundle_.image(image);
   return icons_[std::string(image)] = path ? tarvo::icon(toQString(path->text()), scheme_) : QIcon();
+}
+
+QString plainToolTip(std::string_view text) {
+  const QString plain = toQString(text);
+  return Qt::mightBeRichText(plain) ? QStringLiteral("<p>%1</p>").arg(plain.toHtmlEscaped()) : plain;
 }
 
 }  // namespace tarvo

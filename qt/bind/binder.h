@@ -98,4 +98,7 @@ inline QString toQString(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+// A text as a tool tip shows it: what looks like markup would be taken for it.
+QString plainToolTip(std::string_view text);
+
 }  // namespace tarvo

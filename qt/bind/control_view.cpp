@@ -23,7 +23,7 @@ ControlView::~ControlView() {
 
 void ControlView::showCommonState() {
   widget_.setAccessibleName(toQString(control_.label()));
-  widget_.setToolTip(toQString(control_.toolTip()));
+  widget_.setToolTip(plainToolTip(control_.toolTip()));
   widget_.setEnabled(control_.isEnabled());
   // A widget that was never hidden comes up with its window; showing one without a window would open one.
   if (control_.isHidden() != isHiddenItself(widget_)) widget_.setVisible(!control_.isHidden());

@@ -3,6 +3,7 @@
 #include "qt/look/tarvo_style.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QPainter>
 #include <QStyleOptionViewItem>
 
@@ -75,6 +76,13 @@ void drawCurrentMark(QPainter& painter, const QRect& row, const QPalette& palett
 }  // namespace
 
 TarvoStyle::TarvoStyle(Scheme scheme) : QProxyStyle(QStringLiteral("fusion")), scheme_(scheme) {}
+
+void TarvoStyle::polish(QWidget* widget) {
+  QProxyStyle::polish(widget);
+  auto* label = qobject_cast<QLabel*>(widget);
+  const bool isToolTip = widget->inherits("QTipLabel");  // whose markup is our own: see plainToolTip
+  if (label != nullptr && !isToolTip && label->textFormat() == Qt::AutoText) label->setTextFormat(Qt::PlainText);
+}
 
 void TarvoStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const {

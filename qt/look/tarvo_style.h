@@ -36,6 +36,9 @@ class TarvoStyle : public QProxyStyle {
   QIcon standardIcon(StandardPixmap picture, const QStyleOption* option = nullptr,
                      const QWidget* widget = nullptr) const override;
   QPalette standardPalette() const override;
+  // Texts of labels may come from files: none is taken for markup.
+  void polish(QWidget* widget) override;
+  using QProxyStyle::polish;
 
  private:
   // A row of a list or menu: the base draws it as one that is not chosen, over the tint of a chosen one.

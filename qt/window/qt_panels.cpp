@@ -7,6 +7,7 @@
 #include <iostream>
 #include <utility>
 
+#include "platform/text/printable.h"
 #include "qt/bind/binder.h"
 #include "qt/window/alert_dialog.h"
 #include "qt/window/file_panel.h"
@@ -26,7 +27,7 @@ QtPanels::QtPanels(Surroundings surroundings) : surroundings_(std::move(surround
 
 void QtPanels::beep() { QApplication::beep(); }
 
-void QtPanels::tell(const std::string& text) { std::cerr << "tarvo-manager: " << text << '\n'; }
+void QtPanels::tell(const std::string& text) { std::cerr << "tarvo-manager: " << printable(text) << '\n'; }
 
 int QtPanels::runAlertPanel(const Alert& alert) {
   AlertDialog dialog(alert, QApplication::activeWindow());
