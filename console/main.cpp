@@ -16,10 +16,11 @@
 #include "platform/posix/instance_lock.h"
 #include "platform/posix/posix_run_loop.h"
 #include "platform/posix/process.h"
+#include "platform/posix/temporaries.h"
 #include "platform/services/failure_text.h"
+#include "platform/text/printable.h"
 
 // tarvoctl: a verb or a script, on the real disk and the real clock.
-#include "platform/text/printable.h"
 namespace tarvo {
 
 namespace {
@@ -40,12 +41,19 @@ class RealClock : public ScenarioClock {
   PosixRunLoop loop_;
 };
 
-// Takes a lock and keeps it as long as it lives itself.
+// Takes the lock of a user's files and keeps it as long as it lives itself; what programs left behind there goes.
 class HeldLock {
  public:
-  bool operator()(const DiskPath& path) {
+  Result<> operator()(const DiskPath& path, const DiskPath& home) {
     lock_.emplace(path);
-    return lock_->state() != InstanceLock::State::heldByAnother;
+    switch (lock_->state()) {
+      case InstanceLock::State::held: sweepTemporaries(home); break;
+      case InstanceLock::State::heldByAnother:
+        return Failure{path.text(), Attempt::write, std::make_error_code(std::errc::device_or_resource_busy)};
+      case InstanceLock::State::noFile: return Failure{path.text(), Attempt::write, Reason::noRegularFile};
+      case InstanceLock::State::unavailable: break;
+    }
+    return {};
   }
 
  private:

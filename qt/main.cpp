@@ -11,9 +11,10 @@
 
 #include "platform/posix/instance_lock.h"
 #include "platform/posix/running_applications.h"
+#include "platform/posix/temporaries.h"
 #include "platform/services/failure_text.h"
-#include "qt/command_line.h"
 #include "platform/text/printable.h"
+#include "qt/command_line.h"
 #include "qt/guided_tour.h"
 #include "qt/look/tarvo_style.h"
 #include "qt/services/bus_probe.h"
@@ -49,6 +50,9 @@ std::optional<int> enter(std::optional<InstanceLock>& lock, const CommandLine& l
   for (int i = 0; i < tries; ++i) {
     lock.emplace(lockFile);
     if (lock->state() == InstanceLock::State::held) return std::nullopt;
+    if (lock->state() == InstanceLock::State::noFile) {
+      return tell(locked, lockFile.text() + ": " + textsToTell(line).localized("Refusal.LockIsNoFile"));
+    }
     const Handover handover = line.tour ? Handover::noBus : handOverInTime(identity, {line.open, line.files});
     if (handover == Handover::done) return done;
     if (lock->state() == InstanceLock::State::unavailable) return std::nullopt;
@@ -76,6 +80,7 @@ int runManager(const CommandLine& line, int& argc, char** argv) {
   std::optional<InstanceLock> lock;
   const auto status = enter(lock, line, placeForLock(product.files(), product.locations()), identity);
   if (status) return *status;
+  if (lock->state() == InstanceLock::State::held) sweepTemporaries(product.locations().home());
   QApplication application(argc, argv);
   nameApplication(product.texts());
   applyLook(schemeFromEnvironment(), product.language());

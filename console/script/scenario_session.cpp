@@ -42,8 +42,13 @@ Program& ScenarioSession::program() {
 
 void ScenarioSession::takeLock() {
   const Locations& locations = product_.locations();
-  lockedOut_ = takeLock_ && !takeLock_(placeForLock(product_.files(), locations));
-  if (lockedOut_) throw ScriptError("another manager works on these files");
+  const Result<> taken =
+      takeLock_ ? takeLock_(placeForLock(product_.files(), locations), locations.home()) : Result<>();
+  lockedOut_ = !taken;
+  if (!taken && taken.error().cause == Reason::noRegularFile) {
+    throw ScriptError("the lock of these files is no file: " + locations.shown(DiskPath(taken.error().path)));
+  }
+  if (!taken) throw ScriptError("another manager works on these files");
   takeLock_ = {};
 }
 

@@ -67,9 +67,12 @@ ExitStatus tell(Console& console, const Problem& problem) {
 }
 
 std::optional<Problem> takeLock(Console& console) {
-  const DiskPath lock = placeForLock(console.product.files(), console.product.locations());
-  if (console.takeLock(lock)) return std::nullopt;
-  return Refusal{lock.text(), "Refusal.Locked", "", ExitStatus::locked};
+  const Locations& locations = console.product.locations();
+  const DiskPath lock = placeForLock(console.product.files(), locations);
+  const Result<> taken = console.takeLock(lock, locations.home());
+  if (taken) return std::nullopt;
+  const bool isNoFile = taken.error().cause == Reason::noRegularFile;
+  return Refusal{lock.text(), isNoFile ? "Refusal.LockIsNoFile" : "Refusal.Locked", "", ExitStatus::locked};
 }
 
 void note(Console& console, const Refusal& told) {

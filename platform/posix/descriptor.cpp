@@ -4,10 +4,8 @@
 
 #include <dirent.h>
 #include <fcntl.h>
-#include <sys/random.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
 #include <cstring>
 #include <memory>
@@ -97,16 +95,5 @@ std::optional<std::vector<std::string>> namesIn(int folder) {
 }
 
 bool syncFolder(int folder) { return ::fsync(folder) == 0 || (errno != EIO && errno != ENOSPC); }
-
-std::string temporaryName() {
-  std::array<unsigned char, 12> random{};
-  if (::getentropy(random.data(), random.size()) != 0) return "";
-  std::string name = ".tarvo-";
-  for (const unsigned char byte : random) {
-    name += "0123456789abcdef"[byte >> 4];
-    name += "0123456789abcdef"[byte & 15];
-  }
-  return name;
-}
 
 }  // namespace tarvo

@@ -36,7 +36,8 @@ std::optional<std::vector<std::string>> namesIn(int folder);
 // Puts the names that an open folder holds on the disk. Some disks cannot sync a folder, and that is no failure; false
 // only where the names may be lost: after an error of the disk, and on a full one.
 bool syncFolder(int folder);
-// The name of a temporary file that nobody can guess.
+// The name of a temporary file: nobody can guess it, and it tells who made it (temporaries.h). "" where the system
+// gives no random number.
 std::string temporaryName();
 
 }  // namespace tarvo

@@ -11,7 +11,9 @@ namespace tarvo {
 
 class InstanceLock {
  public:
-  enum class State { held, heldByAnother, unavailable };  // unavailable: the disk gives none; the program goes without
+  // noFile: something else lies there, or a link, which is never followed. unavailable: the disk gives none; the
+  // program goes without.
+  enum class State { held, heldByAnother, noFile, unavailable };
   // Tries once and does not wait. Folders for the file are made with mode 0777.
   explicit InstanceLock(const DiskPath& path);
   State state() const { return state_; }

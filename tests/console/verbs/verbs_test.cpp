@@ -85,6 +85,83 @@ TEST_F(Verbs, aScriptStartsNoProgramOnFilesThatAnotherOneHolds) {
   EXPECT_EQ(result.status, 3);
 }
 
+TEST_F(Verbs, aLockThatIsNoFileIsToldAndNothingIsDone) {
+  putStyles("root4.plist");
+  const std::string lock = root_.home() + "/Library/Preferences/com.wordhaven.TarvoManager.lock";
+  const std::string script = root_.root() + "/start.scenario";
+  std::ofstream(script) << "start\n";
+  const auto expectRefused = [&] {
+    const auto before = tree();
+    const ToolResult result = run({"style", "set", "1", "Opt1=2"});
+    EXPECT_EQ(result.err, told(lock,
+                               "nothing was done; this is the place of the lock for these files, and no file lies "
+                               "there; move away what is there"));
+    EXPECT_EQ(result.status, 3);
+    const ToolResult asScript = run({"run", script});
+    EXPECT_EQ(asScript.err, script + ":1: the lock of these files is no file: home:/Library/Preferences/" +
+                                "com.wordhaven.TarvoManager.lock\n");
+    EXPECT_EQ(asScript.status, 3);
+    EXPECT_EQ(tree(), before);
+  };
+  std::filesystem::create_directory(lock);
+  expectRefused();
+  std::filesystem::remove(lock);
+  std::filesystem::create_symlink(root_.root() + "/elsewhere", lock);
+  expectRefused();
+  EXPECT_FALSE(std::filesystem::exists(root_.root() + "/elsewhere"));
+}
+
+TEST_F(Verbs, whatAKilledProgramLeftBehindIsGoneAfterTheNextChange) {
+  putStyles("root4.plist");
+  const std::string left = "root/Users/taro/Library/Preferences/Wordhaven/.tarvo-01234567-1-1-1-0123456789abcdef";
+  root_.folder().write(left, "x");
+  EXPECT_EQ(run({"styles"}).status, 0);
+  EXPECT_TRUE(root_.folder().exists(left)) << "who only reads leaves it";
+  EXPECT_EQ(run({"style", "set", "1", "Opt1=2"}).status, 0);
+  EXPECT_FALSE(root_.folder().exists(left));
+}
+
+TEST_F(Verbs, settingsThatCannotBeReadAreTold) {
+  putStyles("root4.plist");
+  root_.folder().write("root/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.plist", "<plist>\n<dict>");
+  const std::string line = told(root_.home() + "/Library/Preferences/com.wordhaven.TarvoManager.plist",
+                                "the settings cannot be read, so those of a first start hold; it is no property list "
+                                "(line 2, column 7); mend the file or move it away");
+  for (const std::vector<std::string>& words :
+       {std::vector<std::string>{"--engine", "none", "engine", "status"}, {"addins"}, {"style", "use", "1", "MG"}}) {
+    EXPECT_EQ(run({"styles"}).err, "") << "reads none";
+    EXPECT_EQ(run(words).err, line) << testing::PrintToString(words);
+  }
+}
+
+TEST_F(Verbs, noNameObeysTheTerminal) {
+  putStyles("root4.plist");
+  std::string bytes = root_.folder().read(std::string("root/Users/taro/") + styleFile);
+  for (std::size_t at = 0; (at = bytes.find("Alpha", at)) != std::string::npos;)
+    bytes.replace(at, 5, "A\u009B31m\u202E<tab>\t");
+  for (std::size_t at = 0; (at = bytes.find("<tab>", at)) != std::string::npos;) bytes.erase(at, 5);
+  root_.folder().write(std::string("root/Users/taro/") + styleFile, bytes);
+  EXPECT_NE(run({"styles"}).out.find("1  A\\xC2\\x9B31m\\xE2\\x80\\xAE\\x09\n"), std::string::npos)
+      << run({"styles"}).out;
+  for (const std::vector<std::string>& words : {std::vector<std::string>{"styles"},
+                                                {"style", "show", "1"},
+                                                {"style", "show", "no\x1B[31m"},
+                                                {"style", "rename", "1", "\x1B[31m"},
+                                                {"--\x1B[31m"},
+                                                {"run", "no\x1B"},
+                                                {"history"},
+                                                {"doctor"},
+                                                {"dictionaries", "1", "ej"},
+                                                {"style", "import", "1", "no\x1B"},
+                                                {"dictionary", "add", "1", "ej", "no\x1B"}}) {
+    const ToolResult result = run(words);
+    const std::string all = result.out + result.err;
+    EXPECT_EQ(all.find_first_of("\x1B\t"), std::string::npos) << all;
+    EXPECT_EQ(all.find("\u009B"), std::string::npos) << all;
+    EXPECT_EQ(all.find("\u202E"), std::string::npos) << all;
+  }
+}
+
 TEST_F(Verbs, anEngineAddressThatNothingServesIsAUsageError) {
   putStyles("root4.plist");
   const ToolResult result = run({"--engine", "gopher://engine.example", "style", "set", "1", "Opt1=2"});

@@ -85,12 +85,21 @@ TEST_F(InstanceLockTest, programsThatAreStartedDoNotInheritIt) {
 
 TEST_F(InstanceLockTest, whereItCannotBeMadeThatIsSaid) {
   folder.write("plain", "x");
-  folder.makeFolder("folder");
-  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0666), 0);
-  for (const std::string& place :
-       {folder / "plain/lock", folder / "folder", folder / "pipe", std::string("relative")}) {
+  for (const std::string& place : {folder / "plain/lock", std::string("relative")}) {
     EXPECT_EQ(InstanceLock(DiskPath(place)).state(), InstanceLock::State::unavailable) << place;
   }
+}
+
+TEST_F(InstanceLockTest, whatIsNoFileIsSaidAndALinkIsNotFollowed) {
+  folder.makeFolder("folder");
+  folder.write("file", "x");
+  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0666), 0);
+  ASSERT_EQ(::symlink((folder / "file").c_str(), (folder / "link").c_str()), 0);
+  ASSERT_EQ(::symlink((folder / "nowhere").c_str(), (folder / "dead").c_str()), 0);
+  for (const char* place : {"folder", "pipe", "link", "dead"}) {
+    EXPECT_EQ(InstanceLock(folder.at(place)).state(), InstanceLock::State::noFile) << place;
+  }
+  EXPECT_EQ(::access((folder / "nowhere").c_str(), F_OK), -1);
 }
 
 TEST_F(InstanceLockTest, aFileWithContentServesAndKeepsIt) {
