@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/window_geometry.h"
+#include "platform/services/failure_text.h"
 
 namespace tarvo {
 
@@ -41,7 +42,15 @@ Program::Program(const Services& given)
 
 Program::~Program() = default;
 
+void Program::tellUnreadSettings() {
+  const std::optional<Failure>& unread = defaults_.unread();
+  if (!unread) return;
+  const std::string text = services_.texts.localized("Refusal.UnreadableSettings");
+  panels_.tell(unread->path + ": " + filledIn(text, failureParts(*unread, services_.texts).cause));
+}
+
 bool Program::construct() {
+  tellUnreadSettings();
   interface_.connect({rooms_, styles_, manager_}, services_.texts);
   Window& window = interface_.manager.myWindow;
   window.setFrameInPlace(firstFrame(windows_.host(), window));

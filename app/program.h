@@ -54,6 +54,7 @@ class Program {
   const Services& services() const { return services_; }
 
  private:
+  void tellUnreadSettings();
   Windows windows_;
   CoveringPanels panels_;
   Services services_;

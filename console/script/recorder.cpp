@@ -8,6 +8,15 @@
 
 namespace tarvo {
 
+std::string Recorder::shownIn(std::string text) const {
+  for (const auto& [folder, tag] : {std::pair(locations_.home(), "home:/"), std::pair(locations_.root(), "root:/")}) {
+    if (folder.text() == "/") continue;
+    const std::string prefix = folder.text() + '/';
+    for (std::size_t at = 0; (at = text.find(prefix, at)) != std::string::npos;) text.replace(at, prefix.size(), tag);
+  }
+  return text;
+}
+
 void Recorder::note(Json::Object event) {
   if (on_) events_.emplace_back(std::move(event));
 }

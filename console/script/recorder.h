@@ -28,6 +28,8 @@ class Recorder {
   std::vector<Json> take();
   // Paths as the log shows them.
   std::string shown(const DiskPath& path) const { return locations_.shown(path); }
+  // The same for the paths that a text names.
+  std::string shownIn(std::string text) const;
   // Attaches itself to what a program tells: settings, notifications, windows.
   void observe(Program& program);
   // While it is off nothing is noted: the script acts, not the program.

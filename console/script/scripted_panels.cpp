@@ -8,13 +8,16 @@
 
 #include "console/script/recorder.h"
 #include "console/script/scenario_shell.h"
+#include "platform/text/printable.h"
 #include "platform/text/text_rules.h"
 
 namespace tarvo {
 
 void ScriptedPanels::beep() { recorder_.note({{"beep", true}}); }
 
-void ScriptedPanels::tell(const std::string& text) { std::cerr << "tarvoctl: " << text << '\n'; }
+void ScriptedPanels::tell(const std::string& text) {
+  std::cerr << "tarvoctl: " << printable(recorder_.shownIn(text)) << '\n';
+}
 
 void ScriptedPanels::fail(std::string reason) {
   if (failure_.empty()) failure_ = std::move(reason);

@@ -65,6 +65,7 @@ std::vector<AddinEntry> rowsBehind(const AddinLists& lists, const RowCounts& kno
 ExitStatus AddinsCommand::run(Console& console) {
   Product& product = console.product;
   AddinSession session(console.product);
+  noteUnread(console, session.settings());
   if (const Result<> read = session.read(); !read) return tell(console, read.error());
   const AddinLists& lists = session.lists();
   Json::List list;
@@ -86,6 +87,7 @@ ExitStatus AddinsCommand::run(Console& console) {
 ExitStatus AddinEditCommand::run(Console& console) {
   if (const std::optional<Problem> failure = takeLock(console)) return tell(console, *failure);
   AddinSession session(console.product);
+  noteUnread(console, session.settings());
   if (const Result<> read = session.read(); !read) return tell(console, read.error());
   const auto place = addinNamed(session.lists(), console.product.locations(), name_);
   if (!place) return tell(console, place.error());
@@ -102,6 +104,7 @@ ExitStatus AddinEditCommand::run(Console& console) {
 ExitStatus AddinSearchCommand::run(Console& console) {
   if (const std::optional<Problem> failure = takeLock(console)) return tell(console, *failure);
   AddinSession session(console.product);
+  noteUnread(console, session.settings());
   if (const Result<> read = session.read(); !read) return tell(console, read.error());
   const RowCounts known = countRows(session.lists());
   const DiskPath folder = absolutePath(folder_);

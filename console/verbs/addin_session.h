@@ -24,6 +24,7 @@ class AddinSession {
   // Fails with neither a remembered nor a shipped list: a start would end at once.
   Result<> read();
   const AddinLists& lists() const { return lists_; }
+  const UserDefaults& settings() const { return defaults_; }
 
   Result<> setInstalled(AddinPlace place, bool on);
   Result<> searchFolder(const DiskPath& folder);

@@ -27,6 +27,7 @@ ExitStatus EngineStatusCommand::run(Console& console) {
   Product& product = console.product;
   const std::unique_ptr<Engine> engine = product.makeEngine(product.files());
   const UserDefaults defaults(product.files(), userDefaultsPath(product.locations()));
+  noteUnread(console, defaults);
   const std::string* stamp = defaults.string(lastUpdate);
   const std::string form(wordOf(engine->form()));
   const bool reachable = engine->checkConnectionWithCurl();

@@ -33,6 +33,7 @@ const std::string& StyleSession::pathOfStyles() const { return store_.path().tex
 std::optional<Problem> StyleSession::open(Needs needs) {
   Product& product = console_.product;
   if (std::optional<Problem> failure = takeLock(console_)) return failure;
+  noteUnread(console_, defaults_);
   const LoadedStyles loaded = loadStyles(store_, medical_, product.files(), product.paths());
   if (const std::optional<Failure>& unread = store_.unread(); unread && needs == Needs::readable && !console_.reseed) {
     return Refusal{pathOfStyles(), "Refusal.UnreadableStyles", failureParts(*unread, console_.textsToTell()).cause};

@@ -41,6 +41,7 @@ ExitStatus ToolListCommand::run(Console& console) {
   if (const std::optional<Problem> failure = takeLock(console)) return tell(console, *failure);
   Product& product = console.product;
   UserDefaults defaults(product.files(), userDefaultsPath(product.locations()));
+  noteUnread(console, defaults);
   const TarvoCommonModule module(product.paths());
   ToolListFile file(product.files(), defaults, module, toolListPath(product.locations()));
   const std::size_t tool = toolFor(file, tool_);

@@ -34,7 +34,8 @@ TEST_F(StyleNamingTest, doesNotOpenWithoutARecordAndSaysSo) {
   naming_.editStyleName();
   EXPECT_FALSE(isOpen());
   EXPECT_FALSE(flags_.gMenuControllFlag);
-  EXPECT_EQ(log_, Log{"tell NoStyleToRename"});
+  EXPECT_EQ(log_, Log{});
+  EXPECT_EQ(panels_.told, Log{"NoStyleToRename"});
 }
 
 TEST_F(StyleNamingTest, waitsForAnotherSheetAndShowsTheStyleThatIsChosenThen) {

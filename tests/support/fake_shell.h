@@ -29,7 +29,7 @@ class FakePanels : public Panels {
  public:
   explicit FakePanels(Log& log) : log_(log) {}
   void beep() override { log_.emplace_back("beep"); }
-  void tell(const std::string& text) override { log_.push_back("tell " + text); }
+  void tell(const std::string& text) override { told.push_back(text); }
   int runAlertPanel(const Alert& alert) override {
     alerts.push_back(alert);
     log_.push_back("alert " + alert.title + " / " + alert.message);
@@ -55,6 +55,7 @@ class FakePanels : public Panels {
     sheetHost = &host;
     endSavePanel = [ended = std::move(ended)](int code, const std::string& path) { ended(code, DiskPath(path)); };
   }
+  std::vector<std::string> told;  // not among what was asked
   std::vector<Alert> alerts;
   std::vector<OpenPanel> opens;
   std::vector<SavePanel> saves;

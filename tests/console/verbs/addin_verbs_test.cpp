@@ -231,8 +231,11 @@ TEST_F(AddinVerbs, rowsThatCannotBeRememberedAreTold) {
   makeFolder(startup);
   makeFolder("/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.plist/in the way");
   put("/Volumes/D/Word.app/Contents/Info.plist", read("/Applications/O11/Word.app/Contents/Info.plist"));
-  const std::string line = told(real("/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.plist"),
-                                "cannot be written; it is a folder");
+  const std::string settings = real("/Users/taro/Library/Preferences/com.wordhaven.TarvoManager.plist");
+  const std::string line = told(settings,
+                                "the settings cannot be read, so those of a first start hold; it is no file; mend the "
+                                "file or move it away") +
+                           told(settings, "cannot be written; it is a folder");
   expect({"addin", "install", "Word 2011"}, 1, "", line);
   EXPECT_TRUE(exists(macro)) << "what was done stays done";
   expect({"addin", "search", real("/Volumes/D")}, 1, "", line);
