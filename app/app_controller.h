@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "app/services.h"
+#include "platform/plist/property_list.h"
 #include "platform/services/result.h"
 #include "platform/text/paths.h"
 #include "style/sibling_tools.h"
@@ -46,6 +47,9 @@ class AppController {
   void importStyle();
   // The same for a file that is known. False after an alert; nothing has changed.
   bool readImportStyle(const DiskPath& path);
+  // The same in two steps, for who asks the user in between.
+  std::optional<Dictionary> readForImport(const DiskPath& path);
+  bool installStyle(Dictionary record, const DiskPath& from);
   // Makes the styles here and those of the engine one, and shows them when they came from there.
   void sendPlist();
   // A request of another tool: the bytes of its first item, nothing for a request without one; or its code as text. The

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
+#include <utility>
+
 #include "app/app_controller.h"
 #include "app/interface.h"
 #include "app/rooms.h"
@@ -41,13 +43,22 @@ void AppController::importStyle() {
 }
 
 bool AppController::readImportStyle(const DiskPath& path) {
+  std::optional<Dictionary> record = readForImport(path);
+  return record && installStyle(std::move(*record), path);
+}
+
+std::optional<Dictionary> AppController::readForImport(const DiskPath& path) {
+  return rooms_.exchange.readForImport(path);
+}
+
+bool AppController::installStyle(Dictionary record, const DiskPath& from) {
   const PopUpButton& stylePopup = interface_.style.stylePopup;
   const int index = stylePopup.indexOfSelectedItem();
-  if (!rooms_.exchange.install(path, index, stylePopup.titleOfSelectedItem())) return false;
+  if (!rooms_.exchange.install(std::move(record), index, stylePopup.titleOfSelectedItem())) return false;
   rooms_.display.setupStyleData2(index);
   for (const Direction direction : bothDirections) rooms_.lists.updateButton(direction);
   rooms_.notices.tell(
-      {.text = filledIn(services_.texts.localized("Notice.imported"), path.name(), stylePopup.titleOfSelectedItem()),
+      {.text = filledIn(services_.texts.localized("Notice.imported"), from.name(), stylePopup.titleOfSelectedItem()),
        .offer = Notice::Offer::undo});
   return true;
 }

@@ -17,7 +17,7 @@ class Texts;
 class Windows;
 
 // A style file that came from outside: opened in the file manager, dropped on the window, named on the command line.
-// Duty: ask before a style is replaced. Not: reading the file.
+// Duty: ask before a style is replaced, and only where the file can replace one. Not: checking the file.
 class StyleFileOpening {
  public:
   // Who works together here. Not owned.
@@ -31,7 +31,8 @@ class StyleFileOpening {
     const Texts& texts;
   };
   explicit StyleFileOpening(const Collaborators& with) : with_(with) {}
-  // Brings the style pane forward and asks whether the chosen style is to be replaced; then as from the import command.
+  // Brings the style pane forward, reads and checks the file, and asks whether the chosen style is to be replaced by
+  // what was read; a file that is no style is told as by the import command, without a question.
   // While another question or window waits for the user there is only a beep; a file that comes upon the launch's own
   // question is kept for afterwards.
   void openStyleFile(const DiskPath& path);

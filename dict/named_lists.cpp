@@ -21,16 +21,6 @@ DiskPath folderOf(const DictController::Services& services, Direction direction)
   return dictionaryFolder(services.paths, DictionaryKind::technical, direction);
 }
 
-Names storedNames(const Dictionary& record, Direction direction) {
-  const Dictionary* half = record.dictionary(halfKey(direction));
-  const Array* list = half != nullptr ? half->array(keyNameTD) : nullptr;
-  Names names;
-  for (const PropertyList& element : list != nullptr ? *list : Array()) {
-    if (const std::string* name = element.string()) names.push_back(*name);
-  }
-  return names;
-}
-
 std::optional<std::size_t> positionIn(const Names& names, const std::string& name) {
   const auto found = std::ranges::find_if(names, [&](const auto& other) { return equalIgnoringCase(other, name); });
   return found != names.end() ? std::optional(static_cast<std::size_t>(found - names.begin())) : std::nullopt;
@@ -64,6 +54,16 @@ std::expected<Names, ListProblem> answerOf(const Result<>& edit, const Names& lo
 }
 
 }  // namespace
+
+Names storedNames(const Dictionary& record, Direction direction) {
+  const Dictionary* half = record.dictionary(halfKey(direction));
+  const Array* list = half != nullptr ? half->array(keyNameTD) : nullptr;
+  Names names;
+  for (const PropertyList& element : list != nullptr ? *list : Array()) {
+    if (const std::string* name = element.string()) names.push_back(*name);
+  }
+  return names;
+}
 
 ListContents readList(const DictController::Services& services, const Dictionary& record, Direction direction) {
   DictController list = scanned(services, direction);

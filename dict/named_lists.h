@@ -22,6 +22,9 @@ struct ListContents {
   Names missing;                  // in the style's order, those without a file
   std::optional<Failure> unread;  // why the folder cannot be read: then nothing is known to be missing
 };
+// The names that the style has stored for the direction, whether or not they are on the disk.
+Names storedNames(const Dictionary& record, Direction direction);
+
 // Only reads: not even a missing common dictionary is made.
 ListContents readList(const DictController::Services& services, const Dictionary& record, Direction direction);
 

@@ -12,8 +12,9 @@ namespace tarvo {
 
 void PaneAlerts::tell(std::string_view key) { panels_.tell(texts_.localized(key)); }
 
-void PaneAlerts::runAlertWithText(const std::string& header, const std::string& message) {
-  panels_.runAlertPanel({.title = header, .message = message, .buttons = {texts_.localized("AlertClose")}});
+void PaneAlerts::runAlertWithText(const std::string& header, const std::string& message, const std::string& details) {
+  panels_.runAlertPanel(
+      {.title = header, .message = message, .buttons = {texts_.localized("AlertClose")}, .details = details});
 }
 
 void PaneAlerts::beepAndAlert(std::string_view headerKey, std::string_view messageKey) {

@@ -20,7 +20,8 @@ class PaneAlerts {
 
   // No alert: a line that tells why nothing happened.
   void tell(std::string_view key);
-  void runAlertWithText(const std::string& header, const std::string& message);
+  // details: for who wants to know more; may be empty.
+  void runAlertWithText(const std::string& header, const std::string& message, const std::string& details = "");
   void beepAndAlert(std::string_view headerKey, std::string_view messageKey);
   void beepAndAlertWithText(const std::string& header, const std::string& message);
   // A list of that kind is full.

@@ -2,34 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "style/style_edits.h"
 
-#include <algorithm>
+#include <new>
 #include <optional>
 #include <utility>
 
 #include "platform/plist/plist_writer.h"
 #include "platform/services/file_service.h"
-#include "platform/services/plist_file.h"
 #include "platform/text/text_rules.h"
 #include "style/divider.h"
-#include "style/option_table.h"
-#include "style/style_file.h"
 #include "style/style_keys.h"
 #include "style/style_store.h"
 
 namespace tarvo {
-
-namespace {
-
-// What a style file has to hold. The other keys, lists of dictionaries among them, are taken as they are.
-bool holds(const Dictionary& record, const IndexOption& option) {
-  const Dictionary* half = record.dictionary(halfKey(option.direction));
-  if (half == nullptr) return false;
-  const PropertyList* value = half->find(option.key);
-  if (value == nullptr) return option.mayBeAbsent;
-  return value->hasIntegerValue() && value->integerValue() >= 0 && value->integerValue() < option.itemCount;
-}
-
-}  // namespace
 
 std::string styleName(const Dictionary& record) {
   const std::string* name = record.string(keyNameName);
@@ -70,21 +54,15 @@ std::expected<void, NameProblem> renameStyle(StyleStore& store, int index, const
   return {};
 }
 
-Result<Dictionary> readStyle(const FileService& files, const DiskPath& path) {
-  Result<Dictionary> record = readDictionary(files, path);
-  if (!record) return record;
-  const auto options = storedOptions();
-  const auto isHeld = [&record](const IndexOption& option) { return holds(*record, option); };
-  if (!std::all_of(options.begin(), options.end(), isHeld) || !fitsStyleFile(*record)) {
-    return Failure{path.text(), Attempt::read, Reason::noStyle};
+Result<> replaceStyle(StyleStore& store, int index, Dictionary record, const std::string& name) {
+  try {
+    record.set(keyNameName, name);
+    record.set(keyNameID, index);
+    store.setStyle(index, std::move(record), ChangeKind::import);
+  } catch (const std::bad_alloc&) {
+    return Failure{store.path().text(), Attempt::write, std::make_error_code(std::errc::not_enough_memory)};
   }
-  return record;
-}
-
-void replaceStyle(StyleStore& store, int index, Dictionary record, const std::string& name) {
-  record.set(keyNameName, name);
-  record.set(keyNameID, index);
-  store.setStyle(index, std::move(record), ChangeKind::import);
+  return {};
 }
 
 Result<> writeStyleFile(const StyleStore& store, int index, FileService& files, const DiskPath& path) {

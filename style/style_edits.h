@@ -39,12 +39,11 @@ bool isNameFree(const Array* styles, int index, const std::string& name, const s
 std::expected<void, NameProblem> renameStyle(StyleStore& store, int index, const std::string& name,
                                              const std::string& standardName);
 
-// A style as a file of its own: its root is one record. Fails also for one that lacks an option, has one out of range,
-// or is more than a style file could hold.
-Result<Dictionary> readStyle(const FileService& files, const DiskPath& path);
-// Puts the record in the style's place, under that name and with the index as its ID.
-void replaceStyle(StyleStore& store, int index, Dictionary record, const std::string& name);
-// Fails also where there is no such style. After a failure the file is as it was.
+// Puts the record in the style's place, under that name and with the index as its ID. Fails where the memory does not
+// suffice.
+Result<> replaceStyle(StyleStore& store, int index, Dictionary record, const std::string& name);
+// A style as a file of its own, whose root is one record (style_check.h reads it). Fails also where there is no such
+// style. After a failure the file is as it was.
 Result<> writeStyleFile(const StyleStore& store, int index, FileService& files, const DiskPath& path);
 
 // The name of a record; "" for one without.

@@ -10,6 +10,7 @@
 #include "platform/services/panels.h"
 #include "platform/services/texts.h"
 #include "style/pane_alerts.h"
+#include "style/style_check.h"
 #include "style/style_edits.h"
 #include "style/style_store.h"
 
@@ -31,15 +32,21 @@ std::optional<DiskPath> StyleExchange::chooseImportFile() {
   return with_.panels.runOpenPanel({.title = with_.texts.localized("Select Import Style File"), .types = {extension}});
 }
 
-bool StyleExchange::install(const DiskPath& path, int index, const std::string& title) {
-  Result<Dictionary> record = readStyle(with_.files, path);
-  if (!record || !with_.store.getStyleAtIndex(index)) {
-    with_.alerts.runAlertWithText(with_.texts.localized("ImportPlistErrorHeader"),
-                                  with_.texts.localized("ImportPlistErrorMessage"));
+std::optional<Dictionary> StyleExchange::readForImport(const DiskPath& path) {
+  std::expected<Dictionary, StyleFault> record = readStyle(with_.files, path);
+  if (record) return std::move(*record);
+  tellThatNothingWasImported(path.text(), styleFaultParts(record.error(), with_.texts));
+  return std::nullopt;
+}
+
+bool StyleExchange::install(Dictionary record, int index, const std::string& title) {
+  if (!with_.store.getStyleAtIndex(index)) {
+    tellThatNothingWasImported("", {});
     return false;
   }
-  replaceStyle(with_.store, index, std::move(*record), title);
-  return true;
+  const Result<> done = replaceStyle(with_.store, index, std::move(record), title);
+  if (!done) tellThatNothingWasImported(done.error().path, failureParts(done.error(), with_.texts));
+  return done.has_value();
 }
 
 void StyleExchange::exportStyle() {
@@ -83,6 +90,13 @@ void StyleExchange::didEndSaveSheet(int returnCode, const DiskPath& path) {
   if (returnCode != 1) return;
   const int index = with_.stylePopup.indexOfSelectedItem();
   if (!writeStyleFile(with_.store, index, with_.files, path)) tellThatNothingWasExported();
+}
+
+void StyleExchange::tellThatNothingWasImported(const std::string& path, const MessageParts& why) {
+  const std::string details = path.empty() ? joined(why) : path + ": " + joined(why);
+  if (!details.empty()) with_.panels.tell(details);
+  with_.alerts.runAlertWithText(with_.texts.localized("ImportPlistErrorHeader"),
+                                with_.texts.localized("ImportPlistErrorMessage"), details);
 }
 
 void StyleExchange::tellThatNothingWasExported() {

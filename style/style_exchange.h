@@ -7,6 +7,7 @@
 
 #include "platform/controls/controls.h"
 #include "platform/controls/windows.h"
+#include "platform/plist/property_list.h"
 #include "platform/text/paths.h"
 
 // Styles as files of their own ("*.whstyle"): a property list whose root is one record of the style file.
@@ -18,6 +19,7 @@ class Locations;
 class PaneAlerts;
 class Panels;
 class StyleStore;
+struct MessageParts;
 class Texts;
 
 struct ExportOutlets : Outlets {
@@ -48,9 +50,12 @@ class StyleExchange {
 
   // Asks for one style file; nothing when the user cancels.
   std::optional<DiskPath> chooseImportFile();
-  // Reads the file and puts it in the place of the style at the index, under the title; one write. False after an
-  // alert: the file is no style, or its options are out of range, or no style stands there, and nothing has changed.
-  bool install(const DiskPath& path, int index, const std::string& title);
+  // The style that the file holds. Nothing after an alert: it is no style, or its options are out of range; what is
+  // wrong with it, and where, stands in the alert's details and is told besides.
+  std::optional<Dictionary> readForImport(const DiskPath& path);
+  // Puts the record in the place of the style at the index, under the title; one write. False after an alert: no style
+  // stands there, and nothing has changed.
+  bool install(Dictionary record, int index, const std::string& title);
 
   // Asks where to export the chosen style, once the window is free.
   void exportStyle();
@@ -65,6 +70,7 @@ class StyleExchange {
   void askWhereToExport(int index, Window& host);
   void didEndSaveSheet(int returnCode, const DiskPath& path);
   void tellThatNothingWasExported();
+  void tellThatNothingWasImported(const std::string& path, const MessageParts& why);
   Collaborators with_;
 };
 

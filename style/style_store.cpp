@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "style/style_store.h"
 
+#include <new>
 #include <ranges>
 #include <utility>
 
@@ -139,8 +140,16 @@ int StyleStore::selectedStyle() const {
   return selection != nullptr ? selection->integerValue(currentID_) : 0;
 }
 
+Result<> StyleStore::writeRoot() {
+  try {
+    return file_.write(tarvoStyle_, changed_);
+  } catch (const std::bad_alloc&) {
+    return Failure{path().text(), Attempt::write, std::make_error_code(std::errc::not_enough_memory)};
+  }
+}
+
 void StyleStore::writeTarvoStylePlist() {
-  const Result<> written = file_.write(tarvoStyle_, changed_);
+  const Result<> written = writeRoot();
   if (written) {
     const Replaced& replaced = file_.replaced();
     if (replaced.wasForeign) foreign_ = {.kept = replaced.kept, .base = lastStored()};

@@ -116,6 +116,7 @@ class StyleStore {
 
  private:
   Result<> readFrom(StyleFile& file);
+  Result<> writeRoot();  // fails also where the memory does not suffice
   bool writesAll() const { return writesUnchanged_ || pending_; }
   std::optional<StyleSet> styleSet();
   void tellChange(StoredChange change);

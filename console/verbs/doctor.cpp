@@ -15,6 +15,7 @@
 #include "dict/dictionary_folders.h"
 #include "dict/named_lists.h"
 #include "platform/plist/json.h"
+#include "platform/plist/plist_findings.h"
 #include "platform/services/engine.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/file_service.h"
@@ -77,6 +78,9 @@ class Examination {
     const std::string count = std::to_string(styles != nullptr ? styles->size() : 0) + " styles";
     const bool complete = styles != nullptr && root->dictionary(keyNameSelection) != nullptr;
     add(path, what, complete ? "ok" : "problem", complete ? count : count + ", no remembered choice");
+    for (const PlistFinding& date : unsoundDates(*root)) {
+      add(path, "date", "problem", date.keys + " is \"" + date.text + "\": other programs may refuse the whole file");
+    }
   }
 
   void styles() {

@@ -41,6 +41,7 @@ struct Telling {
   }
   Told operator()(const UsageError& error) const { return {subjectOf(error), reasonOf(error, texts)}; }
   Told operator()(const Failure& failure) const { return {failure.path, failureParts(failure, texts)}; }
+  Told operator()(const StyleFault& fault) const { return {fault.failure.path, styleFaultParts(fault, texts)}; }
 };
 
 ExitStatus statusOf(const Problem& problem) {

@@ -6,8 +6,10 @@
 
 #include "app/product.h"
 #include "app/product_defaults.h"
+#include "console/verbs/dictionary_services.h"
 #include "console/verbs/option_words.h"
 #include "console/verbs/style_session.h"
+#include "dict/import_findings.h"
 #include "platform/plist/plist_writer.h"
 #include "platform/services/locations.h"
 #include "platform/text/text_rules.h"
@@ -73,10 +75,15 @@ ExitStatus StyleImportCommand::run(Console& console) {
   StyleSession session(console);
   const DiskPath file = absolutePath(file_);
   return session.edit(style_, [&](int index) -> std::optional<Problem> {
-    Result<Dictionary> record = readStyle(console.product.files(), file);
-    if (!record) return Failure{file.text(), record.error().attempt, record.error().cause};
-    const std::string name = styleName(*session.store().getStyleAtIndex(index));
-    replaceStyle(session.store(), index, std::move(*record), name);
+    std::expected<Dictionary, StyleFault> record = readStyle(console.product.files(), file);
+    if (!record) return record.error();
+    StyleStore& store = session.store();
+    const std::string name = styleName(*store.getStyleAtIndex(index));
+    const Result<> replaced = replaceStyle(store, index, *record, name);
+    if (!replaced) return replaced.error();
+    const ImportFindings found =
+        importFindings(dictionaryServices(console.product), *record, *store.getStyleAtIndex(index));
+    for (const std::string& words : importSentences(found, console.textsToTell())) note(console, name, words);
     return std::nullopt;
   });
 }

@@ -11,6 +11,7 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/plist/plist_findings.h"
 #include "platform/plist/plist_writer.h"
 #include "platform/services/file_service.h"
 #include "platform/text/text_rules.h"
@@ -103,6 +104,10 @@ bool EngineLocal::requestStyle(Array& styles, std::string& localUpdate) {
   if (!set) return false;
   Array* held = set->array(styleKey);
   if (held == nullptr || counter_.value_or(0) <= counterOf(localUpdate)) return false;
+  if (!unsoundDates(*held).empty()) {
+    couldRead_ = Failure{file_.path().text(), Attempt::fetch, Reason::damaged};
+    return false;
+  }
   styles = std::move(*held);
   localUpdate = *set->string(stampKey);  // a counter above 0 comes from such a text
   return true;

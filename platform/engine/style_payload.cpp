@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/engine/content_hash.h"
+#include "platform/plist/plist_findings.h"
 #include "platform/plist/plist_reader.h"
 #include "platform/plist/plist_writer.h"
 
@@ -101,7 +102,7 @@ std::optional<ReadPayload> readPayload(std::string_view bytes) {
   if (!stamp || contentHash(rest) != stamp->hash) return std::nullopt;
   auto list = readPropertyList(bytes);
   Array* styles = list && list->dictionary() != nullptr ? list->dictionary()->array(styleKey) : nullptr;
-  if (styles == nullptr || !areDictionaries(*styles)) return std::nullopt;
+  if (styles == nullptr || !areDictionaries(*styles) || !unsoundDates(*styles).empty()) return std::nullopt;
   return ReadPayload{std::move(*stamp), std::move(*styles)};
 }
 

@@ -53,7 +53,7 @@ struct ReadPayload {
   SetStamp stamp;
   Array styles;
 };
-// Nothing when the payload is damaged, or "Style" is no array of dictionaries.
+// Nothing when the payload is damaged, "Style" is no array of dictionaries, or holds a date that is none (isSoundDate).
 std::optional<ReadPayload> readPayload(std::string_view bytes);
 
 }  // namespace tarvo

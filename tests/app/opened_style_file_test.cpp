@@ -12,13 +12,34 @@ namespace {
 TEST_F(StyleTravel, asksBeforeAnOpenedFileReplacesAStyle) {
   start();
   choose(3);
-  test_.program().requests().openStyleFile(test_.root.at("in.whstyle"));
   fileWith(importedStyle());
+  test_.program().requests().openStyleFile(test_.root.at("in.whstyle"));
   EXPECT_EQ(test_.log, Log{question}) << "the default button cancels";
   EXPECT_EQ(test_.panels.alerts.back().buttons, (std::vector<std::string>{"OpenImport.Cancel", "OpenImport.Replace"}));
   EXPECT_EQ(PropertyList(record(3)), sampleRoot().array("Style")->at(3));
   test_.panels.buttons = {1};
   test_.log.clear();
+  test_.program().requests().openStyleFile(test_.root.at("in.whstyle"));
+  EXPECT_EQ(test_.log, (Log{question, "wrote", "unreachable"}));
+  EXPECT_EQ(*record(3).string("K"), "v");
+}
+
+TEST_F(StyleTravel, asksNothingAboutAnOpenedFileThatIsNoStyle) {
+  start();
+  Dictionary broken = importedStyle();
+  broken.dictionary("JE")->set("TOpt3", 4);
+  fileWith(broken);
+  test_.program().requests().openStyleFile(test_.root.at("in.whstyle"));
+  EXPECT_EQ(test_.log, Log{importFailed});
+  EXPECT_EQ(test_.panels.told.size(), 1U);
+}
+
+TEST_F(StyleTravel, importsWhatWasReadBeforeTheQuestion) {
+  start();
+  choose(3);
+  fileWith(importedStyle());
+  test_.panels.buttons = {1};
+  test_.panels.whileUp = [&] { test_.root.write("in.whstyle", "changed meanwhile"); };
   test_.program().requests().openStyleFile(test_.root.at("in.whstyle"));
   EXPECT_EQ(test_.log, (Log{question, "wrote", "unreachable"}));
   EXPECT_EQ(*record(3).string("K"), "v");
@@ -30,6 +51,7 @@ TEST(OpenedStyleFile, isNamedTogetherWithTheStyleItReplaces) {
   test.engine.probes = {true, false};
   ASSERT_TRUE(test.program().start());
   test.interface().style.stylePopup.userChoose(3);
+  test.root.write("特許.whstyle", writePropertyList(importedStyle()));
   test.program().requests().openStyleFile(test.root.at("特許.whstyle"));
   const Alert& asked = test.panels.alerts.back();
   EXPECT_NE(asked.title.find("Beta"), std::string::npos) << asked.title;
@@ -73,6 +95,7 @@ TEST_F(StyleTravel, beepsWhenAFileIsOpenedWhileSomethingWaitsForTheUser) {
 
 TEST_F(StyleTravel, keepsAFileForTheTimeAfterTheLaunchsQuestion) {
   start({false});
+  fileWith(importedStyle());
   test_.program().requests().openStyleFile(test_.root.at("in.whstyle"));
   EXPECT_EQ(test_.log, Log{"beep"});
   test_.panels.endAlertSheet(1);
@@ -95,6 +118,7 @@ TEST_F(StyleTravel, exchangesStylesBeforeTheFileThatWasKeptComes) {
 
 TEST_F(StyleTravel, keepsAFileAlsoUntilThePanelThatFollowsAFailure) {
   start({false});
+  fileWith(importedStyle());
   test_.panels.endAlertSheet(0);
   test_.runLoop.advance(2);
   test_.program().requests().openStyleFile(test_.root.at("in.whstyle"));

@@ -23,7 +23,7 @@ std::string exported(ExchangeWorld& world, int index) {
 
 void import(ExchangeWorld& world, const std::string& bytes) {
   world.files.put("/in.whstyle", bytes);
-  ASSERT_TRUE(world.exchange.install(DiskPath("/in.whstyle"), 3, "Beta")) << bytes;
+  ASSERT_TRUE(world.import("/in.whstyle", 3, "Beta")) << bytes;
 }
 
 TEST(CarriedStyles, keepEveryTypeAndValueForAnotherReaderAndLeaveAsTheyCame) {

@@ -21,7 +21,7 @@ class StyleExchangeTest : public testing::Test {
   bool import(const PropertyList& style, int index = 1, const std::string& title = "Alpha") {
     world_.files.put("/in.whstyle", writePropertyList(style));
     world_.log.clear();
-    return world_.exchange.install(DiskPath("/in.whstyle"), index, title);
+    return world_.import("/in.whstyle", index, title);
   }
   void expectRefusal(const PropertyList& style, int index = 1) {
     EXPECT_FALSE(import(style, index));

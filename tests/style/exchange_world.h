@@ -51,6 +51,12 @@ struct ExchangeWorld {
     pane.stylePopup.setItems(std::move(items));
   }
 
+  // As the import command does it, for a file that is known.
+  bool import(const std::string& path, int index, const std::string& title) {
+    std::optional<Dictionary> record = exchange.readForImport(DiskPath(path));
+    return record && exchange.install(std::move(*record), index, title);
+  }
+
   Log log;
   MemoryFiles files;
   FakeEngine engine{log};

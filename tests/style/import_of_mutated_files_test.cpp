@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include "platform/plist/plist_findings.h"
 #include "platform/plist/plist_reader.h"
 #include "platform/plist/plist_writer.h"
 #include "tests/style/exchange_world.h"
@@ -32,7 +33,8 @@ bool isStyle(const std::string& bytes) {
   const Dictionary* je = value->dictionary()->dictionary("JE");
   return ej != nullptr && je != nullptr && isOption(*ej, "Opt1", 2, false) && isOption(*ej, "Opt2", 2, false) &&
          isOption(*ej, "Opt3", 2, false) && isOption(*je, "TOpt1", 4, false) && isOption(*je, "TOpt2", 4, false) &&
-         isOption(*je, "TOpt3", 3, false) && isOption(*je, "TOpt4", 1, true) && isOption(*je, "TOpt5", 1, true);
+         isOption(*je, "TOpt3", 3, false) && isOption(*je, "TOpt4", 1, true) && isOption(*je, "TOpt5", 1, true) &&
+         unsoundDates(*value->dictionary()).empty();
 }
 
 std::string inBinary(const Dictionary& style) {
@@ -86,7 +88,7 @@ TEST_P(MutatedImport, isRefusedWholeOrTakenWhole) {
     const PropertyList before = world_.store.root();
     world_.files.put("/in.whstyle", bytes);
     world_.log.clear();
-    const bool isTaken = world_.exchange.install(DiskPath("/in.whstyle"), 3, "Beta");
+    const bool isTaken = world_.import("/in.whstyle", 3, "Beta");
     EXPECT_EQ(isTaken, isStyle(bytes));
     isTaken ? expectImport(bytes) : expectRefusal(before);
     taken += isTaken ? 1 : 0;

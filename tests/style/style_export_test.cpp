@@ -139,12 +139,12 @@ TEST_F(StyleExchangeTest, carriesAStyleToAnotherPlace) {
   world_.pane.stylePopup.selectItemAtIndex(3);
   world_.exchange.exportStyle();
   save("/out.whstyle");
-  ASSERT_TRUE(world_.exchange.install(DiskPath("/out.whstyle"), 1, "Alpha"));
+  ASSERT_TRUE(world_.import("/out.whstyle", 1, "Alpha"));
   Dictionary expected = record(3);
   expected.set("Name", "Alpha");
   expected.set("ID", 1);
   EXPECT_EQ(record(1), expected);
-  ASSERT_TRUE(world_.exchange.install(DiskPath("/out.whstyle"), 3, "Beta"));
+  ASSERT_TRUE(world_.import("/out.whstyle", 3, "Beta"));
   EXPECT_EQ(PropertyList(record(3)), sampleRoot().array("Style")->at(3)) << "and to its own it changes nothing";
 }
 

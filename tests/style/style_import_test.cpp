@@ -63,12 +63,12 @@ TEST_F(StyleExchangeTest, refusesWhatIsNoStyle) {
 }
 
 TEST_F(StyleExchangeTest, refusesWhatCannotBeRead) {
-  EXPECT_FALSE(world_.exchange.install(DiskPath("/missing.whstyle"), 1, "Alpha"));
+  EXPECT_FALSE(world_.import("/missing.whstyle", 1, "Alpha"));
   EXPECT_EQ(world_.log, Log{importFailed});
   for (const char* bytes : {"", "no property list", "<plist><dict><key>EJ</key></dict></plist>", "bplist00"}) {
     world_.files.put("/in.whstyle", bytes);
     world_.log.clear();
-    EXPECT_FALSE(world_.exchange.install(DiskPath("/in.whstyle"), 1, "Alpha")) << bytes;
+    EXPECT_FALSE(world_.import("/in.whstyle", 1, "Alpha")) << bytes;
     EXPECT_EQ(world_.log, Log{importFailed});
   }
   EXPECT_EQ(world_.store.root(), sampleRoot());

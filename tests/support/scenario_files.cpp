@@ -30,6 +30,13 @@ std::string nameOf(fs::path path) {
   return name;
 }
 
+// "{here}" stands for the folder of the scenario.
+std::string withFolder(std::string line, const std::string& folder) {
+  constexpr std::string_view here = "{here}";
+  const std::size_t at = line.find(here);
+  return at == std::string::npos ? line : line.replace(at, here.size(), folder);
+}
+
 }  // namespace
 
 std::string scenarioFolder() { return TARVO_SOURCE_DIR "/tests/scenarios"; }
@@ -47,7 +54,7 @@ ScenarioFile readScenario(const std::string& path) {
     if (key == "options") file.options = wordsOf(value);
     if (key == "root") file.root = value;
     if (key == "resources") file.resources = value;
-    if (key == "tells") file.tells += value + "\n";
+    if (key == "tells") file.tells += withFolder(value, file.folder) + "\n";
     if (key == "needs") file.needsAttributes = value == "attributes";
   }
   return file;

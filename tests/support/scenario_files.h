@@ -14,7 +14,8 @@
 //   # options: --strings none …   command-line options; relative files start in tests/scenarios
 //   # root: NAME                  a copy of fixtures/NAME is the product's root ("plain" when nothing is said)
 //   # resources: NAME           the folder NAME of that copy is the resource folder, so that a script can change it
-//   # tells: LINE                 a line that the console tool prints on standard error, where nothing else may stand
+//   # tells: LINE                 a line that the console tool prints on standard error, where nothing else may stand;
+//                                "{here}" in it is the folder of the scenario
 //   # needs: attributes           only where the disk keeps extended attributes
 namespace tarvo::test {
 

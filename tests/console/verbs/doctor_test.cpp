@@ -39,6 +39,18 @@ TEST_F(Verbs, doctorTellsWhatLiesWhere) {
   EXPECT_EQ(states.at("root:/System/Library/CoreServices/SystemVersion.plist"), Json("ok"));
 }
 
+TEST_F(Verbs, doctorNamesDatesThatOtherProgramsRefuseAndTheFileIsUsedAllTheSame) {
+  putStyles("root4.plist");
+  const std::string path = std::string("root/Users/taro/") + styleFile;
+  std::string bytes = root_.folder().read(path);
+  bytes.replace(bytes.find("<dict>"), 6, "<dict><key>When</key><date>----</date>");
+  root_.folder().write(path, bytes);
+  const std::string out = runInEnglish({"doctor"}).out;
+  EXPECT_NE(out.find("When is \"----\": other programs may refuse the whole file"), std::string::npos) << out;
+  EXPECT_EQ(run({"style", "set", "1", "Opt1=2"}).status, 0);
+  EXPECT_NE(root_.folder().read(path).find("<date>----</date>"), std::string::npos);
+}
+
 TEST_F(Verbs, doctorNamesTheStyleServiceAndDoesNotAskIt) {
   const auto row = [this](const std::vector<std::string>& options) {
     const std::string out = runInEnglish([&] {

@@ -129,12 +129,14 @@ TEST_F(TravelVerbs, theShownPaneDoesNotMatter) {
 }
 
 TEST_F(TravelVerbs, filesThatAreNoStyleAreToldAndChangeNothing) {
-  const std::string noStyle = "it is no style: options are missing or out of range; export the style again";
-  for (const auto& [file, why] : {std::pair<std::string, std::string>{"missing.whstyle", "it is not there"},
-                                  {"fixtures", "it is no file"},
-                                  {"fixtures/root4.plist", noStyle},
-                                  {"fixtures/import/no-ej.whstyle", noStyle},
-                                  {"fixtures/import/topt3-is-4.whstyle", noStyle}}) {
+  const std::string again = "; export the style again";
+  for (const auto& [file, why] :
+       {std::pair<std::string, std::string>{"missing.whstyle", "it is not there"},
+        {"fixtures", "it is no file"},
+        {"fixtures/root4.plist", "it is no style: EJ is missing" + again},
+        {"fixtures/import/no-ej.whstyle", "it is no style: EJ is missing" + again},
+        {"fixtures/import/no-opt2.whstyle", "it is no style: EJ/Opt2 is missing, allowed is 0 to 2" + again},
+        {"fixtures/import/topt3-is-4.whstyle", "it is no style: JE/TOpt3 is 4, allowed is 0 to 3" + again}}) {
     expectRefused({"style", "import", "3", file}, told(scenarioFolder() + "/" + file, "cannot be read; " + why), 1);
   }
 }

@@ -156,6 +156,18 @@ TEST_F(EngineLocalTest, aNewerSetComesWithItsStamp) {
   EXPECT_FALSE(engine.requestStyle(styles, stamp)) << "now they are equal";
 }
 
+TEST_F(EngineLocalTest, aSetWithADateThatOtherProgramsRefuseIsNotTaken) {
+  Dictionary record;
+  record.set("when", Date{"----"});
+  hold(Array{record}, stampOf("00000000000000000009"));
+  EngineLocal engine(files, path);
+  Array styles;
+  std::string stamp;
+  EXPECT_FALSE(engine.requestStyle(styles, stamp));
+  EXPECT_EQ(engine.couldRead().error().cause, Reason::damaged);
+  EXPECT_EQ(stamp, "");
+}
+
 TEST_F(EngineLocalTest, registrationsDoNotReadTheOldFileAgain) {
   EngineLocal engine(files, path);
   registered(engine, one);

@@ -120,6 +120,15 @@ TEST(StylePayload, whatIsNoArrayOfDictionariesIsNotTaken) {
   }
 }
 
+TEST(StylePayload, aDateThatOtherProgramsRefuseIsDamage) {
+  const auto read = [](const std::string& date) {
+    return readPayload(
+        frontAround("\t<array><dict><key>a</key><date>" + date + "</date></dict></array></dict></plist>"));
+  };
+  EXPECT_TRUE(read("2009-01-31T12:00:00Z"));
+  for (const char* date : {"----", "2009-02-30T00:00:00Z", "10000-01-01T00:00:00Z"}) EXPECT_FALSE(read(date)) << date;
+}
+
 TEST(StylePayload, revisionsThatCannotBeCountedOnAreDamage) {
   const std::string rest = "\t<array/>\n</dict>\n</plist>\n";
   EXPECT_TRUE(readPayload(frontAround(rest, "999999999999999999")));
