@@ -10,22 +10,24 @@
 
 namespace tarvo {
 
-void RequestQueue::event(std::optional<std::string> bytes) {
-  add([this, bytes = std::move(bytes)] { styles_.handleAppleEvent(bytes); });
+void RequestQueue::event(std::optional<std::string> bytes, RequestPlace place) {
+  add([this, bytes = std::move(bytes)] { styles_.handleAppleEvent(bytes); }, std::move(place));
 }
 
-void RequestQueue::eventText(std::string code) {
-  add([this, code = std::move(code)] { styles_.handleCallerCode(code); });
+void RequestQueue::eventText(std::string code, RequestPlace place) {
+  add([this, code = std::move(code)] { styles_.handleCallerCode(code); }, std::move(place));
 }
 
-void RequestQueue::openStyleFile(DiskPath path) {
-  add([this, path = std::move(path)] { opening_.openStyleFile(path); });
+void RequestQueue::openStyleFile(DiskPath path, RequestPlace place) {
+  add([this, path = std::move(path)] { opening_.openStyleFile(path); }, std::move(place));
 }
 
-void RequestQueue::activate() {
-  add([this] {
-    if (bringForward) bringForward();
-  });
+void RequestQueue::activate(RequestPlace place) {
+  add(
+      [this] {
+        if (bringForward) bringForward();
+      },
+      std::move(place));
 }
 
 void RequestQueue::launchDidEnd() {
@@ -38,9 +40,9 @@ void RequestQueue::close() {
   waiting_.clear();
 }
 
-void RequestQueue::add(std::function<void()> request) {
+void RequestQueue::add(std::function<void()> request, RequestPlace place) {
   if (closed_) return;
-  waiting_.push_back(std::move(request));
+  waiting_.push_back({std::move(request), std::move(place)});
   wake();
 }
 
@@ -55,7 +57,7 @@ void RequestQueue::wake() {
 void RequestQueue::handleNext() {
   awake_ = false;
   if (waiting_.empty()) return;
-  const std::function<void()> request = std::move(waiting_.front());
+  const std::function<void()> request = std::move(waiting_.front().request);
   waiting_.pop_front();
   handling_ = true;
   const std::weak_ptr<bool> alive = alive_;

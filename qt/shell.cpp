@@ -77,18 +77,20 @@ bool Shell::start() {
 
 void Shell::listen(const BusIdentity& identity) {
   RequestQueue& requests = program_.requests();
-  bus_.emplace(identity, BusRequests{[&requests](const std::string& token) {
-                                       if (!token.empty()) qputenv("XDG_ACTIVATION_TOKEN", token.c_str());
-                                       requests.activate();
-                                     },
-                                     [this](const std::vector<std::string>& paths) { openFiles(paths); },
-                                     [&requests](const std::string& code) { requests.eventText(code); },
-                                     [&requests](const auto& bytes) { requests.event(bytes); }});
+  bus_.emplace(identity,
+               BusRequests{[&requests](const std::string& token, const RequestPlace& place) {
+                             if (!token.empty()) qputenv("XDG_ACTIVATION_TOKEN", token.c_str());
+                             requests.activate(place);
+                           },
+                           [this](const auto& paths, const auto& place) { openFiles(paths, place); },
+                           [&requests](const auto& code, const auto& place) { requests.eventText(code, place); },
+                           [&requests](const auto& bytes, const auto& place) { requests.event(bytes, place); },
+                           requests.places()});
 }
 
-void Shell::openFiles(const std::vector<std::string>& paths) {
+void Shell::openFiles(const std::vector<std::string>& paths, RequestPlace place) {
   if (paths.empty()) return;
-  program_.requests().openStyleFile(DiskPath(paths.front()));
+  program_.requests().openStyleFile(DiskPath(paths.front()), std::move(place));
   if (paths.size() > 1) panels_.beep();
 }
 

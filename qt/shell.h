@@ -38,7 +38,7 @@ class Shell {
   // Takes requests from the session bus and, with openFiles, from this start; they wait for the end of the launch.
   void listen(const BusIdentity& identity);
   // One style file is opened at a time: further ones are refused with a beep.
-  void openFiles(const std::vector<std::string>& paths);
+  void openFiles(const std::vector<std::string>& paths, RequestPlace place = nullptr);
   // False: the program has ended instead.
   bool start();
   // Runs until the program ends; whoever sits before it is asked what quitting would lose.

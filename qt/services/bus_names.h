@@ -13,6 +13,7 @@ inline constexpr const char* busObjectPath = "/com/wordhaven/TarvoManager";
 inline constexpr const char* applicationInterface = "org.freedesktop.Application";
 inline constexpr const char* managerInterface = "com.wordhaven.TarvoManager1";
 inline constexpr const char* openToolAction = "open-tool";
+inline constexpr const char* busyError = "com.wordhaven.TarvoManager1.Error.Busy";  // as many requests wait as may
 
 // One manager among those that may run: the name that it wants on the bus ("none": it stays off the bus), and the real
 // paths of the home and the product root that it works on.

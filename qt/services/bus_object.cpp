@@ -26,8 +26,23 @@ void BusObject::appear() {
   bus.registerService(QString::fromStdString(identity_.name));
 }
 
-void ApplicationAdaptor::Activate(const QVariantMap& platform_data) {
-  object_.requests().activate(platform_data.value(QStringLiteral("activation-token")).toByteArray().toStdString());
+RequestPlace BusObject::admit() {
+  RequestPlace place = requests_.places.take();
+  if (!place) {
+    sendErrorReply(QString::fromLatin1(busyError),
+                   QStringLiteral("%1 requests wait already: try again later").arg(RequestPlaces::most));
+  }
+  return place;
+}
+
+void ApplicationAdaptor::Activate(const QVariantMap& platform_data) { activate(platform_data); }
+
+RequestPlace ApplicationAdaptor::activate(const QVariantMap& platform_data) {
+  RequestPlace place = object_.admit();
+  if (!place) return nullptr;
+  object_.requests().activate(platform_data.value(QStringLiteral("activation-token")).toByteArray().toStdString(),
+                              place);
+  return place;
 }
 
 void ApplicationAdaptor::Open(const QStringList& uris, const QVariantMap& platform_data) {
@@ -38,8 +53,8 @@ void ApplicationAdaptor::Open(const QStringList& uris, const QVariantMap& platfo
       return object_.sendErrorReply(QDBusError::InvalidArgs, uri + QStringLiteral(" is no file of this machine"));
     paths.push_back(std::move(*path));
   }
-  Activate(platform_data);
-  if (!paths.empty()) object_.requests().openFiles(std::move(paths));
+  const RequestPlace place = activate(platform_data);
+  if (place && !paths.empty()) object_.requests().openFiles(std::move(paths), place);
 }
 
 void ApplicationAdaptor::ActivateAction(const QString& action_name, const QVariantList& parameter,
@@ -50,13 +65,15 @@ void ApplicationAdaptor::ActivateAction(const QString& action_name, const QVaria
   if (parameter.size() != 1 || parameter.first().typeId() != QMetaType::QString) {
     return object_.sendErrorReply(QDBusError::InvalidArgs, action_name + QStringLiteral(" takes one text, the code"));
   }
-  Activate(platform_data);
-  object_.requests().openTool(parameter.first().toString().toStdString());
+  const RequestPlace place = activate(platform_data);
+  if (place) object_.requests().openTool(parameter.first().toString().toStdString(), place);
 }
 
 void ManagerAdaptor::HandleEvent(const QByteArrayList& items) {
-  object_.requests().activate({});
-  object_.requests().handleEvent(items.isEmpty() ? std::nullopt : std::optional(items.first().toStdString()));
+  const RequestPlace place = object_.admit();
+  if (!place) return;
+  object_.requests().activate({}, place);
+  object_.requests().handleEvent(items.isEmpty() ? std::nullopt : std::optional(items.first().toStdString()), place);
 }
 
 }  // namespace tarvo

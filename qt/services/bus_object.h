@@ -26,6 +26,8 @@ class BusObject : public QObject, public QDBusContext {
 
   const BusIdentity& identity() const { return identity_; }
   const BusRequests& requests() const { return requests_; }
+  // A place for the present call; null after an error was sent to its caller: as many as may wait do so.
+  RequestPlace admit();
 
  private:
   BusIdentity identity_;
@@ -46,6 +48,7 @@ class ApplicationAdaptor : public QDBusAbstractAdaptor {
   void ActivateAction(const QString& action_name, const QVariantList& parameter, const QVariantMap& platform_data);
 
  private:
+  RequestPlace activate(const QVariantMap& platform_data);
   BusObject& object_;
 };
 

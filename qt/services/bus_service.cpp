@@ -20,12 +20,13 @@ struct Receiver : QObject {
 
 // The same call, made from the event loop of the receiver's thread.
 template <class Argument>
-std::function<void(Argument)> inThreadOf(Receiver& receiver, std::function<void(Argument)> call) {
-  return [&receiver, call = std::move(call)](Argument argument) {
+std::function<void(Argument, RequestPlace)> inThreadOf(Receiver& receiver,
+                                                       std::function<void(Argument, RequestPlace)> call) {
+  return [&receiver, call = std::move(call)](Argument argument, RequestPlace place) {
     QMetaObject::invokeMethod(
         &receiver,
-        [&receiver, call, argument = std::move(argument)] {
-          if (!receiver.isOver) call(argument);
+        [&receiver, call, argument = std::move(argument), place = std::move(place)] {
+          if (!receiver.isOver) call(argument, place);
         },
         Qt::QueuedConnection);
   };
@@ -42,10 +43,10 @@ BusService::BusService(const BusIdentity& identity, BusRequests requests) {
   if (identity.name == "none" || !hasSessionBus()) return;
   parts_ = std::make_unique<Parts>();
   auto& [receiver, thread] = *parts_;
-  auto* object = new BusObject(
-      identity,
-      {inThreadOf(receiver, std::move(requests.activate)), inThreadOf(receiver, std::move(requests.openFiles)),
-       inThreadOf(receiver, std::move(requests.openTool)), inThreadOf(receiver, std::move(requests.handleEvent))});
+  auto* object = new BusObject(identity, {inThreadOf(receiver, std::move(requests.activate)),
+                                          inThreadOf(receiver, std::move(requests.openFiles)),
+                                          inThreadOf(receiver, std::move(requests.openTool)),
+                                          inThreadOf(receiver, std::move(requests.handleEvent)), requests.places});
   object->moveToThread(&thread);
   QObject::connect(&thread, &QThread::started, object, [object] { object->appear(); });
   QObject::connect(&thread, &QThread::finished, object, &QObject::deleteLater);

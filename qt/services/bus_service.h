@@ -8,17 +8,21 @@
 #include <string>
 #include <vector>
 
+#include "app/request_queue.h"
 #include "qt/services/bus_names.h"
 
 namespace tarvo {
 
-// What callers can ask for.
+// What callers can ask for. Each call has a place among those that wait, which it keeps until all copies of it are
+// gone.
 struct BusRequests {
   // Before every other request too: the window comes to the front. token: the desktop's leave to do so, may be empty.
-  std::function<void(std::string token)> activate;
-  std::function<void(std::vector<std::string> paths)> openFiles;  // absolute, at least one
-  std::function<void(std::string code)> openTool;
-  std::function<void(std::optional<std::string> bytes)> handleEvent;  // nothing: a request without a first item
+  std::function<void(std::string token, RequestPlace place)> activate;
+  std::function<void(std::vector<std::string> paths, RequestPlace place)> openFiles;  // absolute, at least one
+  std::function<void(std::string code, RequestPlace place)> openTool;
+  // nothing: a request without a first item
+  std::function<void(std::optional<std::string> bytes, RequestPlace place)> handleEvent;
+  RequestPlaces places;  // a call that gets none is answered by an error and leads to nothing
 };
 
 // The manager on the session bus: "org.freedesktop.Application" and an interface of its own for raw requests.

@@ -138,6 +138,25 @@ TEST_F(RequestsTest, comeInTheirOrderAndNoneIsLost) {
   EXPECT_EQ(seen, expected);
 }
 
+TEST_F(RequestsTest, keepTheirPlacesUntilTheyAreHandled) {
+  start();
+  RequestPlaces places = requests().places();
+  std::vector<RequestPlace> others;
+  for (int i = 1; i < RequestPlaces::most; ++i) others.push_back(places.take());
+  RequestPlace last = places.take();
+  EXPECT_EQ(places.take(), nullptr);
+  requests().activate(last);
+  requests().eventText("tQB8", std::move(last));
+  EXPECT_EQ(places.take(), nullptr) << "both parts of one call have one place";
+  RequestPlace whileHandled;
+  test_.program().notifications().onPost = [&](const Notification&) { whileHandled = places.take(); };
+  test_.runLoop.run();
+  EXPECT_NE(whileHandled, nullptr) << "what is being handled waits no longer";
+  requests().close();
+  requests().eventText("tQB8", std::move(whileHandled));
+  EXPECT_NE(places.take(), nullptr) << "what comes too late takes none";
+}
+
 TEST_F(RequestsTest, areServedWhileAModalWindowIsUp) {
   start();
   std::string toolWhileUp;

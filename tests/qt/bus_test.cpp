@@ -31,16 +31,21 @@ class Bus : public testing::Test {
   }
 
   void serve(const BusIdentity& identity = {name, "/家 1", "/root"}) {
-    service_.emplace(identity, BusRequests{[this](const std::string& token) { arrived += "activate " + token + "\n"; },
-                                           [this](const std::vector<std::string>& paths) {
-                                             arrived += "open";
-                                             for (const std::string& path : paths) arrived += " " + path;
-                                             arrived += "\n";
-                                           },
-                                           [this](const std::string& code) { arrived += "tool " + code + "\n"; },
-                                           [this](const std::optional<std::string>& bytes) {
-                                             arrived += bytes ? "event " + *bytes + "\n" : "no item\n";
-                                           }});
+    BusRequests requests;
+    requests.activate = [this](const std::string& token, const RequestPlace& place) {
+      arrived += "activate " + token + "\n";
+      if (isHolding) held.push_back(place);
+    };
+    requests.openFiles = [this](const std::vector<std::string>& paths, const RequestPlace&) {
+      arrived += "open";
+      for (const std::string& path : paths) arrived += " " + path;
+      arrived += "\n";
+    };
+    requests.openTool = [this](const std::string& code, const RequestPlace&) { arrived += "tool " + code + "\n"; };
+    requests.handleEvent = [this](const std::optional<std::string>& bytes, const RequestPlace&) {
+      arrived += bytes ? "event " + *bytes + "\n" : "no item\n";
+    };
+    service_.emplace(identity, std::move(requests));
     ASSERT_TRUE(test::waitForName(name, true));
   }
 
@@ -59,7 +64,25 @@ class Bus : public testing::Test {
     return std::exchange(arrived, {});
   }
 
+  // Calls that many times and has as many answers, errors by their names.
+  static std::vector<std::string> answersOf(int first, int count) {
+    std::vector<QDBusPendingCall> calls;
+    for (int i = first; i < first + count; ++i) {
+      QDBusMessage call = QDBusMessage::createMethodCall(name, busObjectPath, applicationInterface, "ActivateAction");
+      call << "open-tool" << QVariant(QVariantList{QString::number(i)}) << QVariantMap();
+      calls.push_back(QDBusConnection::sessionBus().asyncCall(call));
+    }
+    std::vector<std::string> answers;
+    for (QDBusPendingCall& call : calls) {
+      call.waitForFinished();
+      answers.push_back(call.isError() ? call.error().name().toStdString() : "done");
+    }
+    return answers;
+  }
+
   std::string arrived;
+  std::vector<RequestPlace> held;  // of requests that are not handled yet
+  bool isHolding = false;
 
  private:
   std::optional<BusService> service_;
@@ -115,22 +138,35 @@ TEST_F(Bus, describesItselfToTools) {
 TEST_F(Bus, aThousandRequestsArriveInTheirOrder) {
   serve();
   std::string expected;
-  for (int i = 0; i < 1000; ++i) {
-    const QString code = QString::number(i);
-    QDBusMessage call = QDBusMessage::createMethodCall(name, busObjectPath, applicationInterface, "ActivateAction");
-    call << "open-tool" << QVariant(QVariantList{code}) << QVariantMap();
-    QDBusConnection::sessionBus().asyncCall(call);
-    expected += "activate \ntool " + code.toStdString() + "\n";
+  for (int i = 0; i < 1000; i += 50) {
+    EXPECT_EQ(answersOf(i, 50), std::vector<std::string>(50, "done"));
+    for (int each = i; each < i + 50; ++each) expected += "activate \ntool " + std::to_string(each) + "\n";
+    for (int rounds = 0; rounds < 500 && arrived.size() < expected.size(); ++rounds) settle();
   }
-  for (int rounds = 0; rounds < 500 && arrived.size() < expected.size(); ++rounds) settle();
   EXPECT_EQ(arrived, expected);
+}
+
+TEST_F(Bus, theSixtyFifthRequestThatWaitsIsRefusedAndNoneIsLost) {
+  serve();
+  isHolding = true;
+  EXPECT_EQ(answersOf(0, 64), std::vector<std::string>(64, "done"));
+  EXPECT_EQ(answersOf(64, 2), std::vector<std::string>(2, "com.wordhaven.TarvoManager1.Error.Busy"));
+  std::string expected;
+  for (int i = 0; i < 64; ++i) expected += "activate \ntool " + std::to_string(i) + "\n";
+  for (int rounds = 0; rounds < 500 && held.size() < 64; ++rounds) settle();
+  EXPECT_EQ(arrived, expected);
+  EXPECT_EQ(answersOf(66, 1).front(), "com.wordhaven.TarvoManager1.Error.Busy") << "taken up, and still not handled";
+  held.pop_back();
+  EXPECT_EQ(answersOf(67, 1).front(), "done");
+  EXPECT_EQ(answersOf(68, 1).front(), "com.wordhaven.TarvoManager1.Error.Busy");
 }
 
 TEST_F(Bus, aSecondOneGoesWithoutTheName) {
   serve();
   std::string others;
   {
-    const BusService second({name, "/other", "/root"}, {[&](const std::string&) { others += "!"; }, {}, {}, {}});
+    const BusService second({name, "/other", "/root"},
+                            {.activate = [&](const std::string&, const RequestPlace&) { others += "!"; }});
     settle();
     EXPECT_EQ(after("org.freedesktop.Application.Activate", {"{}"}), "activate \n");
   }
