@@ -90,7 +90,9 @@ std::string Product::engineURL() const {
   return addressForUser(engine_.value_or(paths_->engineURL()), locations_.home().name());
 }
 
-EnginePlaces Product::enginePlaces() const { return {paths_->localEnginePath(), locations_.inHome(".netrc")}; }
+EnginePlaces Product::enginePlaces() const {
+  return {paths_->localEnginePath(), locations_.inHome(".netrc"), paths_->allowsPlainPasswords()};
+}
 
 std::unique_ptr<Engine> Product::makeEngine(FileService& files) {
   std::unique_ptr<Engine> engine = tarvo::makeEngine(engineURL(), files, enginePlaces());

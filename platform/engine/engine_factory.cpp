@@ -44,7 +44,9 @@ std::string addressForUser(std::string_view address, std::string_view user) {
 std::unique_ptr<Engine> makeEngine(const std::string& engineURL, FileService& files, const EnginePlaces& places) {
   if (engineURL == "none") return std::make_unique<EngineNone>();
   if (engineURL.empty()) return std::make_unique<EngineLocal>(files, places.localPath);
-  if (isHttpAddress(engineURL)) return std::make_unique<EngineHttp>(HttpPlace{engineURL, places.netrc, {}});
+  if (isHttpAddress(engineURL)) {
+    return std::make_unique<EngineHttp>(HttpPlace{engineURL, places.netrc, {}, places.allowsPlainPasswords});
+  }
   return nullptr;
 }
 

@@ -14,8 +14,9 @@ namespace tarvo {
 class FileService;
 
 struct EnginePlaces {
-  DiskPath localPath;  // of the local engine's file
-  DiskPath netrc;      // the user's credentials for style services
+  DiskPath localPath;                 // of the local engine's file
+  DiskPath netrc;                     // the user's credentials for style services
+  bool allowsPlainPasswords = false;  // they may go out without encryption
 };
 
 // The address of one user, from one that is configured for many machines: each "{user}" in it stands for the user's

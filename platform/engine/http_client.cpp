@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/engine/http_client.h"
 
+#include <arpa/inet.h>
 #include <curl/curl.h>
+#include <netinet/in.h>
 #include <signal.h>
 
 #include <algorithm>
@@ -94,6 +96,21 @@ std::size_t takeHeader(char* bytes, std::size_t, std::size_t size, void* answer)
   return size;
 }
 
+// Scheme and host, with its port, of an address; both in lower case, and empty for what is none.
+struct AddressFront {
+  std::string scheme, host;
+};
+AddressFront frontOf(std::string_view address) {
+  const std::size_t schemeEnd = address.find("://");
+  if (schemeEnd == std::string_view::npos) return {};
+  const std::string_view rest = address.substr(schemeEnd + 3);
+  return {lowered(address.substr(0, schemeEnd)), lowered(rest.substr(0, rest.find_first_of("/?#")))};
+}
+
+bool mayHaveCredentials(const HttpPlace& place) {
+  return place.allowsPlainPasswords || frontOf(place.address).scheme == "https" || isLoopbackAddress(place.address);
+}
+
 std::error_code causeOf(CURLcode code) {
   switch (code) {
     case CURLE_OK: return {};
@@ -115,6 +132,7 @@ std::error_code causeOf(CURLcode code) {
 struct HttpClient::Handle {
   CurlLibrary library;
   CURL* curl = library.isWhole() ? library.init() : nullptr;
+  bool keptBack = false;  // credentials that there are
 
   Handle() = default;
   ~Handle() {
@@ -133,8 +151,11 @@ struct HttpClient::Handle {
     set(CURLOPT_URL, place.address.c_str());
     set(CURLOPT_PROTOCOLS_STR, "http,https");
     set(CURLOPT_NOSIGNAL, 1L);
-    set(CURLOPT_QUICK_EXIT, 1L);              // a name service that hangs is not waited for either
-    if (std::ifstream(place.netrc.text())) {  // else there are no credentials
+    set(CURLOPT_QUICK_EXIT, 1L);  // a name service that hangs is not waited for either
+    if (isLoopbackAddress(place.address)) set(CURLOPT_NOPROXY, "*");
+    const bool hasCredentials = static_cast<bool>(std::ifstream(place.netrc.text()));
+    keptBack = hasCredentials && !mayHaveCredentials(place);
+    if (hasCredentials && !keptBack) {
       set(CURLOPT_NETRC, static_cast<long>(CURL_NETRC_REQUIRED));
       set(CURLOPT_NETRC_FILE, place.netrc.text().c_str());
     }
@@ -159,14 +180,20 @@ struct HttpClient::Handle {
 };
 
 bool isHttpAddress(std::string_view address) {
-  const std::size_t schemeEnd = address.find("://");
-  if (schemeEnd == std::string_view::npos) return false;
-  const std::string scheme = lowered(address.substr(0, schemeEnd));
-  const std::string_view rest = address.substr(schemeEnd + 3);
-  const std::string_view host = rest.substr(0, rest.find_first_of("/?#"));
+  const auto [scheme, host] = frontOf(address);
   const bool isPlain = std::none_of(address.begin(), address.end(), [](unsigned char c) { return c <= ' '; });
   return (scheme == "http" || scheme == "https") && !host.empty() && host.find('@') == std::string_view::npos &&
          isPlain;
+}
+
+bool isLoopbackAddress(std::string_view address) {
+  if (!isHttpAddress(address)) return false;
+  std::string host = frontOf(address).host;
+  const std::size_t colon = host.find_last_not_of("0123456789");
+  if (colon != std::string::npos && host[colon] == ':' && colon + 1 < host.size()) host.resize(colon);
+  in_addr number{};
+  const bool isNumber = inet_pton(AF_INET, host.c_str(), &number) == 1;
+  return host == "localhost" || host == "[::1]" || (isNumber && (ntohl(number.s_addr) >> 24) == IN_LOOPBACKNET);
 }
 
 std::string HttpAnswer::header(const std::string& name) const {
@@ -202,6 +229,8 @@ HttpAnswer HttpClient::send(const HttpRequest& request, Milliseconds limit) {
   handle_->library.getinfo(handle_->curl, CURLINFO_RESPONSE_CODE, &status);
   answer.status = static_cast<int>(status);
   answer.arrival = HttpAnswer::Arrival::whole;
+  constexpr int unauthorized = 401;
+  if (answer.status == unauthorized && handle_->keptBack) answer.cause = Reason::plainPassword;
   return answer;
 }
 

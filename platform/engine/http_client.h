@@ -15,19 +15,23 @@
 // Requests to one address over HTTP/1.1 or HTTP/2 (RFC 9110), with or without TLS.
 // Duty: send one request and wait for its answer, no longer than told; keep the connection for the next one. Not: what
 // an answer means. Certificates and host names are always verified; credentials come from the user's netrc alone, never
-// from the address; no redirect is followed, so neither styles nor credentials go to a place that nobody configured.
-// Proxies as the environment names them. No signal is raised or left handled otherwise. The library that does it is
-// loaded with the first request; without it nothing is sent and no answer comes.
+// from the address, and go out over TLS or to this machine only, unless plain ones are allowed; no redirect is
+// followed, so neither styles nor credentials go to a place that nobody configured. Proxies as the environment names
+// them, but for this machine, which needs none. No signal is raised or left handled otherwise. The library that does it
+// is loaded with the first request; without it nothing is sent and no answer comes.
 namespace tarvo {
 
 struct HttpPlace {
   std::string address;   // see isHttpAddress()
   DiskPath netrc;        // may be missing
   DiskPath authorities;  // PEM file of the certificates to trust instead of the system's; empty for the system's
+  bool allowsPlainPasswords = false;  // credentials may go out without TLS
 };
 
 // Whether it begins with http:// or https://, has a host, and names neither a user nor a password.
 bool isHttpAddress(std::string_view address);
+// Whether such an address names this machine by its loopback address or as "localhost".
+bool isLoopbackAddress(std::string_view address);
 
 struct HttpRequest {
   std::string method;
@@ -38,7 +42,8 @@ struct HttpRequest {
 struct HttpAnswer {
   enum class Arrival { whole, none, late };  // none: refused, broken off, not to be trusted, or too large
   Arrival arrival = Arrival::none;
-  std::error_code cause;  // why none came, or none in time
+  // Why none came, or none in time; plainPassword also of one that asks for credentials which were kept back.
+  std::error_code cause;
   int status = 0;
   std::map<std::string, std::string> headers;  // names in lower case
   std::string body;

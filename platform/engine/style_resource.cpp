@@ -45,7 +45,7 @@ std::string strongTag(const HttpAnswer& answer) {
 HttpAnswer StyleResource::send(const HttpRequest& request, const Deadline& deadline) {
   HttpAnswer answer = client_.send(request, deadline.left());
   isLate_ = isLate_ || answer.arrival == HttpAnswer::Arrival::late;
-  cause_ = answer.isWhole() ? std::error_code(Reason::refused) : answer.cause;
+  cause_ = answer.cause ? answer.cause : std::error_code(Reason::refused);
   return answer;
 }
 

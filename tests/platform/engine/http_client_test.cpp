@@ -9,14 +9,17 @@
 #include <atomic>
 #include <condition_variable>
 #include <csignal>
+#include <cstdlib>
 #include <mutex>
 
+#include "platform/services/result.h"
 #include "tests/support/scripted_server.h"
 #include "tests/support/temporary_folder.h"
 
 namespace {
 
 constexpr const char* slowName = "slow.invalid";
+constexpr const char* otherName = "other.invalid";  // this machine, under a name that does not say so
 
 // A name service that answers for that name only when it is let go.
 struct SlowNames {
@@ -43,13 +46,14 @@ SlowNames& slowNames() {
 
 }  // namespace
 
-// The system's name service, but for the slow name.
+// The system's name service, but for those two names.
 extern "C" int getaddrinfo(const char* name, const char* service, const addrinfo* hints, addrinfo** found) {
   if (name != nullptr && std::string_view(name) == slowName) {
     slowNames().wait();
     return EAI_AGAIN;
   }
   static const auto system = reinterpret_cast<decltype(&getaddrinfo)>(dlsym(RTLD_NEXT, "getaddrinfo"));
+  if (name != nullptr && std::string_view(name) == otherName) return system("127.0.0.1", service, hints, found);
   return system(name, service, hints, found);
 }
 
@@ -123,6 +127,47 @@ TEST(HttpClient, credentialsComeFromTheUsersNetrcOnly) {
     EXPECT_TRUE(answer.isWhole()) << netrc;
     EXPECT_EQ(answer.body, "") << netrc;
   }
+}
+
+TEST(HttpAddress, isOfThisMachineByItsLoopbackAddressOrItsNameForIt) {
+  for (const char* address : {"http://127.0.0.1", "http://127.9.8.7:8080/x", "http://localhost/x",
+                              "HTTPS://LocalHost:1", "http://[::1]/", "http://[::1]:80"}) {
+    EXPECT_TRUE(isLoopbackAddress(address)) << address;
+  }
+  for (const char* address :
+       {"", "http://128.0.0.1", "http://127.0.0.1.example/", "http://127.1/", "http://localhost.example",
+        "http://127.0.0.1:", "http://[::2]", "http://example/127.0.0.1", "http://example?localhost", "http://[::1].a",
+        "http://0177.0.0.1", "http://127.0.0.1\\@example", "ftp://localhost"}) {
+    EXPECT_FALSE(isLoopbackAddress(address)) << address;
+  }
+}
+
+TEST(HttpClient, credentialsDoNotGoOutOverAnOpenConnectionUnlessTheyMay) {
+  const ScriptedServer server([](const SeenRequest& request) {
+    const std::string credentials = request.header("authorization");
+    return Reply{credentials.empty() ? 401 : 200, {}, credentials};
+  });
+  const std::string port = server.address().substr(std::string("http://127.0.0.1").size());
+  const test::TemporaryFolder home;
+  home.write(".netrc", std::string("machine ") + otherName + " login taro password pass-word\n");
+  HttpPlace place{"http://" + std::string(otherName) + port, home.at(".netrc"), {}};
+  const HttpAnswer without = HttpClient(place).send({"GET", {}, {}}, 10s);
+  EXPECT_EQ(without.status, 401);
+  EXPECT_EQ(without.cause, Reason::plainPassword);
+  place.allowsPlainPasswords = true;
+  EXPECT_EQ(HttpClient(place).send({"GET", {}, {}}, 10s).body, "Basic dGFybzpwYXNzLXdvcmQ=");
+  place.allowsPlainPasswords = false;
+  place.netrc = home.at("missing");
+  EXPECT_FALSE(HttpClient(place).send({"GET", {}, {}}, 10s).cause) << "there are none to be kept back";
+}
+
+TEST(HttpClient, thisMachineIsAskedWithoutAProxy) {
+  const ScriptedServer proxy([](const SeenRequest&) { return Reply{500, {}, "proxy"}; });
+  const ScriptedServer server([](const SeenRequest&) { return Reply{200, {}, "server"}; });
+  ::setenv("http_proxy", proxy.address().c_str(), 1);
+  EXPECT_EQ(HttpClient({server.address(), {}, {}}).send({"GET", {}, {}}, 10s).body, "server");
+  ::unsetenv("http_proxy");
+  EXPECT_TRUE(proxy.requests().empty());
 }
 
 TEST(HttpClient, aRedirectionIsAnAnswerLikeAnyOther) {
