@@ -32,6 +32,21 @@ if(TARVO_SANITIZE)
   target_link_options(tarvo_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# What is handed out to people is built so that a fault of memory is hard to use: at changing addresses, with tables that
+# nobody can write after the start, with checks of the stack, of the C library's calls and of where calls may lead.
+if(CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|MinSizeRel)$" AND NOT TARVO_SANITIZE)
+  include(CheckCXXCompilerFlag)
+  include(CheckPIESupported)
+  check_pie_supported(LANGUAGES CXX)
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  add_compile_options(-fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3)
+  check_cxx_compiler_flag(-fcf-protection TARVO_HAS_CF_PROTECTION)
+  if(TARVO_HAS_CF_PROTECTION)
+    add_compile_options(-fcf-protection)
+  endif()
+  add_link_options(-Wl,-z,relro,-z,now)
+endif()
+
 # tarvo_room(NAME [SUBFOLDERS dir...] [LINK lib...]): the static library of the current folder.
 function(tarvo_room NAME)
   cmake_parse_arguments(ROOM "" "" "SUBFOLDERS;LINK;PRIVATE" ${ARGN})
