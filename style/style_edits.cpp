@@ -58,6 +58,7 @@ Result<> replaceStyle(StyleStore& store, int index, Dictionary record, const std
   try {
     record.set(keyNameName, name);
     record.set(keyNameID, index);
+    if (!store.hasRoomFor(index, record)) return Failure{store.path().text(), Attempt::write, Reason::overLimit};
     store.setStyle(index, std::move(record), ChangeKind::import);
   } catch (const std::bad_alloc&) {
     return Failure{store.path().text(), Attempt::write, std::make_error_code(std::errc::not_enough_memory)};

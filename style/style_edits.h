@@ -40,7 +40,7 @@ std::expected<void, NameProblem> renameStyle(StyleStore& store, int index, const
                                              const std::string& standardName);
 
 // Puts the record in the style's place, under that name and with the index as its ID. Fails where the memory does not
-// suffice.
+// suffice, or the style file could not hold all.
 Result<> replaceStyle(StyleStore& store, int index, Dictionary record, const std::string& name);
 // A style as a file of its own, whose root is one record (style_check.h reads it). Fails also where there is no such
 // style. After a failure the file is as it was.

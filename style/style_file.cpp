@@ -114,6 +114,7 @@ Result<Replaced> StyleFile::replace(const std::string& bytes, std::optional<Chan
 
 Result<> StyleFile::write(const Dictionary& root, std::optional<ChangeKind> change) {
   const std::string bytes = bytesOf(root);
+  if (bytes.size() > largestListFile) return Failure{path().text(), Attempt::write, Reason::overLimit};
   std::string written = fingerprint(bytes);
   if (written == fingerprint_) change.reset();
   const Result<Replaced> replaced = replace(bytes, change);

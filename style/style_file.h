@@ -27,7 +27,7 @@ class StyleFile {
   // The same once, and as if it had not been read.
   Result<Dictionary> readPresent() const { return readDictionary(files_, path()); }
   // change: why; nothing when no style has changed. After a failure the file is as it was, but for one that says that
-  // the disk could not sync it.
+  // the disk could not sync it. Fails for more than could be read back (largestListFile).
   Result<> write(const Dictionary& root, std::optional<ChangeKind> change);
   // All that a write would put there, in a file of the user's choice; what is known of the style file stays.
   Result<> writeCopy(const Dictionary& root, const DiskPath& path) { return files_.write(path, bytesOf(root)); }

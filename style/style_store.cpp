@@ -6,6 +6,7 @@
 #include <ranges>
 #include <utility>
 
+#include "platform/plist/plist_writer.h"
 #include "style/option_table.h"
 
 namespace tarvo {
@@ -76,6 +77,17 @@ void StyleStore::setStyle(int index, Dictionary record, ChangeKind kind) {
   if (isNew) tellChange(std::move(change));
   file_.recordChanged(static_cast<std::size_t>(index));
   writeTarvoStylePlist();
+}
+
+bool StyleStore::hasRoomFor(int index, const Dictionary& record) {
+  constexpr int depthOfRecords = 2;
+  constexpr std::size_t aroundRecords = std::size_t{64} << 10;
+  std::string encoded;
+  appendValue(encoded, record, depthOfRecords);
+  std::size_t size = aroundRecords + encoded.size();
+  const std::span<const std::string> present = file_.encode(tarvoStyle_);
+  for (std::size_t i = 0; i < present.size(); ++i) size += std::cmp_equal(i, index) ? 0 : present[i].size();
+  return size <= largestListFile;
 }
 
 void StyleStore::replaceStyles(Array styles, ChangeKind kind) {

@@ -54,6 +54,8 @@ class StyleStore {
   bool isPending() const { return pending_; }
   // Replaces the record and writes. An index outside the array changes and writes nothing.
   void setStyle(int index, Dictionary record, ChangeKind kind = ChangeKind::edit);
+  // Whether the file could hold the record in the place of the one at the index: what is too large is not read back.
+  bool hasRoomFor(int index, const Dictionary& record);
   // Replaces all there is and writes.
   void replaceRoot(Dictionary root, ChangeKind kind);
   // Replaces "Selection" and writes.

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QPushButton>
 #include <QTextDocument>
 
 #include "qt/window/alert_dialog.h"

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/plist/plist_reader.h"
+#include "platform/services/plist_file.h"
 #include "tests/style/exchange_fixture.h"
 #include "tests/support/sample_styles.h"
 
@@ -168,6 +169,28 @@ TEST_F(StyleExchangeTest, refusesListsWithinListsThatTheStyleFileCouldNotHold) {
   style.set("Deep", nested(deepest));
   EXPECT_TRUE(import(style));
   EXPECT_TRUE(readPropertyList(world_.files.bytes("/styles.plist"))) << "the style file can be read back";
+}
+
+TEST_F(StyleExchangeTest, refusesAStyleWithWhichTheStyleFileCouldNotBeReadAgain) {
+  Dictionary style = importedStyle();
+  style.set("Large", std::string(std::size_t{40} << 20, 'x'));
+  ASSERT_TRUE(import(style, 1));
+  const Dictionary before = world_.store.root();
+  EXPECT_FALSE(import(style, 3, "Beta"));
+  EXPECT_EQ(world_.log, Log{importFailed});
+  EXPECT_EQ(world_.panels.told.back(), "/styles.plist: Failure.write; Cause.overLimit");
+  EXPECT_EQ(world_.store.root(), before);
+  EXPECT_TRUE(import(style, 1)) << "in its own place there is room for it";
+  EXPECT_LE(world_.files.bytes("/styles.plist").size(), largestListFile);
+}
+
+TEST_F(StyleExchangeTest, leavesTheStyleFileWhereTheStylesAreTooLargeToBeReadAgain) {
+  Dictionary style = record(1);
+  style.set("Large", std::string(std::size_t{65} << 20, 'x'));
+  const std::string before = world_.files.bytes("/styles.plist");
+  world_.store.setStyle(1, style);
+  EXPECT_EQ(world_.store.unsaved()->cause, Reason::overLimit);
+  EXPECT_EQ(world_.files.bytes("/styles.plist"), before);
 }
 
 TEST_F(StyleExchangeTest, registersWhatWasImportedAndNothingThatWasRefused) {

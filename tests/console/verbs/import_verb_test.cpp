@@ -53,7 +53,7 @@ TEST_F(ImportVerb, tellsTheKeyAndTheValueThatIsNotAllowed) {
 TEST_F(ImportVerb, tellsThatAFileIsTooLarge) {
   const std::string file = fileWith("</plist>", "</plist>");
   std::filesystem::resize_file(file, (std::uintmax_t{64} << 20) + 1);
-  expectRefused(file, "it is larger than 64 MiB");
+  expectRefused(file, "more than 64 MiB are not taken");
 }
 
 TEST_F(ImportVerb, listsNamesThatAreNotHereAndNamesThatStandThereTwice) {
