@@ -91,7 +91,8 @@ std::string Product::engineURL() const {
 }
 
 EnginePlaces Product::enginePlaces() const {
-  return {paths_->localEnginePath(), locations_.inHome(".netrc"), paths_->allowsPlainPasswords()};
+  return {paths_->localEnginePath(), locations_.inHome(".netrc"),
+          configuration_.boolean(configuration_keys::allowPlainPasswords)};
 }
 
 std::unique_ptr<Engine> Product::makeEngine(FileService& files) {

@@ -23,8 +23,8 @@ struct Console {
   Product& product;
   std::ostream& out;
   std::ostream& err;
-  // Takes the lock of the user's files in that home for the rest of the process. Fails where another process holds it, or
-  // (noRegularFile) where what lies there is no file.
+  // Takes the lock of the user's files in that home for the rest of the process. Fails where another process holds it,
+  // or (noRegularFile) where what lies there is no file.
   std::function<Result<>(const DiskPath& lock, const DiskPath& home)> takeLock;
   // Becomes that program with these words; answers only when it cannot.
   std::function<Failure(const DiskPath& file, std::vector<std::string> words)> become;

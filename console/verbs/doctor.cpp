@@ -103,7 +103,16 @@ class Examination {
 
   void settings() {
     keys(userDefaultsPath(product_.locations()), "settings", "made at the first start");
-    plain(lockPath(product_.locations()), "lock", "made when the manager starts");
+    lock();
+  }
+
+  // Links are not followed.
+  void lock() {
+    const DiskPath path = lockPath(product_.locations());
+    const Result<Kind> kind = product_.files().ownKind(path);
+    const bool isOdd = kind && *kind != Kind::absent && *kind != Kind::file;
+    if (isOdd) return add(path, "lock", "problem", product_.texts().localized("Cause.noRegularFile"));
+    plain(path, "lock", "made when the manager starts");
   }
 
   void resources() {

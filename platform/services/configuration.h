@@ -17,6 +17,8 @@ class FileService;
 
 namespace configuration_keys {
 inline constexpr const char* privateFolders = "PrivateFolders";  // boolean: folders made in homes are the user's alone
+// boolean: credentials may reach a style service without encryption
+inline constexpr const char* allowPlainPasswords = "AllowPlainPasswords";
 }  // namespace configuration_keys
 
 class Configuration {

@@ -67,11 +67,6 @@ ProductPath ProductPaths::preferencesWordhavenCache() const {
 std::string ProductPaths::volumeName() const { return text("VolumeName", "Macintosh HD"); }
 std::string ProductPaths::engineURL() const { return text("EngineURL", ""); }
 
-bool ProductPaths::allowsPlainPasswords() const {
-  const PropertyList* allows = configuration_.find("AllowPlainPasswords");
-  return allows != nullptr && allows->booleanValue();
-}
-
 DiskPath ProductPaths::localEnginePath() const {
   return onDisk("LocalEnginePath", "~/Library/Application Support/Wordhaven/TarvoEngine.plist");
 }

@@ -50,7 +50,6 @@ class ProductPaths {
   ProductPath preferencesWordhavenCache() const;         // the product's cache folder
   std::string volumeName() const;                        // of the boot volume, for classic paths
   std::string engineURL() const;                         // style service as configured; "" for the local engine
-  bool allowsPlainPasswords() const;                     // credentials may reach a style service without encryption
   DiskPath localEnginePath() const;                      // the local engine's file
   std::vector<DiskPath> applicationFolders() const;      // where an application is looked for by its name, in order
   std::vector<ProductPath> runningApplications() const;  // that count as running, whatever the system says

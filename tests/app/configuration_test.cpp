@@ -11,8 +11,10 @@
 #include "app/product.h"
 #include "app/product_defaults.h"
 #include "app/user_files.h"
+#include "platform/services/engine.h"
 #include "platform/services/file_service.h"
 #include "tests/support/memory_files.h"
+#include "tests/support/scripted_server.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tarvo::test {
@@ -139,6 +141,26 @@ TEST_F(ConfiguredProduct, makesThePlaceOfTheLockOfTheHomeToo) {
   EXPECT_EQ(folder.mode("root/home/Library"), 0700U);
   EXPECT_EQ(folder.mode("root/home/Library/Preferences"), 0700U);
   EXPECT_TRUE(folder.names("root/home/Library/Preferences").empty());
+}
+
+TEST_F(ConfiguredProduct, sendsPlainPasswordsWhereTheConfigurationSaysSo) {
+  const ScriptedServer proxy([](const SeenRequest&) { return Reply{401, {}, ""}; });
+  const Environment behindIt({{"http_proxy", proxy.address()}});
+  folder.write("root/home/.netrc", "machine styles.invalid login taro password pass-word\n");
+  ProductOptions asked = options();
+  asked.engine = "http://styles.invalid/x";
+  const auto credentials = [&] {
+    Product product(asked);
+    const std::unique_ptr<Engine> engine = product.makeEngine(product.files());
+    EXPECT_FALSE(engine->checkConnectionWithCurl());
+    const bool isKeptBack = engine->couldReach().error().cause == Reason::plainPassword;
+    const std::string sent = proxy.requests().back().header("authorization");
+    EXPECT_EQ(isKeptBack, sent.empty());
+    return sent;
+  };
+  EXPECT_EQ(credentials(), "");
+  configure(list("<key>AllowPlainPasswords</key><true/>"));
+  EXPECT_EQ(credentials(), "Basic dGFybzpwYXNzLXdvcmQ=");
 }
 
 TEST_F(ConfiguredProduct, tellsOfAConfigurationThatCannotBeRead) {

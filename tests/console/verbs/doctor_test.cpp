@@ -51,6 +51,17 @@ TEST_F(Verbs, doctorNamesDatesThatOtherProgramsRefuseAndTheFileIsUsedAllTheSame)
   EXPECT_NE(root_.folder().read(path).find("<date>----</date>"), std::string::npos);
 }
 
+TEST_F(Verbs, doctorNamesALockThatIsNoFile) {
+  const std::string lock = "home:/Library/Preferences/com.wordhaven.TarvoManager.lock";
+  root_.folder().write("root/file", "");
+  fs::create_directories(root_.home() + "/Library/Preferences");
+  fs::create_symlink(root_.root() + "/file", root_.home() + lock.substr(5));
+  EXPECT_EQ(byPath(run({"doctor", "--json"}).out).at(lock), Json("problem"));
+  fs::remove(root_.home() + lock.substr(5));
+  fs::create_directory(root_.home() + lock.substr(5));
+  EXPECT_EQ(byPath(run({"doctor", "--json"}).out).at(lock), Json("problem"));
+}
+
 TEST_F(Verbs, doctorNamesTheStyleServiceAndDoesNotAskIt) {
   const auto row = [this](const std::vector<std::string>& options) {
     const std::string out = runInEnglish([&] {

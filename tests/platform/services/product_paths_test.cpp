@@ -106,17 +106,6 @@ TEST(ProductPaths, textsAndNumbersAreTakenAsTheyStand) {
   EXPECT_EQ(ProductPaths(locations, Dictionary{}).tarvoPathLoadDictAndHelper(0), 0);
 }
 
-TEST(ProductPaths, plainPasswordsAreAllowedByAYesAlone) {
-  const Locations locations("/", "/home/taro");
-  EXPECT_FALSE(ProductPaths(locations, Dictionary{}).allowsPlainPasswords());
-  for (const auto& [value, allows] :
-       {std::pair<PropertyList, bool>{true, true}, {false, false}, {1, true}, {"no", false}}) {
-    Dictionary list;
-    list.set("AllowPlainPasswords", value);
-    EXPECT_EQ(ProductPaths(locations, list).allowsPlainPasswords(), allows);
-  }
-}
-
 TEST(ProductPaths, isInitializedBetweenItsTwoCalls) {
   const Locations locations("/", "/home/taro");
   ProductPaths paths(locations, Dictionary{});
