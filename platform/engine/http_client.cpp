@@ -212,9 +212,11 @@ HttpAnswer HttpClient::send(const HttpRequest& request, Milliseconds limit) {
     answer.cause = std::make_error_code(std::errc::timed_out);
     return answer;
   }
+  answer.cause = std::make_error_code(std::errc::file_too_large);
+  if (request.body.size() > largestHttpBody) return answer;
   answer.cause = Reason::unreachable;
   if (handle_ == nullptr) handle_ = std::make_unique<Handle>();
-  if (handle_->curl == nullptr || request.body.size() > largestHttpBody) return answer;
+  if (handle_->curl == nullptr) return answer;
   const BrokenPipesIgnored ignored;
   const HeaderList headers(handle_->library, request.headers);
   handle_->prepare(place_);

@@ -180,8 +180,11 @@ TEST(HttpClient, aRedirectionIsAnAnswerLikeAnyOther) {
 TEST(HttpClient, bodiesThatAreTooLargeAreNotTaken) {
   const ScriptedServer server([](const SeenRequest&) { return Reply{200, {}, std::string(largestHttpBody + 1, 'x')}; });
   HttpClient client({server.address(), {}, {}});
-  EXPECT_EQ(client.send({"GET", {}, {}}, 60s).arrival, Arrival::none);
-  EXPECT_EQ(client.send({"PUT", {}, std::string(largestHttpBody + 1, 'x')}, 60s).arrival, Arrival::none);
+  const std::string large(largestHttpBody + 1, 'x');
+  for (const HttpAnswer& answer : {client.send({"GET", {}, {}}, 60s), client.send({"PUT", {}, large}, 60s)}) {
+    EXPECT_EQ(answer.arrival, Arrival::none);
+    EXPECT_EQ(answer.cause, std::errc::file_too_large);
+  }
   EXPECT_EQ(server.requests().size(), 1U);
 }
 
