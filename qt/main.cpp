@@ -45,11 +45,15 @@ BusIdentity identityOf(const CommandLine& line, const Locations& locations) {
 
 // Takes the lock, or hands what this start is to do to the manager that has it: then the answer is the status to end
 // with. A manager that is coming up has the lock before its name on the bus; a lock of the console tool is soon free.
-std::optional<int> enter(std::optional<InstanceLock>& lock, const CommandLine& line, const DiskPath& lockFile,
+std::optional<int> enter(std::optional<InstanceLock>& lock, const CommandLine& line, Product& product,
                          const BusIdentity& identity) {
+  const DiskPath lockFile = placeForLock(product.files(), product.locations());
   for (int i = 0; i < tries; ++i) {
     lock.emplace(lockFile);
-    if (lock->state() == InstanceLock::State::held) return std::nullopt;
+    if (lock->state() == InstanceLock::State::held) {
+      sweepTemporaries(product.locations().home());
+      return std::nullopt;
+    }
     if (lock->state() == InstanceLock::State::noFile) {
       return tell(locked, lockFile.text() + ": " + textsToTell(line).localized("Refusal.LockIsNoFile"));
     }
@@ -78,9 +82,7 @@ int runManager(const CommandLine& line, int& argc, char** argv) {
     return tell(failed, failureText(*unread, textsToTell(line)));
   const BusIdentity identity = identityOf(line, product.locations());
   std::optional<InstanceLock> lock;
-  const auto status = enter(lock, line, placeForLock(product.files(), product.locations()), identity);
-  if (status) return *status;
-  if (lock->state() == InstanceLock::State::held) sweepTemporaries(product.locations().home());
+  if (const auto status = enter(lock, line, product, identity)) return *status;
   QApplication application(argc, argv);
   nameApplication(product.texts());
   applyLook(schemeFromEnvironment(), product.language());

@@ -41,32 +41,43 @@ std::string spelled(const PropertyList& value) {
   return writeJson(jsonFromPropertyList(value));
 }
 
+StyleFault faultOf(Kind kind, std::string keys, std::string found = "", int most = -1) {
+  StyleFault fault;
+  fault.kind = kind;
+  fault.keys = std::move(keys);
+  fault.found = std::move(found);
+  fault.most = most;
+  return fault;
+}
+
+StyleFault faultOf(const Failure& failure) {
+  StyleFault fault;
+  fault.failure = failure;
+  return fault;
+}
+
 Found wrongHalf(const Dictionary& record, std::string_view key) {
   const PropertyList* half = record.find(key);
-  if (half == nullptr) return StyleFault{.kind = Kind::absent, .keys = std::string(key)};
+  if (half == nullptr) return faultOf(Kind::absent, std::string(key));
   if (half->dictionary() != nullptr) return std::nullopt;
-  return StyleFault{.kind = Kind::kind, .keys = std::string(key), .found = spelled(*half)};
+  return faultOf(Kind::kind, std::string(key), spelled(*half));
 }
 
 Found wrongOption(const Dictionary& record, const IndexOption& option) {
   const std::string_view half = halfKey(option.direction);
-  StyleFault fault{.keys = std::string(half) + '/' + std::string(option.key), .most = option.itemCount - 1};
+  const std::string keys = std::string(half) + '/' + std::string(option.key);
+  const int most = option.itemCount - 1;
   const PropertyList* value = record.dictionary(half)->find(option.key);
-  if (value == nullptr) {
-    fault.kind = Kind::absent;
-    return option.mayBeAbsent ? std::nullopt : Found(fault);
-  }
+  if (value == nullptr) return option.mayBeAbsent ? std::nullopt : Found(faultOf(Kind::absent, keys, "", most));
   const bool isNumber = value->hasIntegerValue();
-  if (isNumber && value->integerValue() >= 0 && value->integerValue() <= fault.most) return std::nullopt;
-  fault.kind = isNumber ? Kind::range : Kind::kind;
-  fault.found = spelled(*value);
-  return fault;
+  if (isNumber && value->integerValue() >= 0 && value->integerValue() <= most) return std::nullopt;
+  return faultOf(isNumber ? Kind::range : Kind::kind, keys, spelled(*value), most);
 }
 
 Found wrongDate(const Dictionary& record) {
   const std::vector<PlistFinding> dates = unsoundDates(record);
   if (dates.empty()) return std::nullopt;
-  return StyleFault{.kind = Kind::date, .keys = dates.front().keys, .found = shortened(dates.front().text)};
+  return faultOf(Kind::date, dates.front().keys, shortened(dates.front().text));
 }
 
 Found wrongIn(const Dictionary& record) {
@@ -76,13 +87,13 @@ Found wrongIn(const Dictionary& record) {
   for (const IndexOption& option : storedOptions()) {
     if (Found fault = wrongOption(record, option)) return fault;
   }
-  if (!fitsStyleFile(record)) return StyleFault{.kind = Kind::depth};
+  if (!fitsStyleFile(record)) return faultOf(Kind::depth, "");
   return wrongDate(record);
 }
 
 std::expected<Dictionary, StyleFault> readChecked(const FileService& files, const DiskPath& path) {
   Result<Dictionary> record = readDictionary(files, path);
-  if (!record) return std::unexpected(StyleFault{.failure = record.error()});
+  if (!record) return std::unexpected(faultOf(record.error()));
   Found fault = wrongIn(*record);
   if (!fault) return std::move(*record);
   fault->failure = {path.text(), Attempt::read, Reason::noStyle};
@@ -106,8 +117,8 @@ std::expected<Dictionary, StyleFault> readStyle(const FileService& files, const 
   try {
     return readChecked(files, path);
   } catch (const std::bad_alloc&) {
-    const Failure noMemory{path.text(), Attempt::read, std::make_error_code(std::errc::not_enough_memory)};
-    return std::unexpected(StyleFault{.failure = noMemory});
+    return std::unexpected(
+        faultOf(Failure{path.text(), Attempt::read, std::make_error_code(std::errc::not_enough_memory)}));
   }
 }
 

@@ -81,12 +81,15 @@ std::string StyleJoining::effectOf(const Array& joined, const std::vector<MergeN
   const auto words = changesInWords(styleChanges(stylesIn(with_.store.root()), joined), with_.texts);
   constexpr std::size_t mostLines = 8;
   std::string text = with_.texts.localized(words.empty() ? "JoinNothing" : "JoinMessage");
-  for (std::size_t line = 0; line < std::min(words.size(), mostLines); ++line) text += "\n" + words[line];
+  for (std::size_t line = 0; line < std::min(words.size(), mostLines); ++line) text.append("\n").append(words[line]);
   if (words.size() > mostLines) {
-    text += "\n" + filledIn(with_.texts.localized("History.more"), std::to_string(words.size() - mostLines));
+    const std::string more = std::to_string(words.size() - mostLines);
+    text.append("\n").append(filledIn(with_.texts.localized("History.more"), more));
   }
   const auto clashes = std::ranges::count(notes, MergeNote::Kind::otherValue, &MergeNote::kind);
-  if (clashes > 0) text += "\n" + filledIn(with_.texts.localized("JoinClashes"), std::to_string(clashes));
+  if (clashes > 0) {
+    text.append("\n").append(filledIn(with_.texts.localized("JoinClashes"), std::to_string(clashes)));
+  }
   return text;
 }
 

@@ -30,7 +30,8 @@ Result<> removeAt(int base, const std::string& name, const std::string& path, Wh
 
 // refused: why it could not be removed as a file.
 Result<> removeContent(int base, const std::string& name, const std::string& path, int refused, Whose whose) {
-  if (whose == Whose::own) ::fchmodat(base, name.c_str(), 0700, AT_SYMLINK_NOFOLLOW);
+  const int opened = whose == Whose::own ? ::fchmodat(base, name.c_str(), 0700, AT_SYMLINK_NOFOLLOW) : 0;
+  (void)opened;  // what stays closed fails below
   const Descriptor folder = openFolder(base, name, O_NOFOLLOW);
   const auto names = folder ? namesIn(folder.get()) : std::nullopt;
   if (!folder && (errno == ENOTDIR || errno == ELOOP)) errno = refused;  // no folder: the first answer holds
