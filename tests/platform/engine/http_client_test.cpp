@@ -13,6 +13,7 @@
 #include <mutex>
 
 #include "platform/services/result.h"
+#include "tests/support/environment.h"
 #include "tests/support/scripted_server.h"
 #include "tests/support/temporary_folder.h"
 
@@ -164,9 +165,8 @@ TEST(HttpClient, credentialsDoNotGoOutOverAnOpenConnectionUnlessTheyMay) {
 TEST(HttpClient, thisMachineIsAskedWithoutAProxy) {
   const ScriptedServer proxy([](const SeenRequest&) { return Reply{500, {}, "proxy"}; });
   const ScriptedServer server([](const SeenRequest&) { return Reply{200, {}, "server"}; });
-  ::setenv("http_proxy", proxy.address().c_str(), 1);
+  const test::Environment behindIt({{"http_proxy", proxy.address()}, {"no_proxy", ""}, {"NO_PROXY", ""}});
   EXPECT_EQ(HttpClient({server.address(), {}, {}}).send({"GET", {}, {}}, 10s).body, "server");
-  ::unsetenv("http_proxy");
   EXPECT_TRUE(proxy.requests().empty());
 }
 
