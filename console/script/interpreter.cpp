@@ -112,7 +112,7 @@ Control& Interpreter::reachable(const std::string& name) const {
 }
 
 void Interpreter::print(Json object) {
-  output_ << writeJson(object) << '\n';
+  output_ << writeJson(object) << '\n' << std::flush;  // who works with the script sees each line when it happens
   printed_.push_back(std::move(object));
 }
 

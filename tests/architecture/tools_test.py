@@ -29,6 +29,7 @@ def load(path):
 
 lint = load("script/lint")
 run_all = load("tests/run_all.py")
+killed = load("tests/soak/killed_programs.py")
 
 LICENCE = "".join(f"// {line}\n" for line in lint.LICENCE)
 
@@ -181,6 +182,33 @@ class Formatting(unittest.TestCase):
             environment = os.environ | {"PATH": f"{top}/tools:{os.environ['PATH']}"}
             subprocess.run([top / "script" / "format"], env=environment, check=True)
             self.assertEqual("-i\nkept of two.cpp\n", (top / "seen").read_text())
+
+
+class KilledPrograms(unittest.TestCase):
+    """What the rounds of kills call a style file with all edits that were told."""
+
+    def setUp(self):
+        self.before = {"Selection": {"MG": 0}, "Style": [killed.new_style(number) for number in range(3)]}
+        self.edits = killed.Edits(self.before, None)
+        self.edits.add([], (("Selection", "MG"), 1))
+        self.edits.add([], (("Style", 1, "Name"), "Patents"))
+
+    def edit_of(self, told, *changes):
+        found = killed.copy.deepcopy(self.before)
+        for way, value in changes:
+            killed.put(found, way, value)
+        return killed.Rounds.edit_of(found, killed.copy.deepcopy(self.before), self.edits, told)
+
+    def test_file_as_after_an_edit_holds_it(self):
+        self.assertEqual(self.edit_of(0), 0)
+        self.assertEqual(self.edit_of(0, (("Selection", "MG"), 1)), 1)
+        self.assertEqual(self.edit_of(1, (("Selection", "MG"), 1), (("Style", 1, "Name"), "Patents")), 2)
+
+    def test_file_as_before_an_edit_that_was_told_has_lost_it(self):
+        self.assertIsNone(self.edit_of(2, (("Selection", "MG"), 1)))
+
+    def test_file_with_the_second_edit_alone_is_mixed(self):
+        self.assertIsNone(self.edit_of(0, (("Style", 1, "Name"), "Patents")))
 
 
 class TestRun(unittest.TestCase):
