@@ -99,7 +99,8 @@ class Rounds:
         self.shell, self.program, self.random, self.folder = shell, program, random.Random(seed), folder
         self.home = folder / "Users/taro"
         self.file = self.home / STYLES
-        self.left, self.seconds_to_start, self.made, self.kills_in_starts, self.left_beside = set(), 0.2, 0, 0, 0
+        self.left, self.seconds_to_start = set(), 0.2
+        self.made, self.kills, self.kills_in_starts, self.left_beside = 0, 0, 0, 0
         (folder / DICTIONARIES).mkdir(parents=True)
         for name in NAMES:
             (folder / DICTIONARIES / name).write_bytes(b"")
@@ -146,8 +147,9 @@ class Rounds:
         program.kill()
         told.join()
         words = program.stderr.read()
-        if program.wait() != -9:
+        if program.wait() not in (0, -9):
             raise AssertionError(f"the program ended with {program.returncode} before it was killed: {words}")
+        self.kills += program.returncode != 0  # on a busy machine it may have come to its end
         self.look(before, edits, told.last)
 
     def look(self, before, edits, told):
@@ -226,7 +228,7 @@ def main():
             return 1
     run.end()
     print(
-        f"{shell}, {styles} styles, seed {seed}: killed {rounds} times, {run.kills_in_starts} of them while it started; "
+        f"{shell}, {styles} styles, seed {seed}: killed {run.kills} times, {run.kills_in_starts} of them while it started; "
         f"{run.made} edits, none lost; {run.left_beside} files left beside, none after the next start")
     shutil.rmtree(folder)
     return 0
