@@ -60,7 +60,7 @@ class Edits:
     def add_one(self):
         number = self.root["Selection"]["MG"]
         style = ("Style", number)
-        kind = self.random.randrange(5)
+        kind = self.random.randrange(5 if len(self.root["Style"][number]["EJ"]["TD"]) > 1 else 3)
         if kind == 0 or number == 0:
             other = self.random.choice([index for index in range(1, len(self.root["Style"])) if index != number])
             self.add([f"choose stylePopup {other}"], (("Selection", "MG"), other))
