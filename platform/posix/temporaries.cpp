@@ -17,13 +17,18 @@ namespace tarvo {
 
 namespace {
 
-constexpr std::array<const char*, 7> productFolders{"Library/Preferences",
-                                                    "Library/Preferences/Wordhaven",
-                                                    "Library/Preferences/Wordhaven/Cache",
-                                                    "Library/Application Support/Wordhaven",
-                                                    "Library/Application Support/Wordhaven/Tarvo Styles",
-                                                    "Library/Application Support/Wordhaven/UserDic",
-                                                    "Library/Application Support/Wordhaven/UserTMA"};
+// Those in which the product keeps its files, and those of mail programs, in which it builds folders of scripts.
+constexpr std::array<const char*, 11> sweptFolders{"Library/Preferences",
+                                                   "Library/Preferences/Wordhaven",
+                                                   "Library/Preferences/Wordhaven/Cache",
+                                                   "Library/Application Support/Wordhaven",
+                                                   "Library/Application Support/Wordhaven/Tarvo Styles",
+                                                   "Library/Application Support/Wordhaven/UserDic",
+                                                   "Library/Application Support/Wordhaven/UserTMA",
+                                                   "Library/Scripts/Mail Scripts",
+                                                   "Library/Scripts/Applications/Mail",
+                                                   "Documents/Microsoft User Data/Outlook Script Menu Items",
+                                                   "Documents/Microsoft User Data/Entourage Script Menu Items"};
 
 void sweep(const DiskPath& path) {
   const Descriptor folder = openFolder(AT_FDCWD, path.text(), O_NOFOLLOW);
@@ -54,7 +59,7 @@ bool hasNoLinks(const DiskPath& home, const std::string& rest) {
 }  // namespace
 
 void sweepTemporaries(const DiskPath& home) {
-  for (const char* folder : productFolders) {
+  for (const char* folder : sweptFolders) {
     if (hasNoLinks(home, folder)) sweep(home / folder);
   }
 }

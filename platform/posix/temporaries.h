@@ -14,9 +14,9 @@ namespace tarvo {
 // namespace's processes are not seen from here.
 bool isLeftBehind(std::string_view name);
 
-// Removes what was left behind in the folders that the product has in this home, itself owned by this user; nothing
-// below links, nor in folders that homes share or a user has picked. To be called with the lock of the home held: a
-// program on another machine may write there. What cannot be removed stays.
+// Removes what was left behind in the folders that the product has in this home and in those of its mail programs,
+// itself owned by this user; nothing below links, nor in folders that homes share or a user has picked. To be called
+// with the lock of the home held: a program on another machine may write there. What cannot be removed stays.
 void sweepTemporaries(const DiskPath& home);
 
 }  // namespace tarvo

@@ -97,8 +97,9 @@ std::string temporaryName() {
 
 bool isLeftBehind(std::string_view name) {
   const std::vector<std::string> maker = partsOf(name);
+  if (maker.empty() || maker[0] == unknown) return false;
   const std::string here = boot();
-  if (maker.empty() || maker[0] == unknown || here == unknown) return false;
+  if (here == unknown) return false;
   if (maker[0] != here) return true;
   if (maker[1] != processSpace() || maker[3] == unknown) return false;
   const std::optional<std::string> began = beginOf(maker[2]);

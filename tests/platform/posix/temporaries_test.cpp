@@ -104,6 +104,21 @@ TEST_F(Sweeping, removesWhatWasLeftBehindInTheProductsFolders) {
   EXPECT_EQ(home_.read(std::string(preferences) + "TarvoStyle2009.plist"), "kept");
 }
 
+TEST_F(Sweeping, removesFoldersOfScriptsThatWereNotFinished) {
+  const std::vector<std::string> folders{"Library/Scripts/Mail Scripts/", "Library/Scripts/Applications/Mail/",
+                                         "Documents/Microsoft User Data/Outlook Script Menu Items/",
+                                         "Documents/Microsoft User Data/Entourage Script Menu Items/"};
+  for (const std::string& folder : folders) {
+    home_.write(folder + left_ + "/Settings/one", "x");
+    home_.write(folder + "TarvoEiwa/one", "kept");
+  }
+  sweepTemporaries(home_.at(""));
+  for (const std::string& folder : folders) {
+    EXPECT_FALSE(fs::exists(home_ / (folder + left_))) << folder;
+    EXPECT_EQ(home_.read(folder + "TarvoEiwa/one"), "kept");
+  }
+}
+
 TEST_F(Sweeping, leavesWhatARunningProgramWrites) {
   const std::string own = preferences + temporaryName();
   home_.write(own, "x");
