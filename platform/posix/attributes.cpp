@@ -43,8 +43,8 @@ std::string attributeOf(int file, const char* name) {
   return sized([&](char* buffer, std::size_t size) { return ::fgetxattr(file, name, buffer, size); }).value_or("");
 }
 
-void giveAttribute(int file, const char* name, std::string_view value) {
-  static_cast<void>(::fsetxattr(file, name, value.data(), value.size(), 0));
+bool giveAttribute(int file, const char* name, std::string_view value) {
+  return ::fsetxattr(file, name, value.data(), value.size(), 0) == 0;
 }
 
 void copyAttributes(int from, int to) {
@@ -54,7 +54,7 @@ void copyAttributes(int from, int to) {
   for (std::size_t at = 0; at < names->size(); at += std::strlen(names->data() + at) + 1) {
     const char* name = names->data() + at;
     const auto value = sized([&](char* buffer, std::size_t size) { return ::fgetxattr(from, name, buffer, size); });
-    if (value) giveAttribute(to, name, *value);
+    if (value) static_cast<void>(giveAttribute(to, name, *value));
   }
 }
 

@@ -59,7 +59,7 @@ Result<> copyRegular(const Place& from, const Place& to, int openFlags, const Co
   if (!target) return unmade(to);
   if (Result<> copied = copyBytes(from, source, to, target); !copied) return copied;
   copyAttributes(source.get(), target.get());
-  if (codes) giveFinderCodes(target.get(), *codes);
+  if (codes && !giveFinderCodes(target.get(), *codes)) return unmade(to);
   const bool isDone = ::fchmod(target.get(), status.st_mode & permissions) == 0 && ::fsync(target.get()) == 0;
   if (!isDone || !target.close()) return unmade(to);
   return {};

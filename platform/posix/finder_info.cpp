@@ -3,6 +3,7 @@
 #include "platform/posix/finder_info.h"
 
 #include <algorithm>
+#include <cerrno>
 
 #include "platform/posix/attributes.h"
 
@@ -43,8 +44,9 @@ Result<> setFinderCodes(const DiskPath& path, FourCharCode type, FourCharCode cr
   return setAttribute(path, finderInfo, withCodes(*info, {type, creator}));
 }
 
-void giveFinderCodes(int file, const FinderCodes& codes) {
-  giveAttribute(file, finderInfo, withCodes(attributeOf(file, finderInfo), codes));
+bool giveFinderCodes(int file, const FinderCodes& codes) {
+  if (giveAttribute(file, finderInfo, withCodes(attributeOf(file, finderInfo), codes))) return true;
+  return errno != EIO && errno != ENOSPC && errno != EDQUOT;
 }
 
 }  // namespace tarvo

@@ -14,7 +14,8 @@ namespace tarvo {
 
 Result<FourCharCode> finderType(const DiskPath& path);  // 0 for none
 Result<> setFinderCodes(const DiskPath& path, FourCharCode type, FourCharCode creator);
-// Gives an open file the codes, on a disk that keeps any.
-void giveFinderCodes(int file, const FinderCodes& codes);
+// Gives an open file the codes, on a disk that keeps any. False where it does, and an error of it, or want of room, was
+// in the way; errno says which.
+bool giveFinderCodes(int file, const FinderCodes& codes);
 
 }  // namespace tarvo

@@ -85,7 +85,7 @@ TEST_F(CopyCalls, aFolderIsOnTheDiskWithAllInItBeforeItHasItsName) {
 TEST_F(CopyCalls, anyErrorLeavesNothingOfACopy) {
   for (const int cause : {EIO, ENOSPC, EDQUOT}) {
     const int syncs = cause == EDQUOT ? 0 : 1;  // a folder that cannot be synced for another reason is no failure
-    EXPECT_EQ(failEach(cause, [this] { return copyOne(); }, [this] { return isWholeFile(); }), 3 + syncs);
+    EXPECT_EQ(failEach(cause, [this] { return copyOne(); }, [this] { return isWholeFile(); }), 4 + syncs);
     EXPECT_EQ(failEach(cause, [this] { return copyFolder(); }, [this] { return isWholeFolder(); }), 10 + 3 * syncs);
   }
 }
