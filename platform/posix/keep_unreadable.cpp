@@ -23,8 +23,16 @@ bool isSameFile(const DiskPath& path, const struct stat& status) {
 
 bool isTaken(const Result<>& kept) { return !kept && kept.error().cause == std::errc::file_exists; }
 
+// A name that a power cut took would take the bytes along: what replaces the file comes next.
+Result<> syncName(const DiskPath& kept) {
+  const Descriptor folder = openFolder(AT_FDCWD, kept.folder().text());
+  if (folder && syncFolder(folder.get())) return {};
+  return systemFailure(kept.text(), Attempt::keep);
+}
+
 Result<> keepAs(const DiskPath& path, const DiskPath& kept) {
-  if (::linkat(AT_FDCWD, path.text().c_str(), AT_FDCWD, kept.text().c_str(), AT_SYMLINK_FOLLOW) == 0) return {};
+  if (::linkat(AT_FDCWD, path.text().c_str(), AT_FDCWD, kept.text().c_str(), AT_SYMLINK_FOLLOW) == 0)
+    return syncName(kept);
   if (errno == EEXIST) return systemFailure(kept.text(), Attempt::keep);
   Result<> copied = copyFile(path, kept);
   if (!copied) return Failure{copied.error().path, Attempt::keep, copied.error().cause};
@@ -36,7 +44,7 @@ Result<> replaceKept(const DiskPath& path, const DiskPath& kept) {
   if (name.empty()) return systemFailure(path.text(), Attempt::keep);
   const DiskPath temporary = kept.folder() / name;
   if (Result<> done = keepAs(path, temporary); !done) return done;
-  if (::rename(temporary.text().c_str(), kept.text().c_str()) == 0) return {};
+  if (::rename(temporary.text().c_str(), kept.text().c_str()) == 0) return syncName(kept);
   Failure failure = systemFailure(kept.text(), Attempt::keep);
   ::unlink(temporary.text().c_str());
   return failure;

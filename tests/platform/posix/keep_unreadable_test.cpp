@@ -5,9 +5,11 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <filesystem>
 
 #include "platform/posix/replace_file.h"
+#include "tests/platform/posix/recorded_calls.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tarvo {
@@ -39,6 +41,19 @@ TEST_F(KeepUnreadable, theKeptBytesOutliveTheReplacement) {
   EXPECT_TRUE(keep("a"));
   EXPECT_TRUE(replaceFile(folder.at("a"), "new"));
   EXPECT_EQ(folder.read("a.unreadable"), "precious");
+}
+
+TEST_F(KeepUnreadable, theKeptNameIsOnTheDiskBeforeAnythingReplacesTheFile) {
+  for (int number = 1; number <= 6; ++number) {
+    ASSERT_TRUE(replaceFile(folder.at("s.plist"), std::to_string(number)));
+    const test::RecordedCalls calls;
+    EXPECT_TRUE(keep("s.plist"));
+    EXPECT_EQ(calls.names().back(), "sync folder") << number;
+  }
+  test::RecordedCalls calls;
+  calls.fail("sync folder", EIO);
+  ASSERT_TRUE(replaceFile(folder.at("b"), "x"));
+  EXPECT_EQ(keep("b").error().cause, std::errc::io_error);
 }
 
 TEST_F(KeepUnreadable, bytesThatAreKeptAlreadyAreNotKeptTwice) {
