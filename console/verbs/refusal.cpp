@@ -85,6 +85,11 @@ void note(Console& console, const std::string& name, const std::string& words) {
   print(console, Told{name, {words, "", ""}});
 }
 
+void note(Console& console, const Failure& failure) {
+  const Texts texts = console.textsToTell();
+  print(console, Telling{texts}(failure));
+}
+
 void noteUnread(Console& console, const UserDefaults& settings) {
   const std::optional<Failure>& unread = settings.unread();
   if (!unread) return;

@@ -34,6 +34,7 @@ ExitStatus tell(Console& console, const Problem& failure);
 void note(Console& console, const Refusal& told);
 // A line of words that stand for themselves, about something.
 void note(Console& console, const std::string& name, const std::string& words);
+void note(Console& console, const Failure& failure);
 
 // Settings that are there and could not be read, where that is so.
 void noteUnread(Console& console, const UserDefaults& settings);

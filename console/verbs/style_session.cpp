@@ -23,7 +23,7 @@ StyleSession::StyleSession(Console& console)
                 defaults_, store_}),
       lists_(store_, dictionaryServices(console.product)) {
   store_.writeOnlyChanges();
-  store_.didWrite = [this] { written_ = true; };
+  store_.didWrite = [this] { noteWrite(); };
 }
 
 StyleSession::~StyleSession() = default;
@@ -70,6 +70,14 @@ ExitStatus StyleSession::read(const std::string& style, const Operation& operati
   return ExitStatus::done;
 }
 
+void StyleSession::noteWrite() {
+  written_ = true;
+  const std::optional<Failure>& unkept = store_.replaced().unkept;
+  if (!unkept || std::exchange(toldUnkept_, true)) return;
+  const Texts texts = console_.textsToTell();
+  note(console_, pathOfStyles(), filledIn(texts.localized("Notice.unkept"), failureText(*unkept, texts)));
+}
+
 std::optional<Problem> StyleSession::writeLoaded() {
   if (store_.isPending() && !written_) store_.writeTarvoStylePlist();
   if (const std::optional<Failure>& unsaved = store_.unsaved()) return *unsaved;
@@ -88,6 +96,7 @@ ExitStatus StyleSession::finish(std::vector<std::string> changed) {
 std::optional<bool> StyleSession::registerStyles() {
   if (engine_->form() == EngineForm::none) return std::nullopt;
   store_.registerStyles();
+  if (const std::optional<Failure>& unwritten = defaults_.unwritten()) note(console_, *unwritten);
   const std::optional<Result<>>& outcome = store_.registration();
   if (!outcome) return std::nullopt;
   if (!*outcome)

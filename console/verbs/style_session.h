@@ -58,6 +58,7 @@ class StyleSession {
  private:
   std::optional<Problem> open(Needs needs = Needs::readable);
   std::expected<int, Problem> openOn(const std::string& style, Needs needs = Needs::readable);
+  void noteWrite();
   // Writes what the load has joined, where no edit did.
   std::optional<Problem> writeLoaded();
   ExitStatus finish(std::vector<std::string> changed);
@@ -74,7 +75,7 @@ class StyleSession {
   MedicalDictionaries medical_;
   NamedLists lists_;
   std::vector<std::string_view> inserted_;
-  bool written_ = false;
+  bool written_ = false, toldUnkept_ = false;
 };
 
 }  // namespace tarvo

@@ -44,6 +44,15 @@ TEST_F(HistoryVerbs, tellsNewestFirstWhatEachEditDid) {
   EXPECT_TRUE(runInEnglish({"history", ids().front()}).out.starts_with(ids().front() + "  edit  Patents: renamed"));
 }
 
+TEST_F(HistoryVerbs, whatCannotBeKeptIsTold) {
+  const std::string place = "root/Users/taro/Library/Application Support/Wordhaven/Tarvo Styles";
+  root_.folder().write(place, "a file in the way");
+  const ToolResult result = runInEnglish({"style", "set", "1", "Opt2=2"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.err, told(stylePath(), "The former styles could not be kept: " + root_.folder() / place +
+                                              ": no copy of it can be kept; what should be a folder is none"));
+}
+
 TEST_F(HistoryVerbs, aChoiceOfAToolIsNoEarlierSet) {
   ASSERT_EQ(run({"style", "use", "1", "MG"}).status, 0);
   EXPECT_TRUE(ids().empty());

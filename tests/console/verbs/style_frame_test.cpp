@@ -91,6 +91,17 @@ TEST_F(StyleFrame, anEditTouchesNeitherAChoiceNorTheToolList) {
   }
 }
 
+TEST_F(StyleFrame, settingsThatCannotBeStoredAreTold) {
+  fs::remove(root_.folder() / settings);
+  root_.folder().write(std::string(settings) + "/inside", "a folder in the way");
+  const ToolResult result = run(edits[0]);
+  EXPECT_EQ(result.status, 0);
+  const std::string unread = told(root_.folder() / settings,
+                                  "the settings cannot be read, so those of a first start hold; it is no file; mend "
+                                  "the file or move it away");
+  EXPECT_EQ(result.err, unread + told(root_.folder() / settings, "cannot be written; it is a folder"));
+}
+
 TEST_F(StyleFrame, anEditIsOneReplacementOfTheStyleFileAndOneRegistration) {
   for (const std::vector<std::string>& edit : edits) {
     putStyles("root4.plist");
