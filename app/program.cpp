@@ -49,8 +49,15 @@ void Program::tellUnreadSettings() {
   panels_.tell(unread->path + ": " + filledIn(text, failureParts(*unread, services_.texts).cause));
 }
 
+void Program::tellUnwrittenSettings(const Failure& why) {
+  const std::string text = filledIn(services_.texts.localized("Notice.settings"), failureText(why, services_.texts));
+  rooms_.notices.tellAside({.text = text});
+  if (terminated_) panels_.tell(text);  // nobody sees the line any more
+}
+
 bool Program::construct() {
   tellUnreadSettings();
+  defaults_.didFail = [this](const Failure& why) { tellUnwrittenSettings(why); };
   interface_.connect({rooms_, styles_, manager_}, services_.texts);
   Window& window = interface_.manager.myWindow;
   window.setFrameInPlace(firstFrame(windows_.host(), window));

@@ -55,6 +55,7 @@ class Program {
 
  private:
   void tellUnreadSettings();
+  void tellUnwrittenSettings(const Failure& why);
   Windows windows_;
   CoveringPanels panels_;
   Services services_;

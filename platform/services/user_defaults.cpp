@@ -67,8 +67,10 @@ void UserDefaults::synchronize() {
   const Result<> made = files_.makeFolder(file_.path().folder());
   const Result<> written = file_.write(later_.empty() ? values_ : toStore());
   changed_ = !written;
+  const bool isNews = !written && !unwritten_;
   unwritten_.reset();
   if (!written) unwritten_ = made ? written.error() : made.error();  // without its folder no file can be
+  if (isNews && didFail) didFail(*unwritten_);
 }
 
 }  // namespace tarvo

@@ -32,6 +32,8 @@ class UserDefaults {
   // Writes the file when something changed since the last good write; folders for it are made on demand. What could
   // not be read at first and can be now stays in it, under what was set since.
   void synchronize();
+  // Told when a synchronise fails after one that did not.
+  std::function<void(const Failure& why)> didFail;
   // Why the last change is not on the disk.
   const std::optional<Failure>& unwritten() const { return unwritten_; }
 

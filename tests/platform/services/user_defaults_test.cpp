@@ -172,6 +172,29 @@ TEST(UserDefaultsOnAFaultyDisk, settingsThatStayUnreadableAreKeptBeside) {
   EXPECT_EQ(files.bytes("/settings.plist.unreadable"), "damaged");
 }
 
+TEST_F(UserDefaultsTest, aFailureIsToldOnceUntilSomethingIsStored) {
+  UserDefaults defaults(files, folder.at(file));
+  std::vector<std::string> told;
+  defaults.didFail = [&told](const Failure& why) { told.push_back(why.path); };
+  auto change = [&defaults, number = 0]() mutable {
+    defaults.set("key", ++number);
+    defaults.synchronize();
+  };
+  change();
+  EXPECT_TRUE(told.empty());
+  fs::remove(folder / file);
+  folder.makeFolder(file);  // a folder in its place
+  change();
+  change();
+  EXPECT_EQ(told, std::vector{folder / file});
+  fs::remove(folder / file);
+  change();
+  fs::remove(folder / file);
+  folder.makeFolder(file);
+  change();
+  EXPECT_EQ(told.size(), 2U);
+}
+
 TEST_F(UserDefaultsTest, aValueForLaterIsStoredWithTheFirstFlushAtWhichItMay) {
   bool may = false;
   UserDefaults defaults(files, folder.at(file));
