@@ -25,6 +25,11 @@ using namespace addin_keys;
 
 constexpr int office2011 = 14;  // the version by which its applications call themselves
 
+// Nobody knows what could not be read. What a file holds that was read is an answer.
+bool isUnread(const Result<Dictionary>& information) {
+  return !information && !isAbsence(information.error()) && information.error().cause.category() != reasonCategory();
+}
+
 bool isOfficeCreator(const std::string& creator) { return creator == "MSWD" || creator == "XCEL" || creator == "PPT3"; }
 
 }  // namespace
@@ -35,11 +40,14 @@ Result<> OfficeFolderSearch::searchFolder(const DiskPath& folder) {
   for (const std::string& name : *names) {
     const DiskPath path = folder / name;
     const Result<Dictionary> information = readDictionary(services_.files, path / "Contents/Info.plist");
+    if (isUnread(information)) unread_.push_back(information.error());
     if (!information || addinText(*information, "CFBundlePackageType") != "APPL") continue;
     const auto& allShipped = lists_.fDefaultOfficeSetArray();
     if (!allShipped || !canBeStored(path)) continue;
     const int version = getApplicationVer(path);
     const std::string signature = addinText(*information, "CFBundleSignature");
+    if (version == 0 && (isOfficeCreator(signature) || signature == outlookCreator))
+      unread_.push_back({path.text(), Attempt::look, Reason::damaged});
     for (const AddinLists::SharedEntry& shipped : *allShipped) {
       getAddOfficeDictionary(*shipped, version, path, signature, folder);
     }

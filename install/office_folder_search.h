@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "install/addin_entry.h"
 #include "platform/services/result.h"
@@ -32,6 +33,8 @@ class OfficeFolderSearch {
 
   // Fails for a folder that cannot be listed.
   Result<> searchFolder(const DiskPath& folder);
+  // What was passed over in it because it could not be read, so that nobody knows whether it is an Office.
+  const std::vector<Failure>& unread() const { return unread_; }
   // The whole number before the first dot of an application's version, as the desktop's script service tells it; 0 when
   // it tells nothing.
   int getApplicationVer(const DiskPath& path);
@@ -50,6 +53,7 @@ class OfficeFolderSearch {
   Services services_;
   AddinLists& lists_;
   const MailScriptInstaller& mailScripts_;
+  std::vector<Failure> unread_;
 };
 
 }  // namespace tarvo

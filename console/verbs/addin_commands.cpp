@@ -108,7 +108,9 @@ ExitStatus AddinSearchCommand::run(Console& console) {
   if (const Result<> read = session.read(); !read) return tell(console, read.error());
   const RowCounts known = countRows(session.lists());
   const DiskPath folder = absolutePath(folder_);
-  if (const Result<> searched = session.searchFolder(folder); !searched) return tell(console, searched.error());
+  const Result<std::vector<Failure>> unread = session.searchFolder(folder);
+  if (!unread) return tell(console, unread.error());
+  for (const Failure& each : *unread) note(console, each);
   std::vector<std::string> names;
   std::vector<std::vector<std::string>> lines;
   for (const AddinEntry& row : rowsBehind(session.lists(), known)) {

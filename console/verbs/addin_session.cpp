@@ -23,10 +23,11 @@ Result<> AddinSession::setInstalled(AddinPlace place, bool on) {
   return tarvo::setInstalled(lists_, place, on, macros_, mailScripts_);
 }
 
-Result<> AddinSession::searchFolder(const DiskPath& folder) {
+Result<std::vector<Failure>> AddinSession::searchFolder(const DiskPath& folder) {
   const TarvoCommonModule module(product_.paths());
   OfficeFolderSearch search({product_.files(), product_.locations(), product_.scripts(), module}, lists_, mailScripts_);
-  return search.searchFolder(folder);
+  if (const Result<> searched = search.searchFolder(folder); !searched) return searched.error();
+  return search.unread();
 }
 
 Result<> AddinSession::store() {

@@ -27,7 +27,8 @@ class AddinSession {
   const UserDefaults& settings() const { return defaults_; }
 
   Result<> setInstalled(AddinPlace place, bool on);
-  Result<> searchFolder(const DiskPath& folder);
+  // Answers what was passed over because it could not be read.
+  Result<std::vector<Failure>> searchFolder(const DiskPath& folder);
   // Keeps the rows for the next start.
   Result<> store();
 

@@ -26,6 +26,16 @@ TEST_F(AddinVerbs, aSearchTellsWhatItAdded) {
   expectUntouched({"addin", "search", file}, 1, told(file, "cannot be listed; what should be a folder is none"));
 }
 
+TEST_F(AddinVerbs, aSearchTellsWhatCouldNotBeRead) {
+  put("/Volumes/D/Word.app/Contents/Info.plist", read("/Applications/O11/Word.app/Contents/Info.plist"));
+  makeFolder("/Volumes/D/Excel.app/Contents");
+  fs::create_symlink("Info.plist", real("/Volumes/D/Excel.app/Contents/Info.plist"));
+  put("/Volumes/D/Notes.app/Contents/Info.plist", "damaged");
+  const std::string unread = real("/Volumes/D/Excel.app/Contents/Info.plist");
+  expect({"addin", "search", real("/Volumes/D")}, 0, "added  Word 2011  2011  root:/Volumes/D/Word.app\n",
+         told(unread, "cannot be read; links lead round in a circle; remove one of them"));
+}
+
 TEST_F(AddinVerbs, aSearchAnswersAsJson) {
   put("/Volumes/D/Word.app/Contents/Info.plist", read("/Applications/O11/Word.app/Contents/Info.plist"));
   EXPECT_EQ(run({"addin", "search", real("/Volumes/D"), "--json"}).out,
