@@ -21,7 +21,11 @@ CHECKS = (
     ("lint", ["script/lint"]),
     ("tools", [sys.executable, "tests/architecture/tools_test.py"]),
     ("resources", [sys.executable, "tests/resources/check_resources.py"]),
+    ("model of a disk", [sys.executable, "tests/crash/model_test.py"]),
+    ("verdicts on crashes", [sys.executable, "tests/crash/verdicts_test.py"]),
 )
+# Programs that report as those of C++ do, behind the option at the end: label, build that they need, words.
+SCRIPTS = (("crashes", "dev", [sys.executable, "tests/crash/crash_states.py", "build/dev/console/tarvoctl", "--sample", "--report={}"]),)
 SECONDS_PER_PROGRAM = 1200
 TAIL = 6000  # characters of a program's output that are shown when it has no report
 
@@ -97,11 +101,15 @@ def run(command, seconds=None, env=None):
         return "none", str(error)
 
 
-def run_program(program):
-    """Status, output and report of one test program."""
+def words_for(program):
+    return [str(program), "--gtest_color=no", "--gtest_output=json:{}"]
+
+
+def run_program(words):
+    """Status, output and report of one test program; {} in the last word is where the report goes."""
     with tempfile.TemporaryDirectory() as folder:
         report = pathlib.Path(folder, "report.json")
-        status, output = run([str(program), f"--gtest_output=json:{report}", "--gtest_color=no"], SECONDS_PER_PROGRAM, environment())
+        status, output = run([*words[:-1], words[-1].format(report)], SECONDS_PER_PROGRAM, environment())
         try:
             return status, output, json.loads(report.read_text("utf-8"))
         except (OSError, ValueError):
@@ -124,12 +132,13 @@ def main():
         if status != 0:
             tally.fail(f"build of {build}", output)
         else:
-            programs += [(f"{build} {path.name}", path) for path in programs_of(TOP / "build" / build)]
+            programs += [(f"{build} {path.name}", words_for(path)) for path in programs_of(TOP / "build" / build)]
+            programs += [(label, words) for label, needed, words in SCRIPTS if needed == build]
 
     print(f"Running {len(programs)} test programs and {len(CHECKS)} checks", flush=True)
     with concurrent.futures.ThreadPoolExecutor(max_workers=os.cpu_count()) as pool:
         checks = [(name, pool.submit(run, command)) for name, command in CHECKS]
-        tests = [(label, pool.submit(run_program, path)) for label, path in programs]
+        tests = [(label, pool.submit(run_program, words)) for label, words in programs]
         for label, test in tests:
             tally.add_program(label, *test.result())
         for name, check in checks:

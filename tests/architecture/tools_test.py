@@ -234,12 +234,12 @@ class TestRun(unittest.TestCase):
         self.assertIn("skipped p: S.left: no disk\n", self.out.getvalue())
 
     def test_a_crash_counts_as_failed(self):
-        status, output, report = run_all.run_program("/bin/false")
+        status, output, report = run_all.run_program(run_all.words_for("/bin/false"))
         self.tally.add_program("p", status, output, report)
         self.assertEqual("0 passed, 1 failed", self.tally.closing_line())
 
     def test_a_program_that_is_not_there_counts_as_failed(self):
-        self.tally.add_program("p", *run_all.run_program(TOP / "no such program"))
+        self.tally.add_program("p", *run_all.run_program(run_all.words_for(TOP / "no such program")))
         self.assertEqual(1, self.tally.failed)
 
     def test_a_bad_end_after_good_tests_counts_as_failed(self):
