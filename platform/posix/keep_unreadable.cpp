@@ -10,6 +10,7 @@
 
 #include "platform/posix/copy_tree.h"
 #include "platform/posix/descriptor.h"
+#include "platform/posix/final_links.h"
 
 namespace tarvo {
 namespace {
@@ -31,8 +32,7 @@ Result<> syncName(const DiskPath& kept) {
 }
 
 Result<> keepAs(const DiskPath& path, const DiskPath& kept) {
-  if (::linkat(AT_FDCWD, path.text().c_str(), AT_FDCWD, kept.text().c_str(), AT_SYMLINK_FOLLOW) == 0)
-    return syncName(kept);
+  if (::linkat(AT_FDCWD, path.text().c_str(), AT_FDCWD, kept.text().c_str(), 0) == 0) return syncName(kept);
   if (errno == EEXIST) return systemFailure(kept.text(), Attempt::keep);
   Result<> copied = copyFile(path, kept);
   if (!copied) return Failure{copied.error().path, Attempt::keep, copied.error().cause};
@@ -53,18 +53,22 @@ Result<> replaceKept(const DiskPath& path, const DiskPath& kept) {
 }  // namespace
 
 Result<> keepUnreadableFile(const DiskPath& path) {
+  const Result<FinalTarget> file = followFinalLinks(path, Attempt::keep);
+  if (!file) return file.error();
+  if (!file->present)
+    return Failure{path.text(), Attempt::keep, std::make_error_code(std::errc::no_such_file_or_directory)};
   struct stat status{};
-  if (::stat(path.text().c_str(), &status) != 0) return systemFailure(path.text(), Attempt::keep);
+  if (::fstat(file->present.get(), &status) != 0) return systemFailure(path.text(), Attempt::keep);
   if (!S_ISREG(status.st_mode)) return Failure{path.text(), Attempt::keep, Reason::noRegularFile};
   DiskPath kept;
   for (int number = 1; number <= maximumKept; ++number) {
     kept = path + ".unreadable";
     if (number > 1) kept = kept + "." + std::to_string(number);
-    if (isSameFile(kept, status)) return {};
-    Result<> done = keepAs(path, kept);
+    if (isSameFile(kept, status)) return syncName(kept);
+    Result<> done = keepAs(file->path, kept);
     if (!isTaken(done)) return done;
   }
-  return replaceKept(path, kept);
+  return replaceKept(file->path, kept);
 }
 
 }  // namespace tarvo

@@ -11,6 +11,7 @@
 
 #include "platform/posix/copy_tree.h"
 #include "platform/posix/descriptor.h"
+#include "platform/posix/final_links.h"
 #include "platform/posix/finder_info.h"
 #include "platform/posix/folders.h"
 #include "platform/posix/keep_former.h"
@@ -78,8 +79,11 @@ Result<FileService::Writers> PosixFiles::writersOf(const DiskPath& folder) const
 Result<std::string> PosixFiles::read(const DiskPath& path) const {
   const Result<DiskPath> name = named(path, Attempt::read);
   if (!name) return name.error();
+  const Result<FinalTarget> target = followFinalLinks(*name, Attempt::read);
+  if (!target) return target.error();
   // Non-blocking: opening a pipe for reading would wait for a writer.
-  const Descriptor file(::open(name->text().c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  constexpr int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+  const Descriptor file(::open(target->path.text().c_str(), flags));
   struct stat status{};
   if (!file || ::fstat(file.get(), &status) != 0) return systemFailure(name->text(), Attempt::read);
   if (!S_ISREG(status.st_mode)) return Failure{name->text(), Attempt::read, Reason::noRegularFile};

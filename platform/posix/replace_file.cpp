@@ -7,19 +7,17 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <climits>
 #include <optional>
 #include <utility>
 
 #include "platform/posix/attributes.h"
 #include "platform/posix/descriptor.h"
+#include "platform/posix/final_links.h"
 #include "platform/posix/keep_former.h"
 #include "platform/text/text_rules.h"
 
 namespace tarvo {
 namespace {
-
-constexpr int maximumLinks = 40;  // as the system follows itself
 
 struct Target {
   std::string path;
@@ -31,33 +29,17 @@ Failure notWritten(const std::string& path, std::errc cause) {
   return {path, Attempt::write, std::make_error_code(cause)};
 }
 
-Result<std::string> linkContent(const std::string& path) {
-  std::string content(PATH_MAX, '\0');
-  const ssize_t size = ::readlink(path.c_str(), content.data(), content.size());
-  if (size < 0) return notWritten(path);
-  if (static_cast<std::size_t>(size) == content.size()) return notWritten(path, std::errc::filename_too_long);
-  content.resize(static_cast<std::size_t>(size));
-  return content;
-}
-
 // Where the bytes belong after following final links.
-Result<Target> findTarget(const std::string& asked) {
-  std::string path = asked;
-  for (int links = 0; links <= maximumLinks; ++links) {
-    struct stat status{};
-    if (::lstat(path.c_str(), &status) != 0) {
-      if (errno == ENOENT) return Target{path, {}};
-      return notWritten(path);
-    }
-    if (S_ISREG(status.st_mode)) return Target{path, status};
-    if (S_ISDIR(status.st_mode)) return notWritten(path, std::errc::is_a_directory);
-    if (!S_ISLNK(status.st_mode)) return Failure{path, Attempt::write, Reason::noRegularFile};
-    if (status.st_uid != 0 && status.st_uid != ::geteuid()) return Failure{path, Attempt::write, Reason::foreignLink};
-    const Result<std::string> content = linkContent(path);
-    if (!content) return content.error();
-    path = isAbsolutePath(*content) ? *content : joinPath(deletingLastPathComponent(path), *content);
-  }
-  return notWritten(asked, std::errc::too_many_symbolic_link_levels);
+Result<Target> findTarget(const DiskPath& asked) {
+  const Result<FinalTarget> found = followFinalLinks(asked, Attempt::write);
+  if (!found) return found.error();
+  const std::string path = found->path.text();
+  if (!found->present) return Target{path, {}};
+  struct stat status{};
+  if (::fstat(found->present.get(), &status) != 0) return notWritten(path);
+  if (S_ISREG(status.st_mode)) return Target{path, status};
+  if (S_ISDIR(status.st_mode)) return notWritten(path, std::errc::is_a_directory);
+  return Failure{path, Attempt::write, Reason::noRegularFile};
 }
 
 // Gives the file the owner where the system allows; the permissions that are safe under the owner it then has.
@@ -139,7 +121,7 @@ class Replacement {
 
 Result<Replaced> replaceFile(const DiskPath& path, std::string_view bytes, const Keeping& keeping,
                              const DiskPath& privateBelow) {
-  const Result<Target> target = findTarget(path.text());
+  const Result<Target> target = findTarget(path);
   if (!target) return target.error();
   if (target->path.ends_with('/')) return notWritten(target->path, std::errc::is_a_directory);
   Descriptor folder = openFolder(AT_FDCWD, deletingLastPathComponent(target->path));
