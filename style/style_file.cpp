@@ -2,16 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "style/style_file.h"
 
-#include <algorithm>
-#include <array>
-#include <cerrno>
-#include <chrono>
-#include <thread>
 #include <utility>
 
 #include "platform/plist/plist_reader.h"
 #include "platform/plist/plist_writer.h"
 #include "platform/services/file_service.h"
+#include "platform/services/patient_reading.h"
 #include "platform/text/fingerprint.h"
 #include "style/style_keys.h"
 
@@ -20,21 +16,6 @@ namespace tarvo {
 namespace {
 // In the root's dictionary values stand at depth 1, the records inside "Style" at depth 2.
 constexpr int valueDepth = 1;
-
-constexpr int triesMore = 2;
-constexpr std::chrono::milliseconds betweenTries{80};
-
-// Whether a moment later the file may be read after all.
-bool mayPass(const std::error_code& cause) {
-  constexpr std::array causes{std::errc::io_error,
-                              std::errc::resource_unavailable_try_again,
-                              std::errc::too_many_files_open,
-                              std::errc::too_many_files_open_in_system,
-                              std::errc::not_enough_memory,
-                              std::errc::permission_denied};
-  return cause == std::error_code(ESTALE, std::generic_category()) ||
-         std::ranges::any_of(causes, [&cause](std::errc one) { return cause == one; });
-}
 
 }  // namespace
 
@@ -68,12 +49,7 @@ Result<Dictionary> StyleFile::readOnce() {
 }
 
 Result<Dictionary> StyleFile::read() {
-  Result<Dictionary> root = readOnce();
-  for (int again = 0; again < triesMore && !root && mayPass(root.error().cause); ++again) {
-    std::this_thread::sleep_for(betweenTries);
-    root = readOnce();
-  }
-  return root;
+  return readPatiently([this] { return readOnce(); });
 }
 
 bool StyleFile::isChangedElsewhere() const {

@@ -5,11 +5,12 @@
 #include <utility>
 
 #include "platform/services/file_service.h"
+#include "platform/services/patient_reading.h"
 
 namespace tarvo {
 
 UserDefaults::UserDefaults(FileService& files, DiskPath path) : files_(files), file_(files, std::move(path)) {
-  Result<Dictionary> values = file_.read();
+  Result<Dictionary> values = readPatiently([this] { return file_.read(); });
   if (values) {
     values_ = std::move(*values);
   } else if (!isAbsence(values.error())) {

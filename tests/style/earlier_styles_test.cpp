@@ -12,6 +12,7 @@
 #include "style/style_keys.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/temporary_folder.h"
+#include "tests/support/tired_files.h"
 
 namespace tarvo::test {
 namespace {
@@ -169,18 +170,6 @@ TEST(UnreadableStyles, areReplacedOnlyOnceTheyAreKeptSomewhere) {
   EXPECT_TRUE(with.write(stylesNamed("one"), ChangeKind::edit));
   EXPECT_EQ(earlier.list().size(), 1U);
 }
-
-// A disk that gives way after a while.
-class TiredFiles : public MemoryFiles {
- public:
-  Result<std::string> read(const DiskPath& path) const override {
-    if (++reads < readsUntilDone) return Failure{path.text(), Attempt::read, std::make_error_code(cause)};
-    return MemoryFiles::read(path);
-  }
-  mutable int reads = 0;
-  int readsUntilDone = 3;
-  std::errc cause = std::errc::io_error;
-};
 
 TEST(StylesOutOfReach, areTriedThreeTimes) {
   TiredFiles files;

@@ -13,6 +13,7 @@
 #include "platform/services/locations.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/temporary_folder.h"
+#include "tests/support/tired_files.h"
 
 namespace tarvo {
 namespace {
@@ -228,6 +229,15 @@ TEST_F(UserDefaultsTest, aValueForLaterIsTriedAgainAndGivesWayToOneThatIsSet) {
   EXPECT_EQ(stored("set"), PropertyList(true));
   EXPECT_EQ(stored("removed"), PropertyList("absent"));
   EXPECT_EQ(stored("tried"), PropertyList(true));
+}
+
+TEST(UserDefaultsOnAFaultyDisk, aFaultOfAnInstantMakesNoValueAbsent) {
+  test::TiredFiles files;
+  files.put("/settings.plist", "<plist><dict><key>tag</key><string>QB</string></dict></plist>");
+  const UserDefaults defaults(files, DiskPath("/settings.plist"));
+  EXPECT_FALSE(defaults.unread());
+  ASSERT_NE(defaults.string("tag"), nullptr);
+  EXPECT_EQ(*defaults.string("tag"), "QB");
 }
 
 }  // namespace
