@@ -115,6 +115,7 @@ ExitStatus refuse(const Failure& missing, const CommandLine& line) {
 }
 
 ExitStatus main(int count, char** words) {
+  failBeyondFileSizeLimit();
   CommandLine line;
   if (const auto status = readCommandLine(line, {words + 1, words + count}, std::cout, std::cerr)) return *status;
   const auto& resources = line.product.resources;

@@ -10,6 +10,7 @@
 #include <thread>
 
 #include "platform/posix/instance_lock.h"
+#include "platform/posix/process.h"
 #include "platform/posix/running_applications.h"
 #include "platform/posix/temporaries.h"
 #include "platform/services/failure_text.h"
@@ -117,6 +118,7 @@ std::optional<int> answerAtOnce(const CommandLine& line) {
 }  // namespace tarvo
 
 int main(int argc, char** argv) {
+  tarvo::failBeyondFileSizeLimit();
   const tarvo::CommandLine line = tarvo::readCommandLine({argv + 1, argv + argc});
   if (const auto status = tarvo::answerAtOnce(line)) return *status;
   const int status = tarvo::runManager(line, argc, argv);

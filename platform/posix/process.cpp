@@ -3,6 +3,7 @@
 #include "platform/posix/process.h"
 
 #include <pwd.h>
+#include <signal.h>
 #include <unistd.h>
 
 #include <array>
@@ -26,6 +27,12 @@ std::string loginName() {
 DiskPath loginHome() {
   const passwd* entry = ::getpwuid(::getuid());
   return DiskPath(entry != nullptr && entry->pw_dir != nullptr ? entry->pw_dir : "");
+}
+
+void failBeyondFileSizeLimit() {
+  struct sigaction ignore{};
+  ignore.sa_handler = SIG_IGN;
+  sigaction(SIGXFSZ, &ignore, nullptr);
 }
 
 Failure becomeProgram(const DiskPath& file, std::vector<std::string> words) {
