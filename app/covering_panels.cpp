@@ -10,7 +10,10 @@ namespace tarvo {
 
 void CoveringPanels::beep() { panels_.beep(); }
 
-void CoveringPanels::tell(const std::string& text) { panels_.tell(text); }
+void CoveringPanels::tell(const std::string& text) {
+  panels_.tell(text);
+  show_(text);
+}
 
 int CoveringPanels::runAlertPanel(const Alert& alert) {
   const Covers::ModalRun run(covers_, nullptr);

@@ -2,17 +2,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+#include <string>
+#include <utility>
+
 #include "platform/services/panels.h"
 
 namespace tarvo {
 
 class Covers;
 
-// The shell's panels, entered in the record of what covers the windows while they are up. Everything of the program
-// works with these.
+// The shell's panels, entered in the record of what covers the windows while they are up; a line that is told stands in
+// the window too. Everything of the program works with these.
 class CoveringPanels : public Panels {
  public:
-  CoveringPanels(Panels& panels, Covers& covers) : panels_(panels), covers_(covers) {}
+  // show: puts a line that was told into the window.
+  CoveringPanels(Panels& panels, Covers& covers, std::function<void(const std::string& text)> show)
+      : panels_(panels), covers_(covers), show_(std::move(show)) {}
   void beep() override;
   void tell(const std::string& text) override;
   int runAlertPanel(const Alert& alert) override;
@@ -24,6 +30,7 @@ class CoveringPanels : public Panels {
  private:
   Panels& panels_;
   Covers& covers_;
+  std::function<void(const std::string& text)> show_;
 };
 
 }  // namespace tarvo

@@ -26,7 +26,8 @@ Rect firstFrame(WindowHost& host, const Window& window) {
 
 Program::Program(const Services& given)
     : windows_(given.windowHost, given.runLoop),
-      panels_(given.panels, windows_.covers()),
+      panels_(given.panels, windows_.covers(),
+              [this](const std::string& text) { rooms_.notices.tell({.text = text}); }),
       services_{static_cast<const Surroundings&>(given), panels_},
       defaults_(services_.files, userDefaultsPath(services_.locations)),
       rooms_({interface_, services_, defaults_, notifications_, windows_,

@@ -6,13 +6,24 @@
 
 #include "dict/dictionary_folders.h"
 #include "dict/display_names.h"
+#include "platform/services/failure_text.h"
 #include "platform/services/file_service.h"
 #include "style/divider.h"
 
 namespace tarvo {
 
 Rooms::Rooms(With with) : with_(std::move(with)) {
-  unreadFolders.tell = [this](const std::string& sentence) { notices.tell({.text = sentence}); };
+  const auto tell = [this](const std::string& sentence) { notices.tell({.text = sentence}); };
+  const auto tellFailure = [this](const Failure& failure) { notices.tell({.text = failureText(failure, texts_)}); };
+  // What nobody asked for leaves an offer in its place.
+  const auto tellAside = [this](const Failure& failure) { notices.tellAside({.text = failureText(failure, texts_)}); };
+  unreadFolders.tell = tell;
+  officeFolder.tell = tell;
+  opener.didFail = tellFailure;
+  newDictionary.didFail = tellFailure;
+  userLists.didFail = tellAside;
+  officeTool.didFail = tellAside;
+  oldScripts.didFail = tellAside;
 }
 
 Rooms::~Rooms() = default;

@@ -38,6 +38,7 @@
 #include "install/tool_list_file.h"
 #include "platform/services/common_module.h"
 #include "platform/services/locations.h"
+#include "platform/services/opener.h"
 #include "platform/services/texts.h"
 #include "style/option_editing.h"
 #include "style/pane_alerts.h"
@@ -92,6 +93,7 @@ struct Rooms {
  public:
   ProcessFlags flags;
   Notices notices;
+  Opener opener{services_.workspace, services_.files};
   PaneAlerts alerts{services_.panels, texts_};
   EarlierStyles earlierStyles{services_.files, locations_.inHome(gEarlierStyles)};
   StyleStore store{services_.files,
@@ -108,8 +110,7 @@ struct Rooms {
   MedicalDictionaries medical{{services_.files, locations_, services_.paths, texts_, defaults_, store}};
   UserLists userLists{dictionaryServices_};
   UserListRows userListRows{interface_.userLists, userLists, dictionaryServices_, unreadFolders};
-  TechDicController picker{{interface_.picker, windows_, services_.workspace, alerts, guard, with_.notifications},
-                           nameServices_};
+  TechDicController picker{{interface_.picker, windows_, opener, alerts, guard, with_.notifications}, nameServices_};
   DictionaryLoading loading{lists, picker, request_, alerts, guard, texts_};
   NewDictionary newDictionary{{interface_.newDictionary, interface_.userLists, myWindow_, request_, lists, userLists,
                                flags, alerts, guard, with_.notifications, windows_},
@@ -141,10 +142,10 @@ struct Rooms {
       {services_.files, services_.locations, services_.scripts, module_}, addins, mailScripts};
   OfficeFolderChoice officeFolder{services_.panels, texts_, officeSearch, addinTable};
   OldScripts oldScripts{{services_.files, services_.panels, texts_}, addins, mailScripts, locations_.home()};
-  CautionWindows cautions{interface_.addins, windows_, services_.files, locations_, services_.workspace};
+  CautionWindows cautions{interface_.addins, windows_, services_.files, locations_, opener};
   ConnectionCheck connection{{interface_.connection, myWindow_, services_.engine, defaults_, with_.notifications,
                               services_.panels, services_.runLoop, windows_, texts_}};
-  HelpPages help{services_.bundle, services_.paths, texts_, services_.workspace};
+  HelpPages help{services_.bundle, services_.paths, texts_, opener};
 };
 
 }  // namespace tarvo

@@ -10,6 +10,7 @@
 #include "app/panes.h"
 #include "app/rooms.h"
 #include "app/window_geometry.h"
+#include "platform/services/failure_text.h"
 #include "platform/services/notification_center.h"
 #include "platform/services/notification_names.h"
 #include "platform/services/panels.h"
@@ -49,8 +50,9 @@ TManagerController::~TManagerController() {
 
 bool TManagerController::init() {
   if (!startModules()) return false;
-  const Result<> made = rooms_.mailScripts.createMailScriptFolder();
-  (void)made;  // Mail is not listed then
+  if (const Result<> made = rooms_.mailScripts.createMailScriptFolder(); !made) {
+    rooms_.notices.tell({.text = failureText(made.error(), services_.texts)});  // Mail is not listed then
+  }
   if (!rooms_.addins.searchOfficeApplication()) {
     rooms_.alerts.beepAndAlert("ApplicationCautionHeader", "ApplicationCautionMessage");
     terminate_();

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "dict/new_dictionary.h"
 
+#include "dict/dictionary_creation.h"
 #include "dict/dictionary_list_editing.h"
 #include "dict/running_application_guard.h"
 #include "dict/user_list_rows.h"
 #include "dict/user_lists.h"
+#include "platform/services/file_service.h"
 #include "platform/services/notification_center.h"
 #include "platform/services/notification_names.h"
 #include "style/pane_alerts.h"
@@ -37,6 +39,7 @@ std::string_view promptKey(const NewDictionaryRequest& request) {
 
 NewDictionary::NewDictionary(const Collaborators& with, DictionaryNameChecks::Services services)
     : with_(with),
+      files_(services.files),
       sheet_({with.outlets.NewDicWindow, with.outlets.NewDicNameField, with.outlets.NewDicText,
               with.outlets.NewDicFolderNameField, with.outlets.NewDicFolderTitleField},
              with.request,
@@ -80,6 +83,10 @@ NewDictionary::Target NewDictionary::target() {
   return {lists.jeUTMAController, inTool ? tables.jeUTMATableView : tables.jeTMATable};
 }
 
+void NewDictionary::tell(const Failure& failure) const {
+  if (didFail) didFail(failure);
+}
+
 void NewDictionary::newDicWindowOKAction(const std::string& name) {
   const std::optional<DictionaryKind> kind = with_.request.kind;
   if (kind != DictionaryKind::user && kind != DictionaryKind::memory) return;
@@ -88,7 +95,11 @@ void NewDictionary::newDicWindowOKAction(const std::string& name) {
   const Result<> created = name.empty() ? Result<>(Failure{name, Attempt::create, Reason::noPath})
                                         : made.controller.createDictionary(name, isLoaded);
   made.table.reloadData();
-  if (!created) return;
+  if (!created) return tell(created.error());
+  // Without its template a dictionary counts as made, and there is no file.
+  if (files_.isAbsent(made.controller.getDicPath(name))) {
+    tell({templateName(with_.request.direction), Attempt::copy, Reason::missingResource});
+  }
   if (with_.flags.saveHit == toolWithDictionaries || with_.flags.saveHit == toolWithMemories) {
     with_.guard.alertStartedApplication(numberOf(*kind));
     return;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -17,6 +18,7 @@ namespace tarvo {
 
 class DictController;
 class DictionaryListEditing;
+class FileService;
 class NotificationCenter;
 class PaneAlerts;
 class RunningApplicationGuard;
@@ -66,8 +68,9 @@ class NewDictionary {
   void newDicOKButtonAction() { sheet_.newDicOKButtonAction(); }
   void newDicCancelButtonAction() { sheet_.newDicCancelButtonAction(); }
   // Makes the dictionary of that file name, of the kind and direction of the pane's own request, whoever posted it;
-  // none for an empty name.
+  // none for an empty name. What is not made is told, with the cause.
   void newDicWindowOKAction(const std::string& name);
+  std::function<void(const Failure& failure)> didFail;
   DictionaryNameChecks& checks() { return sheet_.checks(); }
 
  private:
@@ -76,9 +79,11 @@ class NewDictionary {
     TableView& table;  // shows the list while the chosen tool is the shown one
   };
   Target target();
+  void tell(const Failure& failure) const;
   void openSheet(int senderTag);
   void sheetDidEnd(int returnCode);
   Collaborators with_;
+  const FileService& files_;
   NewDictionarySheet sheet_;
 };
 

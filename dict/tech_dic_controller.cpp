@@ -10,8 +10,8 @@
 #include "dict/running_application_guard.h"
 #include "platform/services/notification_center.h"
 #include "platform/services/notification_names.h"
+#include "platform/services/opener.h"
 #include "platform/services/texts.h"
-#include "platform/services/workspace.h"
 #include "platform/text/text_rules.h"
 #include "style/pane_alerts.h"
 
@@ -128,7 +128,8 @@ void TechDicController::OpenFolder(int senderTag) {
   const std::optional<DictionaryKind> kind = dictionaryKindForNumber(senderTag);
   if (!kind) return;
   const DiskPath folder = dictionaryFolder(paths_, *kind, request_.direction);
-  if (!folder.empty()) with_.workspace.openFile(folder);
+  if (!folder.empty()) return with_.opener.openFile(folder);
+  with_.opener.cannot({"", Attempt::open, Reason::noPath});
 }
 
 int TechDicController::numberOfRowsInTableView(TableView& table) {

@@ -22,9 +22,9 @@
 namespace tarvo {
 
 class NotificationCenter;
+class Opener;
 class PaneAlerts;
 class RunningApplicationGuard;
-class Workspace;
 
 namespace picker_columns {
 inline constexpr const char *check = "Value", *name = "dicName";
@@ -61,7 +61,7 @@ class TechDicController : public TableDataSource, public TableDelegate {
   struct Collaborators {
     PickerOutlets& outlets;
     Windows& windows;
-    Workspace& workspace;
+    const Opener& opener;
     PaneAlerts& alerts;
     RunningApplicationGuard& guard;
     NotificationCenter& notifications;

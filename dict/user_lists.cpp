@@ -19,8 +19,8 @@ void UserLists::setUp() {
   const DiskPath memories = services_.paths.tarvoPathUserTmaFolderURL();
   for (const DiskPath& folder : {dictionaries, memories}) {
     if (services_.files.isThere(folder)) continue;
-    const Result<> made = services_.files.makeFolder(folder);
-    (void)made;  // the lists of a folder that is not there are empty; a dictionary that is made in it tells why
+    // The lists of a folder that is not there are empty.
+    if (const Result<> made = services_.files.makeFolder(folder); !made && didFail) didFail(made.error());
   }
   ejUDController.initializeDictController(DictionaryKind::user, dictionaries, Direction::englishToJapanese);
   jeUDController.initializeDictController(DictionaryKind::user, dictionaries, Direction::japaneseToEnglish);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 #include "dict/dict_controller.h"
 
 namespace tarvo {
@@ -12,8 +14,9 @@ class UserLists {
  public:
   explicit UserLists(DictController::Services services);
   DictController ejUDController, jeUDController, ejUTMAController, jeUTMAController;
-  // Makes the two folders when they are missing and scans them.
+  // Makes the two folders when they are missing, tells which cannot be made, and scans them.
   void setUp();
+  std::function<void(const Failure& failure)> didFail;
 
  private:
   DictController::Services services_;

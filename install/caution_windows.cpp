@@ -4,8 +4,8 @@
 
 #include "install/addin_outlets.h"
 #include "platform/controls/windows.h"
+#include "platform/services/opener.h"
 #include "platform/services/system_version.h"
-#include "platform/services/workspace.h"
 
 namespace tarvo {
 
@@ -17,7 +17,7 @@ void CautionWindows::mailButtonAction() { windows_.orderFront(mailCaution()); }
 void CautionWindows::closeCautionWindow() { windows_.orderOut(mailCaution()); }
 void CautionWindows::selectPowerPoint() { windows_.orderFront(outlets_.alertPowerPoint); }
 void CautionWindows::closePowerPoint() { windows_.orderOut(outlets_.alertPowerPoint); }
-void CautionWindows::launchAppleScriptEditor() { workspace_.launchApplication("AppleScript Editor.app"); }
-void CautionWindows::launchAppleScriptUtil() { workspace_.launchApplication("AppleScript Utility.app"); }
+void CautionWindows::launchAppleScriptEditor() { opener_.launchApplication("AppleScript Editor.app"); }
+void CautionWindows::launchAppleScriptUtil() { opener_.launchApplication("AppleScript Utility.app"); }
 
 }  // namespace tarvo

@@ -6,9 +6,9 @@ namespace tarvo {
 
 class FileService;
 class Locations;
+class Opener;
 class Window;
 class Windows;
-class Workspace;
 struct AddinOutlets;
 
 // What the buttons beside the tables bring up: cautions, and the programs that run and check scripts.
@@ -16,8 +16,8 @@ struct AddinOutlets;
 class CautionWindows {
  public:
   CautionWindows(AddinOutlets& outlets, Windows& windows, const FileService& files, const Locations& locations,
-                 Workspace& workspace)
-      : outlets_(outlets), windows_(windows), files_(files), locations_(locations), workspace_(workspace) {}
+                 const Opener& opener)
+      : outlets_(outlets), windows_(windows), files_(files), locations_(locations), opener_(opener) {}
   void mailButtonAction();
   void closeCautionWindow();
   void selectPowerPoint();
@@ -32,7 +32,7 @@ class CautionWindows {
   Windows& windows_;
   const FileService& files_;
   const Locations& locations_;
-  Workspace& workspace_;
+  const Opener& opener_;
 };
 
 }  // namespace tarvo

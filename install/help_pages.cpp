@@ -6,9 +6,9 @@
 #include <optional>
 
 #include "platform/services/bundle.h"
+#include "platform/services/opener.h"
 #include "platform/services/product_paths.h"
 #include "platform/services/texts.h"
-#include "platform/services/workspace.h"
 
 namespace tarvo {
 
@@ -27,20 +27,22 @@ bool hasScheme(const std::string& address) {
 }  // namespace
 
 void HelpPages::showHelp() {
-  if (const std::optional<DiskPath> page = bundle_.resource("index", "htm", "Help")) workspace_.openFile(*page);
+  if (const std::optional<DiskPath> page = bundle_.resource("index", "htm", "Help")) return opener_.openFile(*page);
+  opener_.cannot({(bundle_.folder() / "Help/index.htm").text(), Attempt::open, Reason::missingResource});
 }
 
-void HelpPages::GotoRegiandSupportPage() { showIndicatePage(paths_.tarvoPathSupportURL()); }
+void HelpPages::GotoRegiandSupportPage() { showPage(paths_.tarvoPathSupportURL(), texts_.localized("supportHelp")); }
 
-void HelpPages::GotoWordhavenPage() { showIndicatePage(paths_.tarvoPathHomepageURL()); }
+void HelpPages::GotoWordhavenPage() { showPage(paths_.tarvoPathHomepageURL(), texts_.localized("whHelp")); }
 
 void HelpPages::aboutOldEtoJTech() {
   const std::string* address = texts_.find("oldEJTech");
-  if (address != nullptr) showIndicatePage(*address);
+  showPage(address != nullptr ? *address : std::string(), texts_.localized("oldEJTechMenu"));
 }
 
-void HelpPages::showIndicatePage(const std::string& address) {
-  if (hasScheme(address)) workspace_.openAddress(address);
+void HelpPages::showPage(const std::string& address, const std::string& name) {
+  if (hasScheme(address)) return opener_.openAddress(address);
+  opener_.cannot({address.empty() ? name : address, Attempt::open, Reason::noAddress});
 }
 
 }  // namespace tarvo

@@ -7,13 +7,13 @@
 #include "platform/controls/controls.h"
 
 // The help of the program and the maker's pages. No address is built in: they come from the paths' configuration and
-// the text tables, and a command without one does nothing.
+// the text tables. What cannot be opened is told (platform/services/opener.h).
 namespace tarvo {
 
 class Bundle;
+class Opener;
 class ProductPaths;
 class Texts;
-class Workspace;
 
 struct HelpOutlets : Outlets {
   MenuItem helpMenu{*this, "helpMenu"}, homepageMenu{*this, "homepageMenu"}, supportMenu{*this, "supportMenu"},
@@ -23,22 +23,24 @@ struct HelpOutlets : Outlets {
 
 class HelpPages {
  public:
-  HelpPages(const Bundle& bundle, const ProductPaths& paths, const Texts& texts, Workspace& workspace)
-      : bundle_(bundle), paths_(paths), texts_(texts), workspace_(workspace) {}
+  HelpPages(const Bundle& bundle, const ProductPaths& paths, const Texts& texts, const Opener& opener)
+      : bundle_(bundle), paths_(paths), texts_(texts), opener_(opener) {}
   // Opens the help that comes with the program.
   void showHelp();
   void GotoRegiandSupportPage();
   void GotoWordhavenPage();
   // The page about the older English-to-Japanese technical dictionary; its address is the text of "oldEJTech".
   void aboutOldEtoJTech();
-  // Opens an address in the user's browser; a text that does not begin with a scheme is none.
-  void showIndicatePage(const std::string& address);
+  // Opens an address in the user's browser; a text that does not begin with a scheme is none, which is told of the
+  // address, or of the menu item that stands for it.
+  void showIndicatePage(const std::string& address) { showPage(address, address); }
 
  private:
+  void showPage(const std::string& address, const std::string& name);
   const Bundle& bundle_;
   const ProductPaths& paths_;
   const Texts& texts_;
-  Workspace& workspace_;
+  const Opener& opener_;
 };
 
 }  // namespace tarvo

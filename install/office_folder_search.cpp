@@ -34,25 +34,31 @@ bool isOfficeCreator(const std::string& creator) { return creator == "MSWD" || c
 
 }  // namespace
 
-Result<> OfficeFolderSearch::searchFolder(const DiskPath& folder) {
+Result<OfficeFolderSearch::Found> OfficeFolderSearch::searchFolder(const DiskPath& folder) {
+  Found found;
+  const std::size_t offices = lists_.fOfficeAddinArray().size(), mails = lists_.fMailAddinArray().size();
   const Result<std::vector<std::string>> names = services_.files.list(folder);
   if (!names) return names.error();
   for (const std::string& name : *names) {
     const DiskPath path = folder / name;
     const Result<Dictionary> information = readDictionary(services_.files, path / "Contents/Info.plist");
-    if (isUnread(information)) unread_.push_back(information.error());
+    if (isUnread(information)) found.unread.push_back(information.error());
     if (!information || addinText(*information, "CFBundlePackageType") != "APPL") continue;
     const auto& allShipped = lists_.fDefaultOfficeSetArray();
     if (!allShipped || !canBeStored(path)) continue;
     const int version = getApplicationVer(path);
     const std::string signature = addinText(*information, "CFBundleSignature");
     if (version == 0 && (isOfficeCreator(signature) || signature == outlookCreator))
-      unread_.push_back({path.text(), Attempt::look, Reason::damaged});
+      found.unread.push_back({path.text(), Attempt::look, Reason::damaged});
     for (const AddinLists::SharedEntry& shipped : *allShipped) {
       getAddOfficeDictionary(*shipped, version, path, signature, folder);
     }
   }
-  return {};
+  for (const auto& [rows, known] :
+       {std::pair(&lists_.fOfficeAddinArray(), offices), {&lists_.fMailAddinArray(), mails}}) {
+    for (std::size_t row = known; row < rows->size(); ++row) found.added.push_back(addinText((*rows)[row], appName));
+  }
+  return found;
 }
 
 bool OfficeFolderSearch::canBeStored(const DiskPath& path) const {

@@ -31,10 +31,13 @@ class OfficeFolderSearch {
   OfficeFolderSearch(Services services, AddinLists& lists, const MailScriptInstaller& mailScripts)
       : services_(services), lists_(lists), mailScripts_(mailScripts) {}
 
+  struct Found {
+    std::vector<std::string> added;  // names, as the tables show them
+    // What was passed over because it could not be read, so that nobody knows whether it is an Office.
+    std::vector<Failure> unread;
+  };
   // Fails for a folder that cannot be listed.
-  Result<> searchFolder(const DiskPath& folder);
-  // What was passed over in it because it could not be read, so that nobody knows whether it is an Office.
-  const std::vector<Failure>& unread() const { return unread_; }
+  Result<Found> searchFolder(const DiskPath& folder);
   // The whole number before the first dot of an application's version, as the desktop's script service tells it; 0 when
   // it tells nothing.
   int getApplicationVer(const DiskPath& path);
@@ -53,7 +56,6 @@ class OfficeFolderSearch {
   Services services_;
   AddinLists& lists_;
   const MailScriptInstaller& mailScripts_;
-  std::vector<Failure> unread_;
 };
 
 }  // namespace tarvo

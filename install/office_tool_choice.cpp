@@ -16,7 +16,7 @@ void OfficeToolChoice::writeOffieTool() {
   const int index = outlets_.officeToolPopup.indexOfSelectedItem();
   if (!std::in_range<std::size_t>(index) || static_cast<std::size_t>(index) >= gAppCreatorArray.size()) return;
   const Result<> written = file_.write(static_cast<std::size_t>(index), outlets_.officeToolPopup.titleOfSelectedItem());
-  (void)written;  // the pane has no place to tell it, and the macros start the former tool
+  if (!written && didFail) didFail(written.error());  // the macros start the former tool
 }
 
 }  // namespace tarvo

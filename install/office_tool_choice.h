@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 #include "platform/controls/controls.h"
+#include "platform/services/result.h"
 
 namespace tarvo {
 
@@ -20,9 +23,10 @@ class OfficeToolChoice {
   OfficeToolChoice(ToolListOutlets& outlets, ToolListFile& file) : outlets_(outlets), file_(file) {}
   // Selects the remembered tool; an unknown one leaves the pop-up alone.
   void restoreTool();
-  // Has the tool list written for the chosen tool. Nothing without one.
+  // Has the tool list written for the chosen tool, and tells where that failed. Nothing without one.
   void writeOffieTool();
   void changeOfficeTool() { writeOffieTool(); }
+  std::function<void(const Failure& failure)> didFail;
 
  private:
   ToolListOutlets& outlets_;

@@ -61,7 +61,9 @@ bool OldScripts::removeFor(const AddinEntry& shipped, const char* oldFolderKey) 
   const DiskPath base = home_ / addinText(shipped, installFolderName);
   const std::string name = addinItemName(shipped);
   if (name.empty() || !services_.files.isThere(base / services_.texts.localized(oldFolderKey))) return false;
-  return mailScripts_.unInstallScript(base / name).has_value();  // old scripts that stay are not told
+  const Result<> removed = mailScripts_.unInstallScript(base / name);
+  if (!removed && !isAbsence(removed.error()) && didFail) didFail(removed.error());
+  return removed.has_value();
 }
 
 void OldScripts::tell(const std::string& removed) {

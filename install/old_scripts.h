@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "install/addin_entry.h"
+#include "platform/services/result.h"
 
 namespace tarvo {
 
@@ -14,9 +16,9 @@ class MailScriptInstaller;
 class Panels;
 class Texts;
 
-// Removes mail scripts that an earlier generation of the product left, and says so.
+// Removes mail scripts that an earlier generation of the product left, and says so, or tells why not.
 // That generation is recognised by a folder whose name, or path, is a text of its own for each program; what is removed
-// is the folder of the record's scripts. What could not be removed is not told.
+// is the folder of the record's scripts.
 class OldScripts {
  public:
   struct Services {
@@ -28,6 +30,7 @@ class OldScripts {
   OldScripts(Services services, AddinLists& lists, MailScriptInstaller& mailScripts, DiskPath home);
   // Once a launch. The mail rows' states are computed anew in any case.
   void OldscriptUninstall();
+  std::function<void(const Failure& failure)> didFail;  // what stays, and why
 
  private:
   bool removeFor(const AddinEntry& shipped, const char* oldFolderKey);

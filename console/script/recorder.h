@@ -126,9 +126,18 @@ class RecordedWorkspace : public Workspace {
  public:
   explicit RecordedWorkspace(Recorder& recorder) : recorder_(recorder) {}
   std::vector<ProductPath> running;  // what launchedApplications answers
-  void openFile(const DiskPath& path) override { recorder_.note({{"opened", recorder_.shown(path)}}); }
-  void openAddress(const std::string& address) override { recorder_.note({{"address", address}}); }
-  void launchApplication(const std::string& name) override { recorder_.note({{"launched", name}}); }
+  Result<> openFile(const DiskPath& path) override {
+    recorder_.note({{"opened", recorder_.shown(path)}});
+    return {};
+  }
+  Result<> openAddress(const std::string& address) override {
+    recorder_.note({{"address", address}});
+    return {};
+  }
+  Result<> launchApplication(const std::string& name) override {
+    recorder_.note({{"launched", name}});
+    return {};
+  }
   std::vector<ProductPath> launchedApplications() override { return running; }
 
  private:

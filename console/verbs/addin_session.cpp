@@ -26,8 +26,9 @@ Result<> AddinSession::setInstalled(AddinPlace place, bool on) {
 Result<std::vector<Failure>> AddinSession::searchFolder(const DiskPath& folder) {
   const TarvoCommonModule module(product_.paths());
   OfficeFolderSearch search({product_.files(), product_.locations(), product_.scripts(), module}, lists_, mailScripts_);
-  if (const Result<> searched = search.searchFolder(folder); !searched) return searched.error();
-  return search.unread();
+  const Result<OfficeFolderSearch::Found> found = search.searchFolder(folder);
+  if (!found) return found.error();
+  return found->unread;
 }
 
 Result<> AddinSession::store() {

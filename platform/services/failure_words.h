@@ -14,7 +14,7 @@ struct AttemptWord {
   Attempt attempt;
   const char* word;  // the key is "Failure." and this
 };
-inline constexpr std::array<AttemptWord, 17> attemptWords{{{Attempt::look, "look"},
+inline constexpr std::array<AttemptWord, 18> attemptWords{{{Attempt::look, "look"},
                                                            {Attempt::read, "read"},
                                                            {Attempt::write, "write"},
                                                            {Attempt::keep, "keep"},
@@ -30,13 +30,14 @@ inline constexpr std::array<AttemptWord, 17> attemptWords{{{Attempt::look, "look
                                                            {Attempt::reach, "reach"},
                                                            {Attempt::store, "store"},
                                                            {Attempt::fetch, "fetch"},
-                                                           {Attempt::check, "check"}}};
+                                                           {Attempt::check, "check"},
+                                                           {Attempt::open, "open"}}};
 
 struct ReasonWord {
   Reason reason;
   const char* word;  // the keys are "Cause." and this, and "Cure." and this where something helps
 };
-inline constexpr std::array<ReasonWord, 27> reasonWords{{{Reason::noPath, "noPath"},
+inline constexpr std::array<ReasonWord, 29> reasonWords{{{Reason::noPath, "noPath"},
                                                          {Reason::noRegularFile, "noRegularFile"},
                                                          {Reason::noPropertyList, "noPropertyList"},
                                                          {Reason::noDictionary, "noDictionary"},
@@ -62,7 +63,9 @@ inline constexpr std::array<ReasonWord, 27> reasonWords{{{Reason::noPath, "noPat
                                                          {Reason::emptied, "emptied"},
                                                          {Reason::foreign, "foreign"},
                                                          {Reason::overLimit, "overLimit"},
-                                                         {Reason::plainPassword, "plainPassword"}}};
+                                                         {Reason::plainPassword, "plainPassword"},
+                                                         {Reason::noProgram, "noProgram"},
+                                                         {Reason::noAddress, "noAddress"}}};
 
 // Rows stand in the order of their values, so that a value finds its row by its number.
 constexpr const char* wordOf(Attempt attempt) { return attemptWords[static_cast<std::size_t>(attempt)].word; }
@@ -75,7 +78,7 @@ static_assert([] {
   for (std::size_t i = 0; i < reasonWords.size(); ++i) {
     if (reasonWords[i].reason != static_cast<Reason>(i + 1)) return false;
   }
-  return attemptWords.back().attempt == Attempt::check && reasonWords.back().reason == Reason::plainPassword;
+  return attemptWords.back().attempt == Attempt::open && reasonWords.back().reason == Reason::noAddress;
 }());
 
 }  // namespace tarvo

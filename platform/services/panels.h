@@ -36,7 +36,8 @@ class Panels {
  public:
   virtual ~Panels() = default;
   virtual void beep() = 0;
-  // A line for whoever wants to know why nothing happened; it asks for no answer. On standard error in both shells.
+  // A line for whoever wants to know why nothing happened; it asks for no answer. A shell prints it on standard error;
+  // the program shows it in the window besides.
   virtual void tell(const std::string& text) = 0;
   virtual int runAlertPanel(const Alert&) = 0;  // blocks; index of the button
   virtual void beginAlertSheet(Window& host, const Alert&, std::function<void(int button)>) = 0;

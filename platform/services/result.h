@@ -31,7 +31,8 @@ enum class Attempt {
   reach,
   store,
   fetch,
-  check  // that something is still as the product made it
+  check,  // that something is still as the product made it
+  open    // by the desktop
 };
 
 // Causes that no system knows: they say what the product found.
@@ -62,7 +63,9 @@ enum class Reason {
   emptied,          // a file of the product that holds nothing any more
   foreign,          // a file in the place of one of the product
   overLimit,        // a list of more than largestListFile (plist_file.h)
-  plainPassword     // it asks for a name and a password, which go out over an encrypted connection only
+  plainPassword,    // it asks for a name and a password, which go out over an encrypted connection only
+  noProgram,        // the desktop has nothing that opens it
+  noAddress         // no address of it is configured
 };
 const std::error_category& reasonCategory();
 inline std::error_code make_error_code(Reason reason) { return {static_cast<int>(reason), reasonCategory()}; }

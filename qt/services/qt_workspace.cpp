@@ -15,17 +15,21 @@ namespace tarvo {
 QtWorkspace::QtWorkspace(Services services, std::function<std::vector<ProductPath>()> running)
     : services_(services), running_(std::move(running)) {}
 
-void QtWorkspace::openFile(const DiskPath& path) {
-  QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path.text())));
+Result<> QtWorkspace::openFile(const DiskPath& path) {
+  if (QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path.text())))) return {};
+  return Failure{path.text(), Attempt::open, Reason::noProgram};
 }
 
-void QtWorkspace::openAddress(const std::string& address) {
-  QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
+Result<> QtWorkspace::openAddress(const std::string& address) {
+  if (QDesktopServices::openUrl(QUrl(QString::fromStdString(address)))) return {};
+  return Failure{address, Attempt::open, Reason::noProgram};
 }
 
-void QtWorkspace::launchApplication(const std::string& name) {
+Result<> QtWorkspace::launchApplication(const std::string& name) {
   const auto program = applicationProgram(services_.files, services_.paths.applicationFolders(), name);
-  if (program) QProcess::startDetached(QString::fromStdString(program->text()), {});
+  if (!program) return Failure{name, Attempt::start, std::make_error_code(std::errc::no_such_file_or_directory)};
+  if (QProcess::startDetached(QString::fromStdString(program->text()), {})) return {};
+  return Failure{program->text(), Attempt::start, Reason::noProgram};
 }
 
 std::vector<ProductPath> QtWorkspace::launchedApplications() {

@@ -21,9 +21,9 @@ class QtWorkspace : public Workspace {
   };
   // running: the applications that run now.
   QtWorkspace(Services services, std::function<std::vector<ProductPath>()> running);
-  void openFile(const DiskPath& path) override;
-  void openAddress(const std::string& address) override;
-  void launchApplication(const std::string& name) override;
+  Result<> openFile(const DiskPath& path) override;
+  Result<> openAddress(const std::string& address) override;
+  Result<> launchApplication(const std::string& name) override;
   std::vector<ProductPath> launchedApplications() override;
 
  private:

@@ -36,9 +36,9 @@ class QuietPanels : public Panels {
 
 class QuietWorkspace : public Workspace {
  public:
-  void openFile(const DiskPath&) override {}
-  void openAddress(const std::string&) override {}
-  void launchApplication(const std::string&) override {}
+  Result<> openFile(const DiskPath&) override { return {}; }
+  Result<> openAddress(const std::string&) override { return {}; }
+  Result<> launchApplication(const std::string&) override { return {}; }
   std::vector<ProductPath> launchedApplications() override { return {}; }
 };
 

@@ -105,21 +105,32 @@ TEST_F(NewDictionaryTest, inThoseToolsAFullListIsNotTold) {
   }
 }
 
-TEST_F(NewDictionaryTest, aFileThatCameBeforeIsLeftAloneInSilence) {
+TEST_F(NewDictionaryTest, aFileThatCameBeforeIsLeftAloneAndTold) {
   world_.folder.write("Library/Application Support/Wordhaven/UserDic/N.eud2", "theirs");
   world_.request = {};
   world_.notifications.post(newDicNotification, "N.eud2");
   EXPECT_EQ(world_.takeLog(), (Log{"posted N.eud2", "reload style.ejUDTableView", "reload style.ejUDTable"}));
   EXPECT_EQ(world_.folder.read("Library/Application Support/Wordhaven/UserDic/N.eud2"), "theirs");
+  EXPECT_EQ(world_.failures, (std::vector<Failure>{{world_.userFolder() + "/N.eud2", Attempt::create,
+                                                    std::make_error_code(std::errc::file_exists)}}));
   EXPECT_TRUE(world_.changedKinds.empty());
 }
 
-TEST_F(NewDictionaryTest, aMissingFolderMakesNothingInSilence) {
+TEST_F(NewDictionaryTest, aMissingFolderMakesNothingAndIsTold) {
   std::filesystem::remove_all(world_.userFolder());
   create(10, "N");
   EXPECT_EQ(world_.takeLog(),
             (Log{"sheet ended 1", "posted N.eud2", "reload style.ejUDTableView", "reload style.ejUDTable"}));
   EXPECT_FALSE(isThere(world_.userFolder()));
+  ASSERT_EQ(world_.failures.size(), 1U);
+  EXPECT_EQ(world_.failures[0].cause, std::errc::no_such_file_or_directory);
+}
+
+TEST_F(NewDictionaryTest, aTemplateThatTheProductLacksIsTold) {
+  std::filesystem::remove(world_.folder / "resources/EJStationery.eud2");
+  create(10, "N");
+  EXPECT_FALSE(isThere(world_.userFolder() + "/N.eud2"));
+  EXPECT_EQ(world_.failures, (std::vector<Failure>{{"EJStationery.eud2", Attempt::copy, Reason::missingResource}}));
 }
 
 TEST_F(NewDictionaryTest, aNotificationForAnotherKindIsIgnored) {
@@ -186,11 +197,13 @@ TEST_F(RefusingDisk, aCopyThatFailsLeavesNoPartOfADictionaryAndSavesNothing) {
   EXPECT_EQ(std::count(log.begin(), log.end(), "wrote"), 0);
   EXPECT_TRUE(world_.panels.alerts.empty());
   EXPECT_TRUE(world_.changedKinds.empty());
+  EXPECT_EQ(world_.failures.size(), 1U);
 
   disk_.allowAll();
   create();
   EXPECT_EQ(disk_.bytes(world_.userFolder() + "/N.eud2"), "empty") << "the name is free for another try";
   EXPECT_EQ(world_.takeLog().back(), "wrote");
+  EXPECT_EQ(world_.failures.size(), 1U);
 }
 
 TEST_F(RefusingDisk, aDiskWithoutCodesKeepsTheDictionary) {

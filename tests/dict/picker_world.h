@@ -12,6 +12,7 @@
 #include "dict/user_lists.h"
 #include "platform/services/notification_center.h"
 #include "platform/services/notification_names.h"
+#include "platform/services/opener.h"
 #include "style/pane_alerts.h"
 #include "style/process_flags.h"
 #include "tests/dict/style_pane_world.h"
@@ -29,6 +30,7 @@ struct PickerWorld : StylePaneWorld {
       log.push_back("posted " + notification.object);
       if (createsOnNotification) newDictionary.newDicWindowOKAction(notification.object);
     });
+    newDictionary.didFail = [this](const Failure& failure) { failures.push_back(failure); };
     int tag = UserListRows::firstTag;
     for (Control* control : tables.controls()) watch(static_cast<TableView&>(*control), tag++, &userRows);
     watch(picker.techDicTable, 0, &controller);
@@ -93,11 +95,13 @@ struct PickerWorld : StylePaneWorld {
   UserLists userLists{servicesOver(userFiles)};
   UserListRows userRows{tables, userLists, servicesOver(userFiles), unread};
   DictionaryNameChecks::Services nameServices{userFiles, texts, paths, panels};
-  TechDicController controller{{picker, windows, workspace, alerts, guard, notifications}, nameServices};
+  Opener opener{workspace, userFiles};
+  TechDicController controller{{picker, windows, opener, alerts, guard, notifications}, nameServices};
   DictionaryLoading loading{editing, controller, request, alerts, guard, texts};
   NewDictionary newDictionary{
       {sheet, tables, manager.myWindow, request, editing, userLists, flags, alerts, guard, notifications, windows},
       nameServices};
+  std::vector<Failure> failures;  // that the new dictionary told
   bool createsOnNotification = true;
 };
 

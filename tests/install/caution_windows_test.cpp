@@ -6,6 +6,7 @@
 
 #include "install/addin_outlets.h"
 #include "platform/services/locations.h"
+#include "platform/services/opener.h"
 #include "tests/support/fake_shell.h"
 #include "tests/support/memory_files.h"
 
@@ -25,7 +26,8 @@ class Cautions : public testing::Test {
   Windows windows{host, runLoop};
   FakeWorkspace workspace;
   Locations locations{"/", "/home"};
-  CautionWindows cautions{outlets, windows, files, locations, workspace};
+  Opener opener{workspace, files};
+  CautionWindows cautions{outlets, windows, files, locations, opener};
 };
 
 TEST_F(Cautions, dependOnTheSystemVersion) {

@@ -37,6 +37,7 @@ class FolderSearch : public testing::Test, protected AddinWorld {
   void searchFolder() {
     panels.paths.clear();
     if (picked) panels.paths.push_back(*picked);
+    choice.tell = [this](const std::string& sentence) { told = sentence; };
     choice.SelectOfficeFolder();
   }
   void application(const std::string& name, const char* type, const char* signature) const {
@@ -52,6 +53,7 @@ class FolderSearch : public testing::Test, protected AddinWorld {
   std::string placeOf(const AddinEntry& row) const { return addinText(row, addin_keys::installFolderPath); }
 
   std::optional<std::string> picked;  // nothing: cancelled
+  std::string told;                   // by the last search
   const std::string chosen = "/Volumes/D/Office";
   ScriptedService scripts;
   ProductPaths paths{locations, Dictionary{}};

@@ -8,6 +8,7 @@
 
 #include "platform/services/bundle.h"
 #include "platform/services/locations.h"
+#include "platform/services/opener.h"
 #include "platform/services/product_paths.h"
 #include "platform/services/texts.h"
 #include "tests/support/fake_shell.h"
@@ -21,7 +22,7 @@ class HelpPagesTest : public testing::Test {
   template <class Command>
   void run(Command command) {
     const ProductPaths paths(locations_, configuration_);
-    HelpPages pages(bundle_, paths, texts_, workspace_);
+    HelpPages pages(bundle_, paths, texts_, opener_);
     command(pages);
   }
   void show(const char* address) {
@@ -49,6 +50,7 @@ class HelpPagesTest : public testing::Test {
   Locations locations_{"/", "/home"};
   Texts texts_;
   FakeWorkspace workspace_;
+  Opener opener_{workspace_, files_};
   std::optional<Dictionary> configuration_ = Dictionary();
 };
 
@@ -68,6 +70,20 @@ TEST_F(HelpPagesTest, openNothingWithoutAnAddress) {
   setOldPage("oldEJTech");
   openAll();
   EXPECT_TRUE(workspace_.addresses.empty());
+}
+
+TEST_F(HelpPagesTest, whatHasNoAddressIsToldByTheNameOfItsCommand) {
+  std::vector<Failure> told;
+  opener_.didFail = [&told](const Failure& failure) { told.push_back(failure); };
+  openAll();
+  show("s.example");
+  run([](HelpPages& pages) { pages.showHelp(); });
+  const std::vector<Failure> expected{{"supportHelp", Attempt::open, Reason::noAddress},
+                                      {"whHelp", Attempt::open, Reason::noAddress},
+                                      {"oldEJTechMenu", Attempt::open, Reason::noAddress},
+                                      {"s.example", Attempt::open, Reason::noAddress},
+                                      {"/resources/Help/index.htm", Attempt::open, Reason::missingResource}};
+  EXPECT_EQ(told, expected);
 }
 
 TEST_F(HelpPagesTest, openOnlyWhatBeginsWithAScheme) {

@@ -29,6 +29,7 @@ TEST_F(FolderSearch, readsTheLeadingNumberOfAVersion) {
 }
 
 TEST_F(FolderSearch, addsTheApplicationsOfTheChosenFolder) {
+  setText("Notice.found", "%1: %2");
   application("Word.app", "APPL", "MSWD");
   application("Data.bundle", "BNDL", "XCEL");
   folder.write(inRoot(chosen) + "/notes.txt", "");
@@ -44,6 +45,7 @@ TEST_F(FolderSearch, addsTheApplicationsOfTheChosenFolder) {
   EXPECT_EQ(lists.fOfficeAddinArray()[0], expected);
   EXPECT_EQ(scripts.sources.size(), 1U) << "asked once, and for the application alone";
   EXPECT_EQ(outlets.officeTableView.numberOfRows(), 1);
+  EXPECT_EQ(told, "1: Word 2011");
   EXPECT_FALSE((*lists.fDefaultOfficeSetArray())[0]->contains(installStatus));
 }
 

@@ -77,8 +77,8 @@ TEST(QtWorkspace, startsAnApplicationByItsNameAndListsWhatRuns) {
   const std::string trace = folder / "started";
   folder.write(program, "#!/bin/sh\n: > '" + trace + "'\n");
   std::filesystem::permissions(folder / program, std::filesystem::perms::owner_all);
-  for (const char* name : {"Other.app", "sh", "", "/bin/sh"}) workspace.launchApplication(name);
-  workspace.launchApplication("Some Editor.app");
+  for (const char* name : {"Other.app", "sh", "", "/bin/sh"}) EXPECT_FALSE(workspace.launchApplication(name)) << name;
+  EXPECT_TRUE(workspace.launchApplication("Some Editor.app"));
   for (int i = 0; i < 500 && !folder.exists("started"); ++i) runFor(10);
   EXPECT_TRUE(folder.exists("started"));
 }

@@ -102,11 +102,19 @@ class FakeHost : public WindowHost {
 
 class FakeWorkspace : public Workspace {
  public:
-  void openFile(const DiskPath& path) override { opened.push_back(path.text()); }
-  void openAddress(const std::string& address) override { addresses.push_back(address); }
-  void launchApplication(const std::string& name) override { launched.push_back(name); }
+  Result<> openFile(const DiskPath& path) override { return answerFor(opened, path.text(), Attempt::open); }
+  Result<> openAddress(const std::string& address) override { return answerFor(addresses, address, Attempt::open); }
+  Result<> launchApplication(const std::string& name) override { return answerFor(launched, name, Attempt::start); }
   std::vector<ProductPath> launchedApplications() override { return {running.begin(), running.end()}; }
   std::vector<std::string> opened, addresses, launched, running;
+  bool refuses = false;  // what is asked of it, which it notes all the same
+
+ private:
+  Result<> answerFor(std::vector<std::string>& asked, const std::string& what, Attempt attempt) const {
+    asked.push_back(what);
+    if (refuses) return Failure{what, attempt, Reason::noProgram};
+    return {};
+  }
 };
 
 // Posted calls run at once unless they are held until run(). Timers fire by hand, in the order of their times.

@@ -90,9 +90,9 @@ TEST_F(Surroundings, queuedProbesComeBeforeTheState) {
 
 TEST_F(Surroundings, theDesktopIsOnlyNoted) {
   RecordedWorkspace workspace(recorder_);
-  workspace.openFile(at("/home/a"));
-  workspace.openAddress("https://support.example/");
-  workspace.launchApplication("Script Editor");
+  EXPECT_TRUE(workspace.openFile(at("/home/a")));
+  EXPECT_TRUE(workspace.openAddress("https://support.example/"));
+  EXPECT_TRUE(workspace.launchApplication("Script Editor"));
   workspace.running = {ProductPath("/Applications/Mail.app")};
   EXPECT_EQ(workspace.launchedApplications(), std::vector{ProductPath("/Applications/Mail.app")});
   EXPECT_EQ(log(),
