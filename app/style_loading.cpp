@@ -5,6 +5,7 @@
 #include "dict/medical_dictionaries.h"
 #include "platform/services/file_service.h"
 #include "platform/services/product_paths.h"
+#include "style/option_table.h"
 #include "style/style_store.h"
 
 namespace tarvo {
@@ -29,6 +30,8 @@ LoadedStyles loadStyles(StyleStore& store, MedicalDictionaries& medical, FileSer
       return loaded;
     }
     store.setPending();
+  } else {
+    loaded.filledIn = missingOptions(store.root());
   }
   loaded.inserted = medical.insertInstalled();
   if (!loaded.inserted.empty()) store.setPending();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -19,6 +20,7 @@ class StyleStore;
 struct LoadedStyles {
   std::optional<Failure> failure;          // why there are no styles, neither the user's nor the product's
   std::vector<std::string_view> inserted;  // flags of the medical dictionaries that joined, to be remembered
+  std::vector<std::string> filledIn;       // options that the user's file lacked
 };
 
 // Reads the styles as a start and every verb that changes styles do: the user's file, else the product's; medical

@@ -16,11 +16,6 @@ namespace {
 
 using Kind = StyleChange::Kind;
 
-std::string labelOf(const std::string& key, const Texts& texts) {
-  const std::string* label = texts.find("Label." + key);
-  return label != nullptr ? *label : key;
-}
-
 std::string meaningOf(const StyleChange& change, const std::optional<PropertyList>& value, const Texts& texts) {
   return value ? tarvo::meaningOf(change.key, *value, texts) : texts.localized("Change.nothing");
 }
@@ -57,6 +52,11 @@ std::string nameOfChange(const StyleChange& change, const Texts& texts) {
 }
 
 }  // namespace
+
+std::string labelOf(const std::string& key, const Texts& texts) {
+  const std::string* label = texts.find("Label." + key);
+  return label != nullptr ? *label : key;
+}
 
 std::string meaningOf(const std::string& key, const PropertyList& value, const Texts& texts) {
   const std::string stored = value.string() != nullptr ? *value.string() : std::to_string(value.integerValue());

@@ -17,6 +17,8 @@ struct StoredChange;
 std::vector<std::string> changesInWords(const std::vector<StyleChange>& changes, const Texts& texts);
 // What an edit did, as a menu calls it: "Remove “Physics”".
 std::string nameOfEdit(const StoredChange& change, const Texts& texts);
+// What an option is called; its key where it has no name.
+std::string labelOf(const std::string& key, const Texts& texts);
 // What a stored value of an option means; the value itself where nothing is known of it.
 std::string meaningOf(const std::string& key, const PropertyList& value, const Texts& texts);
 

@@ -50,7 +50,8 @@ ImportFindings::List findIn(const DictController::Services& services, Direction 
   return found;
 }
 
-// A long list is cut: the sentence stands in one line.
+}  // namespace
+
 std::string enumerated(const Names& names, const Texts& texts) {
   constexpr std::size_t most = 8;
   std::string text;
@@ -58,8 +59,6 @@ std::string enumerated(const Names& names, const Texts& texts) {
   if (names.size() <= most) return text;
   return filledInAll(texts.localized("Imported.andMore"), {text, std::to_string(names.size() - most)});
 }
-
-}  // namespace
 
 ImportFindings importFindings(const DictController::Services& services, const Dictionary& imported,
                               const Dictionary& stored) {

@@ -34,4 +34,7 @@ ImportFindings importFindings(const DictController::Services& services, const Di
 // One sentence for each kind of finding and each direction; none where all is well.
 std::vector<std::string> importSentences(const ImportFindings& findings, const Texts& texts);
 
+// A long list of names is cut: it is part of a sentence.
+std::string enumerated(const Names& names, const Texts& texts);
+
 }  // namespace tarvo

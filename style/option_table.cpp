@@ -86,6 +86,21 @@ const std::vector<std::pair<std::string_view, PropertyList>>& jeOptionDefaults()
   return defaults;
 }
 
+std::vector<std::string> missingOptions(const Dictionary& root) {
+  const Array none;
+  const Array* styles = root.array(keyNameStyle);
+  std::vector<std::string> missing;
+  for (const auto& [key, value] : jeOptionDefaults()) {
+    const bool isMissing = std::ranges::any_of(styles != nullptr ? *styles : none, [&key](const PropertyList& style) {
+      const Dictionary* record = style.dictionary();
+      const Dictionary* je = record != nullptr ? record->dictionary(keyNameJE) : nullptr;
+      return je != nullptr && !je->contains(key);
+    });
+    if (isMissing) missing.emplace_back(key);
+  }
+  return missing;
+}
+
 std::span<const DetailOption> detailOptions() { return detailTable; }
 
 std::span<const std::string_view> detailHeadings() {

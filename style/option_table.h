@@ -4,6 +4,7 @@
 
 #include <array>
 #include <span>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -32,6 +33,8 @@ std::span<const IndexOption> storedOptions();        // the same and, at the end
 const IndexOption* indexOptionForTag(int popupTag);  // null for a tag that no pop-up has
 // What a "JE" record that lacks one of these keys gets when the style file is loaded.
 const std::vector<std::pair<std::string_view, PropertyList>>& jeOptionDefaults();
+// Those of these keys that a "JE" record of the style file's root lacks.
+std::vector<std::string> missingOptions(const Dictionary& root);
 
 // A Japanese-to-English option whose value is a text, chosen by the tag of an item. Tags count from 0 in the order of
 // the values; every other tag means the value at `otherwise`. Which value that is differs from key to key, and the

@@ -3,8 +3,10 @@
 #include "console/verbs/style_reading.h"
 
 #include "app/product.h"
+#include "console/verbs/dictionary_services.h"
 #include "console/verbs/refusal.h"
 #include "platform/services/plist_file.h"
+#include "style/option_table.h"
 #include "style/style_file.h"
 #include "style/style_keys.h"
 
@@ -14,7 +16,10 @@ ReadStyles readStyles(Console& console) {
   Product& product = console.product;
   const DiskPath path = product.locations().inHome(gStylePath);
   Result<Dictionary> users = StyleFile(product.files(), path).read();
-  if (users) return {std::move(*users)};
+  if (users) {
+    noteMended(console, path, {goneDictionaries(dictionaryServices(product), *users), missingOptions(*users)});
+    return {std::move(*users)};
+  }
   const bool isUnreadable = !isAbsence(users.error());
   Result<Dictionary> products =
       readDictionary(product.files(), product.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist))));
@@ -24,6 +29,13 @@ ReadStyles readStyles(Console& console) {
   const std::string cause = failureParts(users.error(), console.textsToTell()).cause;
   note(console, Refusal{path.text(), "Refusal.ProductsStyles", cause});
   return {std::move(*products), ExitStatus::refused};
+}
+
+void noteMended(Console& console, const DiskPath& path, const Mended& mended) {
+  const Texts texts = console.textsToTell();
+  std::vector<std::string> sentences = goneSentences(mended.gone, texts);
+  if (!mended.filledIn.empty()) sentences.push_back(defaultsSentence(mended.filledIn, texts));
+  for (const std::string& sentence : sentences) note(console, path.text(), sentence);
 }
 
 }  // namespace tarvo

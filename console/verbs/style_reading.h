@@ -3,8 +3,11 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "console/verbs/command.h"
+#include "dict/load_findings.h"
 #include "platform/plist/property_list.h"
 
 namespace tarvo {
@@ -16,5 +19,13 @@ struct ReadStyles {
   ExitStatus status = ExitStatus::done;  // with which the verb ends once it has shown what there is
 };
 ReadStyles readStyles(Console& console);
+
+// What a load mends in the user's styles, or would where a verb only reads.
+struct Mended {
+  NamesByDirection gone;              // (load_findings.h)
+  std::vector<std::string> filledIn;  // options that got their defaults
+};
+// A line each, about the style file.
+void noteMended(Console& console, const DiskPath& path, const Mended& mended);
 
 }  // namespace tarvo

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "console/verbs/style_session.h"
 
+#include <algorithm>
+
 #include "app/product.h"
 #include "app/style_loading.h"
 #include "app/user_files.h"
@@ -40,6 +42,9 @@ std::optional<Problem> StyleSession::open(Needs needs) {
   }
   if (loaded.failure && needs != Needs::nothing) return *loaded.failure;
   inserted_ = loaded.inserted;
+  if (needs == Needs::readable) {
+    mended_ = {goneDictionaries(dictionaryServices(product), store_.root()), loaded.filledIn};
+  }
   return std::nullopt;
 }
 
@@ -65,6 +70,7 @@ ExitStatus StyleSession::read(const std::string& style, const Operation& operati
   const std::expected<int, Problem> index = openOn(style);
   if (!index) return tell(console_, index.error());
   if (const std::optional<Problem> failure = operation(*index)) return tell(console_, *failure);
+  noteMended(console_, store_.path(), mended_);
   const std::optional<Dictionary> record = store_.getStyleAtIndex(*index);
   say(console_, {{record ? styleName(*record) : style}, std::nullopt});
   return ExitStatus::done;
@@ -87,10 +93,22 @@ std::optional<Problem> StyleSession::writeLoaded() {
 
 ExitStatus StyleSession::finish(std::vector<std::string> changed) {
   if (const std::optional<Problem> failure = writeLoaded()) return tell(console_, *failure);
+  noteWhatStaysGone();
   const std::optional<bool> registered = written_ ? registerStyles() : std::nullopt;
   say(console_, {std::move(changed), registered});
   earlier_.thin();
   return registered == false && engine_->form() != EngineForm::local ? ExitStatus::waiting : ExitStatus::done;
+}
+
+// Names that the operation took out have been told by it.
+void StyleSession::noteWhatStaysGone() {
+  const NamesByDirection left = goneDictionaries(dictionaryServices(console_.product), store_.root());
+  for (std::size_t i = 0; i < left.size(); ++i) {
+    std::erase_if(mended_.gone[i], [&names = left[i]](const std::string& name) {
+      return std::ranges::find(names, name) == names.end();
+    });
+  }
+  noteMended(console_, store_.path(), mended_);
 }
 
 std::optional<bool> StyleSession::registerStyles() {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "console/verbs/refusal.h"
+#include "console/verbs/style_reading.h"
 #include "dict/medical_dictionaries.h"
 #include "dict/named_lists.h"
 #include "platform/services/user_defaults.h"
@@ -64,6 +65,7 @@ class StyleSession {
   ExitStatus finish(std::vector<std::string> changed);
   ExitStatus sayHandedOver(const Result<>& outcome);
   std::optional<Problem> keepTaken();
+  void noteWhatStaysGone();
   std::optional<bool> registerStyles();
   const std::string& pathOfStyles() const;
   std::string service() const;
@@ -75,6 +77,7 @@ class StyleSession {
   MedicalDictionaries medical_;
   NamedLists lists_;
   std::vector<std::string_view> inserted_;
+  Mended mended_;
   bool written_ = false, toldUnkept_ = false;
 };
 

@@ -49,6 +49,7 @@ ExitStatus StyleSession::pull() {
 }
 
 ExitStatus StyleSession::sayHandedOver(const Result<>& outcome) {
+  noteMended(console_, store_.path(), mended_);
   if (!outcome) {
     return tell(console_,
                 Refusal{service(), "Refusal.NotPushed", failureParts(outcome.error(), console_.textsToTell()).cause});

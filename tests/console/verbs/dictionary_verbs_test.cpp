@@ -105,7 +105,10 @@ TEST_F(DictionaryVerbs, namesWithoutAFileAreToldWhenAnEditDropsThem) {
   std::filesystem::remove(root_.folder() / (technical + std::string("EJ/b.TRet")));
   const ToolResult result = run({"dictionary", "add", "0", "ej", "d.TRet"});
   EXPECT_EQ(result.err,
-            told("b.TRet", "is not in the list any more; its file is gone; put the file back and add it again"));
+            told("b.TRet", "is not in the list any more; its file is gone; put the file back and add it again") +
+                told(stylePath(),
+                     "English to Japanese: no longer on this disk, so taken out when its style is shown: b.TRet"))
+      << "another style names it too";
   EXPECT_EQ(result.status, 0);
   EXPECT_NE(style(0).find("\"TD\":[\"a.TRet\",\"c.TRet\",\"d.TRet\"]"), std::string::npos);
 }
