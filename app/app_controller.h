@@ -68,6 +68,7 @@ class AppController {
   void showStyle(int index);
   void adaptButtons();
   void showFirstPages();
+  std::string importedInWords(const Dictionary& record, int index, const DiskPath& from) const;
   void answerCaller(const CallerRequest& request);
 
   Interface& interface_;

@@ -5,6 +5,7 @@
 #include "app/app_controller.h"
 #include "app/interface.h"
 #include "app/rooms.h"
+#include "dict/import_findings.h"
 #include "platform/services/notification_center.h"
 #include "platform/services/notification_names.h"
 #include "platform/services/texts.h"
@@ -54,13 +55,29 @@ std::optional<Dictionary> AppController::readForImport(const DiskPath& path) {
 bool AppController::installStyle(Dictionary record, const DiskPath& from) {
   const PopUpButton& stylePopup = interface_.style.stylePopup;
   const int index = stylePopup.indexOfSelectedItem();
-  if (!rooms_.exchange.install(std::move(record), index, stylePopup.titleOfSelectedItem())) return false;
-  rooms_.display.setupStyleData2(index);
+  const std::optional<Dictionary> before = rooms_.store.getStyleAtIndex(index);
+  if (!rooms_.exchange.install(record, index, stylePopup.titleOfSelectedItem())) return false;
+  const bool isNew = before != rooms_.store.getStyleAtIndex(index);
+  rooms_.news.showImported([&] { rooms_.display.setupStyleData2(index); });
   for (const Direction direction : bothDirections) rooms_.lists.updateButton(direction);
   rooms_.notices.tell(
-      {.text = filledIn(services_.texts.localized("Notice.imported"), from.name(), stylePopup.titleOfSelectedItem()),
-       .offer = Notice::Offer::undo});
+      {.text = importedInWords(record, index, from), .offer = isNew ? Notice::Offer::undo : Notice::Offer::none});
   return true;
+}
+
+// In one notice, so that what did not come along stands beside the way back.
+std::string AppController::importedInWords(const Dictionary& record, int index, const DiskPath& from) const {
+  const Texts& texts = services_.texts;
+  const DictController::Services dictionaries{services_.files, texts, services_.bundle, services_.paths,
+                                              services_.locations};
+  std::string text =
+      filledIn(texts.localized("Notice.imported"), from.name(), interface_.style.stylePopup.titleOfSelectedItem());
+  const ImportFindings found = importFindings(dictionaries, record, *rooms_.store.getStyleAtIndex(index));
+  const char* between = " ";
+  for (const std::string& sentence : importSentences(found, texts)) {
+    text += std::exchange(between, "; ") + sentence;
+  }
+  return text;
 }
 
 void AppController::sendPlist() {

@@ -44,8 +44,19 @@ bool UndoSteps::note(const StoredChange& change) {
     if (steps_.size() > mostSteps) steps_.pop_front();
     done_ = steps_.size();
   }
+  if (!taking_ && change.kind == ChangeKind::repair) noteRepair(change);
   if (!taking_ && didChange) didChange();
   return isStep;
+}
+
+// Without this an import could not be taken back whose names are not all here.
+void UndoSteps::noteRepair(const StoredChange& change) {
+  if (change.what != What::record) return;
+  const auto isOf = [&change](const StoredChange& step, const Dictionary& left) {
+    return step.what == What::record && step.index == change.index && left == change.before;
+  };
+  if (done_ > 0 && isOf(steps_[done_ - 1], steps_[done_ - 1].after)) steps_[done_ - 1].after = change.after;
+  if (done_ < steps_.size() && isOf(steps_[done_], steps_[done_].before)) steps_[done_].before = change.after;
 }
 
 const StoredChange* UndoSteps::next(Way way) const {

@@ -14,7 +14,7 @@
 // Duty: remember what each edit of the user replaced, and put it back by an edit of the same kind: one write, one
 // registration. Not: showing. A step holds its value before and after; it can be taken only while the present value is
 // the one that it left behind, so that nothing is undone over somebody else's work. What the program repairs by itself
-// and what comes from the style service are no steps.
+// belongs to the steps that left or would find what it repaired; what comes from the style service is no step.
 namespace tarvo {
 
 class UndoSteps {
@@ -38,6 +38,7 @@ class UndoSteps {
   std::function<void()> didChange;  // told when there may be other steps, or others that can be taken, than before
 
  private:
+  void noteRepair(const StoredChange& change);
   bool isPresent(const StoredChange& step, Way way) const;
   void put(const StoredChange& step, Way way);
   StyleStore& store_;

@@ -8,6 +8,7 @@
 #include "app/history/notices.h"
 #include "dict/change_words.h"
 #include "dict/display_names.h"
+#include "dict/load_findings.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/run_loop.h"
 #include "platform/services/texts.h"
@@ -53,12 +54,19 @@ StyleNews::~StyleNews() {
   with_.store.didRegister = nullptr;
 }
 
-void StyleNews::didLoad() {
+void StyleNews::didLoad(const std::vector<std::string>& defaults) {
+  if (!defaults.empty()) with_.notices.tell({.text = defaultsSentence(defaults, with_.texts)});
   const std::optional<Failure>& unread = with_.store.unread();
   if (!unread) return;
   with_.notices.tell(
       {.text = filledIn(with_.texts.localized("Notice.unreadable"), failureCauseText(*unread, with_.texts)),
        .offer = Notice::Offer::restore});
+}
+
+void StyleNews::showImported(const std::function<void()>& show) {
+  importing_ = true;
+  show();
+  importing_ = false;
 }
 
 void StyleNews::didChange(const StoredChange& change) {
@@ -67,7 +75,7 @@ void StyleNews::didChange(const StoredChange& change) {
   // The offer was to take back the step before this one.
   if (isStep && shown != nullptr && shown->offer == Notice::Offer::undo) with_.notices.dismiss();
   const std::string removed = removedDictionaries(change, with_.texts);
-  if (change.kind == ChangeKind::repair && !removed.empty()) {
+  if (change.kind == ChangeKind::repair && !removed.empty() && !importing_) {
     const auto words = changesInWords(styleChanges(Array{change.before}, Array{change.after}), with_.texts);
     with_.notices.tell({.text = filledIn(with_.texts.localized("Notice.repaired"), inOneLine(words))});
   } else if (isStep && change.kind == ChangeKind::edit && !removed.empty()) {

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 // What happens to the styles without a question becomes notices; what the user does to them becomes steps to take back.
 // Duty: listen to the store and say it once; have old earlier sets let go of, between the edits. Not: showing.
@@ -33,8 +35,10 @@ class StyleNews {
   StyleNews(const StyleNews&) = delete;
   StyleNews& operator=(const StyleNews&) = delete;
 
-  // The styles were loaded: tells when the user's could not be read.
-  void didLoad();
+  // The styles were loaded: tells when the user's could not be read, or which options got their defaults.
+  void didLoad(const std::vector<std::string>& defaults);
+  // Shows a style that was imported. Names that it loses then are the importer's to tell.
+  void showImported(const std::function<void()>& show);
   // The window has become the active one: tells when another program has changed the style file.
   void look();
 
@@ -46,7 +50,7 @@ class StyleNews {
   void thinLater();
   Collaborators with_;
   std::string toldForeign_, toldService_;
-  bool toldUnkept_ = false, toldElsewhere_ = false;
+  bool toldUnkept_ = false, toldElsewhere_ = false, importing_ = false;
   int writes_ = 0;
   std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);  // the loop may outlive this
 };

@@ -63,10 +63,36 @@ TEST_F(UndoStepsTest, anEditAfterAnUndoForgetsWhatWasUndone) {
 
 TEST_F(UndoStepsTest, nothingIsUndoneOverAValueThatChangedSince) {
   rename("New");
-  rename("Repaired", ChangeKind::repair);
+  store.setAwakening(true);
+  rename("Theirs");
   EXPECT_EQ(steps.state(Way::undo), State::changed);
   steps.take(Way::undo);
+  EXPECT_EQ(name(), "Theirs");
+}
+
+TEST_F(UndoStepsTest, anEditIsTakenBackAndMadeAgainOverWhatTheProgramRepaired) {
+  const std::string former = name();
+  rename("Former");
+  rename("New");
+  rename("Repaired", ChangeKind::repair);
+  steps.take(Way::undo);
+  EXPECT_EQ(name(), "Former");
+  rename("Former, repaired", ChangeKind::repair);
+  EXPECT_EQ(steps.state(Way::redo), State::ready);
+  steps.take(Way::undo);
+  EXPECT_EQ(name(), former);
+  EXPECT_EQ(steps.state(Way::undo), State::nothing);
+  steps.take(Way::redo);
+  steps.take(Way::redo);
   EXPECT_EQ(name(), "Repaired");
+}
+
+TEST_F(UndoStepsTest, aRepairOfAnotherStyleLeavesTheStepsAsTheyAre) {
+  rename("New");
+  rename("Repaired", ChangeKind::repair, 3);
+  steps.take(Way::undo);
+  EXPECT_EQ(name(3), "Repaired");
+  EXPECT_EQ(steps.state(Way::redo), State::ready);
 }
 
 TEST_F(UndoStepsTest, whatTheProgramRepairsIsNoStep) {
