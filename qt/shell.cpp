@@ -42,7 +42,8 @@ Shell::Shell(Product& product, QApplication& application, std::function<std::vec
       application_(application),
       engine_(product.makeEngine(product.files())),
       panels_({[this](Window& window) { return windows_.widgetOf(window); },
-               [this](QDialog& sheet, Window& host) { windows_.hang(sheet, host); }}),
+               [this](QDialog& sheet, Window& host) { windows_.hang(sheet, host); },
+               product.texts().localized("Alert.details")}),
       workspace_({product.files(), product.paths()}, std::move(running)),
       program_(product.services(product.files(), *engine_, runLoop_, panels_, windows_, workspace_)),
       binder_(product.texts(), product.bundle(), schemeFromEnvironment()) {

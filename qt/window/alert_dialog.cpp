@@ -4,13 +4,13 @@
 
 #include <QBoxLayout>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QPushButton>
 
 #include "qt/bind/binder.h"
 #include "qt/look/fonts.h"
 #include "qt/look/metrics.h"
 #include "qt/look/readable.h"
+#include "qt/window/alert_details.h"
 
 namespace tarvo {
 namespace {
@@ -26,7 +26,7 @@ void addParagraph(QBoxLayout& rows, const std::string& text, QWidget& dialog, co
 
 }  // namespace
 
-AlertDialog::AlertDialog(const Alert& alert, QWidget* parent) : QDialog(parent) {
+AlertDialog::AlertDialog(const Alert& alert, const std::string& detailsTitle, QWidget* parent) : QDialog(parent) {
   const int last = static_cast<int>(alert.buttons.size()) - 1;
   cancel_ = alert.cancelButton < 0 ? last : alert.cancelButton;
   setObjectName(QStringLiteral("alert"));
@@ -35,12 +35,8 @@ AlertDialog::AlertDialog(const Alert& alert, QWidget* parent) : QDialog(parent) 
   rows->setSizeConstraint(QLayout::SetFixedSize);
   if (!alert.title.empty()) addParagraph(*rows, alert.title, *this, headingFont(font()));
   addParagraph(*rows, alert.message, *this, font());
-  if (!alert.details.empty()) {
-    auto* details = new QPlainTextEdit(toQString(alert.details), this);
-    details->setReadOnly(true);
-    details->setTabChangesFocus(true);
-    rows->addWidget(details);
-  }
+  QPushButton* details = nullptr;
+  if (!alert.details.empty()) details = addDetails(*this, *rows, toQString(alert.details), toQString(detailsTitle));
   rows->addSpacing(metrics::rowGap);
   auto* buttons = new QHBoxLayout;
   rows->addLayout(buttons);
@@ -54,6 +50,7 @@ AlertDialog::AlertDialog(const Alert& alert, QWidget* parent) : QDialog(parent) 
     buttons->addWidget(button);
   }
   buttons->insertStretch(0);
+  if (details != nullptr) buttons->insertWidget(0, details);
 }
 
 void AlertDialog::reject() { done(cancel_); }

@@ -30,12 +30,12 @@ void QtPanels::beep() { QApplication::beep(); }
 void QtPanels::tell(const std::string& text) { std::cerr << "tarvo-manager: " << printable(text) << '\n'; }
 
 int QtPanels::runAlertPanel(const Alert& alert) {
-  AlertDialog dialog(alert, QApplication::activeWindow());
+  AlertDialog dialog(alert, surroundings_.detailsTitle, QApplication::activeWindow());
   return dialog.exec();
 }
 
 void QtPanels::beginAlertSheet(Window& host, const Alert& alert, std::function<void(int button)> ended) {
-  auto* dialog = new AlertDialog(alert, surroundings_.host(host));
+  auto* dialog = new AlertDialog(alert, surroundings_.detailsTitle, surroundings_.host(host));
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   QObject::connect(dialog, &QDialog::finished, dialog, [ended = std::move(ended)](int button) { ended(button); });
   surroundings_.hang(*dialog, host);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "platform/services/panels.h"
 
@@ -18,6 +19,7 @@ class QtPanels : public Panels {
   struct Surroundings {
     std::function<QWidget*(Window&)> host;             // the widget of a window, null when it has none (yet)
     std::function<void(QDialog&, Window& host)> hang;  // opens a dialog as a sheet over it
+    std::string detailsTitle = {};                     // of the button that brings up the details of an alert
   };
   explicit QtPanels(Surroundings surroundings);
   void beep() override;

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -51,12 +52,33 @@ TEST_F(PanelsTest, returnIsTheFirstButtonAndEscapeTheLast) {
 }
 
 TEST_F(PanelsTest, theFirstButtonStandsRightmostAndTextsAreShownAsTheyAre) {
-  AlertDialog dialog({"<b>Title</b>", "100 % of %d", {"First", "Second", "Third"}, "details"}, nullptr);
+  AlertDialog dialog({"<b>Title</b>", "100 % of %d", {"First", "Second", "Third"}, "details"}, "Details", nullptr);
   dialog.show();
   const auto left = [&](const char* name) { return dialog.findChild<QPushButton*>(name)->x(); };
   EXPECT_GT(left("alert.0"), left("alert.1"));
   EXPECT_GT(left("alert.1"), left("alert.2"));
   EXPECT_EQ(dialog.windowTitle(), "<b>Title</b>");
+}
+
+TEST_F(PanelsTest, theDetailsOfAnAlertComeUpWhereTheirButtonIsPressed) {
+  AlertDialog dialog({"Not imported", "No style.", {"Close"}, "<i>TOpt3</i> is 4"}, "Details", nullptr);
+  dialog.show();
+  auto* text = dialog.findChild<QPlainTextEdit*>();
+  ASSERT_NE(text, nullptr);
+  EXPECT_FALSE(text->isVisible());
+  EXPECT_EQ(dialog.focusWidget(), dialog.findChild<QPushButton*>("alert.0")) << "Return closes the alert";
+  dialog.findChild<QPushButton*>("alert.details")->click();
+  EXPECT_TRUE(text->isVisible());
+  EXPECT_EQ(dialog.focusWidget(), text) << "assistive tools read what has the keyboard";
+  EXPECT_EQ(text->toPlainText(), "<i>TOpt3</i> is 4");
+  EXPECT_EQ(text->accessibleName(), "Details");
+  QTest::keyClick(&dialog, Qt::Key_Escape);
+  EXPECT_EQ(dialog.result(), 0);
+}
+
+TEST_F(PanelsTest, anAlertWithoutDetailsHasNoButtonForThem) {
+  const AlertDialog dialog(question, "Details", nullptr);
+  EXPECT_EQ(dialog.findChild<QPushButton*>("alert.details"), nullptr);
 }
 
 TEST_F(PanelsTest, aSheetReturnsAtOnceHangsInItsHostAndTellsItsButton) {

@@ -50,7 +50,7 @@ TEST_F(MainWindowTest, noLabelOfItIsMarkup) {
 }
 
 TEST(PlainText, noLabelOfAnAlertIsMarkup) {
-  AlertDialog dialog({.title = name, .message = name, .buttons = {"Close"}}, nullptr);
+  AlertDialog dialog({.title = name, .message = name, .buttons = {"Close"}}, "", nullptr);
   for (const QLabel* label : dialog.findChildren<QLabel*>()) EXPECT_EQ(label->textFormat(), Qt::PlainText);
 }
 
