@@ -64,7 +64,7 @@ class EarlierStyles {
   // Its root. Fails when it is damaged.
   Result<Dictionary> read(const EarlierSet& set) const;
   // Keeps all of the last day up to 200, then the last of each hour for a week and of each day for a year, and of these
-  // the newest that fit into 256 MiB; the newest of each kind in any case. What cannot be removed stays.
+  // the newest that fit into 256 MiB; the newest of each kind in any case, which take nothing of that room. What cannot be removed stays.
   void thin();
 
  private:

@@ -34,11 +34,12 @@ class Thinning {
     const bool isOfToday = now_ - one.set.time <= days(1);
     const bool isNewest = kinds_.insert(one.set.kind).second;
     const bool isWanted = (isOfToday && ofToday_ < mostOfADay) || isLastOfItsStep(one.set);
-    const bool keeps = isNewest || (isWanted && bytes_ + one.size <= mostBytes);
-    if (!keeps) return false;
+    const bool fits = isWanted && bytes_ + one.size <= mostBytes;
+    if (!isNewest && !fits) return false;
     if (isOfToday) ++ofToday_;
     if (const auto step = stepOf(one.set.time, now_)) steps_.insert(*step);
-    bytes_ += one.size;
+    // What stays in any case takes no room from the others: a single huge file would push all of them out.
+    if (!isNewest) bytes_ += one.size;
     return true;
   }
 

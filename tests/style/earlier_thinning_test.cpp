@@ -50,9 +50,18 @@ TEST(Thinning, keepsTheNewestOnesThatFitAndOneOfEachKind) {
   sets[9].set.kind = ChangeKind::import;
   sets[9].set.time = noon - std::chrono::years(2);
   const auto gone = superfluousSets(sets, noon);
-  ASSERT_EQ(gone.size(), 7U);
-  EXPECT_EQ(gone.front().id, "2");
+  ASSERT_EQ(gone.size(), 6U);
+  EXPECT_EQ(gone.front().id, "3");
   EXPECT_EQ(gone.back().id, "8");
+}
+
+TEST(Thinning, aHugeSetThatStaysInAnyCaseTakesNoRoomFromTheOthers) {
+  auto sets = every(1min, 12);
+  sets[0].set.kind = ChangeKind::unreadable;
+  sets[0].size = std::uint64_t{300} << 20;
+  EXPECT_EQ(left(sets), 12U);
+  sets[1].size = std::uint64_t{300} << 20;
+  EXPECT_EQ(left(sets), 12U);
 }
 
 }  // namespace
