@@ -25,20 +25,25 @@ Moment systemMoment() { return std::chrono::floor<std::chrono::microseconds>(std
 EarlierStyles::EarlierStyles(FileService& files, DiskPath folder, std::function<Moment()> clock)
     : files_(files), folder_(std::move(folder)), clock_(std::move(clock)) {}
 
-// Two changes within a microsecond, or after the clock was set back, still stand in their order.
-Moment EarlierStyles::nextMoment() {
-  last_ = std::max(clock_(), last_ + 1us);
-  return last_;
-}
-
 EarlierStyles::Known& EarlierStyles::known() {
-  if (!known_) {
-    known_.emplace();
-    for (const EarlierSet& set : list()) {
-      if (!set.fingerprint.empty()) known_->emplace(set.fingerprint, set.path.name());
-    }
+  if (known_) return *known_;
+  known_.emplace();
+  for (const EarlierSet& set : list()) {
+    known_->note(set);
+    if (!set.fingerprint.empty()) known_->sets.emplace(set.fingerprint, set);
   }
   return *known_;
+}
+
+void EarlierStyles::Known::note(const EarlierSet& set) {
+  newest = std::max(newest, set.time);
+  if (set.kind <= ChangeKind::edit) lastEdit = std::max(lastEdit, set.time);
+}
+
+// Two changes within a microsecond, or after the clock was set back, still stand in their order.
+Moment EarlierStyles::nextMoment() {
+  known().newest = std::max(clock_(), known().newest + 1us);
+  return known().newest;
 }
 
 Keeping EarlierStyles::keepingFor(std::optional<ChangeKind> kind, const std::string& fingerprint,
@@ -51,28 +56,37 @@ Keeping EarlierStyles::keepingFor(std::optional<ChangeKind> kind, const std::str
   if (!kind) return keeping;
   keeping.name = fileNameOf(now, *kind, fingerprint);
   keeping.durability = *kind <= ChangeKind::edit ? Durability::quick : Durability::synced;
-  keeping.mayCopy = *kind > ChangeKind::edit || now - lastCopy_ >= betweenCopies;
+  keeping.mayCopy = *kind > ChangeKind::edit || now - known().lastEdit >= betweenCopies;
   return keeping;
 }
 
-void EarlierStyles::settle(const Keeping& keeping, const Replaced& replaced) {
-  if (replaced.wasCopied) lastCopy_ = last_;
-  const std::optional<EarlierSet> kept = earlierSetNamed(replaced.kept);
-  if (!kept || kept->fingerprint.empty()) return;
-  const auto [former, isNew] = known().try_emplace(kept->fingerprint, replaced.kept);
-  if (isNew || former->second == replaced.kept) return;
-  const std::string older = std::exchange(former->second, replaced.kept);
-  const std::optional<EarlierSet> other = earlierSetNamed(older);
-  // A set that is kept twice does no harm: what fails here is left as it is.
-  if (!other || other->kind <= ChangeKind::edit || keeping.durability != Durability::quick) {
-    static_cast<void>(files_.remove(folder_ / older));
-    return;
-  }
+void EarlierStyles::settle(const Replaced& replaced) {
+  std::optional<EarlierSet> kept = earlierSetNamed(replaced.kept);
+  if (!kept) return;
+  kept->path = folder_ / replaced.kept;
+  Known& others = known();
+  others.note(*kept);
+  if (kept->fingerprint.empty()) return;
+  const auto [former, isNew] = others.sets.try_emplace(kept->fingerprint, *kept);
+  if (!isNew) former->second = keepOnce(*kept, former->second);
+}
+
+// A set that is kept twice does no harm: what fails here is left as it is.
+EarlierSet EarlierStyles::keepOnce(const EarlierSet& newer, const EarlierSet& older) {
+  if (newer.path == older.path) return newer;
   // What lasts must not give way to what a power cut may take: it stands for the later one too.
-  const std::string renamed = fileNameOf(kept->time, other->kind, kept->fingerprint);
-  if (!files_.move(folder_ / older, folder_ / renamed)) return;
-  former->second = renamed;
-  static_cast<void>(files_.remove(folder_ / replaced.kept));
+  const bool mustStay = older.kind > ChangeKind::edit && newer.kind <= ChangeKind::edit;
+  if (!mustStay) {
+    static_cast<void>(files_.remove(older.path));
+    return newer;
+  }
+  EarlierSet renamed = older;
+  renamed.id = newer.id;
+  renamed.time = newer.time;
+  renamed.path = folder_ / fileNameOf(newer.time, older.kind, older.fingerprint);
+  if (!files_.move(older.path, renamed.path)) return newer;
+  static_cast<void>(files_.remove(newer.path));
+  return renamed;
 }
 
 std::vector<EarlierSet> EarlierStyles::list() const {

@@ -52,31 +52,36 @@ class EarlierStyles {
  public:
   EarlierStyles(FileService& files, DiskPath folder, std::function<Moment()> clock = systemMoment);
 
-  // How the file that goes is to be kept. kind: nothing when only choices of tools change, which are not kept.
-  // fingerprint: of the bytes that this program read or wrote last.
+  // How the file that goes is to be kept, later than all that is kept by now, whatever the clock says. kind: nothing
+  // when only choices of tools change, which are not kept. fingerprint: of the bytes that this program read or wrote
+  // last.
   Keeping keepingFor(std::optional<ChangeKind> kind, const std::string& fingerprint,
                      const std::optional<FileStamp>& expected);
   // After the replacement: of two with the same bytes the later one stays.
-  void settle(const Keeping& keeping, const Replaced& replaced);
+  void settle(const Replaced& replaced);
 
   const DiskPath& folder() const { return folder_; }
   std::vector<EarlierSet> list() const;  // newest first; empty where nothing can be listed
   // Its root. Fails when it is damaged.
   Result<Dictionary> read(const EarlierSet& set) const;
   // Keeps all of the last day up to 200, then the last of each hour for a week and of each day for a year, and of these
-  // the newest that fit into 256 MiB; the newest of each kind in any case, which take nothing of that room. What cannot be removed stays.
+  // the newest that fit into 256 MiB; the newest of each kind in any case, which take nothing of that room. What cannot
+  // be removed stays.
   void thin();
 
  private:
-  using Known = std::map<std::string, std::string>;  // file names by fingerprint
+  struct Known {
+    std::map<std::string, EarlierSet> sets;  // by fingerprint
+    Moment newest{}, lastEdit{};             // of all sets; of those that an edit or a repair replaced
+    void note(const EarlierSet& set);
+  };
   Known& known();
   Moment nextMoment();
+  EarlierSet keepOnce(const EarlierSet& newer, const EarlierSet& older);
   FileService& files_;
   DiskPath folder_;
   std::function<Moment()> clock_;
-  std::optional<Known> known_;
-  Moment last_{};
-  Moment lastCopy_{};
+  std::optional<Known> known_;  // what lies in the folder, listed when it is needed first
 };
 
 }  // namespace tarvo

@@ -84,7 +84,7 @@ Result<Replaced> StyleFile::replace(const std::string& bytes, std::optional<Chan
   if (isUnread) change = ChangeKind::unreadable;
   const Keeping keeping = earlier_->keepingFor(change, fingerprint_, isUnread ? std::nullopt : stamp_);
   Result<Replaced> replaced = file_.replace(bytes, keeping);
-  if (replaced) earlier_->settle(keeping, *replaced);
+  if (replaced) earlier_->settle(*replaced);
   return replaced;
 }
 

@@ -103,6 +103,53 @@ TEST_F(EarlierStylesTest, whatLastsStaysWhenAnEditMeetsTheSameContent) {
   EXPECT_EQ(sets[0].time, noon + 4s);
 }
 
+TEST_F(EarlierStylesTest, theSameContentIsKeptOnceOverRuns) {
+  write("one");
+  for (const char* name : {"two", "one", "two", "one"}) {
+    EarlierStyles another(files, folder.at("Earlier"), [this] { return now; });
+    StyleFile ofAnother(files, folder.at("styles.plist"), &another);
+    now += 1s;
+    EXPECT_TRUE(ofAnother.read());
+    EXPECT_TRUE(ofAnother.write(stylesNamed(name), ChangeKind::edit));
+  }
+  const auto sets = earlier.list();
+  ASSERT_EQ(sets.size(), 2U);
+  EXPECT_EQ(read(sets[0]), stylesNamed("two"));
+  EXPECT_EQ(read(sets[1]), stylesNamed("one"));
+}
+
+TEST_F(EarlierStylesTest, setsKeptAfterTheClockWasSetBackStillStandInTheirOrder) {
+  write("one");
+  write("two");
+  now -= std::chrono::years(3);
+  EarlierStyles another(files, folder.at("Earlier"), [this] { return now; });
+  StyleFile ofAnother(files, folder.at("styles.plist"), &another);
+  EXPECT_TRUE(ofAnother.read());
+  for (const char* name : {"three", "four"}) {
+    ofAnother.allChanged();
+    EXPECT_TRUE(ofAnother.write(stylesNamed(name), ChangeKind::edit));
+  }
+  const auto sets = earlier.list();
+  ASSERT_EQ(sets.size(), 3U);
+  EXPECT_EQ(read(sets[0]), stylesNamed("three"));
+  EXPECT_EQ(read(sets[1]), stylesNamed("two"));
+  EXPECT_EQ(read(sets[2]), stylesNamed("one"));
+}
+
+TEST_F(EarlierStylesTest, whereLinksAreRefusedEditsAreCopiedOnceAMinuteOverRuns) {
+  const auto mayCopy = [this] {
+    EarlierStyles another(files, folder.at("Earlier"), [this] { return now; });
+    return another.keepingFor(ChangeKind::edit, someFingerprint, std::nullopt).mayCopy;
+  };
+  write("one");
+  EXPECT_TRUE(mayCopy());
+  write("two");
+  now += 59s;
+  EXPECT_FALSE(mayCopy());
+  now += 1s;
+  EXPECT_TRUE(mayCopy());
+}
+
 TEST_F(EarlierStylesTest, aChoiceOfStylesForToolsKeepsNothing) {
   write("one");
   write("two", std::nullopt);
