@@ -117,9 +117,10 @@ struct Rooms {
                               nameServices_};
   StyleNaming naming{{interface_.naming, stylePopup_, myWindow_, store, flags, alerts, windows_},
                      texts_.localized(nomalStyle)};
+  OwnFiles ownFiles = ownFilesOf(services_.files, locations_, services_.paths);
   StyleExchange exchange{{interface_.exchange, stylePopup_, myWindow_, store, services_.files, services_.locations,
-                          services_.panels, alerts, windows_, texts_}};
-  QuitQuestion quitting{{store, services_.panels, texts_, locations_, windows_.covers(), myWindow_}};
+                          services_.panels, alerts, windows_, texts_, ownFiles}};
+  QuitQuestion quitting{{store, services_.panels, texts_, locations_, windows_.covers(), myWindow_, ownFiles}};
   StyleDisplay display{store, options, lists, texts_};
   UndoSteps undoSteps{store};
   UndoCommands undo{{undoSteps, interface_.style.undoMenu, interface_.style.redoMenu, interface_.manager.myTabView,

@@ -4,6 +4,8 @@
 
 #include "platform/services/file_service.h"
 #include "platform/services/locations.h"
+#include "platform/services/product_paths.h"
+#include "style/style_keys.h"
 
 namespace tarvo {
 
@@ -28,6 +30,13 @@ DiskPath placeForLock(FileService& files, const Locations& locations) {
 
 DiskPath toolListPath(const Locations& locations) {
   return locations.inHome("Library/Preferences/Wordhaven/TarvoManager.txt");
+}
+
+OwnFiles ownFilesOf(const FileService& files, const Locations& locations, const ProductPaths& paths) {
+  return {files,
+          {locations.inHome(gStylePath), userDefaultsPath(locations), lockPath(locations), toolListPath(locations),
+           paths.localEnginePath()},
+          locations.inHome(gEarlierStyles)};
 }
 
 }  // namespace tarvo

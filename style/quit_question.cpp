@@ -9,6 +9,7 @@
 #include "platform/services/locations.h"
 #include "platform/services/panels.h"
 #include "platform/services/texts.h"
+#include "style/own_files.h"
 #include "style/style_store.h"
 
 namespace tarvo {
@@ -52,8 +53,13 @@ void QuitQuestion::askWhere() {
                                .name = with_.texts.localized("QuitUnsavedFileName")},
                               [this](int returnCode, const DiskPath& path) {
                                 isAsking_ = false;
-                                if (returnCode == 1) quitAfter(with_.store.writeCopy(path));
+                                if (returnCode == 1) quitAfter(saveAt(path));
                               });
+}
+
+Result<> QuitQuestion::saveAt(const DiskPath& path) {
+  if (Result<> other = with_.ownFiles.checkOther(path); !other) return other;
+  return with_.store.writeCopy(path);
 }
 
 void QuitQuestion::quitAfter(const Result<>& saved) {

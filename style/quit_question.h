@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 
 // The question of who quits while the last write of the styles has failed: what is in memory alone would be lost.
 // Duty: ask once a quit, over the window; try the write again, or write all styles where the user says. Not: deciding
@@ -13,6 +14,7 @@ namespace tarvo {
 
 class Covers;
 class Locations;
+class OwnFiles;
 class Panels;
 class StyleStore;
 class Texts;
@@ -28,6 +30,7 @@ class QuitQuestion {
     const Locations& locations;
     Covers& covers;
     Window& host;
+    const OwnFiles& ownFiles;
   };
   explicit QuitQuestion(const Collaborators& with) : with_(with) {}
   // quit: what ends the program; run at once, after an answer that lets it, or never.
@@ -38,6 +41,7 @@ class QuitQuestion {
   void show();
   void answered(int button);
   void askWhere();
+  Result<> saveAt(const DiskPath& path);
   void quitAfter(const Result<>& saved);
   Collaborators with_;
   std::function<void()> quit_;

@@ -9,6 +9,7 @@
 #include "platform/services/locations.h"
 #include "platform/services/panels.h"
 #include "platform/services/texts.h"
+#include "style/own_files.h"
 #include "style/pane_alerts.h"
 #include "style/style_check.h"
 #include "style/style_edits.h"
@@ -89,7 +90,9 @@ void StyleExchange::askWhereToExport(int index, Window& host) {
 void StyleExchange::didEndSaveSheet(int returnCode, const DiskPath& path) {
   if (returnCode != 1) return;
   const int index = with_.stylePopup.indexOfSelectedItem();
-  if (!writeStyleFile(with_.store, index, with_.files, path)) tellThatNothingWasExported();
+  Result<> done = with_.ownFiles.checkOther(path);
+  if (done) done = writeStyleFile(with_.store, index, with_.files, path);
+  if (!done) tellThatNothingWasExported(done.error());
 }
 
 void StyleExchange::tellThatNothingWasImported(const std::string& path, const MessageParts& why) {
@@ -99,9 +102,10 @@ void StyleExchange::tellThatNothingWasImported(const std::string& path, const Me
                                 with_.texts.localized("ImportPlistErrorMessage"), details);
 }
 
-void StyleExchange::tellThatNothingWasExported() {
+void StyleExchange::tellThatNothingWasExported(const std::optional<Failure>& why) {
   with_.alerts.runAlertWithText(with_.texts.localized("ExportPlistErrorHeader"),
-                                with_.texts.localized("ExportPlistErrorMessage"));
+                                with_.texts.localized("ExportPlistErrorMessage"),
+                                why ? why->path + ": " + joined(failureParts(*why, with_.texts)) : std::string());
 }
 
 }  // namespace tarvo

@@ -8,6 +8,7 @@
 #include "platform/controls/controls.h"
 #include "platform/controls/windows.h"
 #include "platform/plist/property_list.h"
+#include "platform/services/result.h"
 #include "platform/text/paths.h"
 
 // Styles as files of their own ("*.whstyle"): a property list whose root is one record of the style file.
@@ -16,6 +17,7 @@ namespace tarvo {
 
 class FileService;
 class Locations;
+class OwnFiles;
 class PaneAlerts;
 class Panels;
 class StyleStore;
@@ -45,6 +47,7 @@ class StyleExchange {
     PaneAlerts& alerts;
     Windows& windows;
     const Texts& texts;
+    const OwnFiles& ownFiles;
   };
   explicit StyleExchange(const Collaborators& with) : with_(with) {}
 
@@ -69,7 +72,7 @@ class StyleExchange {
  private:
   void askWhereToExport(int index, Window& host);
   void didEndSaveSheet(int returnCode, const DiskPath& path);
-  void tellThatNothingWasExported();
+  void tellThatNothingWasExported(const std::optional<Failure>& why = std::nullopt);
   void tellThatNothingWasImported(const std::string& path, const MessageParts& why);
   Collaborators with_;
 };

@@ -6,6 +6,7 @@
 
 #include "app/product.h"
 #include "app/product_defaults.h"
+#include "app/user_files.h"
 #include "console/verbs/dictionary_services.h"
 #include "console/verbs/option_words.h"
 #include "console/verbs/style_session.h"
@@ -92,7 +93,9 @@ ExitStatus StyleExportCommand::run(Console& console) {
   StyleSession session(console);
   const DiskPath file = absolutePath(file_);
   return session.read(style_, [&](int index) -> std::optional<Problem> {
-    const Result<> written = writeStyleFile(session.store(), index, console.product.files(), file);
+    Product& product = console.product;
+    Result<> written = ownFilesOf(product.files(), product.locations(), product.paths()).checkOther(file);
+    if (written) written = writeStyleFile(session.store(), index, product.files(), file);
     return written ? std::nullopt : std::optional<Problem>(written.error());
   });
 }

@@ -65,7 +65,8 @@ enum class Reason {
   overLimit,        // a list of more than largestListFile (plist_file.h)
   plainPassword,    // it asks for a name and a password, which go out over an encrypted connection only
   noProgram,        // the desktop has nothing that opens it
-  noAddress         // no address of it is configured
+  noAddress,        // no address of it is configured
+  ownFile           // what the manager keeps for itself is no place for something else
 };
 const std::error_category& reasonCategory();
 inline std::error_code make_error_code(Reason reason) { return {static_cast<int>(reason), reasonCategory()}; }

@@ -6,6 +6,7 @@
 #include "platform/services/locations.h"
 #include "platform/services/texts.h"
 #include "platform/services/user_defaults.h"
+#include "style/own_files.h"
 #include "style/pane_alerts.h"
 #include "style/style_exchange.h"
 #include "style/style_store.h"
@@ -71,8 +72,9 @@ struct ExchangeWorld {
   ExportOutlets outlets;
   PaneAlerts alerts{panels, texts};
   Windows windows{host, runLoop};
+  OwnFiles ownFiles{files, {DiskPath("/styles.plist"), DiskPath("/defaults.plist")}, DiskPath("/Earlier")};
   StyleExchange exchange{
-      {outlets, pane.stylePopup, pane.myWindow, store, files, locations, panels, alerts, windows, texts}};
+      {outlets, pane.stylePopup, pane.myWindow, store, files, locations, panels, alerts, windows, texts, ownFiles}};
 };
 
 }  // namespace tarvo::test

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "style/quit_question.h"
 
+#include "style/own_files.h"
+
 #include <gtest/gtest.h>
 
 #include "platform/controls/covers.h"
@@ -65,7 +67,8 @@ class QuitQuestionTest : public testing::Test {
   UserDefaults defaults{files, DiskPath("/home/defaults.plist")};
   StyleStore store{files, engine, defaults, DiskPath(styles), DiskPath("/seed.plist")};
   Texts texts;
-  QuitQuestion question{{store, panels, texts, locations, covers, host.window}};
+  OwnFiles ownFiles{files, {DiskPath(styles)}, DiskPath("/home/Earlier")};
+  QuitQuestion question{{store, panels, texts, locations, covers, host.window, ownFiles}};
   std::string before;
   int quits = 0;
 };
@@ -136,6 +139,16 @@ TEST_F(QuitQuestionTest, staysWhereThePanelIsCancelledOrTheOtherPlaceFailsToo) {
   askAndAnswer(saveAs);
   panels.endSavePanel(1, elsewhere);
   EXPECT_EQ(quits, 0);
+  EXPECT_EQ(panels.alerts.back().title, "QuitStillUnsavedHeader");
+}
+
+TEST_F(QuitQuestionTest, theStyleFileItselfIsNoOtherPlace) {
+  failToSave();
+  files.allowAll();
+  askAndAnswer(saveAs);
+  panels.endSavePanel(1, styles);
+  EXPECT_EQ(quits, 0);
+  EXPECT_EQ(files.bytes(styles), before);
   EXPECT_EQ(panels.alerts.back().title, "QuitStillUnsavedHeader");
 }
 

@@ -50,6 +50,17 @@ TEST_F(StyleExchangeTest, writesTheRecordOfTheMemoryAndNothingElse) {
   EXPECT_EQ(world_.defaults.find("LastUpdate"), nullptr);
 }
 
+TEST_F(StyleExchangeTest, writesNothingOverWhatTheManagerKeepsForItself) {
+  world_.files.put("/Earlier/set.plist", "earlier");
+  for (const char* path : {"/styles.plist", "/defaults.plist", "/Earlier/set.plist", "/Earlier/new.whstyle"}) {
+    world_.log.clear();
+    world_.exchange.exportStyle();
+    save(path);
+    EXPECT_EQ(world_.log, (Log{"save panel", exportFailed})) << path;
+  }
+  EXPECT_EQ(world_.files.writes(), 0);
+}
+
 TEST_F(StyleExchangeTest, exportsNoOptionThatTheStyleLacks) {
   Dictionary style = record(1);
   style.set("EJ", Dictionary());

@@ -104,6 +104,27 @@ TEST_F(TravelVerbs, anExportThatCannotBeWrittenIsTold) {
   EXPECT_FALSE(fs::exists(files_ / "x.whstyle"));
 }
 
+TEST_F(TravelVerbs, aStyleIsNotExportedOverWhatTheManagerKeepsForItself) {
+  namespace fs = std::filesystem;
+  ASSERT_EQ(run({"style", "set", "1", "Opt2=2"}).status, 0);
+  const std::string earlier = root_.home() + "/Library/Application Support/Wordhaven/Tarvo Styles";
+  const std::string settings = root_.home() + "/Library/Preferences/com.wordhaven.TarvoManager.plist";
+  const std::string set = fs::directory_iterator(earlier)->path();
+  fs::create_symlink(stylePath(), files_ / "to the styles");
+  fs::create_symlink(set, files_ / "to a set");
+  fs::create_symlink(fs::path(settings).parent_path(), files_ / "preferences");
+  const auto before = tree();
+  for (const std::string& path : {stylePath(), set, earlier + "/new.whstyle", settings, files_ / "to the styles",
+                                  files_ / "to a set", files_ / "preferences/com.wordhaven.TarvoManager.lock"}) {
+    const ToolResult result = runInEnglish({"style", "export", "1", path});
+    EXPECT_EQ(result.status, 1) << path;
+    EXPECT_EQ(result.err, told(path,
+                               "cannot be written; it is a file in which the manager keeps something itself; "
+                               "choose another name or folder"));
+  }
+  EXPECT_EQ(tree(), before);
+}
+
 TEST_F(TravelVerbs, aStyleTravelsFromOneHomeToAnother) {
   expectDone({"style", "export", "3", files_ / "x.whstyle"});
   putStyles("root4.plist");
