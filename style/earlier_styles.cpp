@@ -8,6 +8,7 @@
 
 #include "platform/plist/plist_reader.h"
 #include "platform/services/file_service.h"
+#include "platform/services/plist_file.h"
 #include "platform/text/fingerprint.h"
 
 namespace tarvo {
@@ -28,7 +29,9 @@ EarlierStyles::EarlierStyles(FileService& files, DiskPath folder, std::function<
 EarlierStyles::Known& EarlierStyles::known() {
   if (known_) return *known_;
   known_.emplace();
-  for (const EarlierSet& set : list()) {
+  const Result<std::vector<EarlierSet>> sets = list();
+  if (!sets) return *known_;  // what cannot be listed is kept a second time at worst
+  for (const EarlierSet& set : *sets) {
     known_->note(set);
     if (!set.fingerprint.empty()) known_->sets.emplace(set.fingerprint, set);
   }
@@ -89,10 +92,13 @@ EarlierSet EarlierStyles::keepOnce(const EarlierSet& newer, const EarlierSet& ol
   return renamed;
 }
 
-std::vector<EarlierSet> EarlierStyles::list() const {
+Result<std::vector<EarlierSet>> EarlierStyles::list() const {
   std::vector<EarlierSet> sets;
+  const Result<FileService::Kind> kind = files_.kind(folder_);
+  if (!kind) return Failure{folder_.text(), Attempt::list, kind.error().cause};
+  if (*kind == FileService::Kind::absent) return sets;
   const Result<std::vector<std::string>> names = files_.list(folder_);
-  if (!names) return sets;  // nobody has kept anything, or nothing of it can be had
+  if (!names) return names.error();
   for (const std::string& name : *names) {
     std::optional<EarlierSet> set = earlierSetNamed(name);
     if (!set) continue;
@@ -104,7 +110,7 @@ std::vector<EarlierSet> EarlierStyles::list() const {
 }
 
 Result<Dictionary> EarlierStyles::read(const EarlierSet& set) const {
-  const Result<std::string> bytes = files_.read(set.path);
+  const Result<std::string> bytes = readListFile(files_, set.path);
   if (!bytes) return bytes.error();
   const bool isDamaged = !set.fingerprint.empty() && set.fingerprint != fingerprint(*bytes);
   if (isDamaged) return Failure{set.path.text(), Attempt::read, Reason::damaged};

@@ -61,8 +61,8 @@ class EarlierStyles {
   void settle(const Replaced& replaced);
 
   const DiskPath& folder() const { return folder_; }
-  std::vector<EarlierSet> list() const;  // newest first; empty where nothing can be listed
-  // Its root. Fails when it is damaged.
+  Result<std::vector<EarlierSet>> list() const;  // newest first; none where nothing was kept yet
+  // Its root. Fails when it is damaged, and for what is larger than any style file.
   Result<Dictionary> read(const EarlierSet& set) const;
   // Keeps all of the last day up to 200, then the last of each hour for a week and of each day for a year, and of these
   // the newest that fit into 256 MiB; the newest of each kind in any case, which take nothing of that room. What cannot
@@ -77,6 +77,7 @@ class EarlierStyles {
   };
   Known& known();
   Moment nextMoment();
+  void identify(EarlierSet& set);
   EarlierSet keepOnce(const EarlierSet& newer, const EarlierSet& older);
   FileService& files_;
   DiskPath folder_;

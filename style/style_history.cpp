@@ -30,8 +30,8 @@ const Dictionary* formerRecord(const Array& styles, const std::string& name, std
 
 }  // namespace
 
-StyleHistory::StyleHistory(const EarlierStyles& earlier, Array present)
-    : earlier_(earlier), present_(std::move(present)), sets_(earlier.list()) {}
+StyleHistory::StyleHistory(const EarlierStyles& earlier, std::vector<EarlierSet> sets, Result<Array> present)
+    : earlier_(earlier), present_(std::move(present)), sets_(std::move(sets)) {}
 
 const Result<Array>& StyleHistory::stylesOf(std::size_t place) {
   constexpr std::size_t mostRead = 2;
@@ -43,29 +43,32 @@ const Result<Array>& StyleHistory::stylesOf(std::size_t place) {
 }
 
 // What followed: the next newer set that can be read, else the present one.
-const Array& StyleHistory::followerOf(std::size_t place) {
+const Result<Array>& StyleHistory::followerOf(std::size_t place) {
   while (place > 0) {
-    if (const Result<Array>& styles = stylesOf(--place)) return *styles;
+    if (const Result<Array>& styles = stylesOf(--place)) return styles;
   }
   return present_;
 }
 
 const HistoryEntry& StyleHistory::entry(std::size_t place) {
   if (const auto known = entries_.find(place); known != entries_.end()) return known->second;
-  HistoryEntry entry{.set = sets_[place], .changes = {}, .damage = std::nullopt};
-  const Array follower = followerOf(place);
-  if (const Result<Array>& styles = stylesOf(place)) {
-    entry.changes = styleChanges(*styles, follower);
-  } else {
+  HistoryEntry entry{.set = sets_[place], .changes = {}, .damage = {}, .unread = {}};
+  const Result<Array> follower = followerOf(place);
+  const Result<Array>& styles = stylesOf(place);
+  if (!styles) {
     entry.damage = styles.error();
+  } else if (!follower) {
+    entry.unread = follower.error();
+  } else {
+    entry.changes = styleChanges(*styles, *follower);
   }
   return entries_.emplace(place, std::move(entry)).first->second;
 }
 
-std::optional<EarlierSet> setWithId(const EarlierStyles& earlier, const std::string& word) {
+std::optional<EarlierSet> setWithId(std::vector<EarlierSet> sets, const std::string& word) {
   std::optional<EarlierSet> found;
   if (word.empty()) return found;
-  for (EarlierSet& set : earlier.list()) {
+  for (EarlierSet& set : sets) {
     if (set.id == word) return std::move(set);
     if (!set.id.starts_with(word)) continue;
     if (found) return std::nullopt;

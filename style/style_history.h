@@ -19,29 +19,30 @@ struct HistoryEntry {
   EarlierSet set;
   std::vector<StyleChange> changes;  // from it to the set that followed it, or to the present one
   std::optional<Failure> damage;     // why it cannot be brought back
+  std::optional<Failure> unread;     // why nobody knows what followed it: the present styles cannot be read
 };
 
-// Duty: the earlier sets as they are listed now, newest first, each with what was done to it. A set is read when its
+// Duty: the earlier sets as they were listed, newest first, each with what was done to it. A set is read when its
 // entry is asked for. Not: bringing one back.
 class StyleHistory {
  public:
   // present: the styles as they are. earlier outlives it.
-  StyleHistory(const EarlierStyles& earlier, Array present);
+  StyleHistory(const EarlierStyles& earlier, std::vector<EarlierSet> sets, Result<Array> present);
   const std::vector<EarlierSet>& sets() const { return sets_; }
   const HistoryEntry& entry(std::size_t place);
 
  private:
   const Result<Array>& stylesOf(std::size_t place);
-  const Array& followerOf(std::size_t place);
+  const Result<Array>& followerOf(std::size_t place);
   const EarlierStyles& earlier_;
-  Array present_;
+  Result<Array> present_;
   std::vector<EarlierSet> sets_;
   std::map<std::size_t, HistoryEntry> entries_;
   std::map<std::size_t, Result<Array>> read_;  // the two that were read last: neighbours are asked for in turn
 };
 
 // The set whose id is the word or begins with it; nothing when there is none, or more than one.
-std::optional<EarlierSet> setWithId(const EarlierStyles& earlier, const std::string& word);
+std::optional<EarlierSet> setWithId(std::vector<EarlierSet> sets, const std::string& word);
 
 // Brings an earlier set back, with the choices of the tools; all of it where the store holds nothing. One write; it is
 // an edit like any other.

@@ -35,7 +35,9 @@ std::string joinedLines(const std::vector<std::string>& words, const char* betwe
 
 void EarlierStylesPanel::run(const std::string& id) {
   EarlierStylesOutlets& outlets = with_.outlets;
-  history_.emplace(with_.earlier, stylesIn(with_.store.root()));
+  Result<std::vector<EarlierSet>> sets = with_.earlier.list();
+  unlisted_ = sets ? std::nullopt : std::optional(sets.error());
+  history_.emplace(with_.earlier, sets ? std::move(*sets) : std::vector<EarlierSet>(), stylesIn(with_.store.root()));
   outlets.earlierStylesTable.deselectAll();
   outlets.earlierStylesTable.reloadData();
   if (const int row = rowOfSet(id); row >= 0) {
@@ -67,7 +69,7 @@ std::optional<std::size_t> EarlierStylesPanel::chosenRow() const {
 void EarlierStylesPanel::selectionDidChange(TableView&) {
   const std::optional<std::size_t> row = chosenRow();
   chosen_.reset();
-  std::string text = row ? std::string() : with_.texts.localized("History.none");
+  std::string text = unlisted_ ? failureText(*unlisted_, with_.texts) : with_.texts.localized("History.none");
   if (row && history_) {
     Result<Dictionary> root = with_.earlier.read(history_->sets()[*row]);
     text = root ? effectOf(*root) : failureText(root.error(), with_.texts);

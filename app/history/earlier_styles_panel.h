@@ -66,6 +66,7 @@ class EarlierStylesPanel : public TableDataSource, public TableDelegate {
   void didRestore(const std::string& key, const std::string& value);
   Collaborators with_;
   std::optional<StyleHistory> history_;
+  std::optional<Failure> unlisted_;   // why nobody knows which sets there are
   std::optional<Dictionary> chosen_;  // the root of the chosen set, when it can be brought back
 };
 

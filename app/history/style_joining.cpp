@@ -52,7 +52,9 @@ Result<StyleJoining::Sets> StyleJoining::setsFor(const std::string& id) const {
     if (!theirs) return theirs.error();
     return Sets{.base = with_.store.lastStored(), .theirs = std::move(*theirs)};
   }
-  const std::optional<EarlierSet> set = setWithId(with_.earlier, id);
+  Result<std::vector<EarlierSet>> sets = with_.earlier.list();
+  if (!sets) return sets.error();
+  const std::optional<EarlierSet> set = setWithId(std::move(*sets), id);
   const std::optional<StyleStore::ForeignSet>& foreign = with_.store.foreign();
   if (!set || !foreign) return Failure{with_.earlier.folder().text(), Attempt::read, Reason::noStyle};
   Result<Dictionary> theirs = with_.earlier.read(*set);

@@ -87,18 +87,7 @@ class Examination {
     styleFile(product_.locations().inHome(gStylePath), "styles", "made at the first start");
     styleFile(product_.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist))),
               "styles that came with the product", "there is nothing to start with");
-    keptCopies(product_.locations().inHome(gStylePath));
-  }
-
-  // They lie there until somebody has looked after them.
-  void keptCopies(const DiskPath& path) {
-    const Result<std::vector<std::string>> names = product_.files().list(path.folder());
-    if (!names) return;  // told for the file itself
-    for (const std::string& name : *names) {
-      if (!name.starts_with(path.name() + ".unreadable")) continue;
-      add(path.folder() / name, "kept copy", "problem",
-          "a style file that could not be read; bring its styles back with restore, then remove the copy");
-    }
+    for (Finding& finding : examineFormerStyles(product_)) findings_.push_back(std::move(finding));
   }
 
   void settings() {

@@ -3,12 +3,12 @@
 #include "console/verbs/history_commands.h"
 
 #include "app/product.h"
-#include "console/verbs/style_reading.h"
 #include "console/verbs/style_session.h"
 #include "console/verbs/text_table.h"
 #include "dict/change_words.h"
 #include "platform/plist/json.h"
 #include "platform/services/failure_text.h"
+#include "platform/services/plist_file.h"
 #include "style/style_history.h"
 #include "style/style_keys.h"
 
@@ -20,6 +20,7 @@ Refusal noSuchSet(const std::string& id) { return {id, "Refusal.NoEarlierStyles"
 
 std::vector<std::string> wordsOf(const HistoryEntry& entry, const Texts& texts) {
   if (entry.damage) return {failureCauseText(*entry.damage, texts)};
+  if (entry.unread) return {texts.localized("History.presentUnread")};
   return changesInWords(entry.changes, texts);
 }
 
@@ -31,19 +32,34 @@ Json::Object jsonOf(const HistoryEntry& entry, const Texts& texts) {
           {"changed", Json::List(words.begin(), words.end())}};
 }
 
+// What a start would show; that the user's cannot be read is told.
+Result<Array> presentStyles(Console& console) {
+  Product& product = console.product;
+  Result<Dictionary> root = StyleFile(product.files(), product.locations().inHome(gStylePath)).read();
+  if (!root && isAbsence(root.error()))
+    root = readDictionary(product.files(), product.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist))));
+  if (!root) {
+    const Failure& failure = root.error();
+    note(console, {failure.path, "Refusal.PresentUnread", failureParts(failure, console.textsToTell()).cause});
+    return failure;
+  }
+  const Array* styles = root->array(keyNameStyle);
+  return styles != nullptr ? *styles : Array();
+}
+
 }  // namespace
 
 ExitStatus HistoryCommand::run(Console& console) {
-  const ReadStyles styles = readStyles(console);
-  if (!styles.root) return styles.status;
   const EarlierStyles earlier(console.product.files(), console.product.locations().inHome(gEarlierStyles));
-  const std::optional<EarlierSet> only = setWithId(earlier, id_);
+  Result<std::vector<EarlierSet>> sets = earlier.list();
+  if (!sets) return tell(console, sets.error());
+  const std::optional<EarlierSet> only = setWithId(*sets, id_);
   if (!id_.empty() && !only) return tell(console, noSuchSet(id_));
+  const Result<Array> present = presentStyles(console);
   const Texts texts = console.textsToTell();
-  const Array* present = styles.root->array(keyNameStyle);
   Json::List list;
   std::vector<std::vector<std::string>> rows;
-  StyleHistory history(earlier, present != nullptr ? *present : Array());
+  StyleHistory history(earlier, std::move(*sets), present);
   for (std::size_t place = 0; place < history.sets().size(); ++place) {
     if (only && history.sets()[place].id != only->id) continue;
     const HistoryEntry& entry = history.entry(place);
@@ -60,12 +76,14 @@ ExitStatus HistoryCommand::run(Console& console) {
   } else {
     writeTable(console.out, rows);
   }
-  return styles.status;
+  return present ? ExitStatus::done : ExitStatus::refused;
 }
 
 ExitStatus RestoreCommand::run(Console& console) {
   StyleSession session(console);
-  const std::optional<EarlierSet> set = setWithId(session.earlier(), id_);
+  const Result<std::vector<EarlierSet>> sets = session.earlier().list();
+  if (!sets) return tell(console, sets.error());
+  const std::optional<EarlierSet> set = setWithId(*sets, id_);
   if (!set) return tell(console, noSuchSet(id_));
   const Result<Dictionary> root = session.earlier().read(*set);
   if (!root) return tell(console, root.error());

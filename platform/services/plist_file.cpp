@@ -13,18 +13,8 @@ namespace tarvo {
 
 namespace {
 
-// Looked at first: what is too large is not taken into memory. It may grow in between.
-Result<std::string> readBytes(const FileService& files, const DiskPath& path) {
-  const Failure tooLarge{path.text(), Attempt::read, Reason::overLimit};
-  const Result<FileStamp> stamp = files.stamp(path);
-  if (stamp && stamp->size > largestListFile) return tooLarge;
-  Result<std::string> bytes = files.read(path);
-  if (bytes && bytes->size() > largestListFile) return tooLarge;
-  return bytes;
-}
-
 Result<Dictionary> readDictionary(const FileService& files, const DiskPath& path, std::string* content) {
-  Result<std::string> bytes = readBytes(files, path);
+  Result<std::string> bytes = readListFile(files, path);
   if (!bytes) return bytes.error();
   std::expected<PropertyList, PlistDamage> root = parsePropertyList(*bytes);
   if (content != nullptr) *content = std::move(*bytes);
@@ -37,6 +27,16 @@ Result<Dictionary> readDictionary(const FileService& files, const DiskPath& path
 }
 
 }  // namespace
+
+// It may grow in between.
+Result<std::string> readListFile(const FileService& files, const DiskPath& path) {
+  const Failure tooLarge{path.text(), Attempt::read, Reason::overLimit};
+  const Result<FileStamp> stamp = files.stamp(path);
+  if (stamp && stamp->size > largestListFile) return tooLarge;
+  Result<std::string> bytes = files.read(path);
+  if (bytes && bytes->size() > largestListFile) return tooLarge;
+  return bytes;
+}
 
 Result<Dictionary> readDictionary(const FileService& files, const DiskPath& path) {
   return readDictionary(files, path, nullptr);
@@ -56,8 +56,13 @@ bool PlistFile::mayHoldBytes() const {
   return !kind || *kind == FileService::Kind::file;
 }
 
+bool PlistFile::isAnother(const Keeping& keeping) const {
+  const Result<FileStamp> stamp = files_.stamp(path_);
+  return !keeping.folder.empty() && keeping.expected && stamp && *stamp != *keeping.expected;
+}
+
 Result<Replaced> PlistFile::replace(std::string_view bytes, Keeping keeping) {
-  if (isUnread()) {
+  if (isUnread() && !isAnother(keeping)) {
     const Result<> kept = files_.keepUnreadable(path_);
     if (!kept && keeping.folder.empty()) return kept.error();
     if (!kept) keeping.durability = Durability::sure;

@@ -21,6 +21,8 @@ class FileService;
 // memory.
 inline constexpr std::size_t largestListFile = std::size_t{64} << 20;
 
+// The bytes of a list, which are looked at first: what is too large is not taken into memory.
+Result<std::string> readListFile(const FileService& files, const DiskPath& path);
 // The root dictionary of a property-list file that is only read. A damaged one fails with the place, where it is known.
 Result<Dictionary> readDictionary(const FileService& files, const DiskPath& path);
 
@@ -38,11 +40,12 @@ class PlistFile {
   Result<> write(std::string_view bytes);
   Result<> write(const Dictionary& root);
   // The same; what could not be read is kept beside the file, and where that cannot be, in the keeping's folder: where
-  // neither works nothing is replaced.
+  // neither works nothing is replaced. Not where another file stands there by now, for which the keeping cares.
   Result<Replaced> replace(std::string_view bytes, Keeping keeping);
 
  private:
   bool mayHoldBytes() const;
+  bool isAnother(const Keeping& keeping) const;
   FileService& files_;
   DiskPath path_;
   bool mustKeep_ = false;  // there are, or may be, bytes that nobody could read, and no kept copy of them yet

@@ -11,6 +11,7 @@ namespace {
 class HistoryVerbs : public VerbTest {
  protected:
   HistoryVerbs() { putStyles("root4.plist"); }
+  static constexpr const char* earlier_ = "root/Users/taro/Library/Application Support/Wordhaven/Tarvo Styles";
   std::vector<std::string> ids() {
     std::vector<std::string> ids;
     std::istringstream lines(run({"history"}).out);
@@ -109,6 +110,45 @@ TEST_F(HistoryVerbs, bringsStylesBackAfterTheFileWasDamaged) {
   const ToolResult result = run({"restore", id});
   EXPECT_EQ(result.status, 0) << result.err;
   EXPECT_EQ(run({"styles"}).out, styles);
+}
+
+TEST_F(HistoryVerbs, aSetWhoseBytesWereChangedIsNotBroughtBack) {
+  ASSERT_EQ(run({"style", "set", "1", "Opt2=2"}).status, 0);
+  const std::string id = ids().front();
+  const std::string set = std::string(earlier_) + "/" + root_.folder().names(earlier_).at(0);
+  root_.folder().write(set, root_.folder().read(set) + "<!-- forged -->");
+  const auto before = treeButLock();
+  const ToolResult result = runInEnglish({"restore", id});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.out, "");
+  EXPECT_TRUE(result.err.starts_with("tarvoctl: " + root_.folder() / set + ": cannot be read; ")) << result.err;
+  EXPECT_EQ(treeButLock(), before);
+  EXPECT_EQ(run({"history"}).status, 0);
+}
+
+TEST_F(HistoryVerbs, setsThatCannotBeListedAreNotDenied) {
+  root_.folder().write(earlier_, "no folder");
+  const std::string folder = root_.folder() / earlier_;
+  const std::string told = "tarvoctl: " + folder + ": cannot be listed; what should be a folder is none";
+  for (const std::vector<std::string>& words :
+       {std::vector<std::string>{"history"}, {"history", "2026"}, {"restore", "2026"}}) {
+    const ToolResult result = runInEnglish(words);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out, "");
+    EXPECT_TRUE(result.err.starts_with(told)) << result.err;
+  }
+  EXPECT_NE(run({"doctor"}).out.find("problem  earlier styles "), std::string::npos);
+}
+
+TEST_F(HistoryVerbs, saysThatThePresentStylesCannotBeRead) {
+  ASSERT_EQ(run({"style", "rename", "1", "Patents"}).status, 0);
+  ASSERT_EQ(run({"style", "rename", "1", "Letters"}).status, 0);
+  root_.folder().write(std::string("root/Users/taro/") + styleFile, "damaged");
+  const ToolResult result = runInEnglish({"history"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_NE(result.out.find("edit  not known: the present styles cannot be read\n"), std::string::npos) << result.out;
+  EXPECT_NE(result.out.find("edit  Patents: renamed"), std::string::npos) << result.out;
+  EXPECT_TRUE(result.err.starts_with("tarvoctl: " + stylePath() + ": the present styles cannot be read")) << result.err;
 }
 
 }  // namespace
