@@ -33,28 +33,32 @@ std::span<const std::string> StyleFile::encode(const Dictionary& root) {
   return encoded_;
 }
 
-Result<Dictionary> StyleFile::readOnce() {
-  // Somebody may replace the file between a look at it and the reading.
+// As it stood before the reading: whoever replaces it meanwhile has another one there, whichever of them was read.
+Result<Dictionary> StyleFile::readOnce(bool& isStill) {
   const auto stamped = [this] {
     const Result<FileStamp> stamp = files_.stamp(path());
     return stamp ? std::optional(*stamp) : std::nullopt;
   };
   std::string bytes;
-  const std::optional<FileStamp> before = stamped();
-  Result<Dictionary> root = file_.read(&bytes);
   stamp_ = stamped();
-  fingerprint_ = bytes.empty() || before != stamp_ ? std::string() : fingerprint(bytes);
-  if (before != stamp_) stamp_.reset();
+  Result<Dictionary> root = file_.read(&bytes);
+  isStill = stamp_ == stamped();
+  fingerprint_ = bytes.empty() || !isStill ? std::string() : fingerprint(bytes);
   return root;
 }
 
 Result<Dictionary> StyleFile::read() {
-  return readPatiently([this] { return readOnce(); });
+  constexpr int readingsMore = 2;
+  bool isStill = true;
+  Result<Dictionary> root = readPatiently([&] { return readOnce(isStill); });
+  for (int again = 0; again < readingsMore && !isStill; ++again) root = readOnce(isStill);
+  return root;
 }
 
 bool StyleFile::isChangedElsewhere() const {
+  if (!stamp_ && file_.isUnread()) return false;  // nobody knows what was there
   const Result<FileStamp> now = files_.stamp(path());
-  return stamp_ && now && *now != *stamp_;
+  return now && stamp_ != *now;
 }
 
 std::string StyleFile::bytesOf(const Dictionary& root) {
@@ -82,13 +86,17 @@ Result<Replaced> StyleFile::replace(const std::string& bytes, std::optional<Chan
   if (earlier_ == nullptr) return file_.replace(bytes, {});
   const bool isUnread = file_.isUnread();
   if (isUnread) change = ChangeKind::unreadable;
-  const Keeping keeping = earlier_->keepingFor(change, fingerprint_, isUnread ? std::nullopt : stamp_);
+  if (isUnread && !stamp_) {
+    if (const Result<FileStamp> now = files_.stamp(path())) stamp_ = *now;
+  }
+  const Keeping keeping = earlier_->keepingFor(change, fingerprint_, stamp_);
   Result<Replaced> replaced = file_.replace(bytes, keeping);
   if (replaced) earlier_->settle(*replaced);
   return replaced;
 }
 
 Result<> StyleFile::write(const Dictionary& root, std::optional<ChangeKind> change) {
+  replaced_ = {};
   const std::string bytes = bytesOf(root);
   if (bytes.size() > largestListFile) return Failure{path().text(), Attempt::write, Reason::overLimit};
   std::string written = fingerprint(bytes);

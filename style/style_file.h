@@ -22,7 +22,7 @@ class StyleFile {
   StyleFile(FileService& files, DiskPath path, EarlierStyles* earlier = nullptr)
       : files_(files), file_(files, std::move(path)), earlier_(earlier) {}
   const DiskPath& path() const { return file_.path(); }
-  // What may be out of reach for an instant is tried three times within a fifth of a second.
+  // What may be out of reach for an instant, or is replaced meanwhile, is tried three times within a fifth of a second.
   Result<Dictionary> read();
   // The same once, and as if it had not been read.
   Result<Dictionary> readPresent() const { return readDictionary(files_, path()); }
@@ -31,7 +31,7 @@ class StyleFile {
   Result<> write(const Dictionary& root, std::optional<ChangeKind> change);
   // All that a write would put there, in a file of the user's choice; what is known of the style file stays.
   Result<> writeCopy(const Dictionary& root, const DiskPath& path) { return files_.write(path, bytesOf(root)); }
-  // What became of the file that the last write replaced.
+  // What became of the file that the last write replaced; empty when it replaced none.
   const Replaced& replaced() const { return replaced_; }
   // Whether another program has changed the file since it was read or written last; nothing of it is read.
   bool isChangedElsewhere() const;
@@ -42,7 +42,7 @@ class StyleFile {
   void allChanged() { encoded_.clear(); }
 
  private:
-  Result<Dictionary> readOnce();
+  Result<Dictionary> readOnce(bool& isStill);
   std::string bytesOf(const Dictionary& root);
   Result<Replaced> replace(const std::string& bytes, std::optional<ChangeKind> change);
   FileService& files_;

@@ -162,17 +162,22 @@ Result<> StyleStore::writeRoot() {
 
 void StyleStore::writeTarvoStylePlist() {
   const Result<> written = writeRoot();
+  const Replaced& replaced = file_.replaced();
+  if (replaced.wasForeign) noteForeign(replaced);
+  if (written || replaced.unsynced) unwritten_.clear();  // what stands there, on the disk or not yet
   if (written) {
-    const Replaced& replaced = file_.replaced();
-    if (replaced.wasForeign) foreign_ = {.kept = replaced.kept, .base = lastStored()};
     changed_.reset();
-    unwritten_.clear();
     if (ofLoad_) loadStored_ = true;
   }
   unsaved_ = written ? std::nullopt : std::optional(written.error());
   pending_ = pending_ && unsaved_;
   if (didWrite) didWrite();
   if (!awakening_) registerStyles();
+}
+
+void StyleStore::noteForeign(const Replaced& replaced) {
+  const int number = foreign_ ? foreign_->number + 1 : 1;
+  foreign_ = {.number = number, .kept = replaced.kept, .beside = replaced.beside, .base = lastStored()};
 }
 
 void StyleStore::registerStyles() {

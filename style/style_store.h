@@ -89,10 +89,11 @@ class StyleStore {
   bool isLoadStored() const { return loadStored_; }
   // What became of the file that the last write replaced.
   const Replaced& replaced() const { return file_.replaced(); }
-  // What another program had written and a write here has replaced last: the name under which it is kept, and the root
-  // from which both had parted.
+  // What another program had written and a write here has replaced last: the name or, where it is not among the earlier
+  // styles, the path under which it is kept, and the root from which both had parted.
   struct ForeignSet {
-    std::string kept;
+    int number = 0;  // of those in this run
+    std::string kept, beside;
     Dictionary base;
   };
   const std::optional<ForeignSet>& foreign() const { return foreign_; }
@@ -120,6 +121,7 @@ class StyleStore {
   Result<> readFrom(StyleFile& file);
   Result<> writeRoot();  // fails also where the memory does not suffice
   bool writesAll() const { return writesUnchanged_ || pending_; }
+  void noteForeign(const Replaced& replaced);
   std::optional<StyleSet> styleSet();
   void tellChange(StoredChange change);
   void noteChange(ChangeKind kind) { changed_ = std::max(changed_.value_or(kind), kind); }

@@ -90,17 +90,20 @@ void StyleNews::didWrite() {
       unsaved ? std::optional(Notice{.text = with_.texts.localized("NotSavedYet") + failureText(*unsaved, with_.texts)})
               : std::nullopt);
   tellForeignSet();
-  thinLater();
   const Replaced& replaced = with_.store.replaced();
+  thinLater(replaced);
   if (replaced.unkept && !std::exchange(toldUnkept_, true)) {
-    with_.notices.tellAside(
-        {.text = filledIn(with_.texts.localized("Notice.unkept"), failureText(*replaced.unkept, with_.texts))});
+    const char* key = replaced.kept.empty() ? "Notice.unkept" : "Notice.unsure";
+    with_.notices.tellAside({.text = filledIn(with_.texts.localized(key), failureText(*replaced.unkept, with_.texts))});
   }
 }
 
-void StyleNews::thinLater() {
+// Also for a set of which this program has seen nothing yet.
+void StyleNews::thinLater(const Replaced& replaced) {
   constexpr int writesBetween = 64;
-  if (writes_++ % writesBetween != 0) return;
+  const std::optional<EarlierSet> kept = earlierSetNamed(replaced.kept);
+  const bool isUnseen = kept && kept->fingerprint.empty();
+  if (writes_++ % writesBetween != 0 && !isUnseen) return;
   with_.runLoop.post([this, alive = std::weak_ptr(alive_)] {
     if (!alive.expired()) with_.earlier.thin();
   });
@@ -108,11 +111,12 @@ void StyleNews::thinLater() {
 
 void StyleNews::tellForeignSet() {
   const std::optional<StyleStore::ForeignSet>& foreign = with_.store.foreign();
-  if (!foreign || foreign->kept == toldForeign_) return;
-  toldForeign_ = foreign->kept;
+  if (!foreign || foreign->number == toldForeign_) return;
+  toldForeign_ = foreign->number;
   toldElsewhere_ = false;
   const std::optional<EarlierSet> set = earlierSetNamed(foreign->kept);
-  with_.notices.tell({.text = with_.texts.localized("Notice.foreignReplaced"),
+  with_.notices.tell({.text = set ? with_.texts.localized("Notice.foreignReplaced")
+                                  : filledIn(with_.texts.localized("Notice.foreignBeside"), foreign->beside),
                       .offer = set ? Notice::Offer::merge : Notice::Offer::none,
                       .earlierSet = set ? set->id : std::string()});
 }

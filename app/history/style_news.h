@@ -17,6 +17,7 @@ class RunLoop;
 class StyleStore;
 class Texts;
 class UndoSteps;
+struct Replaced;
 struct StoredChange;
 
 class StyleNews {
@@ -47,11 +48,11 @@ class StyleNews {
   void didWrite();
   void didRegister();
   void tellForeignSet();
-  void thinLater();
+  void thinLater(const Replaced& replaced);
   Collaborators with_;
-  std::string toldForeign_, toldService_;
+  std::string toldService_;
   bool toldUnkept_ = false, toldElsewhere_ = false, importing_ = false;
-  int writes_ = 0;
+  int writes_ = 0, toldForeign_ = 0;
   std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);  // the loop may outlive this
 };
 

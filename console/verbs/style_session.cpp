@@ -76,12 +76,19 @@ ExitStatus StyleSession::read(const std::string& style, const Operation& operati
   return ExitStatus::done;
 }
 
+// And the former styles, where they were another program's, and where they could not be kept as they should.
 void StyleSession::noteWrite() {
   written_ = true;
-  const std::optional<Failure>& unkept = store_.replaced().unkept;
-  if (!unkept || std::exchange(toldUnkept_, true)) return;
+  const Replaced& replaced = store_.replaced();
   const Texts texts = console_.textsToTell();
-  note(console_, pathOfStyles(), filledIn(texts.localized("Notice.unkept"), failureText(*unkept, texts)));
+  if (replaced.wasForeign) {
+    note(console_, pathOfStyles(),
+         replaced.kept.empty() ? filledIn(texts.localized("Notice.foreignBeside"), replaced.beside)
+                               : texts.localized("Notice.foreignReplaced"));
+  }
+  if (!replaced.unkept || std::exchange(toldUnkept_, true)) return;
+  const char* key = replaced.kept.empty() ? "Notice.unkept" : "Notice.unsure";
+  note(console_, pathOfStyles(), filledIn(texts.localized(key), failureText(*replaced.unkept, texts)));
 }
 
 std::optional<Problem> StyleSession::writeLoaded() {

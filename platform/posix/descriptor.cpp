@@ -96,4 +96,11 @@ std::optional<std::vector<std::string>> namesIn(int folder) {
 
 bool syncFolder(int folder) { return ::fsync(folder) == 0 || (errno != EIO && errno != ENOSPC); }
 
+bool syncFileIn(int folder, const std::string& name) {
+  const Descriptor file(::openat(folder, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  // What cannot be opened is reached with everything else on its disk.
+  const bool isOnDisk = file ? ::fsync(file.get()) == 0 : errno == EACCES && ::syncfs(folder) == 0;
+  return isOnDisk && syncFolder(folder);
+}
+
 }  // namespace tarvo

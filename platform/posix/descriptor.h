@@ -36,6 +36,8 @@ std::optional<std::vector<std::string>> namesIn(int folder);
 // Puts the names that an open folder holds on the disk. Some disks cannot sync a folder, and that is no failure; false
 // only where the names may be lost: after an error of the disk, and on a full one.
 bool syncFolder(int folder);
+// Puts a file of an open folder and its name on the disk; links are not followed. Also a file that may not be read.
+bool syncFileIn(int folder, const std::string& name);
 // The name of a temporary file: nobody can guess it, and it tells who made it (temporaries.h). "" where the system
 // gives no random number.
 std::string temporaryName();

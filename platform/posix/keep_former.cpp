@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/posix/folders.h"
+#include "platform/posix/keep_unreadable.h"
 
 namespace tarvo {
 
@@ -44,6 +45,13 @@ Descriptor copyInto(int from, int place, const std::string& name, std::size_t si
   return Descriptor();
 }
 
+// errno says why not, also where something else than a file has taken the name.
+bool look(int folder, const std::string& name, struct stat& status) {
+  if (::fstatat(folder, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) return false;
+  errno = EINVAL;
+  return S_ISREG(status.st_mode);
+}
+
 }  // namespace
 
 FileStamp stampOf(const struct stat& status) {
@@ -54,58 +62,68 @@ FileStamp stampOf(const struct stat& status) {
           .modified = status.st_mtim.tv_sec * nanoseconds + status.st_mtim.tv_nsec};
 }
 
-bool FormerFile::isForeign(const struct stat& status) const {
-  return keeping_.expected && *keeping_.expected != stampOf(status);
-}
-
-bool FormerFile::sync(int kept, bool isForeign) const {
-  if (!isForeign && keeping_.durability == Durability::quick) return true;
-  return ::fsync(kept) == 0 && ::fsync(place_.get()) == 0;
-}
-
-// What the link leads to is what will go, whoever put it there a moment ago.
+// Under a name for the moment: what the link leads to is what will go, whoever put it there a moment ago.
 bool FormerFile::link(int folder, const std::string& name) {
   const std::string& provisional = keeping_.name.empty() ? keeping_.foreignName : keeping_.name;
-  if (::linkat(folder, name.c_str(), place_.get(), provisional.c_str(), 0) != 0) return false;
+  if (!place_ || ::linkat(folder, name.c_str(), place_.get(), provisional.c_str(), 0) != 0) return false;
   outcome_.kept = provisional;
-  struct stat status{};
-  const Descriptor kept = openRegular(place_.get(), provisional, status);
-  if (!kept) return false;
-  outcome_.wasForeign = isForeign(status);
-  const std::string& wanted = outcome_.wasForeign ? keeping_.foreignName : keeping_.name;
-  if (wanted.empty()) {
-    drop();
-    return true;
-  }
-  if (wanted != provisional) {
-    if (::renameat(place_.get(), provisional.c_str(), place_.get(), wanted.c_str()) != 0) return false;
-    outcome_.kept = wanted;
-  }
-  return sync(kept.get(), outcome_.wasForeign);
+  return true;
 }
 
-bool FormerFile::copy(int folder, const std::string& name) {
+bool FormerFile::nameLink(const std::string& wanted) {
+  if (outcome_.kept == wanted) return true;
+  if (::renameat(place_.get(), outcome_.kept.c_str(), place_.get(), wanted.c_str()) != 0) {
+    const int cause = errno;
+    drop();
+    errno = cause;
+    return false;
+  }
+  outcome_.kept = wanted;
+  return true;
+}
+
+bool FormerFile::copy(int folder, const std::string& name, const std::string& wanted) {
+  if (!outcome_.wasForeign && !keeping_.mayCopy) return true;
   struct stat status{};
   const Descriptor former = openRegular(folder, name, status);
-  if (!former) return false;
-  outcome_.wasForeign = isForeign(status);
-  const std::string& wanted = outcome_.wasForeign ? keeping_.foreignName : keeping_.name;
-  const bool isWanted = !wanted.empty() && (outcome_.wasForeign || keeping_.mayCopy);
-  if (!isWanted) return true;
-  const Descriptor kept = copyInto(former.get(), place_.get(), wanted, static_cast<std::size_t>(status.st_size));
-  if (!kept) return false;
+  if (!former || !copyInto(former.get(), place_.get(), wanted, static_cast<std::size_t>(status.st_size))) return false;
   outcome_.kept = wanted;
-  outcome_.wasCopied = true;
-  return sync(kept.get(), outcome_.wasForeign);
+  return true;
+}
+
+bool FormerFile::keepInPlace(int folder, const std::string& name, const std::string& wanted) {
+  const bool isThere = outcome_.kept.empty() ? copy(folder, name, wanted) : nameLink(wanted);
+  if (!isThere) return false;
+  const bool isQuick = !outcome_.wasForeign && keeping_.durability == Durability::quick;
+  return isQuick || outcome_.kept.empty() || syncFileIn(place_.get(), outcome_.kept);
 }
 
 Result<> FormerFile::keep(int folder, const std::string& name, const std::string& path) {
   place_ = openPlace(keeping_.folder, privateBelow_);
-  const bool done = place_ && (link(folder, name) || (outcome_.kept.empty() && copy(folder, name)));
-  if (done) return {};
-  Failure failure = systemFailure(place_ ? path : keeping_.folder.text(), Attempt::keep);
-  drop();
-  if (keeping_.durability == Durability::sure) return failure;
+  std::optional<Failure> failure;
+  if (!place_) failure = systemFailure(keeping_.folder.text(), Attempt::keep);
+  const bool isLinked = link(folder, name);
+  struct stat status{};
+  if (!look(isLinked ? place_.get() : folder, isLinked ? outcome_.kept : name, status)) {
+    failure = systemFailure(path, Attempt::keep);
+    drop();
+    return *failure;
+  }
+  outcome_.wasForeign = keeping_.expected != stampOf(status);
+  const std::string& wanted = outcome_.wasForeign ? keeping_.foreignName : keeping_.name;
+  if (wanted.empty()) {
+    drop();
+    return {};
+  }
+  if (!failure && keepInPlace(folder, name, wanted)) return {};
+  if (!failure) failure = systemFailure(path, Attempt::keep);
+  if (outcome_.wasForeign) {
+    if (const Result<DiskPath> beside = keepBeside(DiskPath(path), ".other")) outcome_.beside = beside->text();
+  }
+  if (mustLast() && outcome_.beside.empty()) {
+    drop();
+    return *failure;
+  }
   outcome_.unkept = std::move(failure);
   return {};
 }

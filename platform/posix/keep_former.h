@@ -19,7 +19,8 @@ class FormerFile {
   // privateBelow: of the folders above the keeping's, as for makeFolders (folders.h).
   FormerFile(const Keeping& keeping, const DiskPath& privateBelow) : keeping_(keeping), privateBelow_(privateBelow) {}
   // Keeps the file of that name in the open folder; path is its whole path, for who is told of a failure. Nothing is
-  // followed. What could not be kept is told by outcome().unkept. A failure: it must be kept, and was not.
+  // followed. What could not be kept is told by outcome().unkept. A failure: it must be kept, and was not, or nobody
+  // knows whose it is.
   Result<> keep(int folder, const std::string& name, const std::string& path);
   void drop();  // it was not replaced after all
   // All but `now`.
@@ -27,10 +28,10 @@ class FormerFile {
 
  private:
   bool link(int folder, const std::string& name);
-  bool copy(int folder, const std::string& name);
-  bool settle(const Descriptor& kept, const std::string& provisional);
-  bool isForeign(const struct stat& status) const;
-  bool sync(int kept, bool isForeign) const;
+  bool nameLink(const std::string& wanted);
+  bool copy(int folder, const std::string& name, const std::string& wanted);
+  bool keepInPlace(int folder, const std::string& name, const std::string& wanted);
+  bool mustLast() const { return outcome_.wasForeign || keeping_.durability == Durability::sure; }
   const Keeping& keeping_;
   const DiskPath& privateBelow_;
   Descriptor place_;

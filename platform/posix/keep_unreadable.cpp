@@ -24,15 +24,8 @@ bool isSameFile(const DiskPath& path, const struct stat& status) {
 
 bool isTaken(const Result<>& kept) { return !kept && kept.error().cause == std::errc::file_exists; }
 
-// A name that a power cut took would take the bytes along: what replaces the file comes next.
-Result<> syncName(const DiskPath& kept) {
-  const Descriptor folder = openFolder(AT_FDCWD, kept.folder().text());
-  if (folder && syncFolder(folder.get())) return {};
-  return systemFailure(kept.text(), Attempt::keep);
-}
-
 Result<> keepAs(const DiskPath& path, const DiskPath& kept) {
-  if (::linkat(AT_FDCWD, path.text().c_str(), AT_FDCWD, kept.text().c_str(), 0) == 0) return syncName(kept);
+  if (::linkat(AT_FDCWD, path.text().c_str(), AT_FDCWD, kept.text().c_str(), 0) == 0) return {};
   if (errno == EEXIST) return systemFailure(kept.text(), Attempt::keep);
   Result<> copied = copyFile(path, kept);
   if (!copied) return Failure{copied.error().path, Attempt::keep, copied.error().cause};
@@ -44,15 +37,22 @@ Result<> replaceKept(const DiskPath& path, const DiskPath& kept) {
   if (name.empty()) return systemFailure(path.text(), Attempt::keep);
   const DiskPath temporary = kept.folder() / name;
   if (Result<> done = keepAs(path, temporary); !done) return done;
-  if (::rename(temporary.text().c_str(), kept.text().c_str()) == 0) return syncName(kept);
+  if (::rename(temporary.text().c_str(), kept.text().c_str()) == 0) return {};
   Failure failure = systemFailure(kept.text(), Attempt::keep);
   ::unlink(temporary.text().c_str());
   return failure;
 }
 
+Result<DiskPath> synced(const Result<>& done, const DiskPath& kept) {
+  if (!done) return done.error();
+  const Descriptor folder = openFolder(AT_FDCWD, kept.folder().text());
+  if (!folder || !syncFileIn(folder.get(), kept.name())) return systemFailure(kept.text(), Attempt::keep);
+  return kept;
+}
+
 }  // namespace
 
-Result<> keepUnreadableFile(const DiskPath& path) {
+Result<DiskPath> keepBeside(const DiskPath& path, const std::string& ending) {
   const Result<FinalTarget> file = followFinalLinks(path, Attempt::keep);
   if (!file) return file.error();
   if (!file->present)
@@ -62,13 +62,13 @@ Result<> keepUnreadableFile(const DiskPath& path) {
   if (!S_ISREG(status.st_mode)) return Failure{path.text(), Attempt::keep, Reason::noRegularFile};
   DiskPath kept;
   for (int number = 1; number <= maximumKept; ++number) {
-    kept = path + ".unreadable";
+    kept = path + ending;
     if (number > 1) kept = kept + "." + std::to_string(number);
-    if (isSameFile(kept, status)) return syncName(kept);
-    Result<> done = keepAs(file->path, kept);
-    if (!isTaken(done)) return done;
+    if (isSameFile(kept, status)) return synced({}, kept);
+    const Result<> done = keepAs(file->path, kept);
+    if (!isTaken(done)) return synced(done, kept);
   }
-  return replaceKept(file->path, kept);
+  return synced(replaceKept(file->path, kept), kept);
 }
 
 }  // namespace tarvo

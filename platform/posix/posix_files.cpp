@@ -111,7 +111,8 @@ Result<FileStamp> PosixFiles::stamp(const DiskPath& path) const {
 Result<> PosixFiles::keepUnreadable(const DiskPath& path) {
   const Result<DiskPath> name = named(path, Attempt::keep);
   if (!name) return name.error();
-  return keepUnreadableFile(*name);
+  if (const Result<DiskPath> kept = keepBeside(*name, ".unreadable"); !kept) return kept.error();
+  return {};
 }
 
 Result<std::vector<std::string>> PosixFiles::list(const DiskPath& folder) const {

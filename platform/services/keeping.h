@@ -29,17 +29,19 @@ struct Keeping {
   DiskPath folder;   // made where it is missing, for its owner alone; empty: nothing is kept
   std::string name;  // of the file that goes, when it is the expected one; "" keeps none
   Durability durability = Durability::quick;
-  std::optional<FileStamp> expected;  // as this program read or wrote it last; nothing: whatever is there is expected
-  std::string foreignName;            // when another one stands there: kept under this name, synced
-  bool mayCopy = true;                // of the expected one, where the disk refuses the link
+  // As this program read or wrote it last; nothing: there was none, and whatever is there is another program's.
+  std::optional<FileStamp> expected;
+  // When another one stands there: it is kept under this name, sure; beside the file where the folder cannot have it.
+  std::string foreignName;
+  bool mayCopy = true;  // of the expected one, where the disk refuses the link
 };
 
 struct Replaced {
-  FileStamp now;            // of the file that stands there
-  std::string kept;         // the name of the former one in the folder; "" when it was not kept
-  bool wasForeign = false;  // the file that went was not the expected one
-  bool wasCopied = false;
-  std::optional<Failure> unkept;    // why the former one could not be kept
+  FileStamp now;                    // of the file that stands there
+  std::string kept;                 // the name of the former one in the folder; "" when it was not kept there
+  std::string beside;               // its path beside the file, where it had to be kept there
+  bool wasForeign = false;          // the file that went was not the expected one
+  std::optional<Failure> unkept;    // why it is not in the folder, or is there and a power cut may take it
   std::optional<Failure> unsynced;  // it stands there and is read, but a power cut may bring the former one back
 };
 

@@ -124,6 +124,49 @@ TEST_F(StyleStoreTest, keepsTheBytesThatItCouldNotReadBesideTheNewFile) {
   EXPECT_EQ(folder_.read("styles.plist.unreadable"), "not a property list");
 }
 
+// A disk whose folders cannot be synced for a while.
+class UnsyncedFiles : public PosixFiles {
+ public:
+  using PosixFiles::PosixFiles;
+  Result<Replaced> replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) override {
+    Result<Replaced> replaced = PosixFiles::replace(path, bytes, keeping);
+    if (replaced && fails) replaced->unsynced = Failure{path.text(), Attempt::write, Reason::damaged};
+    return replaced;
+  }
+  bool fails = false;
+};
+
+TEST_F(StyleStoreTest, tellsOfAnotherProgramsStylesAlsoWhenTheWriteThatReplacedThemWasNotSynced) {
+  folder_.write("styles.plist", writePropertyList(sampleRoot()));
+  UnsyncedFiles files(locations_);
+  EarlierStyles earlier(files, folder_.at("Earlier"));
+  StyleStore store(files, engine_, defaults_, folder_.at("styles.plist"), folder_.at("seed.plist"), &earlier);
+  ASSERT_TRUE(store.readUserStyles());
+  const auto writeElsewhere = [this](int value) {
+    Dictionary theirs = sampleRoot();
+    theirs.set("Elsewhere", value);
+    folder_.write("styles.plist", writePropertyList(theirs));
+  };
+  writeElsewhere(1);
+  files.fails = true;
+  Dictionary record = *store.getStyleAtIndex(0);
+  record.set("k", 1);
+  store.setStyle(0, record);
+  EXPECT_FALSE(store.isSaved());
+  ASSERT_TRUE(store.foreign());
+  EXPECT_EQ(store.foreign()->number, 1);
+  EXPECT_EQ(store.foreign()->base, sampleRoot());
+  EXPECT_EQ(store.lastStored(), store.root()) << "it stands there, synced or not";
+  files.fails = false;
+  record.set("k", 2);
+  store.setStyle(0, record);
+  EXPECT_TRUE(store.isSaved());
+  EXPECT_EQ(store.foreign()->number, 1);
+  writeElsewhere(2);
+  store.writeTarvoStylePlist();
+  EXPECT_EQ(store.foreign()->number, 2);
+}
+
 TEST_F(StyleStoreTest, joinsTheSameBytesAsAWholeEncodingAfterAnyEdits) {
   StyleStore store = storeOf(sampleRoot());
   std::mt19937 random(20260321);

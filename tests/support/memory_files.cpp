@@ -3,6 +3,7 @@
 #include "tests/support/memory_files.h"
 
 #include <array>
+#include <functional>
 
 #include "platform/text/text_rules.h"
 
@@ -80,7 +81,7 @@ Result<Replaced> MemoryFiles::replace(const DiskPath& at, std::string_view bytes
   if (const auto refused = refusal(Operation::write, path, Attempt::write)) return *refused;
   Replaced replaced;
   if (there == Kind::file && !keeping.folder.empty()) {
-    replaced.wasForeign = keeping.expected && keeping.expected != stamp(at).value();
+    replaced.wasForeign = keeping.expected != stamp(at).value();
     replaced.kept = replaced.wasForeign ? keeping.foreignName : keeping.name;
     if (!replaced.kept.empty()) put((keeping.folder / replaced.kept).text(), nodes_[path].bytes);
   }
@@ -96,7 +97,9 @@ Result<FileStamp> MemoryFiles::stamp(const DiskPath& at) const {
   if (const auto refused = refusal(Operation::look, at.text(), Attempt::look)) return *refused;
   const auto node = nodes_.find(at.text());
   if (node == nodes_.end()) return failure(at.text(), Attempt::look, std::errc::no_such_file_or_directory);
-  return FileStamp{.size = node->second.bytes.size(), .modified = node->second.written};
+  return FileStamp{.inode = std::hash<std::string>()(at.text()),
+                   .size = node->second.bytes.size(),
+                   .modified = node->second.written};
 }
 
 Result<> MemoryFiles::keepUnreadable(const DiskPath& at) {

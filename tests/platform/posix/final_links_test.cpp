@@ -53,7 +53,7 @@ TEST_F(FinalLinks, ofSomebodyElseAreNeitherReadNorKept) {
   link("link", "file");
   if (!giveAway("link")) GTEST_SKIP() << "only root may give links away";
   EXPECT_EQ(files.read(folder.at("link")).error(), (Failure{folder / "link", Attempt::read, Reason::foreignLink}));
-  EXPECT_EQ(keepUnreadableFile(folder.at("link")).error().cause, Reason::foreignLink);
+  EXPECT_EQ(keepBeside(folder.at("link"), ".unreadable").error().cause, Reason::foreignLink);
   EXPECT_EQ(folder.names(), (std::vector<std::string>{"file", "link"}));
 }
 

@@ -1,42 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
+#include <cerrno>
 
-#include "platform/posix/keep_former.h"
-#include "platform/posix/replace_file.h"
+#include "tests/platform/posix/keep_former_fixture.h"
 #include "tests/platform/posix/recorded_calls.h"
-#include "tests/support/temporary_folder.h"
 
 // What becomes of a file that is replaced.
 namespace tarvo::test {
 namespace {
-
-class KeepFormer : public testing::Test {
- protected:
-  KeepFormer() { folder.write("file", "old"); }
-
-  Keeping keeping(const std::string& name = "former") const {
-    return {.folder = folder.at("Above/Kept"), .name = name, .expected = stamp(), .foreignName = "foreign"};
-  }
-  FileStamp stamp() const {
-    struct stat status{};
-    EXPECT_EQ(::stat((folder / "file").c_str(), &status), 0);
-    return stampOf(status);
-  }
-  mode_t modeOf(const std::string& path) const {
-    struct stat status{};
-    EXPECT_EQ(::stat((folder / path).c_str(), &status), 0) << path;
-    return status.st_mode & 07777;
-  }
-  std::vector<std::string> kept() const { return folder.names("Above/Kept"); }
-  const TemporaryFolder folder;
-};
-
-using Names = std::vector<std::string>;
 
 TEST_F(KeepFormer, theFileThatGoesIsLinkedInAFolderOfItsOwnersAlone) {
   struct stat before{}, after{};
@@ -64,31 +38,6 @@ TEST_F(KeepFormer, aNewFileHasNoFormerOne) {
   ASSERT_TRUE(replaced);
   EXPECT_EQ(replaced->kept, "");
   EXPECT_EQ(replaced->unkept, std::nullopt);
-}
-
-TEST_F(KeepFormer, aFileThatAnotherProgramWroteIsKeptUnderTheOtherName) {
-  const Keeping asked = keeping();
-  folder.write("file", "of somebody else");
-  folder.makeFolder("Above/Kept");
-  const RecordedCalls calls;
-  const Result<Replaced> replaced = replaceFile(folder.at("file"), "new", asked);
-  ASSERT_TRUE(replaced);
-  EXPECT_TRUE(replaced->wasForeign);
-  EXPECT_EQ(kept(), Names{"foreign"});
-  EXPECT_EQ(folder.read("Above/Kept/foreign"), "of somebody else");
-  const auto& names = calls.names();
-  const auto renamed = std::ranges::find(names, "rename");
-  EXPECT_EQ(std::count(names.begin(), renamed, "sync folder"), 0) << "the provisional name is ours alone";
-  EXPECT_EQ(names.back(), "sync folder");
-}
-
-TEST_F(KeepFormer, withoutANameOnlyAnotherProgramsFileIsKept) {
-  ASSERT_TRUE(replaceFile(folder.at("file"), "new", keeping("")));
-  EXPECT_EQ(kept(), Names{});
-  const Keeping asked = keeping("");
-  folder.write("file", "of somebody else");
-  ASSERT_TRUE(replaceFile(folder.at("file"), "newer", asked));
-  EXPECT_EQ(kept(), Names{"foreign"});
 }
 
 TEST_F(KeepFormer, whatMustLastIsOnTheDiskBeforeTheFileIsReplaced) {
@@ -124,6 +73,44 @@ TEST_F(KeepFormer, nothingIsReplacedWhereTheFormerFileMustBeKeptAndCannot) {
   EXPECT_FALSE(replaceFile(folder.at("file"), "new", asked));
   EXPECT_EQ(folder.read("file"), "old");
   EXPECT_EQ(folder.names(""), (Names{"Above", "file"}));
+}
+
+TEST_F(KeepFormer, aLinkThatCouldNotBeSyncedStaysAndIsTold) {
+  Keeping asked = keeping();
+  asked.durability = Durability::synced;
+  folder.makeFolder("Above/Kept");
+  RecordedCalls calls;
+  calls.failAt(4, EIO);  // the sync of the link, after mode, write, sync file and link
+  const Result<Replaced> replaced = replaceFile(folder.at("file"), "new", asked);
+  ASSERT_TRUE(calls.hasFailed());
+  ASSERT_TRUE(replaced);
+  ASSERT_TRUE(replaced->unkept);
+  EXPECT_EQ(replaced->unkept->cause, std::errc::io_error);
+  EXPECT_EQ(replaced->kept, "former");
+  EXPECT_EQ(folder.read("Above/Kept/former"), "old");
+}
+
+TEST_F(KeepFormer, aFailedRenameTakesTheLinkBack) {
+  folder.makeFolder("Above/Kept");
+  for (const Durability durability : {Durability::quick, Durability::synced}) {
+    Keeping asked = keeping();
+    asked.durability = durability;
+    RecordedCalls calls;
+    calls.fail("rename", EIO);
+    EXPECT_FALSE(replaceFile(folder.at("file"), "new", asked));
+    EXPECT_EQ(kept(), Names{});
+    EXPECT_EQ(folder.names(""), (Names{"Above", "file"}));
+    EXPECT_EQ(folder.read("file"), "old");
+  }
+}
+
+TEST_F(KeepFormer, aFileThatNobodyMayReadIsLinkedAllTheSame) {
+  ASSERT_EQ(::chmod((folder / "file").c_str(), 0), 0);
+  Keeping asked = keeping();
+  asked.durability = Durability::sure;
+  ASSERT_TRUE(replaceFile(folder.at("file"), "new", asked));
+  EXPECT_EQ(kept(), Names{"former"});
+  EXPECT_EQ(modeOf("Above/Kept/former"), 0U);
 }
 
 TEST_F(KeepFormer, whatIsReplacedBehindALinkIsWhatTheLinkLeadsTo) {

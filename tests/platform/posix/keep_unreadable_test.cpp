@@ -20,7 +20,7 @@ using Names = std::vector<std::string>;
 
 class KeepUnreadable : public testing::Test {
  protected:
-  Result<> keep(const char* name) { return keepUnreadableFile(folder.at(name)); }
+  Result<DiskPath> keep(const char* name) { return keepBeside(folder.at(name), ".unreadable"); }
   test::TemporaryFolder folder;
 };
 
