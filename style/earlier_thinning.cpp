@@ -6,10 +6,6 @@
 #include <optional>
 #include <set>
 
-#include "platform/services/file_service.h"
-#include "platform/services/plist_file.h"
-#include "platform/text/fingerprint.h"
-
 namespace tarvo {
 
 namespace {
@@ -67,39 +63,6 @@ std::vector<EarlierSet> superfluousSets(const std::vector<SizedSet>& sets, Momen
     if (!thinning.keeps(one)) superfluous.push_back(one.set);
   }
   return superfluous;
-}
-
-// What cannot be read, or not be given its name, is tried again the next time.
-void EarlierStyles::identify(EarlierSet& set) {
-  const Result<std::string> bytes = readListFile(files_, set.path);
-  if (!bytes) return;
-  std::string found = fingerprint(*bytes);
-  const DiskPath named = folder_ / fileNameOf(set.time, set.kind, found);
-  if (!files_.move(set.path, named)) return;
-  set.fingerprint = std::move(found);
-  set.path = named;
-}
-
-void EarlierStyles::thin() {
-  Result<std::vector<EarlierSet>> listed = list();
-  if (!listed) return;
-  std::vector<SizedSet> sets;
-  std::map<std::string, std::size_t> places;  // by fingerprint
-  for (EarlierSet& set : *listed) {
-    if (set.fingerprint.empty()) identify(set);
-    const auto [newer, isNew] = places.try_emplace(set.fingerprint, sets.size());
-    if (!isNew && !set.fingerprint.empty()) {
-      EarlierSet& kept = sets[newer->second].set;
-      kept = keepOnce(kept, set);
-      continue;
-    }
-    const Result<FileStamp> stamp = files_.stamp(set.path);
-    sets.push_back({std::move(set), stamp ? stamp->size : 0});
-  }
-  for (const EarlierSet& set : superfluousSets(sets, clock_())) {
-    static_cast<void>(files_.remove(set.path));  // what cannot be removed is asked about again
-  }
-  known_.reset();
 }
 
 }  // namespace tarvo
