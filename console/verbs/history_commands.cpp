@@ -3,6 +3,7 @@
 #include "console/verbs/history_commands.h"
 
 #include "app/product.h"
+#include "console/verbs/style_reading.h"
 #include "console/verbs/style_session.h"
 #include "console/verbs/text_table.h"
 #include "dict/change_words.h"
@@ -35,7 +36,7 @@ Json::Object jsonOf(const HistoryEntry& entry, const Texts& texts) {
 // What a start would show; that the user's cannot be read is told.
 Result<Array> presentStyles(Console& console) {
   Product& product = console.product;
-  Result<Dictionary> root = StyleFile(product.files(), product.locations().inHome(gStylePath)).read();
+  Result<Dictionary> root = readUsersStyles(console);
   if (!root && isAbsence(root.error()))
     root = readDictionary(product.files(), product.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist))));
   if (!root) {

@@ -12,14 +12,19 @@
 
 namespace tarvo {
 
-ReadStyles readStyles(Console& console) {
+Result<Dictionary> readUsersStyles(Console& console) {
   Product& product = console.product;
   const DiskPath path = product.locations().inHome(gStylePath);
   Result<Dictionary> users = StyleFile(product.files(), path).read();
-  if (users) {
-    noteMended(console, path, {goneDictionaries(dictionaryServices(product), *users), missingOptions(*users)});
-    return {std::move(*users)};
-  }
+  if (users) noteMended(console, path, {goneDictionaries(dictionaryServices(product), *users), missingOptions(*users)});
+  return users;
+}
+
+ReadStyles readStyles(Console& console) {
+  Product& product = console.product;
+  const DiskPath path = product.locations().inHome(gStylePath);
+  Result<Dictionary> users = readUsersStyles(console);
+  if (users) return {std::move(*users)};
   const bool isUnreadable = !isAbsence(users.error());
   Result<Dictionary> products =
       readDictionary(product.files(), product.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist))));

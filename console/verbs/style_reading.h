@@ -9,6 +9,7 @@
 #include "console/verbs/command.h"
 #include "dict/load_findings.h"
 #include "platform/plist/property_list.h"
+#include "platform/services/result.h"
 
 namespace tarvo {
 
@@ -19,6 +20,8 @@ struct ReadStyles {
   ExitStatus status = ExitStatus::done;  // with which the verb ends once it has shown what there is
 };
 ReadStyles readStyles(Console& console);
+// The user's alone; what a load will mend in them is told, that they cannot be read is not.
+Result<Dictionary> readUsersStyles(Console& console);
 
 // What a load mends in the user's styles, or would where a verb only reads.
 struct Mended {
