@@ -39,7 +39,8 @@ void NoticeBoard::press() {
   const Notice* shown = notices_.shown();
   if (shown == nullptr || shown->offer == Notice::Offer::none) return;
   const Notice notice = *shown;
-  notices_.dismiss();
+  // Who thinks better of what a window asks finds the offer again.
+  if (notice.offer == Notice::Offer::undo) notices_.dismiss();
   follow_(notice);
 }
 

@@ -13,20 +13,21 @@
 #include "app/history/earlier_styles_panel.h"
 #include "qt/bind/binder.h"
 #include "qt/look/metrics.h"
+#include "qt/sheets/sheet_parts.h"
 
 namespace tarvo {
 namespace {
 
-constexpr int shownRows = 7;   // at first
-constexpr int shownLines = 6;  // of what restoring would change; more are reached by scrolling
-constexpr int listWidth = 46;  // in heights of a line
+constexpr int shownRows = 7;                    // at first
+constexpr int shownLines = 6;                   // of what restoring would change; more are reached by scrolling
+constexpr int listWidth = 46, narrowList = 24;  // in heights of a line: at first, and at least
 
 QTableView* buildList(TableView& control, Binder& binder, QWidget* parent) {
   QTableView* list = binder.table(
       control, parent,
       {binder.localized("History.time"), binder.localized("History.kind"), binder.localized("History.changed")});
   const QFontMetrics letters = list->fontMetrics();
-  list->setMinimumSize(listWidth * letters.height(),
+  list->setMinimumSize(narrowList * letters.height(),
                        (shownRows + 1) * metrics::rowHeight(letters) + 2 * metrics::listPadding);
   list->horizontalHeader()->resizeSection(
       0, letters.horizontalAdvance(QStringLiteral("0000-00-00 00:00:00 ")) + 2 * metrics::fieldPadding);
@@ -62,6 +63,7 @@ QDialog* buildEarlierStyles(EarlierStylesOutlets& outlets, Binder& binder, QWidg
   all->setDefault(true);
   foot->addWidget(all);
   rows->addLayout(foot);
+  beginWide(*dialog, listWidth * dialog->fontMetrics().height());
   return dialog;
 }
 

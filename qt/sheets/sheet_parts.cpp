@@ -6,10 +6,13 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+#include <algorithm>
 
 #include "platform/controls/windows.h"
 #include "qt/bind/binder.h"
 #include "qt/look/fonts.h"
+#include "qt/look/metrics.h"
 
 namespace tarvo {
 
@@ -36,6 +39,11 @@ QLayout* buildFoot(Button* other, Button& first, Binder& binder, QDialog* dialog
   button->setDefault(true);
   foot->addWidget(button);
   return foot;
+}
+
+void beginWide(QDialog& dialog, int width) {
+  const int room = dialog.screen()->availableGeometry().width() - 2 * metrics::paneMargin;
+  dialog.resize(std::max(std::min(width, room), dialog.minimumSizeHint().width()), dialog.sizeHint().height());
 }
 
 }  // namespace tarvo

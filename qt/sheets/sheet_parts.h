@@ -27,4 +27,7 @@ QLabel* buildHeading(const Window& window, QDialog* dialog);
 // The row of buttons at the foot of a dialog: the default one, which Return presses, at its right end.
 QLayout* buildFoot(Button* other, Button& first, Binder& binder, QDialog* dialog);
 
+// Gives a dialog that is laid out the width at first, or what the screen has room for.
+void beginWide(QDialog& dialog, int width);
+
 }  // namespace tarvo

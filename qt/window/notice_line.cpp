@@ -12,6 +12,7 @@
 #include <QTableView>
 #include <QToolTip>
 #include <algorithm>
+#include <utility>
 
 #include "app/history/notice_board.h"
 #include "qt/bind/binder.h"
@@ -22,11 +23,25 @@ namespace tarvo {
 
 namespace {
 
-constexpr int mostRows = 8;  // of the list that are seen at once
+constexpr int mostRows = 8;  // of one line each that are seen at once in the list
+
+// Its name is what it says.
+class NotificationForAssistiveTools : public QAccessibleWidget {
+ public:
+  explicit NotificationForAssistiveTools(ElidedText& text)
+      : QAccessibleWidget(&text, QAccessible::Notification), text_(text) {}
+  QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Name) return text_.text();
+    return kind == QAccessible::Description ? text_.accessibleName() : QAccessibleWidget::text(kind);
+  }
+
+ private:
+  ElidedText& text_;
+};
 
 QAccessibleInterface* textForAssistiveTools(const QString&, QObject* object) {
   auto* text = dynamic_cast<ElidedText*>(object);
-  return text == nullptr ? nullptr : new QAccessibleWidget(text, QAccessible::Notification, text->text());
+  return text == nullptr ? nullptr : new NotificationForAssistiveTools(*text);
 }
 
 }  // namespace
@@ -34,6 +49,16 @@ QAccessibleInterface* textForAssistiveTools(const QString&, QObject* object) {
 ElidedText::ElidedText(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
+void ElidedText::announce() {
+  if (!isVisible() || announced_ == text()) return;
+  announced_ = text();
+  // Screen readers read a notification out when it comes up, and keep its name until they hear of another.
+  for (const QAccessible::Event type : {QAccessible::NameChanged, QAccessible::ObjectShow}) {
+    QAccessibleEvent event(this, type);
+    QAccessible::updateAccessibility(&event);
+  }
 }
 
 QSize ElidedText::minimumSizeHint() const { return {0, fontMetrics().height()}; }
@@ -65,12 +90,20 @@ NoticeLine::NoticeLine(NoticeOutlets& outlets, Binder& binder, QWidget* surround
   row->setSpacing(metrics::rowGap);
   auto* text = new ElidedText(this);
   binder.text(outlets.noticeText, *text);
+  outlets.noticeText.view = [text, show = std::move(outlets.noticeText.view)](Control::Change change) {
+    show(change);
+    text->announce();
+  };
   row->addWidget(text, 1);
+  row->addStretch();  // the buttons keep their place while no text is shown
   for (Button* button : {&outlets.noticeButton, &outlets.noticeListButton}) {
     QPushButton* shown = binder.button(*button, this);
     row->addWidget(shown);
     shown->installEventFilter(this);
   }
+  list_->setWordWrap(true);
+  list_->setTextElideMode(Qt::ElideRight);
+  list_->verticalHeader()->setMinimumSectionSize(metrics::rowHeight(list_->fontMetrics()));
   list_->installEventFilter(this);
   surroundings->installEventFilter(this);
   setVisible(!outlets.noticeListButton.isHidden());
@@ -89,10 +122,14 @@ bool NoticeLine::eventFilter(QObject* watched, QEvent* event) {
   return QFrame::eventFilter(watched, event);
 }
 
+// As high as its rows, which wrap at its width.
 void NoticeLine::placeList() {
-  const int rows = std::clamp(list_->model()->rowCount(), 1, mostRows);
-  const int height = std::min(y(), rows * metrics::rowHeight(list_->fontMetrics()) + 2 * metrics::listPadding);
-  list_->setGeometry(metrics::grid, y() - height, width() - 2 * metrics::grid, height);
+  const int row = metrics::rowHeight(list_->fontMetrics());
+  list_->resize(width() - 2 * metrics::grid, list_->height());
+  list_->resizeRowsToContents();
+  const int rows = std::clamp(list_->verticalHeader()->length(), row, mostRows * row);
+  const int height = std::min(y(), rows + 2 * metrics::listPadding);
+  list_->setGeometry(metrics::grid, y() - height, list_->width(), height);
 }
 
 }  // namespace tarvo

@@ -18,10 +18,14 @@ class ElidedText : public QLabel {
  public:
   explicit ElidedText(QWidget* parent);
   QSize minimumSizeHint() const override;
+  void announce();  // tells assistive tools of a text that is seen and that they do not know yet
 
  protected:
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString announced_;
 };
 
 // The line at the foot of the main window: what happened last, what can be done about it, and a button that opens the
