@@ -26,19 +26,19 @@ Moment systemMoment() { return std::chrono::floor<std::chrono::microseconds>(std
 EarlierStyles::EarlierStyles(FileService& files, DiskPath folder, std::function<Moment()> clock)
     : files_(files), folder_(std::move(folder)), clock_(std::move(clock)) {}
 
-EarlierStyles::Known& EarlierStyles::known() {
+KnownSets& EarlierStyles::known() {
   if (known_) return *known_;
   known_.emplace();
   const Result<std::vector<EarlierSet>> sets = list();
   if (!sets) return *known_;  // what cannot be listed is kept a second time at worst
   for (const EarlierSet& set : *sets) {
     known_->note(set);
-    if (!set.fingerprint.empty()) known_->sets.emplace(set.fingerprint, set);
+    if (!set.fingerprint.empty()) known_->byFingerprint.emplace(set.fingerprint, set);
   }
   return *known_;
 }
 
-void EarlierStyles::Known::note(const EarlierSet& set) {
+void KnownSets::note(const EarlierSet& set) {
   newest = std::max(newest, set.time);
   if (set.kind <= ChangeKind::edit) lastEdit = std::max(lastEdit, set.time);
 }
@@ -67,10 +67,10 @@ void EarlierStyles::settle(const Replaced& replaced) {
   std::optional<EarlierSet> kept = earlierSetNamed(replaced.kept);
   if (!kept) return;
   kept->path = folder_ / replaced.kept;
-  Known& others = known();
+  KnownSets& others = known();
   others.note(*kept);
   if (kept->fingerprint.empty()) return;
-  const auto [former, isNew] = others.sets.try_emplace(kept->fingerprint, *kept);
+  const auto [former, isNew] = others.byFingerprint.try_emplace(kept->fingerprint, *kept);
   if (!isNew) former->second = keepOnce(*kept, former->second);
 }
 

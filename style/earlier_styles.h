@@ -48,6 +48,13 @@ std::optional<EarlierSet> earlierSetNamed(const std::string& fileName);
 
 Moment systemMoment();
 
+// What lies in the folder, as it is needed at each edit.
+struct KnownSets {
+  std::map<std::string, EarlierSet> byFingerprint;
+  Moment newest{}, lastEdit{};  // of all; of those that an edit or a repair replaced
+  void note(const EarlierSet& set);
+};
+
 class EarlierStyles {
  public:
   EarlierStyles(FileService& files, DiskPath folder, std::function<Moment()> clock = systemMoment);
@@ -70,19 +77,14 @@ class EarlierStyles {
   void thin();
 
  private:
-  struct Known {
-    std::map<std::string, EarlierSet> sets;  // by fingerprint
-    Moment newest{}, lastEdit{};             // of all sets; of those that an edit or a repair replaced
-    void note(const EarlierSet& set);
-  };
-  Known& known();
+  KnownSets& known();
   Moment nextMoment();
-  void identify(EarlierSet& set);
+  bool identify(EarlierSet& set);
   EarlierSet keepOnce(const EarlierSet& newer, const EarlierSet& older);
   FileService& files_;
   DiskPath folder_;
   std::function<Moment()> clock_;
-  std::optional<Known> known_;  // what lies in the folder, listed when it is needed first
+  std::optional<KnownSets> known_;  // listed when it is needed first
 };
 
 }  // namespace tarvo

@@ -106,7 +106,7 @@ Result<> StyleFile::write(const Dictionary& root, std::optional<ChangeKind> chan
   replaced_ = *replaced;
   stamp_ = replaced->now;
   fingerprint_ = std::move(written);
-  if (replaced->unsynced) return *replaced->unsynced;
+  if (replaced_.unsynced) return *replaced_.unsynced;
   return {};
 }
 
