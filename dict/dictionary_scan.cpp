@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "dict/dictionary_folders.h"
 #include "platform/plist/plist_writer.h"
 #include "platform/services/file_service.h"
 #include "platform/services/locations.h"
@@ -67,9 +68,9 @@ bool isOfKind(const DictionaryScan& scan, const std::string& name, std::optional
 
 DictionaryScan::Found DictionaryScan::find() const {
   Found found;
-  Result<std::vector<std::string>> names = files.list(folder);
+  Result<std::vector<std::string>> names = namesInDictionaryFolder(files, folder);
   if (!names) {
-    if (!isAbsence(names.error())) found.unread = names.error();
+    found.unread = names.error();
     return found;
   }
   const MedicalFilter medical(*this);

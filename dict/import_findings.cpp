@@ -31,8 +31,8 @@ class NameSet {
 };
 
 bool isKnown(const DictController::Services& services, Direction direction) {
-  const auto names = services.files.list(dictionaryFolder(services.paths, DictionaryKind::technical, direction));
-  return names || isAbsence(names.error());
+  const DiskPath folder = dictionaryFolder(services.paths, DictionaryKind::technical, direction);
+  return namesInDictionaryFolder(services.files, folder).has_value();
 }
 
 ImportFindings::List findIn(const DictController::Services& services, Direction direction, const Dictionary& imported,

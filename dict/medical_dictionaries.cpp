@@ -50,8 +50,8 @@ Kind copyOr(const Kind* value) {
 bool MedicalDictionaries::isDue(std::string_view dataPathKey, std::string_view flag, Direction direction) const {
   const DiskPath data = with_.locations.onDisk(ProductPath(with_.texts.localized(dataPathKey)));
   if (!with_.files.isThere(data) || with_.defaults.find(flag) != nullptr || with_.defaults.isUnknown()) return false;
-  const auto names = with_.files.list(dictionaryFolder(with_.paths, DictionaryKind::technical, direction));
-  return names || isAbsence(names.error());
+  const DiskPath folder = dictionaryFolder(with_.paths, DictionaryKind::technical, direction);
+  return namesInDictionaryFolder(with_.files, folder).has_value();
 }
 
 std::vector<std::string_view> MedicalDictionaries::insertInstalled() {

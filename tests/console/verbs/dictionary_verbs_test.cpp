@@ -207,5 +207,22 @@ TEST_F(DictionaryVerbs, aFolderThatCannotBeReadIsNoEmptyOne) {
   EXPECT_NE(style(0).find("\"TD\":[\"a.TRet\",\"b.TRet\",\"c.TRet\"]"), std::string::npos);
 }
 
+TEST_F(DictionaryVerbs, aFileInThePlaceOfTheFolderIsNoEmptyFolder) {
+  const std::string folder = std::string(technical) + "EJ";
+  std::filesystem::remove_all(root_.folder() / folder);
+  root_.folder().write(folder, "");
+  const std::string before = style(0);
+  const ToolResult result = run({"dictionary", "0", "ej", "remove", "a.TRet"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_NE(result.err.find("cannot be listed"), std::string::npos) << result.err;
+  EXPECT_EQ(style(0), before);
+}
+
+TEST_F(DictionaryVerbs, aFolderThatIsNotThereIsAnEmptyOne) {
+  std::filesystem::remove_all(root_.folder() / (std::string(technical) + "EJ"));
+  const ToolResult result = run({"dictionary", "0", "ej", "remove", "a.TRet"});
+  EXPECT_EQ(result.err.find("cannot be listed"), std::string::npos) << result.err;
+}
+
 }  // namespace
 }  // namespace tarvo::test
