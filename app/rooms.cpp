@@ -41,7 +41,8 @@ MergeKnowledge Rooms::mergeKnowledge() const {
   return {.isOnDisk =
               [this](Direction direction, const std::string& fileName) {
                 const DiskPath folder = dictionaryFolder(services_.paths, DictionaryKind::technical, direction);
-                return services_.files.isThere(folder / fileName);
+                return existsIgnoringCase(services_.files, folder / fileName) ||
+                       !namesInDictionaryFolder(services_.files, folder);
               },
           .isInserted = [](Direction, const std::string& fileName) { return isMedicalDictionary(fileName); },
           .isDivider = [this](const Dictionary& record) { return isDivider(record, texts_); }};

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <string>
 
+#include "platform/text/text_rules.h"
 #include "style/option_table.h"
 #include "style/style_keys.h"
 
@@ -44,6 +45,16 @@ bool isFilledIn(std::optional<Direction> half, std::string_view key, const Prope
                              [&](const auto& option) { return option.first == key && option.second == *mine; });
 }
 
+// Names of dictionaries are compared ignoring case.
+bool isSameName(const PropertyList& one, const PropertyList& other) {
+  const std::string *a = one.string(), *b = other.string();
+  return a != nullptr && b != nullptr ? equalIgnoringCase(*a, *b) : one == other;
+}
+
+bool holds(const Array& list, const PropertyList& name) {
+  return std::ranges::any_of(list, [&name](const PropertyList& one) { return isSameName(one, name); });
+}
+
 bool isList(std::optional<Direction> half, std::string_view key) { return half && key == keyNameTD; }
 
 }  // namespace
@@ -58,14 +69,14 @@ bool RecordMerge::isUnchangedList(Half half, std::string_view key, const Propert
   Array kept;  // of the base's names those that this machine can hold
   for (const PropertyList& name : *before) {
     const bool isGone = name.string() != nullptr && !knowledge_.isOnDisk(*half, *name.string());
-    if (!isGone || std::ranges::find(*now, name) != now->end()) kept.push_back(name);
+    if (!isGone || holds(*now, name)) kept.push_back(name);
   }
   Array chosen;  // of mine without what an installation inserted
   for (const PropertyList& name : *now) {
     const bool isInserted = name.string() != nullptr && knowledge_.isInserted(*half, *name.string());
-    if (!isInserted || std::ranges::find(*before, name) != before->end()) chosen.push_back(name);
+    if (!isInserted || holds(*before, name)) chosen.push_back(name);
   }
-  return kept == chosen;
+  return std::ranges::equal(kept, chosen, isSameName);
 }
 
 bool RecordMerge::areUnchanged(Half half, const Dictionary& base, const Dictionary& mine) const {

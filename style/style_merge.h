@@ -31,6 +31,7 @@ struct MergedSets {
 // What only a program that runs on this machine knows. A list of mine counts as unchanged when it lacks no more than
 // names that are not on this disk and has no more than names that an installation has inserted.
 struct MergeKnowledge {
+  // False: it is known to be gone. Letter case aside, as everywhere with names of dictionaries.
   std::function<bool(Direction direction, const std::string& fileName)> isOnDisk;
   std::function<bool(Direction direction, const std::string& fileName)> isInserted;
   std::function<bool(const Dictionary& record)> isDivider;  // dividers may share a name

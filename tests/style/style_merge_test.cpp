@@ -188,5 +188,14 @@ TEST(StyleMerge, tellsWhatTheOtherSideRemovedOfARecordThatBothChanged) {
   EXPECT_EQ(merged.notes[0].other, std::nullopt);
 }
 
+TEST(StyleMerge, aListInWhichTheDiskSpellsANameOtherwiseIsNotChanged) {
+  const Array shared{style("Standard", 0, 0, {"physics", "Chemistry"})};
+  const Array mine{style("Standard", 0, 1, {"Physics", "Chemistry"})};
+  const Array theirs{style("Standard", 0, 0, {"Chemistry"})};
+  const MergedStyles merged = merge(shared, mine, theirs);
+  EXPECT_EQ(merged.styles, (Array{style("Standard", 0, 1, {"Chemistry"})}));
+  EXPECT_TRUE(merged.notes.empty());
+}
+
 }  // namespace
 }  // namespace tarvo
