@@ -30,6 +30,7 @@ LoadedStyles loadStyles(StyleStore& store, MedicalDictionaries& medical, FileSer
       return loaded;
     }
     store.setPending();
+    if (store.unread()) store.beginStandIn();
   } else {
     loaded.filledIn = missingOptions(store.root());
   }

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "style/engine_registration.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/services/user_defaults.h"
@@ -12,13 +11,20 @@
 namespace tarvo {
 
 namespace {
-
-bool areStyles(const Array& styles) {
-  return std::all_of(styles.begin(), styles.end(),
-                     [](const PropertyList& style) { return style.dictionary() != nullptr && fitsStyleFile(style); });
+constexpr const char* standsIn = "StylesStandIn";
 }
 
-}  // namespace
+void EngineRegistration::beginStandIn(std::function<bool()> mayStore) {
+  if (!isStandIn()) defaults_.noteLater(standsIn, true, std::move(mayStore));
+}
+
+void EngineRegistration::endStandIn() { defaults_.forget(standsIn); }
+
+bool EngineRegistration::isStandIn() const { return defaults_.find(standsIn) != nullptr; }
+
+bool EngineRegistration::wasLeftAlone() const {
+  return isStandIn() && outcome_ && !*outcome_ && outcome_->error().cause == std::errc::file_exists;
+}
 
 void EngineRegistration::registerStyles(const StyleSet* styles) {
   if (engine_.checkConnectionWithCurl()) {
@@ -48,8 +54,10 @@ Result<std::optional<Array>> EngineRegistration::reconcile(const StyleSet* style
 void EngineRegistration::send(const StyleSet* styles) {
   if (styles == nullptr) return;
   std::string stamp;
+  engine_.setStandIn(isStandIn());
   engine_.sendRegistStyle(*styles, stamp);
   outcome_ = engine_.didRegister();
+  if (outcome_->has_value()) endStandIn();
   keep(stamp);
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include "platform/services/engine.h"
@@ -19,6 +20,14 @@ class EngineRegistration {
   // Asks whether the engine can be reached; then registers the set and stores the stamp, even an empty one, as
   // "LastUpdate".
   void registerStyles(const StyleSet* styles);
+  // The styles are the product's in the place of the user's, which could not be read: what an engine of the product
+  // holds stays there, until the styles are the user's again or the engine was found to hold none. Remembered over runs
+  // from the first flush of the settings at which it may be.
+  void beginStandIn(std::function<bool()> mayStore);
+  void endStandIn();
+  bool isStandIn() const;
+  // The last registration found a set, and left it alone.
+  bool wasLeftAlone() const;
   // How the last registration ended; nothing before the first that had styles to hand over.
   const std::optional<Result<>>& outcome() const { return outcome_; }
   // Registers the set with an engine that holds none; else asks for a set that is newer than "LastUpdate", and answers

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "style/style_file.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/plist/plist_reader.h"
@@ -113,6 +114,16 @@ Result<> StyleFile::write(const Dictionary& root, std::optional<ChangeKind> chan
 bool fitsStyleFile(const PropertyList& record) {
   constexpr int levelsAbove = 2;  // the root and "Style"
   return depthOf(record) + levelsAbove <= plistMaximumDepth;
+}
+
+bool areStyles(const Array& styles) {
+  return std::ranges::all_of(
+      styles, [](const PropertyList& style) { return style.dictionary() != nullptr && fitsStyleFile(style); });
+}
+
+bool holdsStyles(const Dictionary& root) {
+  const Array* styles = root.array(keyNameStyle);
+  return styles != nullptr && !styles->empty() && areStyles(*styles);
 }
 
 }  // namespace tarvo

@@ -56,5 +56,9 @@ class StyleFile {
 
 // Whether a style file that holds the record can be read back: lists within lists go only so deep.
 bool fitsStyleFile(const PropertyList& record);
+// Whether all of them are records that a style file can hold.
+bool areStyles(const Array& styles);
+// Whether the root of a style file holds styles, and nothing else in their places.
+bool holdsStyles(const Dictionary& root);
 
 }  // namespace tarvo

@@ -81,6 +81,7 @@ void restoreStyles(StyleStore& store, const Dictionary& earlier) {
   Dictionary root = store.root().entries().empty() ? earlier : store.root();
   root.set(keyNameStyle, stylesIn(earlier));
   if (const Dictionary* selection = earlier.dictionary(keyNameSelection)) root.set(keyNameSelection, *selection);
+  store.endStandIn();
   store.replaceRoot(std::move(root), ChangeKind::restore);
 }
 

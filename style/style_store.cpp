@@ -169,6 +169,7 @@ void StyleStore::writeTarvoStylePlist() {
     changed_.reset();
     if (ofLoad_) loadStored_ = true;
   }
+    hasWritten_ = true;
   unsaved_ = written ? std::nullopt : std::optional(written.error());
   pending_ = pending_ && unsaved_;
   if (didWrite) didWrite();
@@ -195,6 +196,7 @@ Result<StyleStore::Reconciled> StyleStore::reconcile() {
   ofLoad_ = false;
   replaceStyles(std::move(*taken), ChangeKind::pull);
   return Reconciled::replaced;
+  endStandIn();
 }
 
 std::optional<StyleSet> StyleStore::styleSet() {

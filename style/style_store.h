@@ -80,6 +80,14 @@ class StyleStore {
   // them whole, unwritten. Fails when the engine's cannot be taken. Those that were replaced have to be shown.
   enum class Reconciled { kept, replaced };
   Result<Reconciled> reconcile();
+  // The styles are the product's in the place of the user's, which could not be read: a service keeps the set that it
+  // holds (EngineRegistration), until the user brings a whole set here or hands this one over.
+  void beginStandIn() {
+    registration_.beginStandIn([this] { return hasWritten_; });
+  }
+  void endStandIn() { registration_.endStandIn(); }
+  bool isStandIn() const { return registration_.isStandIn(); }
+  bool wasLeftAlone() const { return registration_.wasLeftAlone(); }  // the service, by the last registration
   // Why the user's file that is there could not be read, or the last write did not reach the disk.
   const std::optional<Failure>& unread() const { return unread_; }
   const std::optional<Failure>& unsaved() const { return unsaved_; }
@@ -129,7 +137,8 @@ class StyleStore {
   EngineRegistration registration_;
   Dictionary tarvoStyle_;
   std::string currentID_;
-  bool awakening_ = true, pending_ = false, writesUnchanged_ = true, ofLoad_ = true, loadStored_ = false;
+  bool awakening_ = true, pending_ = false, writesUnchanged_ = true, ofLoad_ = true, loadStored_ = false,
+       hasWritten_ = false;
   std::optional<Failure> unread_, unsaved_;
   std::optional<ChangeKind> changed_;  // what has changed styles since the last write
   std::optional<ForeignSet> foreign_;

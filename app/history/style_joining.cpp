@@ -105,6 +105,7 @@ void StyleJoining::store(const Dictionary& theirs, MergedStyles joined) {
   const bool isInOrder = keepsOrder(joined);
   root.set(keyNameStyle, std::move(joined.styles));
   with_.undo.stylesCameFromElsewhere(isInOrder);
+  with_.store.endStandIn();
   with_.store.replaceRoot(std::move(root), ChangeKind::merge);
   with_.showStyles();
   with_.notices.tell({.text = with_.texts.localized("Notice.joined"), .offer = Notice::Offer::undo});

@@ -134,6 +134,10 @@ void StyleNews::didRegister() {
   if (!outcome) return;
   const bool isTold = !*outcome && !isServiceMissing(outcome->error());
   const std::string cause = isTold ? failureCauseText(outcome->error(), with_.texts) : std::string();
+  if (with_.store.wasLeftAlone()) {
+    return with_.notices.tell(
+        {.text = with_.texts.localized("Notice.serviceLeftAlone"), .offer = Notice::Offer::restore});
+  }
   if (cause == toldService_) return;
   toldService_ = cause;
   with_.notices.tellAside({.text = isTold ? filledIn(with_.texts.localized("Notice.service"), cause)

@@ -97,6 +97,7 @@ class RecordedEngine : public Engine {
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override;
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
+  void setStandIn(bool standsIn) override { engine_.setStandIn(standsIn); }
   EngineForm form() const override { return engine_.form(); }
   Result<> couldReach() const override { return engine_.couldReach(); }
   Result<> didRegister() const override { return engine_.didRegister(); }

@@ -124,8 +124,11 @@ std::optional<bool> StyleSession::registerStyles() {
   if (const std::optional<Failure>& unwritten = defaults_.unwritten()) note(console_, *unwritten);
   const std::optional<Result<>>& outcome = store_.registration();
   if (!outcome) return std::nullopt;
-  if (!*outcome)
-    note(console_, {service(), "Refusal.Waiting", failureParts(outcome->error(), console_.textsToTell()).cause});
+  defaults_.synchronize();  // whose the styles are by now
+  if (!*outcome) {
+    const char* words = store_.wasLeftAlone() ? "Refusal.ServiceLeftAlone" : "Refusal.Waiting";
+    note(console_, {service(), words, failureParts(outcome->error(), console_.textsToTell()).cause});
+  }
   return outcome->has_value();
 }
 

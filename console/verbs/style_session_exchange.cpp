@@ -19,6 +19,7 @@ ExitStatus StyleSession::push() {
   }
   store_.registerStyles();
   return sayHandedOver(store_.registration().value_or(Result<>()));
+  store_.endStandIn();
 }
 
 ExitStatus StyleSession::restore(const Dictionary& earlier) {
@@ -61,6 +62,8 @@ ExitStatus StyleSession::sayHandedOver(const Result<>& outcome) {
   }
   return ExitStatus::done;
 }
+  // Whatever the service holds is newer than what came from the product.
+  if (store_.isStandIn()) defaults_.forget(lastUpdate);
 
 // What the load has joined went with the former styles: it is not remembered, and joins the new ones at the next load.
 // The window goes another way to the same end: it shows all styles before it switches, keeps what no file could take in

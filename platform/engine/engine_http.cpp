@@ -89,6 +89,10 @@ EngineHttp::Try EngineHttp::tryToStore(const StylePayload& payload, SetStamp& st
   stamp = payload.stamp(nextRevision());
   failed_ = before.cause;
   if (before.state == State::unknown) return Try::failed;
+  if (standsIn_ && before.state != State::nothing) {
+    failed_ = std::make_error_code(std::errc::file_exists);
+    return Try::failed;
+  }
   const std::string bytes = payload.bytes(stamp.revision);
   const StyleResource::Storing storing = resource_.store(bytes, before, deadline);
   failed_ = resource_.cause();

@@ -40,6 +40,7 @@ class EngineHttp : public Engine {
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override;
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
+  void setStandIn(bool standsIn) override { standsIn_ = standsIn; }
   EngineForm form() const override { return EngineForm::http; }
   Result<> couldReach() const override { return couldReach_; }
   Result<> didRegister() const override { return didRegister_; }
@@ -63,6 +64,7 @@ class EngineHttp : public Engine {
   std::chrono::steady_clock::duration silentUntil_{}, begun_{}, finished_{};
   std::chrono::steady_clock::duration spent_{};  // of the action
   std::uint64_t known_ = 0;                      // the greatest revision that was seen anywhere
+  bool standsIn_ = false;
   Result<> couldReach_, didRegister_, couldRead_;
 };
 

@@ -76,7 +76,19 @@ EngineLocal::EngineLocal(FileService& files, DiskPath path) : files_(files), fil
 
 bool EngineLocal::checkConnectionWithCurl() { return true; }
 
+// A file that cannot be read may hold a set.
+bool EngineLocal::keepsItsSet() {
+  if (!standsIn_) return false;
+  const Result<Dictionary> set = readSet();
+  return set ? set->array(styleKey) != nullptr : !isAbsence(set.error());
+}
+
 void EngineLocal::sendRegistStyle(const StyleSet& styles, std::string& updateString) {
+  if (keepsItsSet()) {
+    updateString = makeStamp(counter_.value_or(lastCounter));  // so that it does not count as newer
+    didRegister_ = Failure{file_.path().text(), Attempt::store, std::make_error_code(std::errc::file_exists)};
+    return;
+  }
   if (!counter_) {
     const Result<Dictionary> held = readSet();
     (void)held;  // what is there is replaced; a set that cannot be read is kept beside it

@@ -27,16 +27,19 @@ class EngineLocal : public Engine {
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override;
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
+  void setStandIn(bool standsIn) override { standsIn_ = standsIn; }
   EngineForm form() const override { return EngineForm::local; }
   Result<> didRegister() const override { return didRegister_; }
   Result<> couldRead() const override { return couldRead_; }
 
  private:
   Result<Dictionary> readSet();
+  bool keepsItsSet();
   FileService& files_;
   PlistFile file_;
   std::optional<std::uint64_t> counter_;  // of the file, once it could be read: a registration need not read it again
   Result<> didRegister_, couldRead_;
+  bool standsIn_ = false;
 };
 
 }  // namespace tarvo

@@ -47,6 +47,10 @@ class Engine {
   // in.
   virtual bool requestStyle(Array& styles, std::string& localUpdate) = 0;
 
+  // While on, what is registered stands in for styles that could not be read: an engine of the product leaves a set
+  // that it holds alone then, and the registration fails with std::errc::file_exists. Off at first.
+  virtual void setStandIn(bool) {}
+
   virtual EngineForm form() const { return EngineForm::other; }
   // What is behind the answers of the operations, each of the last time and done before the first. The path of a
   // failure is the file or the address of the service. Why the service could not be reached.

@@ -18,18 +18,27 @@ UserDefaults::UserDefaults(FileService& files, DiskPath path) : files_(files), f
   }
 }
 
-void UserDefaults::set(std::string_view key, PropertyList value) {
+void UserDefaults::put(std::string_view key, PropertyList value) {
   const PropertyList* present = values_.find(key);
   if (forgetLater(key) || present == nullptr || *present != value) {
     values_.set(key, std::move(value));
     changed_ = true;
   }
+}
+
+void UserDefaults::set(std::string_view key, PropertyList value) {
+  put(key, std::move(value));
   if (observer) observer(key, values_.find(key));
 }
 
 void UserDefaults::setLater(std::string_view key, PropertyList value, std::function<bool()> mayStore) {
+  noteLater(key, std::move(value), std::move(mayStore));
+  if (observer) observer(key, values_.find(key));
+}
+
+void UserDefaults::noteLater(std::string_view key, PropertyList value, std::function<bool()> mayStore) {
   const bool others = changed_;
-  set(key, std::move(value));
+  put(key, std::move(value));
   changed_ = others;
   later_.push_back({std::string(key), std::move(mayStore)});
 }
@@ -44,9 +53,13 @@ Dictionary UserDefaults::toStore() const {
   return values;
 }
 
-void UserDefaults::remove(std::string_view key) {
+void UserDefaults::forget(std::string_view key) {
   forgetLater(key);
   if (values_.remove(key)) changed_ = true;
+}
+
+void UserDefaults::remove(std::string_view key) {
+  forget(key);
   if (observer) observer(key, nullptr);
 }
 

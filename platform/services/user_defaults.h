@@ -25,6 +25,9 @@ class UserDefaults {
   // where it never may, the file has no such key, whatever else is written.
   void setLater(std::string_view key, PropertyList value, std::function<bool()> mayStore);
   void remove(std::string_view key);
+  // The same two for what the program notes for itself: the observer is not told.
+  void noteLater(std::string_view key, PropertyList value, std::function<bool()> mayStore);
+  void forget(std::string_view key);
   // Why the file that is there could not be read, so that every key counts as absent.
   const std::optional<Failure>& unread() const { return unread_; }
   // The same for a cause that may pass, such as a fault of the disk: no key is known to be absent.
@@ -45,6 +48,7 @@ class UserDefaults {
     std::string key;
     std::function<bool()> mayStore;
   };
+  void put(std::string_view key, PropertyList value);
   void readAgain();
   bool forgetLater(std::string_view key);
   Dictionary toStore() const;

@@ -100,5 +100,28 @@ TEST_F(EngineHttpTest, revisionsCountOnFromTheGreatestThatWasSeen) {
   EXPECT_EQ(newerThan(http, stampOf(two, lastRevision)), one.records) << "another hash is newer";
 }
 
+TEST_F(EngineHttpTest, stylesThatStandInForOthersReplaceNoSet) {
+  for (const std::string& held : {payload(two, 5), std::string("damaged")}) {
+    web.hold(held);
+    EngineHttp http = engine();
+    http.setStandIn(true);
+    const std::string stamp = registered(http, one);
+    ASSERT_FALSE(http.didRegister());
+    EXPECT_EQ(http.didRegister().error().cause, std::errc::file_exists);
+    EXPECT_EQ(web.held, held);
+    EXPECT_EQ(newerThan(http, stamp), std::nullopt) << "it does not come over the styles by itself either";
+    http.setStandIn(false);
+    registered(http, one);
+    EXPECT_TRUE(http.didRegister());
+  }
+}
+
+TEST_F(EngineHttpTest, stylesThatStandInForOthersReachAServiceWithoutASet) {
+  EngineHttp http = engine();
+  http.setStandIn(true);
+  EXPECT_EQ(registered(http, one), stampOf(one, 1));
+  EXPECT_TRUE(http.didRegister());
+}
+
 }  // namespace
 }  // namespace tarvo::test

@@ -196,41 +196,6 @@ TEST_F(UserDefaultsTest, aFailureIsToldOnceUntilSomethingIsStored) {
   EXPECT_EQ(told.size(), 2U);
 }
 
-TEST_F(UserDefaultsTest, aValueForLaterIsStoredWithTheFirstFlushAtWhichItMay) {
-  bool may = false;
-  UserDefaults defaults(files, folder.at(file));
-  defaults.setLater("later", true, [&may] { return may; });
-  EXPECT_EQ(*defaults.find("later"), PropertyList(true));
-  defaults.synchronize();
-  EXPECT_EQ(fileNumber(), 0U) << "nothing else was to be written";
-  defaults.set("other", 1);
-  defaults.synchronize();
-  EXPECT_EQ(stored("other"), PropertyList(1));
-  EXPECT_EQ(stored("later"), PropertyList("absent"));
-  may = true;
-  EXPECT_EQ(stored("later"), PropertyList("absent")) << "it waits for a flush";
-  defaults.synchronize();
-  EXPECT_EQ(stored("later"), PropertyList(true));
-  EXPECT_EQ(stored("other"), PropertyList(1));
-}
-
-TEST_F(UserDefaultsTest, aValueForLaterIsTriedAgainAndGivesWayToOneThatIsSet) {
-  UserDefaults defaults(files, folder.at(file));
-  defaults.setLater("set", true, [] { return false; });
-  defaults.setLater("removed", true, [] { return false; });
-  defaults.setLater("tried", true, [] { return true; });
-  defaults.set("set", true);
-  defaults.remove("removed");
-  folder.makeFolder(file);  // a folder in its place
-  defaults.synchronize();
-  EXPECT_TRUE(defaults.unwritten());
-  fs::remove(folder / file);
-  defaults.synchronize();
-  EXPECT_EQ(stored("set"), PropertyList(true));
-  EXPECT_EQ(stored("removed"), PropertyList("absent"));
-  EXPECT_EQ(stored("tried"), PropertyList(true));
-}
-
 TEST(UserDefaultsOnAFaultyDisk, aFaultOfAnInstantMakesNoValueAbsent) {
   test::TiredFiles files;
   files.put("/settings.plist", "<plist><dict><key>tag</key><string>QB</string></dict></plist>");
