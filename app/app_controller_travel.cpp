@@ -55,13 +55,11 @@ std::optional<Dictionary> AppController::readForImport(const DiskPath& path) {
 bool AppController::installStyle(Dictionary record, const DiskPath& from) {
   const PopUpButton& stylePopup = interface_.style.stylePopup;
   const int index = stylePopup.indexOfSelectedItem();
-  const std::optional<Dictionary> before = rooms_.store.getStyleAtIndex(index);
+  const std::size_t before = rooms_.undoSteps.mark();
   if (!rooms_.exchange.install(record, index, stylePopup.titleOfSelectedItem())) return false;
-  const bool isNew = before != rooms_.store.getStyleAtIndex(index);
   rooms_.news.showImported([&] { rooms_.display.setupStyleData2(index); });
   for (const Direction direction : bothDirections) rooms_.lists.updateButton(direction);
-  rooms_.notices.tell(
-      {.text = importedInWords(record, index, from), .offer = isNew ? Notice::Offer::undo : Notice::Offer::none});
+  rooms_.notices.tell(doneNotice(importedInWords(record, index, from), before, rooms_.undoSteps.mark()));
   return true;
 }
 

@@ -40,7 +40,7 @@ bool UndoSteps::note(const StoredChange& change) {
   const bool isStep = !taking_ && change.kind != ChangeKind::repair && !store_.isAwakening();
   if (isStep) {
     steps_.resize(done_);
-    steps_.push_back(change);
+    steps_.push_back({change, ++lastMark_});
     if (steps_.size() > mostSteps) steps_.pop_front();
     done_ = steps_.size();
   }
@@ -55,13 +55,19 @@ void UndoSteps::noteRepair(const StoredChange& change) {
   const auto isOf = [&change](const StoredChange& step, const Dictionary& left) {
     return step.what == What::record && step.index == change.index && left == change.before;
   };
-  if (done_ > 0 && isOf(steps_[done_ - 1], steps_[done_ - 1].after)) steps_[done_ - 1].after = change.after;
-  if (done_ < steps_.size() && isOf(steps_[done_], steps_[done_].before)) steps_[done_].before = change.after;
+  if (done_ > 0) {
+    StoredChange& step = steps_[done_ - 1].change;
+    if (isOf(step, step.after)) step.after = change.after;
+  }
+  if (done_ < steps_.size()) {
+    StoredChange& step = steps_[done_].change;
+    if (isOf(step, step.before)) step.before = change.after;
+  }
 }
 
 const StoredChange* UndoSteps::next(Way way) const {
-  if (way == Way::undo) return done_ > 0 ? &steps_[done_ - 1] : nullptr;
-  return done_ < steps_.size() ? &steps_[done_] : nullptr;
+  if (way == Way::undo) return done_ > 0 ? &steps_[done_ - 1].change : nullptr;
+  return done_ < steps_.size() ? &steps_[done_].change : nullptr;
 }
 
 bool UndoSteps::isPresent(const StoredChange& step, Way way) const {

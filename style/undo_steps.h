@@ -31,6 +31,8 @@ class UndoSteps {
   State state(Way way) const;
   // What the next step does, whichever way: as it was made. Null when there is none.
   const StoredChange* next(Way way) const;
+  // Tells the step that undo takes next from every other one of this run; 0 where there is none.
+  std::size_t mark() const { return done_ > 0 ? steps_[done_ - 1].mark : 0; }
   // Puts the value back. Only when it is ready.
   void take(Way way);
   // Forgets all steps: the styles are no longer those that they were made on.
@@ -41,8 +43,13 @@ class UndoSteps {
   void noteRepair(const StoredChange& change);
   bool isPresent(const StoredChange& step, Way way) const;
   void put(const StoredChange& step, Way way);
+  struct Step {
+    StoredChange change;
+    std::size_t mark;
+  };
   StyleStore& store_;
-  std::deque<StoredChange> steps_;
+  std::deque<Step> steps_;
+  std::size_t lastMark_ = 0;
   std::size_t done_ = 0;  // steps before this one can be undone, the others made again
   bool taking_ = false;
 };

@@ -12,6 +12,7 @@
 #include "style/style_edits.h"
 #include "style/style_keys.h"
 #include "style/style_store.h"
+#include "style/undo_steps.h"
 
 namespace tarvo {
 
@@ -99,8 +100,8 @@ void EarlierStylesPanel::restoreAll() {
   const std::optional<std::size_t> row = chosenRow();
   if (!row || !history_ || !chosen_) return;
   const std::string time = localText(history_->sets()[*row].time);
-  restoreStyles(with_.store, *chosen_);
-  didRestore("Notice.restoredAll", time);
+  const std::size_t before = with_.steps.mark();
+  if (restoreStyles(with_.store, *chosen_)) didRestore(before, "Notice.restoredAll", time);
 }
 
 void EarlierStylesPanel::restoreStyle() {
@@ -110,13 +111,15 @@ void EarlierStylesPanel::restoreStyle() {
   const std::string name = styleName(*shown);
   if (!tarvo::restoreStyle(with_.store, index, *chosen_, with_.standardName)) {
     return with_.outlets.earlierStylesText.setStringValue(filledIn(with_.texts.localized("History.noStyle"), name));
+  const std::size_t before = with_.steps.mark();
   }
-  didRestore("Notice.restoredStyle", name);
+  didRestore(before, "Notice.restoredStyle", name);
 }
 
-void EarlierStylesPanel::didRestore(const std::string& key, const std::string& value) {
+void EarlierStylesPanel::didRestore(std::size_t stepBefore, const std::string& key, const std::string& value) {
+  const std::size_t step = with_.steps.mark();
   with_.showStyles();
-  with_.notices.tell({.text = filledIn(with_.texts.localized(key), value), .offer = Notice::Offer::undo});
+  with_.notices.tell(doneNotice(filledIn(with_.texts.localized(key), value), stepBefore, step));
   close();
 }
 

@@ -16,6 +16,7 @@ namespace tarvo {
 class Notices;
 class StyleStore;
 class Texts;
+class UndoSteps;
 
 struct EarlierStylesOutlets : Outlets {
   Window earlierStylesWindow{*this, "earlierStylesWindow"};
@@ -41,6 +42,7 @@ class EarlierStylesPanel : public TableDataSource, public TableDelegate {
     StyleStore& store;
     const EarlierStyles& earlier;
     Windows& windows;
+    const UndoSteps& steps;
     Notices& notices;
     const Texts& texts;
     std::string standardName;  // of the style that keeps its name
@@ -62,8 +64,8 @@ class EarlierStylesPanel : public TableDataSource, public TableDelegate {
  private:
   std::optional<std::size_t> chosenRow() const;
   int rowOfSet(const std::string& id);
-  std::string effectOf(const Dictionary& root) const;
-  void didRestore(const std::string& key, const std::string& value);
+  std::string effectOf(const Dictionary& root, const EarlierSet& set) const;
+  void didRestore(std::size_t stepBefore, const std::string& key, const std::string& value);
   Collaborators with_;
   std::optional<StyleHistory> history_;
   std::optional<Failure> unlisted_;   // why nobody knows which sets there are

@@ -10,6 +10,13 @@ namespace {
 constexpr std::size_t mostNotices = 50;
 }
 
+Notice doneNotice(std::string text, std::size_t stepBefore, std::size_t step) {
+  return {.text = std::move(text),
+          .offer = step != stepBefore ? Notice::Offer::undo : Notice::Offer::none,
+          .earlierSet = {},
+          .step = step};
+}
+
 void Notices::remember(const Notice& notice) {
   latest_.push_front(notice);
   if (latest_.size() > mostNotices) latest_.pop_back();
@@ -37,6 +44,10 @@ void Notices::setStanding(std::optional<Notice> notice) {
   standing_ = std::move(notice);
   if (standing_) remember(*standing_);
   changed();
+}
+
+void Notices::undoTakes(std::size_t step) {
+  if (told_ && told_->offer == Notice::Offer::undo && told_->step != step) dismiss();
 }
 
 void Notices::dismiss() {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <deque>
 #include <functional>
 #include <optional>
@@ -17,7 +18,12 @@ struct Notice {
   std::string text;
   Offer offer = Offer::none;
   std::string earlierSet;  // id of the set that is to be restored or merged
+  std::size_t step = 0;    // the step that undo takes back (UndoSteps::mark)
 };
+
+// Of something that was done. It offers to take that back when a step came of it: stepBefore and step are the marks of
+// the steps that undo would have taken before it and takes now (UndoSteps::mark).
+Notice doneNotice(std::string text, std::size_t stepBefore, std::size_t step);
 
 class Notices {
  public:
@@ -27,6 +33,8 @@ class Notices {
   void tellAside(Notice notice);
   // A state: it stands in the line before all others until it ends with nothing. Not among the latest twice.
   void setStanding(std::optional<Notice> notice);
+  // Undo takes this step next: a notice that offers to take another one back is no longer shown.
+  void undoTakes(std::size_t step);
   // Takes the shown one away; a standing one stays.
   void dismiss();
 

@@ -15,6 +15,7 @@
 #include "style/style_history.h"
 #include "style/style_keys.h"
 #include "style/style_store.h"
+#include "style/undo_steps.h"
 
 namespace tarvo {
 
@@ -107,8 +108,10 @@ void StyleJoining::store(const Dictionary& theirs, MergedStyles joined) {
   with_.undo.stylesCameFromElsewhere(isInOrder);
   with_.store.endStandIn();
   with_.store.replaceRoot(std::move(root), ChangeKind::merge);
+  const std::size_t before = with_.steps.mark();
   with_.showStyles();
-  with_.notices.tell({.text = with_.texts.localized("Notice.joined"), .offer = Notice::Offer::undo});
+  const std::size_t step = with_.steps.mark();
+  with_.notices.tell(doneNotice(with_.texts.localized("Notice.joined"), before, step));
 }
 
 }  // namespace tarvo

@@ -18,6 +18,7 @@ class StyleStore;
 class Texts;
 class UndoCommands;
 
+class UndoSteps;
 // Duty: read the other set, say what joining would change, ask, store the joined set as one edit. Not: the rules of
 // joining (style/style_merge.h).
 class StyleJoining {
@@ -30,6 +31,7 @@ class StyleJoining {
     Notices& notices;
     UndoCommands& undo;
     const Texts& texts;
+    const UndoSteps& steps;
     MergeKnowledge knowledge;
     std::function<void()> showStyles;
     std::function<void(const std::string& id)> showEarlier;

@@ -71,16 +71,14 @@ void StyleNews::showImported(const std::function<void()>& show) {
 
 void StyleNews::didChange(const StoredChange& change) {
   const bool isStep = with_.steps.note(change);
-  const Notice* shown = with_.notices.shown();
-  // The offer was to take back the step before this one.
-  if (isStep && shown != nullptr && shown->offer == Notice::Offer::undo) with_.notices.dismiss();
   const std::string removed = removedDictionaries(change, with_.texts);
   if (change.kind == ChangeKind::repair && !removed.empty() && !importing_) {
     const auto words = changesInWords(styleChanges(Array{change.before}, Array{change.after}), with_.texts);
     with_.notices.tell({.text = filledIn(with_.texts.localized("Notice.repaired"), inOneLine(words))});
   } else if (isStep && change.kind == ChangeKind::edit && !removed.empty()) {
-    with_.notices.tell(
-        {.text = filledIn(with_.texts.localized("Notice.removed"), removed), .offer = Notice::Offer::undo});
+    with_.notices.tell({.text = filledIn(with_.texts.localized("Notice.removed"), removed),
+                        .offer = Notice::Offer::undo,
+                        .step = with_.steps.mark()});
   }
 }
 
@@ -134,12 +132,12 @@ void StyleNews::didRegister() {
   if (!outcome) return;
   const bool isTold = !*outcome && !isServiceMissing(outcome->error());
   const std::string cause = isTold ? failureCauseText(outcome->error(), with_.texts) : std::string();
+  if (cause == toldService_) return;
+  toldService_ = cause;
   if (with_.store.wasLeftAlone()) {
     return with_.notices.tell(
         {.text = with_.texts.localized("Notice.serviceLeftAlone"), .offer = Notice::Offer::restore});
   }
-  if (cause == toldService_) return;
-  toldService_ = cause;
   with_.notices.tellAside({.text = isTold ? filledIn(with_.texts.localized("Notice.service"), cause)
                                           : with_.texts.localized("Notice.serviceAgain")});
 }

@@ -29,6 +29,7 @@ UndoCommands::UndoCommands(Collaborators with) : with_(std::move(with)) {
   with_.steps.didChange = [this] {
     with_.undoMenu.setTitle(titleOf(Way::undo));
     with_.redoMenu.setTitle(titleOf(Way::redo));
+    with_.notices.undoTakes(with_.steps.mark());
   };
 }
 
