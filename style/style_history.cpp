@@ -20,6 +20,15 @@ Array stylesIn(const Dictionary& root) {
   return styles != nullptr ? *styles : Array();
 }
 
+// A choice of a style that there is not becomes one of the first.
+Dictionary choicesAmong(std::size_t count, const Dictionary& selection) {
+  Dictionary choices = selection;
+  for (const auto& [tool, style] : selection.entries()) {
+    if (style.hasIntegerValue() && std::cmp_greater_equal(style.integerValue(), count)) choices.set(tool, 0);
+  }
+  return choices;
+}
+
 // The record that a style has been, as far as its name or its place tells.
 const Dictionary* formerRecord(const Array& styles, const std::string& name, std::size_t place) {
   const auto sameName = std::ranges::find_if(
@@ -77,12 +86,18 @@ std::optional<EarlierSet> setWithId(std::vector<EarlierSet> sets, const std::str
   return found;
 }
 
-void restoreStyles(StyleStore& store, const Dictionary& earlier) {
+bool restoreStyles(StyleStore& store, const Dictionary& earlier) {
+  if (!holdsStyles(earlier)) return false;
   Dictionary root = store.root().entries().empty() ? earlier : store.root();
   root.set(keyNameStyle, stylesIn(earlier));
-  if (const Dictionary* selection = earlier.dictionary(keyNameSelection)) root.set(keyNameSelection, *selection);
+  if (const Dictionary* selection = earlier.dictionary(keyNameSelection)) {
+    root.set(keyNameSelection, *selection);
+  } else if (const Dictionary* present = root.dictionary(keyNameSelection)) {
+    root.set(keyNameSelection, choicesAmong(stylesIn(earlier).size(), *present));
+  }
   store.endStandIn();
   store.replaceRoot(std::move(root), ChangeKind::restore);
+  return true;
 }
 
 bool restoreStyle(StyleStore& store, int index, const Dictionary& earlier, const std::string& standardName) {

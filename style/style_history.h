@@ -44,9 +44,10 @@ class StyleHistory {
 // The set whose id is the word or begins with it; nothing when there is none, or more than one.
 std::optional<EarlierSet> setWithId(std::vector<EarlierSet> sets, const std::string& word);
 
-// Brings an earlier set back, with the choices of the tools; all of it where the store holds nothing. One write; it is
-// an edit like any other.
-void restoreStyles(StyleStore& store, const Dictionary& earlier);
+// Brings an earlier set back, with the choices of the tools; all of it where the store holds nothing. Choices that the
+// set says nothing of stay, but for those of a style that is gone, which become the first one. One write; it is an edit
+// like any other. False: the set holds something else than styles, and nothing was written.
+bool restoreStyles(StyleStore& store, const Dictionary& earlier);
 // Brings the style of the same name, else the one at the same place, back into the record at the index, which keeps its
 // "ID" and, where another style has the earlier name by now, its name. False: the earlier set has no such record, and
 // nothing was written.

@@ -72,19 +72,21 @@ void EarlierStylesPanel::selectionDidChange(TableView&) {
   chosen_.reset();
   std::string text = unlisted_ ? failureText(*unlisted_, with_.texts) : with_.texts.localized("History.none");
   if (row && history_) {
-    Result<Dictionary> root = with_.earlier.read(history_->sets()[*row]);
-    text = root ? effectOf(*root) : failureText(root.error(), with_.texts);
+    const EarlierSet& set = history_->sets()[*row];
+    Result<Dictionary> root = with_.earlier.read(set);
+    text = root ? effectOf(*root, set) : failureText(root.error(), with_.texts);
     if (root) chosen_ = std::move(*root);
   }
   const std::optional<Dictionary> shown = with_.store.getStyleAtIndex(with_.stylePopup.indexOfSelectedItem());
   with_.outlets.earlierStylesText.setStringValue(text);
-  with_.outlets.restoreAllButton.setEnabled(chosen_.has_value());
+  with_.outlets.restoreAllButton.setEnabled(chosen_ && holdsStyles(*chosen_));
   with_.outlets.restoreStyleButton.setEnabled(chosen_.has_value() && shown.has_value());
   with_.outlets.restoreStyleButton.setLabel(
       filledIn(with_.texts.localized("History.restoreStyle"), shown ? styleName(*shown) : std::string()));
 }
 
-std::string EarlierStylesPanel::effectOf(const Dictionary& root) const {
+std::string EarlierStylesPanel::effectOf(const Dictionary& root, const EarlierSet& set) const {
+  if (!holdsStyles(root)) return failureText({set.path.text(), Attempt::read, Reason::damaged}, with_.texts);
   std::vector<std::string> words =
       changesInWords(styleChanges(stylesIn(with_.store.root()), stylesIn(root)), with_.texts);
   if (words.empty()) return with_.texts.localized("History.same");
@@ -109,9 +111,9 @@ void EarlierStylesPanel::restoreStyle() {
   const std::optional<Dictionary> shown = with_.store.getStyleAtIndex(index);
   if (!chosen_ || !shown) return;
   const std::string name = styleName(*shown);
+  const std::size_t before = with_.steps.mark();
   if (!tarvo::restoreStyle(with_.store, index, *chosen_, with_.standardName)) {
     return with_.outlets.earlierStylesText.setStringValue(filledIn(with_.texts.localized("History.noStyle"), name));
-  const std::size_t before = with_.steps.mark();
   }
   didRestore(before, "Notice.restoredStyle", name);
 }

@@ -48,19 +48,20 @@ bool keepsOrder(const MergedStyles& joined) {
 }  // namespace
 
 Result<StyleJoining::Sets> StyleJoining::setsFor(const std::string& id) const {
-  if (id.empty()) {
-    Result<Dictionary> theirs = with_.store.readPresent();
-    if (!theirs) return theirs.error();
-    return Sets{.base = with_.store.lastStored(), .theirs = std::move(*theirs)};
-  }
+  if (id.empty()) return joinable(with_.store.lastStored(), with_.store.readPresent(), with_.store.path());
   Result<std::vector<EarlierSet>> sets = with_.earlier.list();
   if (!sets) return sets.error();
   const std::optional<EarlierSet> set = setWithId(std::move(*sets), id);
   const std::optional<StyleStore::ForeignSet>& foreign = with_.store.foreign();
   if (!set || !foreign) return Failure{with_.earlier.folder().text(), Attempt::read, Reason::noStyle};
-  Result<Dictionary> theirs = with_.earlier.read(*set);
+  return joinable(foreign->base, with_.earlier.read(*set), set->path);
+}
+
+// What holds something else than styles would remove those that are here.
+Result<StyleJoining::Sets> StyleJoining::joinable(Dictionary base, Result<Dictionary> theirs, const DiskPath& path) {
   if (!theirs) return theirs.error();
-  return Sets{.base = foreign->base, .theirs = std::move(*theirs)};
+  if (!holdsStyles(*theirs)) return Failure{path.text(), Attempt::read, Reason::damaged};
+  return Sets{.base = std::move(base), .theirs = std::move(*theirs)};
 }
 
 void StyleJoining::join(const std::string& id) {
@@ -107,10 +108,10 @@ void StyleJoining::store(const Dictionary& theirs, MergedStyles joined) {
   root.set(keyNameStyle, std::move(joined.styles));
   with_.undo.stylesCameFromElsewhere(isInOrder);
   with_.store.endStandIn();
-  with_.store.replaceRoot(std::move(root), ChangeKind::merge);
   const std::size_t before = with_.steps.mark();
-  with_.showStyles();
+  with_.store.replaceRoot(std::move(root), ChangeKind::merge);
   const std::size_t step = with_.steps.mark();
+  with_.showStyles();
   with_.notices.tell(doneNotice(with_.texts.localized("Notice.joined"), before, step));
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/services/result.h"
+#include "platform/text/paths.h"
 #include "style/style_merge.h"
 
 // Brings the styles here and those that another program has written together.
@@ -17,8 +18,8 @@ class Notices;
 class StyleStore;
 class Texts;
 class UndoCommands;
-
 class UndoSteps;
+
 // Duty: read the other set, say what joining would change, ask, store the joined set as one edit. Not: the rules of
 // joining (style/style_merge.h).
 class StyleJoining {
@@ -30,8 +31,8 @@ class StyleJoining {
     Panels& panels;
     Notices& notices;
     UndoCommands& undo;
-    const Texts& texts;
     const UndoSteps& steps;
+    const Texts& texts;
     MergeKnowledge knowledge;
     std::function<void()> showStyles;
     std::function<void(const std::string& id)> showEarlier;
@@ -46,6 +47,7 @@ class StyleJoining {
     Dictionary base, theirs;
   };
   Result<Sets> setsFor(const std::string& id) const;
+  static Result<Sets> joinable(Dictionary base, Result<Dictionary> theirs, const DiskPath& path);
   std::string effectOf(const Array& joined, const std::vector<MergeNote>& notes) const;
   void store(const Dictionary& theirs, MergedStyles joined);
   Collaborators with_;
