@@ -74,6 +74,8 @@ void StyleStore::setStyle(int index, Dictionary record, ChangeKind kind) {
   if (present.dictionary() != nullptr) change.before = *present.dictionary();
   present = std::move(record);
   noteChange(kind);
+  // What the load has joined to the former record, and no file holds yet, went with it.
+  if (isNew && pending_ && kind > ChangeKind::edit) ofLoad_ = false;
   if (isNew) tellChange(std::move(change));
   file_.recordChanged(static_cast<std::size_t>(index));
   writeTarvoStylePlist();
@@ -167,9 +169,9 @@ void StyleStore::writeTarvoStylePlist() {
   if (written || replaced.unsynced) unwritten_.clear();  // what stands there, on the disk or not yet
   if (written) {
     changed_.reset();
+    hasWritten_ = true;
     if (ofLoad_) loadStored_ = true;
   }
-    hasWritten_ = true;
   unsaved_ = written ? std::nullopt : std::optional(written.error());
   pending_ = pending_ && unsaved_;
   if (didWrite) didWrite();
@@ -194,9 +196,9 @@ Result<StyleStore::Reconciled> StyleStore::reconcile() {
   std::optional<Array>& taken = *newer;
   if (!taken) return Reconciled::kept;
   ofLoad_ = false;
+  endStandIn();
   replaceStyles(std::move(*taken), ChangeKind::pull);
   return Reconciled::replaced;
-  endStandIn();
 }
 
 std::optional<StyleSet> StyleStore::styleSet() {
