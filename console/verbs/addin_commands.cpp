@@ -44,6 +44,13 @@ std::vector<std::string> lineOf(const AddinEntry& row, const char* first, const 
 }
 
 using RowCounts = std::map<AddinKind, std::size_t>;
+std::vector<std::string> listingOf(const AddinEntry& row, Product& product) {
+  std::vector<std::string> line = lineOf(row, isMarkedInstalled(row) ? "installed" : "-", product);
+  const std::string fault = isMarkedInstalled(row) ? reasonOf(row, product) : std::string();
+  if (!fault.empty()) line.push_back(fault);
+  return line;
+}
+
 
 RowCounts countRows(const AddinLists& lists) {
   RowCounts counts;
@@ -73,7 +80,7 @@ ExitStatus AddinsCommand::run(Console& console) {
   for (const AddinKindRow& each : addinKindRows) {
     for (const AddinEntry& row : lists.rowsOf(each.kind)) {
       list.push_back(jsonOf(row, each.kind, product));
-      lines.push_back(lineOf(row, isMarkedInstalled(row) ? "installed" : "-", product));
+      lines.push_back(listingOf(row, product));
     }
   }
   if (console.json) {
@@ -96,6 +103,11 @@ ExitStatus AddinEditCommand::run(Console& console) {
   if (!isSo) {
     if (const Result<> done = session.setInstalled(*place, install_); !done) return tell(console, done.error());
     if (const Result<> stored = session.store(); !stored) return tell(console, stored.error());
+  if (isSo && install_) {
+    const std::vector<Failure> faults =
+        faultsOf(row, console.product.files(), console.product.locations(), console.product.bundle());
+    if (!faults.empty()) return tell(console, faults.front());
+  }
   }
   say(console, {isSo ? std::vector<std::string>() : std::vector{addinText(row, appName)}, std::nullopt});
   return ExitStatus::done;
