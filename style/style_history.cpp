@@ -115,4 +115,28 @@ bool restoreStyle(StyleStore& store, int index, const Dictionary& earlier, const
   return true;
 }
 
+void addEarlierStyle(StyleStore& store, int place, const Dictionary& earlier, const std::string& standardName) {
+  Array styles = stylesIn(store.root());
+  Dictionary record = *stylesIn(earlier)[static_cast<std::size_t>(place)].dictionary();
+  const auto isNamesake = [&record](const PropertyList& one) {
+    return equalIgnoringCase(recordName(one), styleName(record));
+  };
+  const auto present = place == 0 ? styles.begin() : std::ranges::find_if(styles, isNamesake);
+  if (present != styles.end()) {
+    const bool isDone = restoreStyle(store, static_cast<int>(present - styles.begin()), earlier, standardName);
+    if (isDone) return;
+  }
+  int number = static_cast<int>(styles.size());
+  const auto hasNumber = [&number](const PropertyList& one) {
+    const Dictionary* other = one.dictionary();
+    return other != nullptr && other->integerValue(keyNameID) == number;
+  };
+  while (std::ranges::any_of(styles, hasNumber)) ++number;
+  record.set(keyNameID, number);
+  styles.emplace_back(std::move(record));
+  Dictionary root = store.root();
+  root.set(keyNameStyle, std::move(styles));
+  store.replaceRoot(std::move(root), ChangeKind::restore);
+}
+
 }  // namespace tarvo

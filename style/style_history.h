@@ -52,5 +52,8 @@ bool restoreStyles(StyleStore& store, const Dictionary& earlier);
 // "ID" and, where another style has the earlier name by now, its name. False: the earlier set has no such record, and
 // nothing was written.
 bool restoreStyle(StyleStore& store, int index, const Dictionary& earlier, const std::string& standardName);
+// Brings the style at the place of an earlier set into styles that did not follow it: the first into the first, one
+// whose name is there into that one, every other behind them all. One write.
+void addEarlierStyle(StyleStore& store, int place, const Dictionary& earlier, const std::string& standardName);
 
 }  // namespace tarvo

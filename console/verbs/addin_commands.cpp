@@ -8,6 +8,7 @@
 #include "app/product_defaults.h"
 #include "console/verbs/addin_session.h"
 #include "console/verbs/refusal.h"
+#include "console/verbs/style_reading.h"
 #include "console/verbs/text_table.h"
 #include "install/addin_diagnosis.h"
 #include "platform/plist/json.h"
@@ -43,7 +44,6 @@ std::vector<std::string> lineOf(const AddinEntry& row, const char* first, const 
   return {first, addinText(row, appName), addinText(row, appVersion), product.locations().shown(application)};
 }
 
-using RowCounts = std::map<AddinKind, std::size_t>;
 std::vector<std::string> listingOf(const AddinEntry& row, Product& product) {
   std::vector<std::string> line = lineOf(row, isMarkedInstalled(row) ? "installed" : "-", product);
   const std::string fault = isMarkedInstalled(row) ? reasonOf(row, product) : std::string();
@@ -51,6 +51,7 @@ std::vector<std::string> listingOf(const AddinEntry& row, Product& product) {
   return line;
 }
 
+using RowCounts = std::map<AddinKind, std::size_t>;
 
 RowCounts countRows(const AddinLists& lists) {
   RowCounts counts;
@@ -73,6 +74,7 @@ ExitStatus AddinsCommand::run(Console& console) {
   Product& product = console.product;
   AddinSession session(console.product);
   noteUnread(console, session.settings());
+  noteUnreadStyles(console);
   if (const Result<> read = session.read(); !read) return tell(console, read.error());
   const AddinLists& lists = session.lists();
   Json::List list;
@@ -95,19 +97,20 @@ ExitStatus AddinEditCommand::run(Console& console) {
   if (const std::optional<Problem> failure = takeLock(console)) return tell(console, *failure);
   AddinSession session(console.product);
   noteUnread(console, session.settings());
+  noteUnreadStyles(console);
   if (const Result<> read = session.read(); !read) return tell(console, read.error());
   const auto place = addinNamed(session.lists(), console.product.locations(), name_);
   if (!place) return tell(console, place.error());
   const AddinEntry& row = session.lists().rowsOf(place->kind).at(static_cast<std::size_t>(place->row));
   const bool isSo = isMarkedInstalled(row) == install_;
-  if (!isSo) {
-    if (const Result<> done = session.setInstalled(*place, install_); !done) return tell(console, done.error());
-    if (const Result<> stored = session.store(); !stored) return tell(console, stored.error());
   if (isSo && install_) {
     const std::vector<Failure> faults =
         faultsOf(row, console.product.files(), console.product.locations(), console.product.bundle());
     if (!faults.empty()) return tell(console, faults.front());
   }
+  if (!isSo) {
+    if (const Result<> done = session.setInstalled(*place, install_); !done) return tell(console, done.error());
+    if (const Result<> stored = session.store(); !stored) return tell(console, stored.error());
   }
   say(console, {isSo ? std::vector<std::string>() : std::vector{addinText(row, appName)}, std::nullopt});
   return ExitStatus::done;
@@ -117,6 +120,7 @@ ExitStatus AddinSearchCommand::run(Console& console) {
   if (const std::optional<Problem> failure = takeLock(console)) return tell(console, *failure);
   AddinSession session(console.product);
   noteUnread(console, session.settings());
+  noteUnreadStyles(console);
   if (const Result<> read = session.read(); !read) return tell(console, read.error());
   const RowCounts known = countRows(session.lists());
   const DiskPath folder = absolutePath(folder_);

@@ -5,6 +5,7 @@
 #include "app/product.h"
 #include "app/user_files.h"
 #include "console/verbs/refusal.h"
+#include "console/verbs/style_reading.h"
 #include "console/verbs/style_session.h"
 #include "console/verbs/text_table.h"
 #include "platform/plist/json.h"
@@ -28,6 +29,7 @@ ExitStatus EngineStatusCommand::run(Console& console) {
   const std::unique_ptr<Engine> engine = product.makeEngine(product.files());
   const UserDefaults defaults(product.files(), userDefaultsPath(product.locations()));
   noteUnread(console, defaults);
+  noteUnreadStyles(console);
   const std::string* stamp = defaults.string(lastUpdate);
   const std::string form(wordOf(engine->form()));
   const bool reachable = engine->checkConnectionWithCurl();

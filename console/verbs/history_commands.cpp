@@ -88,13 +88,7 @@ ExitStatus RestoreCommand::run(Console& console) {
   if (!set) return tell(console, noSuchSet(id_));
   const Result<Dictionary> root = session.earlier().read(*set);
   if (!root) return tell(console, root.error());
-  if (style_.empty()) return session.restore(*root);
-  const std::string standardName = console.product.texts().localized(nomalStyle);
-  const auto bringBack = [&](int index) -> std::optional<Problem> {
-    if (restoreStyle(session.store(), index, *root, standardName)) return std::nullopt;
-    return Refusal{set->id, "Refusal.NotAmongEarlier", style_};
-  };
-  return session.edit(style_, bringBack, StyleSession::Needs::any);
+  return style_.empty() ? session.restore(*set, *root) : session.restoreOne(style_, *set, *root);
 }
 
 }  // namespace tarvo

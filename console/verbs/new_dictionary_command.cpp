@@ -5,6 +5,7 @@
 #include "app/product.h"
 #include "console/verbs/dictionary_services.h"
 #include "console/verbs/refusal.h"
+#include "console/verbs/style_reading.h"
 #include "dict/dictionary_creation.h"
 #include "dict/dictionary_names.h"
 #include "dict/user_lists.h"
@@ -38,6 +39,7 @@ DictController& listOf(UserLists& lists, DictionaryKind kind, Direction directio
 ExitStatus NewDictionaryCommand::run(Console& console) {
   Product& product = console.product;
   if (const std::optional<Problem> failure = takeLock(console)) return tell(console, *failure);
+  noteUnreadStyles(console);
   UserLists lists(dictionaryServices(product));
   lists.setUp();
   const std::string name = trimmed(name_);

@@ -43,4 +43,11 @@ void noteMended(Console& console, const DiskPath& path, const Mended& mended) {
   for (const std::string& sentence : sentences) note(console, path.text(), sentence);
 }
 
+void noteUnreadStyles(Console& console) {
+  const DiskPath path = console.product.locations().inHome(gStylePath);
+  const Result<Dictionary> users = StyleFile(console.product.files(), path).read();
+  if (users || isAbsence(users.error())) return;
+  note(console, {path.text(), "Refusal.StylesUnread", failureParts(users.error(), console.textsToTell()).cause});
+}
+
 }  // namespace tarvo

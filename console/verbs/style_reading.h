@@ -31,4 +31,8 @@ struct Mended {
 // A line each, about the style file.
 void noteMended(Console& console, const DiskPath& path, const Mended& mended);
 
+// For verbs that need no styles: tells when the user's file is there and cannot be read. Only reading all of it shows
+// that.
+void noteUnreadStyles(Console& console);
+
 }  // namespace tarvo

@@ -56,12 +56,15 @@ std::expected<int, Problem> StyleSession::openOn(const std::string& style, Needs
 
 ExitStatus StyleSession::edit(const std::string& style, const Operation& operation, Needs needs) {
   const std::expected<int, Problem> index = openOn(style, needs);
-  if (!index) return tell(console_, index.error());
-  const std::optional<Dictionary> before = store_.getStyleAtIndex(*index);
+  return index ? editAt(*index, operation) : tell(console_, index.error());
+}
+
+ExitStatus StyleSession::editAt(int index, const Operation& operation) {
+  const std::optional<Dictionary> before = store_.getStyleAtIndex(index);
   const Dictionary* selection = store_.getSelection();
   const Dictionary chosen = selection != nullptr ? *selection : Dictionary{};
-  if (const std::optional<Problem> failure = operation(*index)) return tell(console_, *failure);
-  const std::optional<Dictionary> after = store_.getStyleAtIndex(*index);
+  if (const std::optional<Problem> failure = operation(index)) return tell(console_, *failure);
+  const std::optional<Dictionary> after = store_.getStyleAtIndex(index);
   const bool isChanged = after != before || (selection != nullptr && chosen != *store_.getSelection());
   return finish(isChanged && before ? std::vector{styleName(*before)} : std::vector<std::string>());
 }
@@ -70,6 +73,7 @@ ExitStatus StyleSession::read(const std::string& style, const Operation& operati
   const std::expected<int, Problem> index = openOn(style);
   if (!index) return tell(console_, index.error());
   if (const std::optional<Problem> failure = operation(*index)) return tell(console_, *failure);
+  tellUnread("Refusal.ProductsStyles");
   noteMended(console_, store_.path(), mended_);
   const std::optional<Dictionary> record = store_.getStyleAtIndex(*index);
   say(console_, {{record ? styleName(*record) : style}, std::nullopt});
@@ -98,10 +102,17 @@ std::optional<Problem> StyleSession::writeLoaded() {
   return std::nullopt;
 }
 
+void StyleSession::tellUnread(const char* key) {
+  const std::optional<Failure>& unread = store_.unread();
+  if (unread) note(console_, {pathOfStyles(), key, failureParts(*unread, console_.textsToTell()).cause});
+}
+
 ExitStatus StyleSession::finish(std::vector<std::string> changed) {
   if (const std::optional<Problem> failure = writeLoaded()) return tell(console_, *failure);
+  tellUnread(unreadKey_);
   noteWhatStaysGone();
   const std::optional<bool> registered = written_ ? registerStyles() : std::nullopt;
+  defaults_.synchronize();  // whose the styles are by now
   say(console_, {std::move(changed), registered});
   earlier_.thin();
   return registered == false && engine_->form() != EngineForm::local ? ExitStatus::waiting : ExitStatus::done;
@@ -124,7 +135,6 @@ std::optional<bool> StyleSession::registerStyles() {
   if (const std::optional<Failure>& unwritten = defaults_.unwritten()) note(console_, *unwritten);
   const std::optional<Result<>>& outcome = store_.registration();
   if (!outcome) return std::nullopt;
-  defaults_.synchronize();  // whose the styles are by now
   if (!*outcome) {
     const char* words = store_.wasLeftAlone() ? "Refusal.ServiceLeftAlone" : "Refusal.Waiting";
     note(console_, {service(), words, failureParts(outcome->error(), console_.textsToTell()).cause});

@@ -49,7 +49,10 @@ class StyleSession {
   // The same for a verb that writes no styles.
   ExitStatus read(const std::string& style, const Operation& operation);
   // All styles and choices of an earlier set (style_history.h), whether the present ones can be read or not.
-  ExitStatus restore(const Dictionary& earlier);
+  ExitStatus restore(const EarlierSet& set, const Dictionary& earlier);
+  // The style that the word names, as it is in the set. Where the present ones cannot be read the word names it among
+  // those of the set, and the others are the product's.
+  ExitStatus restoreOne(const std::string& style, const EarlierSet& set, const Dictionary& earlier);
   // Hands all styles to the service, whatever changed.
   ExitStatus push();
   // Makes the styles here and those of the service one, as the end of a launch does: a service without styles gets
@@ -58,6 +61,8 @@ class StyleSession {
 
  private:
   std::optional<Problem> open(Needs needs = Needs::readable);
+  ExitStatus editAt(int index, const Operation& operation);
+  void tellUnread(const char* key);
   std::expected<int, Problem> openOn(const std::string& style, Needs needs = Needs::readable);
   void noteWrite();
   // Writes what the load has joined, where no edit did.
@@ -79,6 +84,7 @@ class StyleSession {
   std::vector<std::string_view> inserted_;
   Mended mended_;
   bool written_ = false, toldUnkept_ = false;
+  const char* unreadKey_ = "Refusal.Reseeded";  // of what is told of a style file that could not be read
 };
 
 }  // namespace tarvo

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/product.h"
 #include "app/tool_switch.h"
+#include "console/verbs/style_name.h"
 #include "console/verbs/style_session.h"
 #include "console/verbs/tool_list_command.h"
 #include "platform/services/engine.h"
 #include "style/sibling_tools.h"
+#include "style/style_edits.h"
 #include "style/style_history.h"
 
 // The session's exchanges with the style service.
@@ -17,16 +19,40 @@ ExitStatus StyleSession::push() {
   if (store_.root().array(keyNameStyle) == nullptr) {
     return tell(console_, Refusal{pathOfStyles(), "Refusal.NothingToPush", ""});
   }
-  store_.registerStyles();
-  return sayHandedOver(store_.registration().value_or(Result<>()));
   store_.endStandIn();
+  store_.registerStyles();
+  tellUnread("Refusal.Reseeded");
+  return sayHandedOver(store_.registration().value_or(Result<>()));
 }
 
-ExitStatus StyleSession::restore(const Dictionary& earlier) {
+ExitStatus StyleSession::restore(const EarlierSet& set, const Dictionary& earlier) {
   if (const std::optional<Problem> failure = open(Needs::nothing)) return tell(console_, *failure);
   const Dictionary before = store_.root();
-  restoreStyles(store_, earlier);
+  if (!restoreStyles(store_, earlier)) {
+    return tell(console_, Failure{set.path.text(), Attempt::read, Reason::damaged});
+  }
+  unreadKey_ = "Refusal.RestoredOver";
   return finish(before == store_.root() ? std::vector<std::string>() : std::vector{pathOfStyles()});
+}
+
+ExitStatus StyleSession::restoreOne(const std::string& style, const EarlierSet& set, const Dictionary& earlier) {
+  const std::string standardName = console_.product.texts().localized(nomalStyle);
+  const Refusal notThere{set.id, "Refusal.NotAmongEarlier", style};
+  if (const std::optional<UsageError> error = wrongStyleWord(style)) return tell(console_, *error);
+  if (const std::optional<Problem> failure = open(Needs::any)) return tell(console_, *failure);
+  const Dictionary& root = store_.unread() ? earlier : store_.root();
+  const std::expected<int, Problem> index = styleNamed(root, console_.product.texts(), style, false);
+  if (!index) return tell(console_, store_.unread() ? Problem(notThere) : index.error());
+  if (!store_.unread()) {
+    return editAt(*index, [&](int place) -> std::optional<Problem> {
+      if (restoreStyle(store_, place, earlier, standardName)) return std::nullopt;
+      return notThere;
+    });
+  }
+  unreadKey_ = "Refusal.RestoredAmongProducts";
+  const Dictionary& record = *(*earlier.array(keyNameStyle))[static_cast<std::size_t>(*index)].dictionary();
+  addEarlierStyle(store_, *index, earlier, standardName);
+  return finish({styleName(record)});
 }
 
 ExitStatus StyleSession::pull() {
@@ -35,10 +61,13 @@ ExitStatus StyleSession::pull() {
     return tell(console_, Refusal{service(), "Refusal.NotPulled", failureParts(why, console_.textsToTell()).cause});
   };
   if (!engine_->checkConnectionWithCurl()) return notPulled(whyUnreached(*engine_));
+  // Whatever the service holds is newer than what came from the product.
+  if (store_.isStandIn()) defaults_.forget(lastUpdate);
   const Result<StyleStore::Reconciled> reconciled = store_.reconcile();
   if (!reconciled) return notPulled(reconciled.error());
   if (*reconciled == StyleStore::Reconciled::replaced) {
     if (const std::optional<Problem> failure = keepTaken()) return tell(console_, *failure);
+    tellUnread("Refusal.TakenOver");
     if (!console_.json) console_.out << "took " << store_.root().array(keyNameStyle)->size() << " styles\n";
     if (console_.json) say(console_, {{pathOfStyles()}, true});
     return ExitStatus::done;
@@ -46,6 +75,7 @@ ExitStatus StyleSession::pull() {
   const std::optional<Result<>> handedOver = store_.registration();
   if (!handedOver) return finish({});
   if (const std::optional<Problem> failure = writeLoaded()) return tell(console_, *failure);
+  tellUnread("Refusal.Reseeded");
   return sayHandedOver(*handedOver);
 }
 
@@ -62,8 +92,6 @@ ExitStatus StyleSession::sayHandedOver(const Result<>& outcome) {
   }
   return ExitStatus::done;
 }
-  // Whatever the service holds is newer than what came from the product.
-  if (store_.isStandIn()) defaults_.forget(lastUpdate);
 
 // What the load has joined went with the former styles: it is not remembered, and joins the new ones at the next load.
 // The window goes another way to the same end: it shows all styles before it switches, keeps what no file could take in

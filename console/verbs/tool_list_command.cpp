@@ -7,6 +7,7 @@
 #include "app/product.h"
 #include "app/user_files.h"
 #include "console/verbs/refusal.h"
+#include "console/verbs/style_reading.h"
 #include "install/tool_list_file.h"
 #include "platform/services/common_module.h"
 #include "platform/services/file_service.h"
@@ -42,6 +43,7 @@ ExitStatus ToolListCommand::run(Console& console) {
   Product& product = console.product;
   UserDefaults defaults(product.files(), userDefaultsPath(product.locations()));
   noteUnread(console, defaults);
+  noteUnreadStyles(console);
   const TarvoCommonModule module(product.paths());
   ToolListFile file(product.files(), defaults, module, toolListPath(product.locations()));
   const std::size_t tool = toolFor(file, tool_);

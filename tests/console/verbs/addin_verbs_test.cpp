@@ -93,8 +93,11 @@ TEST_F(AddinVerbs, noStyleIsNeededOrWrittenAndNoToolListNorService) {
   put(styles, "broken");
   makeFolder(startup);
   put("/Volumes/D/Word.app/Contents/Info.plist", read("/Applications/O11/Word.app/Contents/Info.plist"));
-  expect({"addin", "install", "Word 2011"}, 0, "", "");
-  expect({"addin", "remove", "Word 2011"}, 0, "", "");
+  const std::string unread = told(real(styles),
+                                  "the styles cannot be read; it is no property list; mend the file, or bring earlier "
+                                  "styles back with restore");
+  expect({"addin", "install", "Word 2011"}, 0, "", unread);
+  expect({"addin", "remove", "Word 2011"}, 0, "", unread);
   EXPECT_EQ(run({"addin", "search", real("/Volumes/D")}).status, 0);
   EXPECT_FALSE(exists(toolList));
   EXPECT_EQ(run({"tool-list"}).status, 0);

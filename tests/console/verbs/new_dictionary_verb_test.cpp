@@ -37,9 +37,13 @@ TEST_F(NewVerb, theFileIsTheTemplatesCopyAndNoStyleNamesIt) {
   EXPECT_EQ(style(0), before);
 }
 
-TEST_F(NewVerb, noStyleIsReadOrWritten) {
+TEST_F(NewVerb, noStyleIsNeededOrWritten) {
   root_.folder().write(std::string("root/Users/taro/") + styleFile, "broken");
-  expectDone({"new", "ej", "user", "N"});
+  const ToolResult result = run({"new", "ej", "user", "N"});
+  EXPECT_EQ(result.err, told(stylePath(),
+                             "the styles cannot be read; it is no property list; mend the file, or bring earlier "
+                             "styles back with restore"));
+  EXPECT_EQ(result.status, 0);
   EXPECT_EQ(root_.folder().read(std::string("root/Users/taro/") + styleFile), "broken");
   EXPECT_FALSE(exists("root/Users/taro/Library/Preferences/Wordhaven/TarvoManager.txt"));
   EXPECT_FALSE(exists("root/Users/taro/Library/Application Support/Wordhaven/TarvoEngine.plist"));
