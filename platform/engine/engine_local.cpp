@@ -107,6 +107,8 @@ void EngineLocal::sendRegistStyle(const StyleSet& styles, std::string& updateStr
 
 bool EngineLocal::checkStyle() {
   const Result<Dictionary> set = readSet();
+  // What the disk did not let read just now is not known to be none; a file that holds no set is.
+  if (!set && !isAbsence(set.error()) && set.error().cause.category() != reasonCategory()) return true;
   return set && set->array(styleKey) != nullptr;
 }
 

@@ -231,5 +231,20 @@ TEST_F(EngineLocalTest, afterTheLastCounterTheFirstOneFollows) {
   EXPECT_EQ(registered(engine, one).substr(0, 20), "00000000000000000001");
 }
 
+TEST_F(EngineLocalTest, aFileThatTheDiskDoesNotLetReadIsNotKnownToHoldNothing) {
+  test::MemoryFiles disk;
+  EngineLocal engine(disk, DiskPath("/engine.plist"));
+  registered(engine, two);
+  disk.refuse(test::MemoryFiles::Operation::read, "/engine.plist");
+  EXPECT_TRUE(engine.checkStyle());
+  Array styles;
+  std::string stamp;
+  EXPECT_FALSE(engine.requestStyle(styles, stamp));
+  EXPECT_FALSE(engine.couldRead());
+  disk.allowAll();
+  disk.put("/engine.plist", "no set");
+  EXPECT_FALSE(engine.checkStyle());
+}
+
 }  // namespace
 }  // namespace tarvo
