@@ -49,7 +49,7 @@ class AppController {
   bool readImportStyle(const DiskPath& path);
   // The same in two steps, for who asks the user in between.
   std::optional<Dictionary> readForImport(const DiskPath& path);
-  bool installStyle(Dictionary record, const DiskPath& from);
+  bool installStyle(const Dictionary& record, const DiskPath& from);
   // Makes the styles here and those of the engine one, and shows them when they came from there.
   void sendPlist();
   // A request of another tool: the bytes of its first item, nothing for a request without one; or its code as text. The

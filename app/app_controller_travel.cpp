@@ -44,15 +44,15 @@ void AppController::importStyle() {
 }
 
 bool AppController::readImportStyle(const DiskPath& path) {
-  std::optional<Dictionary> record = readForImport(path);
-  return record && installStyle(std::move(*record), path);
+  const std::optional<Dictionary> record = readForImport(path);
+  return record && installStyle(*record, path);
 }
 
 std::optional<Dictionary> AppController::readForImport(const DiskPath& path) {
   return rooms_.exchange.readForImport(path);
 }
 
-bool AppController::installStyle(Dictionary record, const DiskPath& from) {
+bool AppController::installStyle(const Dictionary& record, const DiskPath& from) {
   const PopUpButton& stylePopup = interface_.style.stylePopup;
   const int index = stylePopup.indexOfSelectedItem();
   const std::size_t before = rooms_.undoSteps.mark();
@@ -70,7 +70,8 @@ std::string AppController::importedInWords(const Dictionary& record, int index, 
                                               services_.locations};
   std::string text =
       filledIn(texts.localized("Notice.imported"), from.name(), interface_.style.stylePopup.titleOfSelectedItem());
-  const ImportFindings found = importFindings(dictionaries, record, *rooms_.store.getStyleAtIndex(index));
+  const ImportFindings found =
+      importFindings(dictionaries, record, rooms_.store.getStyleAtIndex(index).value_or(record));
   const char* between = " ";
   for (const std::string& sentence : importSentences(found, texts)) {
     text += std::exchange(between, "; ") + sentence;

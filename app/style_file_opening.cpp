@@ -21,8 +21,8 @@ void StyleFileOpening::openStyleFile(const DiskPath& path) {
     return with_.panels.beep();
   }
   if (with_.interface.manager.myTabView.selectedPage() != tagOf(Pane::style)) with_.manager.changeToolbar();
-  std::optional<Dictionary> record = with_.styles.readForImport(path);
-  if (record && mayReplace(path)) with_.styles.installStyle(std::move(*record), path);
+  const std::optional<Dictionary> record = with_.styles.readForImport(path);
+  if (record && mayReplace(path)) with_.styles.installStyle(*record, path);
 }
 
 std::optional<DiskPath> StyleFileOpening::takeKept() { return std::exchange(kept_, std::nullopt); }
