@@ -86,6 +86,7 @@ ACTIONS = (
     script("join with another program's change", ["start", *CHOICE, *OTHER_PROGRAM, *OPTION, "answer alert 1"], ["press noticeButton"], keeps=FORMER),
     script("take the styles of the service", SERVICE, ["post SendPlistNoti"], keeps=FORMER),
     script("take the styles of the service and edit", SERVICE, ["post SendPlistNoti"], CHOICE, OPTION),
+    verb("take the styles of the engine of this machine", "engine", "pull", before=(EDIT, ["--engine", "none", "style", "set", "2", "Opt1=1"], ('default LastUpdate "older"',)), keeps=FORMER),
     script("rename in the window", ["start", *CHOICE], NEW_NAME),
     # Starts.
     script("first start in an empty home", (), ["start"], QUIT, before=None, mayWait=True),

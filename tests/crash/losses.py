@@ -13,11 +13,13 @@ What lies on the disk at first is safe.
 
 import collections
 import itertools
+import math
 
 from disk import Node
 from model import ROOT
 
-MOST_CHOICES = 1024  # of lost names at one moment; beyond it each one, each pair, and all
+MOST_CHOICES = 256  # of lost names at one moment; beyond it each one, each pair, and all
+MOST_VARIANTS = 64  # of unsafe files together at one moment; beyond it one file after the other
 
 State = collections.namedtuple("State", "tree after cause")
 """after: how many steps had been made."""
@@ -37,11 +39,21 @@ def partly(old, new):
     return list(dict.fromkeys([new, old, start + b"\0" * len(added), start, *(start + each for each in sorted(cut(added)))]))
 
 
+def together(rows):
+    """Which variants of the files are tried together; the first of each row is what nothing was lost of."""
+    if math.prod(map(len, rows)) <= MOST_VARIANTS:
+        return list(itertools.product(*rows))
+    whole = [row[0] for row in rows]
+    return [tuple(whole)] + [tuple(whole[:index] + [each] + whole[index + 1:]) for index, row in enumerate(rows) for each in row[1:]]
+
+
 class Losses:
-    """The states of one recorded run. begun: how many steps are over and safe before it is looked at."""
+    """The states of one recorded run. begun: how many steps are over and safe before it is looked at; done: after how many
+    the user was told that it is done, which is at the end when nothing was said before."""
 
     def __init__(self, replay, begun=0):
         self.replay, self.steps, self.begun = replay, replay.steps, begun
+        self.done = min([said for said in replay.said if said > begun] + [len(self.steps)])
         self.names = dict(replay.first_names)  # as they are on the disk for sure
         self.content = {number: data for number, (data, _) in replay.first.items()}
         self.about = {number: about for number, (_, about) in replay.first.items()}
@@ -57,12 +69,12 @@ class Losses:
         return self.state(self.all_names(), {}, 0, "").tree
 
     def states(self):
-        """Each distinct state once for the moments before the end of the run, and once for its end."""
+        """Each distinct state once for the moments before it was done, and once for those from then on."""
         for after in range(self.begun, len(self.steps) + 1):
             if after > self.begun:
                 yield from self.killed_within(after)
                 self.make(self.steps[after - 1])
-            if after == len(self.steps):
+            if after == self.done:
                 self.seen.clear()
             yield from self.fresh([self.state(self.all_names(), {}, after, "killed")])
             yield from self.fresh(self.power_cuts(after))
@@ -108,7 +120,7 @@ class Losses:
             reached = set(self.walk(names).values())
             unsafe = [number for number in sorted(reached) if self.is_unsafe(number)]
             lost = [str(step) for step in self.pending if step not in kept]
-            for variants in itertools.product(*map(self.variants, unsafe)):
+            for variants in together(list(map(self.variants, unsafe))):
                 cause = "power cut, lost: " + (", ".join(lost) or "nothing") + "".join(
                     f", of file {number} {len(data)} bytes" for number, (data, _) in zip(unsafe, variants) if data != self.content[number])
                 yield self.state(names, dict(zip(unsafe, variants)), after, cause)

@@ -53,7 +53,8 @@ class Model:
 
     def __init__(self, folder, tree, same):
         self.folder = str(folder)
-        self.files, self.names, self.open, self.steps, self.touching = {}, {}, {}, [], []
+        self.files, self.names, self.open, self.steps = {}, {}, {}, []
+        self.touching, self.said = [], []
         numbers = {"": ROOT}
         known = {}
         fresh = itertools.count(1)

@@ -124,6 +124,13 @@ def sorted_names(names):
     return len(names), sorted(names)
 
 
+class WhatWasTold(unittest.TestCase):
+    def test_isDoneWhenItIsSaidOrElseAtTheEnd(self):
+        said = call("write", 1, b"done", 4, result=4)
+        self.assertEqual(1, Losses(states(made("one", 3), said, made("two", 4))[1]).done)
+        self.assertEqual(2, Losses(states(made("one", 3), made("two", 4))[1]).done)
+
+
 class WhatIsNotKnown(unittest.TestCase):
     def test_anUnknownCallOnTheFolderIsAnError(self):
         for unknown in (call("fallocate", 3, 0, 0, 9), call("mknod", path("pipe"), 0o644)):

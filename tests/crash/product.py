@@ -60,6 +60,10 @@ class Product:
     def start(self):
         return self.run(SCRIPT, START_AND_QUIT)
 
+    def pull(self):
+        """What the end of a start does with the engine of this machine; scripts have an engine of their own."""
+        return self.run(["engine", "pull"])
+
 
 def property_list(node):
     """The value of a file; None where there is none, or it is no property list."""

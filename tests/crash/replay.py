@@ -10,6 +10,7 @@ import os
 from model import AT_THE_WORKING_FOLDER, File, Model, Open
 from system_calls import RecordingError
 
+STANDARD_OUTPUT = 1
 READING = frozenset(
     "access close_range execve faccessat faccessat2 fadvise64 fchown fchownat fcntl fgetxattr flistxattr flock fstat fstatfs getcwd"
     " getdents64 getxattr ioctl lgetxattr listxattr llistxattr lstat newfstatat poll pread64 readlink readlinkat stat statfs statx"
@@ -17,7 +18,8 @@ READING = frozenset(
 
 
 class Replay(Model):
-    """Follows calls. touching: (how many steps before it, call) for each that concerns the folder, failed ones too."""
+    """Follows calls. touching: (how many steps before it, call) for each that concerns the folder, failed ones too; said:
+    how many steps were before each output."""
 
     def follow(self, calls):
         for call in calls:
@@ -100,6 +102,8 @@ class Replay(Model):
 
     def do_write(self, call, descriptor, data, _size):
         number = self.number_of(descriptor)
+        if descriptor == STANDARD_OUTPUT:
+            self.said.append(len(self.steps))
         if number is not None:
             self.put(call, number, data[:call.result], self.open[descriptor].offset)
             self.open[descriptor].offset += call.result

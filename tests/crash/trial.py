@@ -48,7 +48,7 @@ class Trial:
         truths = self.truths(installed, losses.now())
         for state in losses.states():
             self.states += 1
-            self.judge(state, truths, state.after == len(replay.steps))
+            self.judge(state, truths, state.after >= losses.done)
         if losses.now() != self.after:
             self.tell("", ["the recorded calls do not lead to what is on the disk: the model is wrong"])
         self.let_calls_fail(failing_calls.failings([call for steps, call in replay.touching if steps >= begun]), installed, truths)
@@ -79,10 +79,16 @@ class Trial:
         self.tell(state.cause, truths.faults(state.tree, isDone))
         if self.isSample and self.states % STARTS_IN_A_SAMPLE != 0:
             return
-        self.started += 1
-        disk.lay_out(self.product.folder, state.tree)
-        outcome = self.product.start()
-        self.tell(state.cause, truths.faults_after_start(self.look(), outcome))
+        for start in self.ways_to_start(state.tree):
+            self.started += 1
+            disk.lay_out(self.product.folder, state.tree)
+            outcome = start()
+            self.tell(state.cause, truths.faults_after_start(self.look(), outcome, state.tree))
+
+    def ways_to_start(self, tree):
+        """A verb does not begin over styles that cannot be read; a start does."""
+        canPull = product.LOCAL_ENGINE in self.after and product.property_list(tree.get(product.STYLES)) is not None
+        return [self.product.start, self.product.pull] if canPull else [self.product.start]
 
     def let_calls_fail(self, failings, installed, truths):
         verdict = failing_calls.Verdict(truths, self.undisturbed, self.look_after_a_start if self.action.mayWait else None)

@@ -8,14 +8,18 @@ No faults, by what the product promises:
 - a macro or a folder of scripts that was being removed may be there still, the folder in part: its files go one by one,
   and removing it again finishes;
 - in folders that several homes share (those of Office), and in those that a user picked for a file (Documents here), a
-  temporary file may stay; nothing there is ever swept.
+  temporary file may stay; nothing there is ever swept;
+- the stamp of styles that are taken from the service is stored before them, in that order: after a crash in between the
+  service still has them, and the styles here are those of before;
+- the product's styles that stand in for a file that cannot be read give way to those of the engine.
 """
 
 import re
 
 from disk import above, is_temporary
-from product import EARLIER, HOME, LOCK, SETTINGS, STYLES, property_list
+from product import EARLIER, HOME, LOCAL_ENGINE, LOCK, SETTINGS, STYLES, property_list
 
+STANDS_IN = "StylesStandIn"
 MARKS = ("Corwell1stE", "Corwell1stJ", "Tekado1stE", "Tekado1stJ")
 SCRIPTS = re.compile(re.escape(HOME) + r"/(?:Library/Scripts|Documents)/.*/TarvoEiwa$")
 QUICKLY_KEPT = re.compile(re.escape(EARLIER) + r"/\S+ (?:edit|repair) ")
@@ -128,14 +132,19 @@ class Truths:
 
     # A state after the next start.
 
-    def faults_after_start(self, tree, outcome):
+    def faults_after_start(self, tree, outcome, found):
+        """found: the tree on which it was started."""
         if outcome.status != 0:
             yield f"the next start ended with {outcome.status}: {outcome.err.strip()}"
         for path in tree:
             if is_temporary(path) and path.startswith(HOME) and above(path) != f"{HOME}/Documents":
                 yield f"{path}: still there after the next start"
         node = tree.get(STYLES)
+        shared = [part(found.get(LOCAL_ENGINE), "Style")] if part(found.get(SETTINGS), STANDS_IN) else []
         for key in ("Style", "Selection"):
             value = part(node, key)
-            if value is None or value not in self.values(STYLES, key, self.started + self.trees):
+            if value is None or value not in self.values(STYLES, key, self.started + self.trees) + shared:
                 yield f"after the next start “{key}” is none that was ever stored: {str(value)[:200]}"
+        done = self.values(STYLES, "Style", [self.after, *self.started[-1:]]) + shared
+        if part(found.get(STYLES), "Style") in done and part(node, "Style") not in done:
+            yield "what was stored is gone after the next start"

@@ -85,12 +85,13 @@ class ACrash(unittest.TestCase):
 
     def test_aTemporaryIsAFaultAfterTheNextStartOnly(self):
         self.assertEqual([], faults({TEMPORARY: file(b"x")}))
-        self.assertTrue(list(TRUTHS.faults_after_start({**AFTER, TEMPORARY: file(b"x")}, Run(0, "", ""))))
+        self.assertTrue(list(TRUTHS.faults_after_start({**AFTER, TEMPORARY: file(b"x")}, Run(0, "", ""), BEFORE)))
 
     def test_aNextStartThatFailsOrLosesStylesIsSeen(self):
-        self.assertEqual([], list(TRUTHS.faults_after_start(AFTER, Run(0, "", ""))))
-        self.assertTrue(list(TRUTHS.faults_after_start(AFTER, Run(1, "", ""))))
-        self.assertTrue(list(TRUTHS.faults_after_start({**AFTER, STYLES: styles("seeds", 0)}, Run(0, "", ""))))
+        self.assertEqual([], list(TRUTHS.faults_after_start(AFTER, Run(0, "", ""), BEFORE)))
+        self.assertTrue(list(TRUTHS.faults_after_start(AFTER, Run(1, "", ""), BEFORE)))
+        self.assertTrue(list(TRUTHS.faults_after_start({**AFTER, STYLES: styles("seeds", 0)}, Run(0, "", ""), BEFORE)))
+        self.assertTrue(list(TRUTHS.faults_after_start(BEFORE, Run(0, "", ""), AFTER)))
 
 
 class AFailingCall(unittest.TestCase):
