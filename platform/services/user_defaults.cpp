@@ -84,7 +84,7 @@ void UserDefaults::synchronize() {
   const bool isNews = !written && !unwritten_;
   unwritten_.reset();
   if (!written) unwritten_ = made ? written.error() : made.error();  // without its folder no file can be
-  if (isNews && didFail) didFail(*unwritten_);
+  if (isNews && unwritten_ && didFail) didFail(*unwritten_);
 }
 
 }  // namespace tarvo
