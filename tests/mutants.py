@@ -104,7 +104,7 @@ MUTANTS = [
            "half a macro is left, which the next start reports as installed"),
     Mutant("platform/posix/folders.cpp", "made && ::fchmod(made.get(), mode) == 0 && ", "made && ",
            "other users cannot put anything into folders that the program made"),
-    Mutant("platform/posix/keep_unreadable.cpp", "if (isSameFile(kept, status)) return synced({}, kept);", "",
+    Mutant("platform/posix/keep_beside.cpp", "if (isSameFile(kept, status)) return synced({}, kept);", "",
            "one unreadable file is kept again and again"),
     Mutant("platform/posix/finder_info.cpp", "put(info, creatorAt, codes.creator);", "",
            "new dictionaries belong to no application"),

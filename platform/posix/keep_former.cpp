@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "platform/posix/folders.h"
-#include "platform/posix/keep_unreadable.h"
+#include "platform/posix/keep_beside.h"
 
 namespace tarvo {
 

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include "platform/posix/keep_unreadable.h"
+#include "platform/posix/keep_beside.h"
 #include "platform/posix/posix_files.h"
 #include "platform/services/locations.h"
 #include "tests/support/temporary_folder.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
-#include "platform/posix/keep_unreadable.h"
+#include "platform/posix/keep_beside.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
