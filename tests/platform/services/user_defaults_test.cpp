@@ -3,40 +3,19 @@
 #include "platform/services/user_defaults.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <filesystem>
 
-#include "platform/plist/plist_reader.h"
 #include "platform/plist/plist_writer.h"
-#include "platform/posix/posix_files.h"
-#include "platform/services/locations.h"
+#include "tests/platform/services/settings_fixture.h"
 #include "tests/support/memory_files.h"
-#include "tests/support/temporary_folder.h"
 #include "tests/support/tired_files.h"
 
 namespace tarvo {
 namespace {
 namespace fs = std::filesystem;
 
-class UserDefaultsTest : public testing::Test {
- protected:
-  // What the disk holds under the key.
-  PropertyList stored(std::string_view key) const {
-    const auto list = readPropertyList(folder.read(file));
-    const Dictionary* root = list ? list->dictionary() : nullptr;
-    const PropertyList* value = root != nullptr ? root->find(key) : nullptr;
-    return value != nullptr ? *value : PropertyList("absent");
-  }
-  ino_t fileNumber() const {
-    struct stat status{};
-    return ::stat((folder / file).c_str(), &status) == 0 ? status.st_ino : 0;
-  }
-  const std::string file = "Library/Preferences/tarvo.plist";
-  test::TemporaryFolder folder;
-  Locations locations{"/", folder.path()};
-  PosixFiles files{locations};
-};
+using UserDefaultsTest = test::SettingsTest;
 
 TEST_F(UserDefaultsTest, valuesKeepTheirKindsOverARestart) {
   const Array rows{PropertyList("a"), PropertyList(Dictionary{})};
