@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/user_files.h"
 
+#include "install/mail_script_installer.h"
 #include "platform/services/file_service.h"
 #include "platform/services/locations.h"
 #include "platform/services/product_paths.h"
@@ -21,15 +22,21 @@ DiskPath lockPath(const Locations& locations) {
   return locations.inHome(std::string("Library/Preferences/") + identifier + ".lock");
 }
 
-DiskPath placeForLock(FileService& files, const Locations& locations) {
-  DiskPath path = lockPath(locations);
-  const Result<> made = files.makeFolder(path.folder());
-  (void)made;  // whoever takes the lock finds that there is none to be had
-  return path;
-}
-
 DiskPath toolListPath(const Locations& locations) {
   return locations.inHome("Library/Preferences/Wordhaven/TarvoManager.txt");
+}
+
+UserPlace userPlace(FileService& files, const Locations& locations, const ProductPaths& paths) {
+  UserPlace place{
+      lockPath(locations),
+      locations.home(),
+      {lockPath(locations).folder(), locations.inHome(gStylePath).folder(), locations.inHome(gEarlierStyles),
+       paths.localEnginePath().folder(), locations.onDisk(paths.preferencesWordhavenCache()),
+       paths.tarvoPathUserDicFolderURL(), paths.tarvoPathUserTmaFolderURL()}};
+  for (const char* folder : mailScriptFolders) place.folders.push_back(locations.inHome(folder));
+  const Result<> made = files.makeFolder(place.lock.folder());
+  (void)made;  // whoever takes the lock finds that there is none to be had
+  return place;
 }
 
 OwnFiles ownFilesOf(const FileService& files, const Locations& locations, const ProductPaths& paths) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <vector>
+
 #include "platform/text/paths.h"
 #include "style/own_files.h"
 
@@ -14,9 +16,16 @@ class ProductPaths;
 // Where the settings, the lock and the tool list of a user lie.
 DiskPath userDefaultsPath(const Locations& locations);
 DiskPath lockPath(const Locations& locations);
-// The lock's path too; its folder is there now, made as all of the user's folders are, where that can be.
-DiskPath placeForLock(FileService& files, const Locations& locations);
 DiskPath toolListPath(const Locations& locations);
+
+// What the lock of a user's files guards.
+struct UserPlace {
+  DiskPath lock, home;
+  std::vector<DiskPath> folders;  // in which the product writes, those of mail programs too; some may lie elsewhere
+};
+// The folder of the lock is there now, made as all of the user's folders are, where that can be.
+UserPlace userPlace(FileService& files, const Locations& locations, const ProductPaths& paths);
+
 // All of them, with the styles, the earlier ones and those of the local style service.
 OwnFiles ownFilesOf(const FileService& files, const Locations& locations, const ProductPaths& paths);
 

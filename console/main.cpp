@@ -9,6 +9,7 @@
 
 #include "app/product.h"
 #include "app/product_defaults.h"
+#include "app/user_files.h"
 #include "console/command_line.h"
 #include "console/script/manual_run_loop.h"
 #include "console/verbs/refusal.h"
@@ -44,13 +45,13 @@ class RealClock : public ScenarioClock {
 // Takes the lock of a user's files and keeps it as long as it lives itself; what programs left behind there goes.
 class HeldLock {
  public:
-  Result<> operator()(const DiskPath& path, const DiskPath& home) {
-    lock_.emplace(path);
+  Result<> operator()(const UserPlace& place) {
+    lock_.emplace(place.lock);
     switch (lock_->state()) {
-      case InstanceLock::State::held: sweepTemporaries(home); break;
+      case InstanceLock::State::held: sweepTemporaries(place.home, place.folders); break;
       case InstanceLock::State::heldByAnother:
-        return Failure{path.text(), Attempt::write, std::make_error_code(std::errc::device_or_resource_busy)};
-      case InstanceLock::State::noFile: return Failure{path.text(), Attempt::write, Reason::noRegularFile};
+        return Failure{place.lock.text(), Attempt::write, std::make_error_code(std::errc::device_or_resource_busy)};
+      case InstanceLock::State::noFile: return Failure{place.lock.text(), Attempt::write, Reason::noRegularFile};
       case InstanceLock::State::unavailable: break;
     }
     return {};

@@ -16,7 +16,7 @@ namespace {
 
 // Below the home.
 const char* folderForSystem(const FileService& files, const Locations& locations) {
-  return systemVersion(files, locations) < 104 ? "Library/Scripts/Mail Scripts" : "Library/Scripts/Applications/Mail";
+  return mailScriptFolders.at(systemVersion(files, locations) < 104 ? 0 : 1);
 }
 
 // What a link leads to is not the product's.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,13 @@ namespace tarvo {
 
 class Bundle;
 class FileService;
+
+// Where scripts for mail programs go, below the home: Apple Mail's before and since system version 10.4, and those of
+// the others in the shipped list of add-ins.
+inline constexpr std::array<const char*, 4> mailScriptFolders{
+    "Library/Scripts/Mail Scripts", "Library/Scripts/Applications/Mail",
+    "Documents/Microsoft User Data/Outlook Script Menu Items",
+    "Documents/Microsoft User Data/Entourage Script Menu Items"};
 
 // The folders of scripts that mail programs offer.
 // Duty: make the mail program's script folder; copy a folder of scripts there, item by item, and remove it again.

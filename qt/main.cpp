@@ -48,15 +48,15 @@ BusIdentity identityOf(const CommandLine& line, const Locations& locations) {
 // with. A manager that is coming up has the lock before its name on the bus; a lock of the console tool is soon free.
 std::optional<int> enter(std::optional<InstanceLock>& lock, const CommandLine& line, Product& product,
                          const BusIdentity& identity) {
-  const DiskPath lockFile = placeForLock(product.files(), product.locations());
+  const UserPlace place = userPlace(product.files(), product.locations(), product.paths());
   for (int i = 0; i < tries; ++i) {
-    lock.emplace(lockFile);
+    lock.emplace(place.lock);
     if (lock->state() == InstanceLock::State::held) {
-      sweepTemporaries(product.locations().home());
+      sweepTemporaries(place.home, place.folders);
       return std::nullopt;
     }
     if (lock->state() == InstanceLock::State::noFile) {
-      return tell(locked, lockFile.text() + ": " + textsToTell(line).localized("Refusal.LockIsNoFile"));
+      return tell(locked, place.lock.text() + ": " + textsToTell(line).localized("Refusal.LockIsNoFile"));
     }
     const Handover handover = line.tour ? Handover::noBus : handOverInTime(identity, {line.open, line.files});
     if (handover == Handover::done) return done;
@@ -64,7 +64,7 @@ std::optional<int> enter(std::optional<InstanceLock>& lock, const CommandLine& l
     if (handover != Handover::nobody) break;
     std::this_thread::sleep_for(betweenTries);
   }
-  return tell(locked, "the styles of this user are open in another program (it holds " + lockFile.text() + ")");
+  return tell(locked, "the styles of this user are open in another program (it holds " + place.lock.text() + ")");
 }
 
 // As desktops and buses know it, and as people read it.

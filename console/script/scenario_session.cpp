@@ -42,8 +42,7 @@ Program& ScenarioSession::program() {
 
 void ScenarioSession::takeLock() {
   const Locations& locations = product_.locations();
-  const Result<> taken =
-      takeLock_ ? takeLock_(placeForLock(product_.files(), locations), locations.home()) : Result<>();
+  const Result<> taken = takeLock_ ? takeLock_(userPlace(product_.files(), locations, product_.paths())) : Result<>();
   lockedOut_ = !taken;
   if (!taken && taken.error().cause == Reason::noRegularFile) {
     throw ScriptError("the lock of these files is no file: " + locations.shown(DiskPath(taken.error().path)));

@@ -16,13 +16,14 @@
 namespace tarvo {
 
 class Program;
+struct UserPlace;
 
 struct ScenarioOptions {
   ProductOptions product;  // without an engine: the scripted one
   DiskPath folder;         // relative paths of the script start here
-  // Takes the lock of a user's files in that home for the rest of the script. Fails where another process holds it, or
+  // Takes the lock of a user's files for the rest of the script. Fails where another process holds it, or
   // (noRegularFile) where what lies there is no file. Empty: the script has the files to itself anyway.
-  std::function<Result<>(const DiskPath& lock, const DiskPath& home)> takeLock = {};
+  std::function<Result<>(const UserPlace& place)> takeLock = {};
 };
 
 // The program under a script and everything around it: the product, the recorded services, the shell.
@@ -70,7 +71,7 @@ class ScenarioSession {
   ScenarioShell& shell_;
   ScenarioClock& clock_;
   DiskPath folder_;
-  std::function<Result<>(const DiskPath&, const DiskPath&)> takeLock_;
+  std::function<Result<>(const UserPlace&)> takeLock_;
   Recorder recorder_;
   RecordedFiles files_;
   ScriptedEngine scripted_;

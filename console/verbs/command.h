@@ -14,6 +14,7 @@
 namespace tarvo {
 
 class Product;
+struct UserPlace;
 
 // How a run of the tool ended, as its exit status. waiting: done here, but the style service does not have it yet.
 enum class ExitStatus { done = 0, refused = 1, usage = 2, locked = 3, scriptFailed = 4, waiting = 5 };
@@ -23,9 +24,9 @@ struct Console {
   Product& product;
   std::ostream& out;
   std::ostream& err;
-  // Takes the lock of the user's files in that home for the rest of the process. Fails where another process holds it,
+  // Takes the lock of the user's files for the rest of the process. Fails where another process holds it,
   // or (noRegularFile) where what lies there is no file.
-  std::function<Result<>(const DiskPath& lock, const DiskPath& home)> takeLock;
+  std::function<Result<>(const UserPlace& place)> takeLock;
   // Becomes that program with these words; answers only when it cannot.
   std::function<Failure(const DiskPath& file, std::vector<std::string> words)> become;
   // The shipped texts in the language that was asked for, in which failures are told.

@@ -68,12 +68,12 @@ ExitStatus tell(Console& console, const Problem& problem) {
 }
 
 std::optional<Problem> takeLock(Console& console) {
-  const Locations& locations = console.product.locations();
-  const DiskPath lock = placeForLock(console.product.files(), locations);
-  const Result<> taken = console.takeLock(lock, locations.home());
+  Product& product = console.product;
+  const UserPlace place = userPlace(product.files(), product.locations(), product.paths());
+  const Result<> taken = console.takeLock(place);
   if (taken) return std::nullopt;
   const bool isNoFile = taken.error().cause == Reason::noRegularFile;
-  return Refusal{lock.text(), isNoFile ? "Refusal.LockIsNoFile" : "Refusal.Locked", "", ExitStatus::locked};
+  return Refusal{place.lock.text(), isNoFile ? "Refusal.LockIsNoFile" : "Refusal.Locked", "", ExitStatus::locked};
 }
 
 void note(Console& console, const Refusal& told) {

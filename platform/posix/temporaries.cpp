@@ -7,7 +7,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <string>
 
 #include "platform/posix/descriptor.h"
@@ -16,19 +15,6 @@
 namespace tarvo {
 
 namespace {
-
-// Those in which the product keeps its files, and those of mail programs, in which it builds folders of scripts.
-constexpr std::array<const char*, 11> sweptFolders{"Library/Preferences",
-                                                   "Library/Preferences/Wordhaven",
-                                                   "Library/Preferences/Wordhaven/Cache",
-                                                   "Library/Application Support/Wordhaven",
-                                                   "Library/Application Support/Wordhaven/Tarvo Styles",
-                                                   "Library/Application Support/Wordhaven/UserDic",
-                                                   "Library/Application Support/Wordhaven/UserTMA",
-                                                   "Library/Scripts/Mail Scripts",
-                                                   "Library/Scripts/Applications/Mail",
-                                                   "Documents/Microsoft User Data/Outlook Script Menu Items",
-                                                   "Documents/Microsoft User Data/Entourage Script Menu Items"};
 
 void sweep(const DiskPath& path) {
   const Descriptor folder = openFolder(AT_FDCWD, path.text(), O_NOFOLLOW);
@@ -45,8 +31,9 @@ void sweep(const DiskPath& path) {
   }
 }
 
-// Whether a way from the home leads over folders alone.
-bool hasNoLinks(const DiskPath& home, const std::string& rest) {
+// Whether the way from the home to a path in it leads over folders alone.
+bool hasNoLinks(const DiskPath& home, const DiskPath& path) {
+  const std::string rest = path.text().substr(std::min(home.text().size() + 1, path.text().size()));
   Descriptor folder = openFolder(AT_FDCWD, home.text());
   for (std::size_t start = 0; folder && start < rest.size();) {
     const std::size_t end = std::min(rest.find('/', start), rest.size());
@@ -58,9 +45,9 @@ bool hasNoLinks(const DiskPath& home, const std::string& rest) {
 
 }  // namespace
 
-void sweepTemporaries(const DiskPath& home) {
-  for (const char* folder : sweptFolders) {
-    if (hasNoLinks(home, folder)) sweep(home / folder);
+void sweepTemporaries(const DiskPath& home, const std::vector<DiskPath>& folders) {
+  for (const DiskPath& folder : folders) {
+    if (folder.isIn(home) && hasNoLinks(home, folder)) sweep(folder);
   }
 }
 

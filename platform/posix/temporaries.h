@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 #include "platform/text/paths.h"
 
@@ -14,9 +15,9 @@ namespace tarvo {
 // namespace's processes are not seen from here.
 bool isLeftBehind(std::string_view name);
 
-// Removes what was left behind in the folders that the product has in this home and in those of its mail programs,
-// itself owned by this user; nothing below links, nor in folders that homes share or a user has picked. To be called
-// with the lock of the home held: a program on another machine may write there. What cannot be removed stays.
-void sweepTemporaries(const DiskPath& home);
+// Removes what was left behind in these folders, itself owned by this user; nothing below links, nor in folders outside
+// the home, which others may share. To be called with the lock of the home held: a program on another machine may write
+// there. What cannot be removed stays.
+void sweepTemporaries(const DiskPath& home, const std::vector<DiskPath>& folders);
 
 }  // namespace tarvo

@@ -111,7 +111,7 @@ TEST_F(ConfiguredProduct, makesTheFoldersOfAHomeAsTheConfigurationSays) {
 TEST_F(ConfiguredProduct, makesThePlaceOfTheLockOfTheHomeToo) {
   configure(privateFolders(true));
   Product product(options());
-  EXPECT_EQ(placeForLock(product.files(), product.locations()), lockPath(product.locations()));
+  EXPECT_EQ(userPlace(product.files(), product.locations(), product.paths()).lock, lockPath(product.locations()));
   EXPECT_EQ(folder.mode("root/home/Library"), 0700U);
   EXPECT_EQ(folder.mode("root/home/Library/Preferences"), 0700U);
   EXPECT_TRUE(folder.names("root/home/Library/Preferences").empty());

@@ -97,7 +97,7 @@ class Verb {
     Console console{.product = product_,
                     .out = out,
                     .err = err,
-                    .takeLock = [](const DiskPath&, const DiskPath&) { return Result<>(); },
+                    .takeLock = [](const UserPlace&) { return Result<>(); },
                     .become = {},
                     .textsToTell = {}};
     const ExitStatus status = StyleSetCommand("1", {"Opt1=" + std::to_string(value)}).run(console);

@@ -5,6 +5,7 @@
 #include <optional>
 #include <sstream>
 
+#include "app/user_files.h"
 #include "console/script/interpreter.h"
 #include "console/script/manual_run_loop.h"
 #include "console/script/scenario_session.h"
@@ -52,9 +53,9 @@ int main(int argc, char** argv) {
   options.product.home = argv[5];
   options.product.language = "en";
   std::optional<tarvo::InstanceLock> lock;
-  options.takeLock = [&lock](const tarvo::DiskPath& path, const tarvo::DiskPath& home) -> tarvo::Result<> {
-    lock.emplace(path);
-    if (lock->state() == tarvo::InstanceLock::State::held) tarvo::sweepTemporaries(home);
+  options.takeLock = [&lock](const tarvo::UserPlace& place) -> tarvo::Result<> {
+    lock.emplace(place.lock);
+    if (lock->state() == tarvo::InstanceLock::State::held) tarvo::sweepTemporaries(place.home, place.folders);
     return {};
   };
   return tarvo::test::runOverTheWindow(argv[1], options);

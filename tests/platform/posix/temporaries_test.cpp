@@ -86,65 +86,54 @@ TEST(TemporaryName, whoseMakerNobodyKnowsIsLeftAlone) {
 
 class Sweeping : public testing::Test {
  protected:
-  static constexpr const char* preferences = "Library/Preferences/Wordhaven/";
+  static constexpr const char* preferences = "Library/Preferences/";
+  // below: of the home.
+  void sweep(const std::vector<std::string>& below) const {
+    std::vector<DiskPath> folders;
+    for (const std::string& folder : below) folders.push_back(home_.at(folder));
+    sweepTemporaries(DiskPath(home_.path()), folders);
+  }
   std::string left_ = withPart(temporaryName(), process, endedProcess());
   test::TemporaryFolder home_;
 };
 
-TEST_F(Sweeping, removesWhatWasLeftBehindInTheProductsFolders) {
-  const std::vector<std::string> folders{"Library/Preferences/", preferences, "Library/Application Support/Wordhaven/",
-                                         "Library/Application Support/Wordhaven/Tarvo Styles/",
-                                         "Library/Application Support/Wordhaven/UserDic/"};
-  for (const std::string& folder : folders) home_.write(folder + left_, "x");
-  home_.write(preferences + left_ + "f/inside", "x");
+TEST_F(Sweeping, removesWhatWasLeftBehindInTheFolders) {
+  home_.write(preferences + left_, "x");
+  home_.write("Dictionaries/" + left_, "x");
+  home_.write(preferences + left_ + "f/inside/deep", "x");
   home_.write(std::string(preferences) + "TarvoStyle2009.plist", "kept");
-  sweepTemporaries(home_.at(""));
-  for (const std::string& folder : folders) EXPECT_FALSE(fs::exists(home_ / (folder + left_))) << folder;
-  EXPECT_FALSE(fs::exists(home_ / (preferences + left_ + "f")));
-  EXPECT_EQ(home_.read(std::string(preferences) + "TarvoStyle2009.plist"), "kept");
-}
-
-TEST_F(Sweeping, removesFoldersOfScriptsThatWereNotFinished) {
-  const std::vector<std::string> folders{"Library/Scripts/Mail Scripts/", "Library/Scripts/Applications/Mail/",
-                                         "Documents/Microsoft User Data/Outlook Script Menu Items/",
-                                         "Documents/Microsoft User Data/Entourage Script Menu Items/"};
-  for (const std::string& folder : folders) {
-    home_.write(folder + left_ + "/Settings/one", "x");
-    home_.write(folder + "TarvoEiwa/one", "kept");
-  }
-  sweepTemporaries(home_.at(""));
-  for (const std::string& folder : folders) {
-    EXPECT_FALSE(fs::exists(home_ / (folder + left_))) << folder;
-    EXPECT_EQ(home_.read(folder + "TarvoEiwa/one"), "kept");
-  }
+  sweep({"Library/Preferences", "Dictionaries"});
+  EXPECT_EQ(home_.names("Library/Preferences"), std::vector<std::string>{"TarvoStyle2009.plist"});
+  EXPECT_TRUE(home_.names("Dictionaries").empty());
 }
 
 TEST_F(Sweeping, leavesWhatARunningProgramWrites) {
   const std::string own = preferences + temporaryName();
   home_.write(own, "x");
-  sweepTemporaries(home_.at(""));
+  sweep({"Library/Preferences"});
   EXPECT_TRUE(fs::exists(home_ / own));
 }
 
 TEST_F(Sweeping, leavesOtherFoldersAndWhatLinksLeadTo) {
+  const test::TemporaryFolder elsewhere;
+  elsewhere.write(left_, "x");
   home_.write("Documents/" + left_, "x");
   home_.write("shared/UserDic/" + left_, "x");
-  home_.write("Library/Preferences/Other/" + left_, "x");
-  home_.makeFolder("Library/Application Support");
-  fs::create_directory_symlink(home_ / "shared", home_ / "Library/Application Support/Wordhaven");
+  fs::create_directory_symlink(home_ / "shared", home_ / "Wordhaven");
   home_.write("target", "x");
-  home_.makeFolder(preferences);
+  home_.makeFolder("Library/Preferences");
   fs::create_symlink(home_ / "target", home_ / (preferences + left_));
-  sweepTemporaries(home_.at(""));
-  for (const std::string& rest :
-       {"Documents/" + left_, "shared/UserDic/" + left_, "Library/Preferences/Other/" + left_, std::string("target")}) {
+  sweep({"Library/Preferences", "Wordhaven/UserDic"});
+  sweepTemporaries(DiskPath(home_.path()), {DiskPath(elsewhere.path())});
+  EXPECT_TRUE(fs::exists(elsewhere / left_));
+  for (const std::string& rest : {"Documents/" + left_, "shared/UserDic/" + left_, std::string("target")}) {
     EXPECT_TRUE(fs::exists(home_ / rest)) << rest;
   }
 }
 
-TEST_F(Sweeping, hasNothingToDoInAHomeWithoutTheProduct) {
-  sweepTemporaries(home_.at("nowhere"));
-  sweepTemporaries(home_.at(""));
+TEST_F(Sweeping, hasNothingToDoInAHomeWithoutTheFolders) {
+  sweep({"Library/Preferences"});
+  sweepTemporaries(home_.at("nowhere"), {home_.at("nowhere/Library")});
   EXPECT_TRUE(fs::is_empty(home_.path()));
 }
 
