@@ -61,6 +61,7 @@ class DictController {
   bool initializeDictionary();  // rescan; true when an entry was found
   // Why the last scan may lack names: nothing may be taken out of a style for that they have no entry.
   const std::optional<Failure>& unread() const { return unread_; }
+  Result<> couldRead() const { return unread_ ? Result<>(*unread_) : Result<>(); }  // the same as an answer
   // Loads exactly these, in this order, as far as they have an entry and their file still exists. A common dictionary
   // among them that is missing is made anew, which rescans.
   void updateDictionary(Names names);

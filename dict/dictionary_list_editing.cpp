@@ -48,9 +48,7 @@ void DictionaryListEditing::rescan(Direction direction) {
 
 Result<> DictionaryListEditing::mayEdit(Direction direction) const {
   const DictController& list = direction == Direction::englishToJapanese ? ejTDController_ : jeTDController_;
-  const std::optional<Failure>& unread = list.unread();
-  if (unread) return *unread;
-  return {};
+  return list.couldRead();
 }
 
 bool DictionaryListEditing::isRefused(const Result<>& edit) const {

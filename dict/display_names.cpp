@@ -33,4 +33,8 @@ std::string dictionaryDisplayName(const std::string& name, const Texts& texts) {
   return pickerDisplayName(deletingPathExtension(name), texts);
 }
 
+std::string directionName(Direction direction, const Texts& texts) {
+  return texts.localized(direction == Direction::englishToJapanese ? "EJTab" : "JETab");
+}
+
 }  // namespace tarvo

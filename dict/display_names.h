@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "style/direction.h"
+
 // What people read for a dictionary's file name. The medical dictionaries, whose files have short names, are read by
 // the names of the products: exactly "cwl.TRet", "cwla.TRet", "cwl" and "cwla".
 namespace tarvo {
@@ -14,6 +16,8 @@ class Texts;
 // name that stands for "cwl".
 std::string dictionaryDisplayName(const std::string& name, const Texts& texts);
 bool isMedicalDictionary(const std::string& fileName);
+// What people call the direction of a list.
+std::string directionName(Direction direction, const Texts& texts);
 // In the picker: the file name as it stands.
 std::string pickerDisplayName(const std::string& name, const Texts& texts);
 

@@ -7,6 +7,7 @@
 #include <set>
 
 #include "dict/dictionary_folders.h"
+#include "dict/display_names.h"
 #include "dict/named_lists.h"
 #include "platform/services/file_service.h"
 #include "platform/services/texts.h"
@@ -74,11 +75,10 @@ std::vector<std::string> importSentences(const ImportFindings& findings, const T
   std::vector<std::string> sentences;
   for (std::size_t i = 0; i < findings.lists.size(); ++i) {
     const ImportFindings::List& list = findings.lists[i];
-    const bool isEj = bothDirections[i] == Direction::englishToJapanese;
     const auto say = [&](const char* key, const Names& names) {
       if (names.empty()) return;
-      const std::string direction = texts.localized(isEj ? "EJTab" : "JETab");
-      sentences.push_back(filledInAll(texts.localized(key), {direction, enumerated(names, texts)}));
+      sentences.push_back(
+          filledInAll(texts.localized(key), {directionName(bothDirections[i], texts), enumerated(names, texts)}));
     };
     say("Imported.missing", list.missing);
     say("Imported.dropped", list.dropped);

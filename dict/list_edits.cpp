@@ -10,43 +10,33 @@
 
 namespace tarvo {
 
-namespace {
-
-Result<> couldRead(const DictController& list) {
-  const std::optional<Failure>& unread = list.unread();
-  if (unread) return *unread;
-  return {};
-}
-
-}  // namespace
-
 Result<> ListEdits::add(ListPlace place, DictController& list, const Names& names) const {
-  if (Result<> read = couldRead(list); !read) return read;
+  if (Result<> read = list.couldRead(); !read) return read;
   if (!names.empty()) list.loadDictionary(names);
   return storeLoaded(place, list);
 }
 
 Result<> ListEdits::remove(ListPlace place, DictController& list, const Names& names) const {
-  if (Result<> read = couldRead(list); !read) return read;
+  if (Result<> read = list.couldRead(); !read) return read;
   for (const std::string& name : names) list.unloadDictionary(name);
   return storeLoaded(place, list);
 }
 
 Result<> ListEdits::exchange(ListPlace place, DictController& list, int position, int other) const {
-  if (Result<> read = couldRead(list); !read) return read;
+  if (Result<> read = list.couldRead(); !read) return read;
   list.exchangeDictionary(position, other);
   return storeLoaded(place, list);
 }
 
 Result<> ListEdits::arrange(ListPlace place, DictController& list, const Names& order) const {
-  if (Result<> read = couldRead(list); !read) return read;
+  if (Result<> read = list.couldRead(); !read) return read;
   list.updateDictionary(order);
   return storeLoaded(place, list);
 }
 
 // Marking may have scanned anew, since a common dictionary that is missing is made: the folder is asked about again.
 Result<> ListEdits::storeLoaded(ListPlace place, const DictController& list) const {
-  if (Result<> read = couldRead(list); !read) return read;
+  if (Result<> read = list.couldRead(); !read) return read;
   store(place, list.selectedDictionary());
   return {};
 }

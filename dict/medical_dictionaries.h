@@ -33,8 +33,8 @@ class MedicalDictionaries {
   };
   explicit MedicalDictionaries(const Services& services) : with_(services) {}
   // Inserts those that are installed and were never inserted, as far as the settings are known and the folder of the
-  // direction's dictionaries is not out of reach. The flags of those that
-  // were: where there are any, a list may have changed and the style file has to be written.
+  // direction's dictionaries is not out of reach. The flags of those that were: where there are any, a list may have
+  // changed and the style file has to be written.
   std::vector<std::string_view> insertInstalled();
   // Sets these flags, so that they are not inserted again, and flushes the settings. On the disk they are from the
   // first flush on after the styles with the dictionaries have been written in this run: whatever stops the program
