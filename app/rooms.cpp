@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/rooms.h"
 
+#include <memory>
 #include <utility>
 
-#include "dict/dictionary_folders.h"
+#include "dict/dictionary_presence.h"
 #include "dict/display_names.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/file_service.h"
@@ -38,11 +39,14 @@ void Rooms::follow(const Notice& notice) {
 }
 
 MergeKnowledge Rooms::mergeKnowledge() const {
+  const auto presence = [this](Direction direction) {
+    return std::make_shared<DictionaryPresence>(dictionaryServices_, direction);
+  };
+  const auto ej = presence(Direction::englishToJapanese), je = presence(Direction::japaneseToEnglish);
   return {.isOnDisk =
-              [this](Direction direction, const std::string& fileName) {
-                const DiskPath folder = dictionaryFolder(services_.paths, DictionaryKind::technical, direction);
-                return existsIgnoringCase(services_.files, folder / fileName) ||
-                       !namesInDictionaryFolder(services_.files, folder);
+              [ej, je](Direction direction, const std::string& fileName) {
+                DictionaryPresence& files = direction == Direction::englishToJapanese ? *ej : *je;
+                return !files.isKnown() || files.has(fileName);
               },
           .isInserted = [](Direction, const std::string& fileName) { return isMedicalDictionary(fileName); },
           .isDivider = [this](const Dictionary& record) { return isDivider(record, texts_); }};

@@ -128,8 +128,9 @@ struct Rooms {
   StyleNews news{{store, earlierStyles, services_.runLoop, undoSteps, notices, texts_}};
   EarlierStylesPanel earlierPanel{{interface_.earlier, stylePopup_, store, earlierStyles, windows_, undoSteps, notices,
                                    texts_, texts_.localized(nomalStyle), with_.showStyles}};
-  StyleJoining joining{{store, earlierStyles, services_.panels, notices, undo, undoSteps, texts_, mergeKnowledge(),
-                        with_.showStyles, [this](const std::string& id) { earlierPanel.run(id); }}};
+  StyleJoining joining{{store, earlierStyles, services_.panels, notices, undo, undoSteps, texts_,
+                        [this] { return mergeKnowledge(); }, with_.showStyles,
+                        [this](const std::string& id) { earlierPanel.run(id); }}};
   NoticeBoard board{interface_.notices, notices, texts_, [this](const Notice& notice) { follow(notice); }};
   ToolChooser chooser{interface_.style, interface_.options, flags, with_.chooseTool};
   ToolListFile toolList{services_.files, defaults_, module_, toolListPath(services_.locations)};

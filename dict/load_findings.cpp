@@ -6,7 +6,8 @@
 #include <map>
 
 #include "dict/change_words.h"
-#include "dict/dictionary_folders.h"
+#include "dict/dictionary_presence.h"
+#include "dict/display_names.h"
 #include "dict/import_findings.h"
 #include "dict/named_lists.h"
 #include "platform/services/texts.h"
@@ -17,29 +18,10 @@ namespace tarvo {
 
 namespace {
 
-// Whether names have their files: each is looked for once, however many styles it stands in.
-class Presence {
- public:
-  Presence(const DictController::Services& services, Direction direction) : list_(services) {
-    const DiskPath folder = dictionaryFolder(services.paths, DictionaryKind::technical, direction);
-    list_.initializeDictController(DictionaryKind::technical, folder, direction);
-  }
-  bool isKnown() const { return !list_.unread(); }
-  bool has(const std::string& name) {
-    const auto [found, isNew] = known_.try_emplace(caseFolded(name));
-    if (isNew) found->second = list_.isExitsDic2(name);
-    return found->second;
-  }
-
- private:
-  DictController list_;
-  std::map<std::string, bool> known_;  // by folded names
-};
-
 Names goneIn(const DictController::Services& services, const Dictionary& root, Direction direction) {
   const Array none;
   const Array* styles = root.array(keyNameStyle);
-  Presence files(services, direction);
+  DictionaryPresence files(services, direction);
   std::map<std::string, std::string> gone;  // by folded names, as they are spelled first
   for (const PropertyList& style : styles != nullptr && files.isKnown() ? *styles : none) {
     if (style.dictionary() == nullptr) continue;
@@ -67,8 +49,7 @@ std::vector<std::string> goneSentences(const NamesByDirection& gone, const Texts
   std::vector<std::string> sentences;
   for (std::size_t i = 0; i < gone.size(); ++i) {
     if (gone[i].empty()) continue;
-    const bool isEnglish = bothDirections[i] == Direction::englishToJapanese;
-    const std::string direction = texts.localized(isEnglish ? "EJTab" : "JETab");
+    const std::string direction = directionName(bothDirections[i], texts);
     sentences.push_back(filledInAll(texts.localized("Loaded.gone"), {direction, enumerated(gone[i], texts)}));
   }
   return sentences;

@@ -69,7 +69,7 @@ void StyleJoining::join(const std::string& id) {
   if (!sets) return with_.notices.tell({.text = failureText(sets.error(), with_.texts)});
   const Array base = stylesIn(sets->base), mine = stylesIn(with_.store.root()), theirs = stylesIn(sets->theirs);
   MergedStyles joined =
-      mergeStyles({.base = base, .mine = mine, .theirs = theirs, .mineIsNewer = true}, with_.knowledge);
+      mergeStyles({.base = base, .mine = mine, .theirs = theirs, .mineIsNewer = true}, with_.knowledge());
   const Texts& texts = with_.texts;
   const int answer = with_.panels.runAlertPanel(
       {.title = texts.localized("JoinHeader"),

@@ -33,7 +33,7 @@ class StyleJoining {
     UndoCommands& undo;
     const UndoSteps& steps;
     const Texts& texts;
-    MergeKnowledge knowledge;
+    std::function<MergeKnowledge()> knowledge;  // as it is when two sets are joined
     std::function<void()> showStyles;
     std::function<void(const std::string& id)> showEarlier;
   };

@@ -70,6 +70,7 @@ struct DictionaryWorld {
  private:
   Dictionary configuration() const {
     Dictionary values;
+    values.set("tarvoPathTechnicalDicEngFolderURL", dictionaryFolder().text());
     values.set("tarvoPathGetAppleyPath.4", "/Applications/Dictionary Tool.app");
     values.set("tarvoPathMemoryEtoJTitle", "Main");
     values.set("tarvoPathMemoryJtoETitle", "Mainj");

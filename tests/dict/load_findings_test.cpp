@@ -32,24 +32,15 @@ class LoadFindingsTest : public testing::Test {
     world_.setText("Loaded.gone", "%1 lost %2");
     world_.setText("Loaded.defaults", "filled in: %@");
   }
-  static Dictionary configuration(const std::string& folder) {
-    Dictionary paths;
-    paths.set("tarvoPathTechnicalDicEngFolderURL", folder);
-    return paths;
-  }
-  DictController::Services servicesOver(FileService& files) {
-    return {files, world_.texts, world_.bundle, paths_, world_.locations};
-  }
   Names gone(const std::vector<Array>& lists) {
-    return goneDictionaries(servicesOver(world_.files), rootWith(lists))[0];
+    return goneDictionaries(world_.servicesOver(world_.files), rootWith(lists))[0];
   }
   DictionaryWorld world_;
-  ProductPaths paths_{world_.locations, configuration(world_.dictionaryFolder().text())};
 };
 
 TEST_F(LoadFindingsTest, areNoneWhereEveryDictionaryIsThere) {
   EXPECT_EQ(gone({{"a.TRet", "B.tret"}, {}}), Names{});
-  EXPECT_EQ(goneDictionaries(servicesOver(world_.files), Dictionary()), NamesByDirection{});
+  EXPECT_EQ(goneDictionaries(world_.servicesOver(world_.files), Dictionary()), NamesByDirection{});
   EXPECT_TRUE(goneSentences({}, world_.texts).empty());
 }
 
@@ -63,7 +54,7 @@ TEST_F(LoadFindingsTest, sayNothingOfAFolderThatCannotBeRead) {
   MemoryFiles files;
   files.put(world_.path("a.TRet"), "");
   files.refuse(MemoryFiles::Operation::list);
-  EXPECT_EQ(goneDictionaries(servicesOver(files), rootWith({{"a.TRet", "x.TRet"}})), NamesByDirection{});
+  EXPECT_EQ(goneDictionaries(world_.servicesOver(files), rootWith({{"a.TRet", "x.TRet"}})), NamesByDirection{});
 }
 
 TEST_F(LoadFindingsTest, areSaidInOneSentenceADirection) {
