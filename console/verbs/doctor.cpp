@@ -10,6 +10,7 @@
 #include "console/verbs/dictionary_services.h"
 #include "console/verbs/doctor_addins.h"
 #include "console/verbs/doctor_folders.h"
+#include "console/verbs/doctor_former_styles.h"
 #include "console/verbs/refusal.h"
 #include "console/verbs/text_table.h"
 #include "dict/dictionary_folders.h"

@@ -14,7 +14,5 @@ class Product;
 // the product, and each above one in the home, in which every user of the machine may make and remove things. That is
 // no problem where people share a machine as they share their dictionaries. Only reads.
 std::vector<Finding> examineFolders(Product& product);
-// The folder of earlier styles, and what had to be kept beside the style file.
-std::vector<Finding> examineFormerStyles(Product& product);
 
 }  // namespace tarvo

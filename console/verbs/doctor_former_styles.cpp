@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
+#include "console/verbs/doctor_former_styles.h"
+
 #include <algorithm>
 #include <array>
 #include <utility>
 
 #include "app/product.h"
-#include "console/verbs/doctor_folders.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/file_service.h"
 #include "style/style_keys.h"
