@@ -120,6 +120,8 @@ ExitStatus StyleSession::finish(std::vector<std::string> changed) {
 
 // Names that the operation took out have been told by it.
 void StyleSession::noteWhatStaysGone() {
+  const bool isNothingGone = std::ranges::all_of(mended_.gone, &Names::empty);
+  if (isNothingGone) return noteMended(console_, store_.path(), mended_);
   const NamesByDirection left = goneDictionaries(dictionaryServices(console_.product), store_.root());
   for (std::size_t i = 0; i < left.size(); ++i) {
     std::erase_if(mended_.gone[i], [&names = left[i]](const std::string& name) {
