@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "dict/dictionary_presence.h"
-#include "dict/display_names.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/file_service.h"
 #include "style/divider.h"
@@ -48,7 +47,8 @@ MergeKnowledge Rooms::mergeKnowledge() const {
                 DictionaryPresence& files = direction == Direction::englishToJapanese ? *ej : *je;
                 return !files.isKnown() || files.has(fileName);
               },
-          .isInserted = [](Direction, const std::string& fileName) { return isMedicalDictionary(fileName); },
+          .isInserted = [this](Direction direction,
+                               const std::string& fileName) { return medical.inserts(direction, fileName); },
           .isDivider = [this](const Dictionary& record) { return isDivider(record, texts_); }};
 }
 

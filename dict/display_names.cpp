@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "dict/display_names.h"
 
-#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -11,18 +10,11 @@
 
 namespace tarvo {
 
-namespace {
-constexpr std::pair<std::string_view, std::string_view> medicalNames[] = {{"cwl.TRet", "NameECorwell6"},
-                                                                          {"cwla.TRet", "NameECorwellAbbrev"},
-                                                                          {"cwl", "NameJCorwell6"},
-                                                                          {"cwla", "NameJCorwellAbbrev"}};
-}  // namespace
-
-bool isMedicalDictionary(const std::string& fileName) {
-  return std::ranges::any_of(medicalNames, [&fileName](const auto& row) { return row.first == fileName; });
-}
-
 std::string pickerDisplayName(const std::string& name, const Texts& texts) {
+  constexpr std::pair<std::string_view, std::string_view> medicalNames[] = {{"cwl.TRet", "NameECorwell6"},
+                                                                            {"cwla.TRet", "NameECorwellAbbrev"},
+                                                                            {"cwl", "NameJCorwell6"},
+                                                                            {"cwla", "NameJCorwellAbbrev"}};
   for (const auto& [medical, key] : medicalNames) {
     if (name == medical) return texts.localized(key);
   }

@@ -15,7 +15,6 @@ class Texts;
 // In the style pane: without the extension. It goes first, so that the file "cwl.TRet" of either direction bears the
 // name that stands for "cwl".
 std::string dictionaryDisplayName(const std::string& name, const Texts& texts);
-bool isMedicalDictionary(const std::string& fileName);
 // What people call the direction of a list.
 std::string directionName(Direction direction, const Texts& texts);
 // In the picker: the file name as it stands.

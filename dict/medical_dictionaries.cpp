@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "dict/medical_dictionaries.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "dict/dictionary_folders.h"
@@ -15,6 +16,20 @@
 
 namespace tarvo {
 namespace {
+
+using enum Direction;
+
+// Of each dictionary: its flag in the settings, and the keys of the texts that hold the path of its data and the names
+// of its files. Corwell's come in pairs; the text of Tekado's name is a key that is looked up once more.
+struct Medical {
+  std::string_view flag, dataPathKey;
+  Direction direction;
+  std::string_view name, abbreviation;
+};
+constexpr Medical medicals[] = {{"Corwell1stE", "TechECorwell6", englishToJapanese, "cwl.TRet", "cwla.TRet"},
+                                {"Corwell1stJ", "TechJCorwell6", japaneseToEnglish, "cwl", "cwla"},  // no extensions
+                                {"Tekado1stE", "TechETekado", englishToJapanese, "NameETekado", ""},
+                                {"Tekado1stJ", "TechJTekado", japaneseToEnglish, "NameJTekado", ""}};
 
 // What a list of dictionaries says about the medical ones in it.
 struct MedicalPlaces {
@@ -55,25 +70,27 @@ bool MedicalDictionaries::isDue(std::string_view dataPathKey, std::string_view f
 }
 
 std::vector<std::string_view> MedicalDictionaries::insertInstalled() {
-  using enum Direction;
   std::vector<std::string_view> flags;
-  if (isDue("TechECorwell6", "Corwell1stE", englishToJapanese)) {
-    insertCorwell(englishToJapanese, "cwl.TRet", "cwla.TRet");
-    flags.emplace_back("Corwell1stE");
-  }
-  if (isDue("TechJCorwell6", "Corwell1stJ", japaneseToEnglish)) {
-    insertCorwell(japaneseToEnglish, "cwl", "cwla");  // the files of this direction have no extension
-    flags.emplace_back("Corwell1stJ");
-  }
-  if (isDue("TechETekado", "Tekado1stE", englishToJapanese)) {
-    insertTekado(englishToJapanese, with_.texts.localized("NameETekado"));
-    flags.emplace_back("Tekado1stE");
-  }
-  if (isDue("TechJTekado", "Tekado1stJ", japaneseToEnglish)) {
-    insertTekado(japaneseToEnglish, with_.texts.localized("NameJTekado"));
-    flags.emplace_back("Tekado1stJ");
+  for (const Medical& one : medicals) {
+    if (!isDue(one.dataPathKey, one.flag, one.direction)) continue;
+    if (one.abbreviation.empty()) {
+      insertTekado(one.direction, with_.texts.localized(one.name));
+    } else {
+      insertCorwell(one.direction, one.name, one.abbreviation);
+    }
+    flags.push_back(one.flag);
   }
   return flags;
+}
+
+bool MedicalDictionaries::inserts(Direction direction, const std::string& fileName) const {
+  const Texts& texts = with_.texts;
+  return std::ranges::any_of(medicals, [&](const Medical& one) {
+    if (one.direction != direction) return false;
+    if (one.abbreviation.empty()) return equalIgnoringCase(fileName, texts.localized(texts.localized(one.name)));
+    return equalIgnoringCase(fileName, texts.localized(one.name)) ||
+           equalIgnoringCase(fileName, texts.localized(one.abbreviation));
+  });
 }
 
 void MedicalDictionaries::remember(const std::vector<std::string_view>& flags) {

@@ -36,6 +36,8 @@ class MedicalDictionaries {
   // direction's dictionaries is not out of reach. The flags of those that were: where there are any, a list may have
   // changed and the style file has to be written.
   std::vector<std::string_view> insertInstalled();
+  // Whether a start inserts a file of that name, letter case aside, into lists of the direction.
+  bool inserts(Direction direction, const std::string& fileName) const;
   // Sets these flags, so that they are not inserted again, and flushes the settings. On the disk they are from the
   // first flush on after the styles with the dictionaries have been written in this run: whatever stops the program
   // before, the next start inserts them.

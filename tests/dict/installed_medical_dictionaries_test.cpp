@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/text/text_rules.h"
 #include "tests/dict/medical_world.h"
 #include "tests/support/memory_files.h"
 
@@ -64,6 +65,18 @@ TEST_P(MedicalRows, doNotRunWhenTheirFlagIsThereWhateverItSays) {
   world.defaults.set(GetParam().flag, false);
   EXPECT_FALSE(world.insertInstalled());
   EXPECT_EQ(world.list(GetParam().direction), Array{G});
+}
+
+TEST_P(MedicalRows, areKnownAsInsertedInTheirDirectionWhateverTheLetterCase) {
+  const MedicalWorld world;
+  const bool isEnglish = std::string_view(GetParam().direction) == "EJ";
+  const Direction own = isEnglish ? Direction::englishToJapanese : Direction::japaneseToEnglish;
+  const Direction other = isEnglish ? Direction::japaneseToEnglish : Direction::englishToJapanese;
+  for (const PropertyList& name : GetParam().after) {
+    const bool isOfTheUser = *name.string() == G;
+    EXPECT_EQ(world.medical.inserts(own, caseFolded(*name.string())), !isOfTheUser) << *name.string();
+    EXPECT_FALSE(world.medical.inserts(other, *name.string())) << *name.string();
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(MedicalDictionaries, MedicalRows,
