@@ -62,9 +62,12 @@ FileStamp stampOf(const struct stat& status) {
           .modified = status.st_mtim.tv_sec * nanoseconds + status.st_mtim.tv_nsec};
 }
 
-// Under a name for the moment: what the link leads to is what will go, whoever put it there a moment ago.
+// What the link leads to is what will go, whoever put it there a moment ago. Its name is right already unless that was
+// after the look: whoever lists the folder believes what names say of the bytes, also after a crash right here.
 bool FormerFile::link(int folder, const std::string& name) {
-  const std::string& provisional = keeping_.name.empty() ? keeping_.foreignName : keeping_.name;
+  struct stat status{};
+  const bool isExpected = look(folder, name, status) && keeping_.expected == stampOf(status);
+  const std::string& provisional = isExpected && !keeping_.name.empty() ? keeping_.name : keeping_.foreignName;
   if (!place_ || ::linkat(folder, name.c_str(), place_.get(), provisional.c_str(), 0) != 0) return false;
   outcome_.kept = provisional;
   return true;
