@@ -9,6 +9,7 @@
 #include "app/product.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/file_service.h"
+#include "platform/services/kept_copies.h"
 #include "style/style_keys.h"
 
 namespace tarvo {
@@ -20,8 +21,9 @@ struct KeptBeside {
   const char *ending, *detail;
 };
 constexpr std::array<KeptBeside, 2> keptBeside{
-    {{".unreadable", "a style file that could not be read; bring its styles back with restore, then remove the copy"},
-     {".other", "the styles that another program had written; look after them, then remove the copy"}}};
+    {{kept_copies::unreadable,
+      "a style file that could not be read; bring its styles back with restore, then remove the copy"},
+     {kept_copies::foreign, "the styles that another program had written; look after them, then remove the copy"}}};
 
 Finding folderOfEarlierStyles(Product& product, const DiskPath& folder) {
   const FileService& files = product.files();

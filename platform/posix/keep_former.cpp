@@ -11,6 +11,7 @@
 
 #include "platform/posix/folders.h"
 #include "platform/posix/keep_beside.h"
+#include "platform/services/kept_copies.h"
 
 namespace tarvo {
 
@@ -121,7 +122,8 @@ Result<> FormerFile::keep(int folder, const std::string& name, const std::string
   if (!failure && keepInPlace(folder, name, wanted)) return {};
   if (!failure) failure = systemFailure(path, Attempt::keep);
   if (outcome_.wasForeign) {
-    if (const Result<DiskPath> beside = keepBeside(DiskPath(path), ".other")) outcome_.beside = beside->text();
+    if (const Result<DiskPath> beside = keepBeside(DiskPath(path), kept_copies::foreign))
+      outcome_.beside = beside->text();
   }
   if (mustLast() && outcome_.beside.empty()) {
     drop();

@@ -17,6 +17,7 @@
 #include "platform/posix/keep_beside.h"
 #include "platform/posix/keep_former.h"
 #include "platform/posix/replace_file.h"
+#include "platform/services/kept_copies.h"
 #include "platform/services/locations.h"
 #include "platform/text/text_rules.h"
 
@@ -111,7 +112,7 @@ Result<FileStamp> PosixFiles::stamp(const DiskPath& path) const {
 Result<> PosixFiles::keepUnreadable(const DiskPath& path) {
   const Result<DiskPath> name = named(path, Attempt::keep);
   if (!name) return name.error();
-  if (const Result<DiskPath> kept = keepBeside(*name, ".unreadable"); !kept) return kept.error();
+  if (const Result<DiskPath> kept = keepBeside(*name, kept_copies::unreadable); !kept) return kept.error();
   return {};
 }
 
