@@ -10,7 +10,7 @@
 #include "platform/services/notification_names.h"
 #include "platform/services/texts.h"
 #include "style/caller_requests.h"
-#include "style/style_pairing.h"
+#include "style/style_records.h"
 
 // What reaches the style pane from outside: style files, the engine's styles, requests of other tools.
 namespace tarvo {

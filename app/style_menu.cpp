@@ -9,6 +9,7 @@
 #include "platform/controls/controls.h"
 #include "platform/services/texts.h"
 #include "style/style_keys.h"
+#include "style/style_records.h"
 #include "style/style_store.h"
 
 namespace tarvo {
@@ -20,9 +21,7 @@ void fillStyleMenu(PopUpButton& stylePopup, const StyleStore& store, const Texts
   std::vector<PopUpButton::Item> items;
   items.reserve(styles->size());
   for (const PropertyList& style : *styles) {
-    const Dictionary* record = style.dictionary();
-    const std::string* name = record != nullptr ? record->string(keyNameName) : nullptr;
-    PopUpButton::Item item{name != nullptr ? *name : std::string(), static_cast<int>(items.size())};
+    PopUpButton::Item item{recordName(style), static_cast<int>(items.size())};
     item.separator = item.title == divider;
     items.push_back(std::move(item));
   }

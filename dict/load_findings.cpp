@@ -12,18 +12,17 @@
 #include "dict/named_lists.h"
 #include "platform/services/texts.h"
 #include "platform/text/text_rules.h"
-#include "style/style_keys.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 
 namespace {
 
 Names goneIn(const DictController::Services& services, const Dictionary& root, Direction direction) {
-  const Array none;
-  const Array* styles = root.array(keyNameStyle);
   DictionaryPresence files(services, direction);
+  if (!files.isKnown()) return {};
   std::map<std::string, std::string> gone;  // by folded names, as they are spelled first
-  for (const PropertyList& style : styles != nullptr && files.isKnown() ? *styles : none) {
+  for (const PropertyList& style : stylesIn(root)) {
     if (style.dictionary() == nullptr) continue;
     const Names names = storedNames(*style.dictionary(), direction);
     const auto isThere = [&files](const std::string& name) { return files.has(name); };

@@ -7,6 +7,7 @@
 
 #include "platform/services/texts.h"
 #include "style/style_keys.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 
@@ -87,11 +88,9 @@ const std::vector<std::pair<std::string_view, PropertyList>>& jeOptionDefaults()
 }
 
 std::vector<std::string> missingOptions(const Dictionary& root) {
-  const Array none;
-  const Array* styles = root.array(keyNameStyle);
   std::vector<std::string> missing;
   for (const auto& [key, value] : jeOptionDefaults()) {
-    const bool isMissing = std::ranges::any_of(styles != nullptr ? *styles : none, [&key](const PropertyList& style) {
+    const bool isMissing = std::ranges::any_of(stylesIn(root), [&key](const PropertyList& style) {
       const Dictionary* record = style.dictionary();
       const Dictionary* je = record != nullptr ? record->dictionary(keyNameJE) : nullptr;
       return je != nullptr && !je->contains(key);

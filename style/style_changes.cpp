@@ -7,6 +7,7 @@
 
 #include "style/style_keys.h"
 #include "style/style_pairing.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 

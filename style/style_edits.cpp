@@ -11,14 +11,10 @@
 #include "platform/text/text_rules.h"
 #include "style/divider.h"
 #include "style/style_keys.h"
+#include "style/style_records.h"
 #include "style/style_store.h"
 
 namespace tarvo {
-
-std::string styleName(const Dictionary& record) {
-  const std::string* name = record.string(keyNameName);
-  return name != nullptr ? *name : std::string();
-}
 
 void setOptions(StyleStore& store, const Texts& texts, int index, const std::vector<OptionValue>& values) {
   std::optional<Dictionary> record = store.getStyleAtIndex(index);
@@ -36,8 +32,7 @@ bool isNameFree(const Array* styles, int index, const std::string& name, const s
   if (styles == nullptr) return true;
   for (std::size_t i = 0; i < styles->size(); ++i) {
     if (std::cmp_equal(i, index)) continue;
-    const Dictionary* record = (*styles)[i].dictionary();
-    if (equalIgnoringCase(name, record != nullptr ? styleName(*record) : std::string())) return false;
+    if (equalIgnoringCase(name, recordName((*styles)[i]))) return false;
   }
   return true;
 }

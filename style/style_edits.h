@@ -46,7 +46,4 @@ Result<> replaceStyle(StyleStore& store, int index, Dictionary record, const std
 // style. After a failure the file is as it was.
 Result<> writeStyleFile(const StyleStore& store, int index, FileService& files, const DiskPath& path);
 
-// The name of a record; "" for one without.
-std::string styleName(const Dictionary& record);
-
 }  // namespace tarvo

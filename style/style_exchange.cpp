@@ -13,6 +13,7 @@
 #include "style/pane_alerts.h"
 #include "style/style_check.h"
 #include "style/style_edits.h"
+#include "style/style_records.h"
 #include "style/style_store.h"
 
 namespace tarvo {
@@ -59,8 +60,7 @@ void StyleExchange::exportStyle2() {
   std::vector<PopUpButton::Item> items;
   if (const Array* styles = with_.store.getAllStyle()) {
     for (const PropertyList& style : *styles) {
-      const Dictionary* record = style.dictionary();
-      items.push_back({record != nullptr ? styleName(*record) : std::string(), static_cast<int>(items.size())});
+      items.push_back({recordName(style), static_cast<int>(items.size())});
     }
   }
   with_.outlets.exportStylePopup.setItems(std::move(items));

@@ -8,17 +8,12 @@
 #include "platform/text/text_rules.h"
 #include "style/style_edits.h"
 #include "style/style_keys.h"
-#include "style/style_pairing.h"
+#include "style/style_records.h"
 #include "style/style_store.h"
 
 namespace tarvo {
 
 namespace {
-
-Array stylesIn(const Dictionary& root) {
-  const Array* styles = root.array(keyNameStyle);
-  return styles != nullptr ? *styles : Array();
-}
 
 // A choice of a style that there is not becomes one of the first.
 Dictionary choicesAmong(std::size_t count, const Dictionary& selection) {

@@ -12,6 +12,7 @@
 #include "style/record_merge.h"
 #include "style/style_keys.h"
 #include "style/style_pairing.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 
@@ -42,9 +43,8 @@ std::vector<std::size_t> orderIn(const Pairing& pairing) {
     if (pairing[i]) places.emplace_back(*pairing[i], i);
   }
   std::ranges::sort(places);
-  std::vector<std::size_t> order;
-  order.reserve(places.size());
-  for (const auto& [place, base] : places) order.push_back(base);
+  std::vector<std::size_t> order(places.size());
+  std::ranges::transform(places, order.begin(), [](const auto& one) { return one.second; });
   return order;
 }
 

@@ -9,6 +9,7 @@
 #include "style/pane_alerts.h"
 #include "style/process_flags.h"
 #include "style/style_edits.h"
+#include "style/style_records.h"
 #include "style/style_store.h"
 
 namespace tarvo {

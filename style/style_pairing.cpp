@@ -6,7 +6,7 @@
 #include <map>
 
 #include "platform/text/text_rules.h"
-#include "style/style_keys.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 
@@ -85,12 +85,6 @@ std::vector<std::size_t> unpairedPlaces(const Pairing& pairing, std::size_t coun
     if (!taken[i]) unpaired.push_back(i);
   }
   return unpaired;
-}
-
-std::string recordName(const PropertyList& record) {
-  const Dictionary* values = record.dictionary();
-  const std::string* name = values != nullptr ? values->string(keyNameName) : nullptr;
-  return name != nullptr ? *name : std::string();
 }
 
 }  // namespace tarvo

@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <vector>
 
 #include "platform/plist/property_list.h"
@@ -21,8 +20,5 @@ Pairing pairRecords(const Array& one, const Array& other);
 
 // The places of the other set, which has that many records, that no record was paired with; ascending.
 std::vector<std::size_t> unpairedPlaces(const Pairing& pairing, std::size_t count);
-
-// "" for what is no record and for a record without a name.
-std::string recordName(const PropertyList& record);
 
 }  // namespace tarvo

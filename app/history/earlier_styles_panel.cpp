@@ -9,8 +9,7 @@
 #include "platform/services/failure_text.h"
 #include "platform/services/texts.h"
 #include "style/style_changes.h"
-#include "style/style_edits.h"
-#include "style/style_keys.h"
+#include "style/style_records.h"
 #include "style/style_store.h"
 #include "style/undo_steps.h"
 
@@ -19,12 +18,6 @@ namespace tarvo {
 namespace {
 
 constexpr std::size_t mostLines = 12;  // of what a set would change; a set of another machine may differ in everything
-
-const Array& stylesIn(const Dictionary& root) {
-  static const Array none;
-  const Array* styles = root.array(keyNameStyle);
-  return styles != nullptr ? *styles : none;
-}
 
 std::string joinedLines(const std::vector<std::string>& words, const char* between) {
   std::string text;

@@ -14,17 +14,13 @@
 #include "style/style_changes.h"
 #include "style/style_history.h"
 #include "style/style_keys.h"
+#include "style/style_records.h"
 #include "style/style_store.h"
 #include "style/undo_steps.h"
 
 namespace tarvo {
 
 namespace {
-
-Array stylesIn(const Dictionary& root) {
-  const Array* styles = root.array(keyNameStyle);
-  return styles != nullptr ? *styles : Array();
-}
 
 // Each tool keeps its style, wherever that is now; the tool of a style that is gone takes the first one.
 Dictionary movedChoices(const Dictionary& selection, const std::vector<std::optional<std::size_t>>& places) {

@@ -11,7 +11,7 @@
 #include "platform/controls/windows.h"
 #include "platform/services/texts.h"
 #include "style/process_flags.h"
-#include "style/style_edits.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 

@@ -9,7 +9,7 @@
 #include "console/verbs/style_session.h"
 #include "console/verbs/text_table.h"
 #include "platform/plist/json.h"
-#include "style/style_edits.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 

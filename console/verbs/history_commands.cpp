@@ -12,6 +12,7 @@
 #include "platform/services/plist_file.h"
 #include "style/style_history.h"
 #include "style/style_keys.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 
@@ -44,8 +45,7 @@ Result<Array> presentStyles(Console& console) {
     note(console, {failure.path, "Refusal.PresentUnread", failureParts(failure, console.textsToTell()).cause});
     return failure;
   }
-  const Array* styles = root->array(keyNameStyle);
-  return styles != nullptr ? *styles : Array();
+  return stylesIn(*root);
 }
 
 }  // namespace

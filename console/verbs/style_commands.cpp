@@ -9,8 +9,8 @@
 #include "platform/plist/json.h"
 #include "style/divider.h"
 #include "style/sibling_tools.h"
-#include "style/style_edits.h"
 #include "style/style_keys.h"
+#include "style/style_records.h"
 
 // The verbs that only read styles.
 namespace tarvo {

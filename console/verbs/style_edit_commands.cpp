@@ -16,6 +16,7 @@
 #include "platform/text/text_rules.h"
 #include "style/sibling_tools.h"
 #include "style/style_edits.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 

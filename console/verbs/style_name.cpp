@@ -10,8 +10,7 @@
 
 #include "platform/text/text_rules.h"
 #include "style/divider.h"
-#include "style/style_edits.h"
-#include "style/style_keys.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 
@@ -74,8 +73,7 @@ std::optional<UsageError> wrongStyleWord(const std::string& word) {
 
 std::expected<int, Problem> styleNamed(const Dictionary& root, const Texts& texts, const std::string& word,
                                        bool mayBeDivider) {
-  const Array* stored = root.array(keyNameStyle);
-  const Array records = stored != nullptr ? *stored : Array();
+  const Array& records = stylesIn(root);
   const std::optional<int> index = indexIn(word);
   if (const std::optional<UsageError> error = wrongStyleWord(word)) return std::unexpected(*error);
   if (!index) {

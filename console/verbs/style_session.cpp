@@ -10,7 +10,7 @@
 #include "console/verbs/dictionary_services.h"
 #include "console/verbs/style_name.h"
 #include "platform/services/engine.h"
-#include "style/style_edits.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 

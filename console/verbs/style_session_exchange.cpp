@@ -7,8 +7,8 @@
 #include "console/verbs/tool_list_command.h"
 #include "platform/services/engine.h"
 #include "style/sibling_tools.h"
-#include "style/style_edits.h"
 #include "style/style_history.h"
+#include "style/style_records.h"
 
 // The session's exchanges with the style service.
 namespace tarvo {

@@ -11,7 +11,7 @@
 #include "style/record_merge.h"
 #include "style/style_keys.h"
 #include "style/style_merge.h"
-#include "style/style_pairing.h"
+#include "style/style_records.h"
 
 // Sets that two machines change at random from one base: what must hold of every merge.
 namespace tarvo {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "style/style_keys.h"
-#include "style/style_pairing.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 namespace {
