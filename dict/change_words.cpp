@@ -39,6 +39,12 @@ std::string inWords(const StyleChange& change, const Texts& texts) {
          meaningOf(change, change.after, texts);
 }
 
+std::string joined(const std::vector<std::string>& words, const char* between) {
+  std::string text;
+  for (const std::string& one : words) text += (text.empty() ? "" : between) + one;
+  return text;
+}
+
 // A menu has room for one thing: the first one that was done.
 std::string nameOfChange(const StyleChange& change, const Texts& texts) {
   switch (change.kind) {
@@ -77,6 +83,20 @@ std::vector<std::string> changesInWords(const std::vector<StyleChange>& changes,
     former = &change;
   }
   return words;
+}
+
+std::string changesInOneLine(const std::vector<StyleChange>& changes, const Texts& texts) {
+  return joined(changesInWords(changes, texts), "; ");
+}
+
+std::string changesInLines(const std::vector<StyleChange>& changes, std::size_t most, const Texts& texts) {
+  std::vector<std::string> words = changesInWords(changes, texts);
+  if (words.size() > most) {
+    const std::string others = std::to_string(words.size() - most);
+    words.resize(most);
+    words.push_back(filledIn(texts.localized("History.more"), others));
+  }
+  return joined(words, "\n");
 }
 
 std::string nameOfEdit(const StoredChange& change, const Texts& texts) {

@@ -19,12 +19,6 @@ namespace {
 
 constexpr std::size_t mostLines = 12;  // of what a set would change; a set of another machine may differ in everything
 
-std::string joinedLines(const std::vector<std::string>& words, const char* between) {
-  std::string text;
-  for (const std::string& line : words) text += (text.empty() ? "" : between) + line;
-  return text;
-}
-
 }  // namespace
 
 void EarlierStylesPanel::run(const std::string& id) {
@@ -80,15 +74,10 @@ void EarlierStylesPanel::selectionDidChange(TableView&) {
 
 std::string EarlierStylesPanel::effectOf(const Dictionary& root, const EarlierSet& set) const {
   if (!holdsStyles(root)) return failureText({set.path.text(), Attempt::read, Reason::damaged}, with_.texts);
-  std::vector<std::string> words =
-      changesInWords(styleChanges(stylesIn(with_.store.root()), stylesIn(root)), with_.texts);
-  if (words.empty()) return with_.texts.localized("History.same");
-  if (words.size() > mostLines) {
-    const std::size_t more = words.size() - mostLines;
-    words.resize(mostLines);
-    words.push_back(filledIn(with_.texts.localized("History.more"), std::to_string(more)));
-  }
-  return with_.texts.localized("History.would") + "\n" + joinedLines(words, "\n");
+  const std::string lines =
+      changesInLines(styleChanges(stylesIn(with_.store.root()), stylesIn(root)), mostLines, with_.texts);
+  if (lines.empty()) return with_.texts.localized("History.same");
+  return with_.texts.localized("History.would") + "\n" + lines;
 }
 
 void EarlierStylesPanel::restoreAll() {
@@ -132,8 +121,8 @@ CellValue EarlierStylesPanel::objectValueForTableColumn(TableView&, std::string_
     cell.text = with_.texts.localized("History.kind." + std::string(nameOf(set.kind)));
   if (column == history_columns::changed) {
     const HistoryEntry& entry = history_->entry(place);
-    cell.text = entry.damage ? failureCauseText(*entry.damage, with_.texts)
-                             : joinedLines(changesInWords(entry.changes, with_.texts), "; ");
+    cell.text =
+        entry.damage ? failureCauseText(*entry.damage, with_.texts) : changesInOneLine(entry.changes, with_.texts);
   }
   return cell;
 }

@@ -78,14 +78,10 @@ void StyleJoining::join(const std::string& id) {
 }
 
 std::string StyleJoining::effectOf(const Array& joined, const std::vector<MergeNote>& notes) const {
-  const auto words = changesInWords(styleChanges(stylesIn(with_.store.root()), joined), with_.texts);
-  constexpr std::size_t mostLines = 8;
-  std::string text = with_.texts.localized(words.empty() ? "JoinNothing" : "JoinMessage");
-  for (std::size_t line = 0; line < std::min(words.size(), mostLines); ++line) text.append("\n").append(words[line]);
-  if (words.size() > mostLines) {
-    const std::string more = std::to_string(words.size() - mostLines);
-    text.append("\n").append(filledIn(with_.texts.localized("History.more"), more));
-  }
+  constexpr std::size_t mostLines = 8;  // an alert cannot be scrolled
+  const std::string lines = changesInLines(styleChanges(stylesIn(with_.store.root()), joined), mostLines, with_.texts);
+  std::string text = with_.texts.localized(lines.empty() ? "JoinNothing" : "JoinMessage");
+  if (!lines.empty()) text.append("\n").append(lines);
   const auto clashes = std::ranges::count(notes, MergeNote::Kind::otherValue, &MergeNote::kind);
   if (clashes > 0) {
     text.append("\n").append(filledIn(with_.texts.localized("JoinClashes"), std::to_string(clashes)));

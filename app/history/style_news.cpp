@@ -12,6 +12,7 @@
 #include "platform/services/failure_text.h"
 #include "platform/services/run_loop.h"
 #include "platform/services/texts.h"
+#include "style/former_words.h"
 #include "style/style_changes.h"
 #include "style/undo_steps.h"
 
@@ -30,12 +31,6 @@ std::string removedDictionaries(const StoredChange& change, const Texts& texts) 
     names += (names.empty() ? "" : ", ") + dictionaryDisplayName(one.key, texts);
   }
   return names;
-}
-
-std::string inOneLine(const std::vector<std::string>& words) {
-  std::string line;
-  for (const std::string& one : words) line += (line.empty() ? "" : "; ") + one;
-  return line;
 }
 
 bool isServiceMissing(const Failure& failure) { return failure.cause == Reason::noService; }
@@ -73,8 +68,9 @@ void StyleNews::didChange(const StoredChange& change) {
   const bool isStep = with_.steps.note(change);
   const std::string removed = removedDictionaries(change, with_.texts);
   if (change.kind == ChangeKind::repair && !removed.empty() && !importing_) {
-    const auto words = changesInWords(styleChanges(Array{change.before}, Array{change.after}), with_.texts);
-    with_.notices.tell({.text = filledIn(with_.texts.localized("Notice.repaired"), inOneLine(words))});
+    const auto changes = styleChanges(Array{change.before}, Array{change.after});
+    with_.notices.tell(
+        {.text = filledIn(with_.texts.localized("Notice.repaired"), changesInOneLine(changes, with_.texts))});
   } else if (isStep && change.kind == ChangeKind::edit && !removed.empty()) {
     with_.notices.tell({.text = filledIn(with_.texts.localized("Notice.removed"), removed),
                         .offer = Notice::Offer::undo,
@@ -91,8 +87,7 @@ void StyleNews::didWrite() {
   const Replaced& replaced = with_.store.replaced();
   thinLater(replaced);
   if (replaced.unkept && !std::exchange(toldUnkept_, true)) {
-    const char* key = replaced.kept.empty() ? "Notice.unkept" : "Notice.unsure";
-    with_.notices.tellAside({.text = filledIn(with_.texts.localized(key), failureText(*replaced.unkept, with_.texts))});
+    with_.notices.tellAside({.text = unkeptSentence(replaced, with_.texts)});
   }
 }
 
@@ -113,8 +108,7 @@ void StyleNews::tellForeignSet() {
   toldForeign_ = foreign->number;
   toldElsewhere_ = false;
   const std::optional<EarlierSet> set = earlierSetNamed(foreign->kept);
-  with_.notices.tell({.text = set ? with_.texts.localized("Notice.foreignReplaced")
-                                  : filledIn(with_.texts.localized("Notice.foreignBeside"), foreign->beside),
+  with_.notices.tell({.text = foreignSentence(foreign->kept, foreign->beside, with_.texts),
                       .offer = set ? Notice::Offer::merge : Notice::Offer::none,
                       .earlierSet = set ? set->id : std::string()});
 }

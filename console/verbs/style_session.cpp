@@ -10,6 +10,7 @@
 #include "console/verbs/dictionary_services.h"
 #include "console/verbs/style_name.h"
 #include "platform/services/engine.h"
+#include "style/former_words.h"
 #include "style/style_records.h"
 
 namespace tarvo {
@@ -85,14 +86,9 @@ void StyleSession::noteWrite() {
   written_ = true;
   const Replaced& replaced = store_.replaced();
   const Texts texts = console_.textsToTell();
-  if (replaced.wasForeign) {
-    note(console_, pathOfStyles(),
-         replaced.kept.empty() ? filledIn(texts.localized("Notice.foreignBeside"), replaced.beside)
-                               : texts.localized("Notice.foreignReplaced"));
-  }
+  if (replaced.wasForeign) note(console_, pathOfStyles(), foreignSentence(replaced.kept, replaced.beside, texts));
   if (!replaced.unkept || std::exchange(toldUnkept_, true)) return;
-  const char* key = replaced.kept.empty() ? "Notice.unkept" : "Notice.unsure";
-  note(console_, pathOfStyles(), filledIn(texts.localized(key), failureText(*replaced.unkept, texts)));
+  note(console_, pathOfStyles(), unkeptSentence(replaced, texts));
 }
 
 std::optional<Problem> StyleSession::writeLoaded() {
