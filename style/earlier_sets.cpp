@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::array<std::string_view, 8> kindNames{"repair", "edit", "import", "restore",
                                                     "merge",  "pull", "other",  "unreadable"};
-static_assert(kindNames.size() == static_cast<std::size_t>(ChangeKind::unreadable) + 1);
+static_assert(kindNames.size() == static_cast<std::size_t>(lastChangeKind) + 1);
 constexpr std::string_view pattern = "00000000T000000.000000Z";
 constexpr std::string_view ending = ".plist";
 constexpr std::string_view unknown = "-";

@@ -40,7 +40,7 @@ KnownSets& EarlierStyles::known() {
 
 void KnownSets::note(const EarlierSet& set) {
   newest = std::max(newest, set.time);
-  if (set.kind <= ChangeKind::edit) lastEdit = std::max(lastEdit, set.time);
+  if (isOfAnEdit(set.kind)) lastEdit = std::max(lastEdit, set.time);
 }
 
 // Two changes within a microsecond, or after the clock was set back, still stand in their order.
@@ -58,8 +58,8 @@ Keeping EarlierStyles::keepingFor(std::optional<ChangeKind> kind, const std::str
   keeping.foreignName = fileNameOf(now, ChangeKind::otherProgram, "");
   if (!kind) return keeping;
   keeping.name = fileNameOf(now, *kind, fingerprint);
-  keeping.durability = *kind <= ChangeKind::edit ? Durability::quick : Durability::synced;
-  keeping.mayCopy = *kind > ChangeKind::edit || now - known().lastEdit >= betweenCopies;
+  keeping.durability = isOfAnEdit(*kind) ? Durability::quick : Durability::synced;
+  keeping.mayCopy = !isOfAnEdit(*kind) || now - known().lastEdit >= betweenCopies;
   return keeping;
 }
 
@@ -78,7 +78,7 @@ void EarlierStyles::settle(const Replaced& replaced) {
 EarlierSet EarlierStyles::keepOnce(const EarlierSet& newer, const EarlierSet& older) {
   if (newer.path == older.path) return newer;
   // What lasts must not give way to what a power cut may take: it stands for the later one too.
-  const bool mustStay = older.kind > ChangeKind::edit && newer.kind <= ChangeKind::edit;
+  const bool mustStay = !isOfAnEdit(older.kind) && isOfAnEdit(newer.kind);
   if (!mustStay) {
     static_cast<void>(files_.remove(older.path));
     return newer;

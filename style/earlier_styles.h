@@ -31,7 +31,10 @@ using Moment = std::chrono::sys_time<std::chrono::microseconds>;
 // What replaced a set of styles, weakest first: of several at once the last one counts. repair: what the program itself
 // mended when it met names that are gone or options that are missing.
 enum class ChangeKind { repair, edit, import, restore, merge, pull, otherProgram, unreadable };
+inline constexpr ChangeKind lastChangeKind = ChangeKind::unreadable;
 std::string_view nameOf(ChangeKind kind);  // "edit", as in the names of the files
+// An edit, or a repair: what those replaced is kept as cheaply as can be, and gives way to what anything else did.
+constexpr bool isOfAnEdit(ChangeKind kind) { return kind <= ChangeKind::edit; }
 
 struct EarlierSet {
   std::string id;  // its time: "20261122T031729.123456Z"
@@ -51,7 +54,7 @@ Moment systemMoment();
 // What lies in the folder, as it is needed at each edit.
 struct KnownSets {
   std::map<std::string, EarlierSet> byFingerprint;
-  Moment newest{}, lastEdit{};  // of all; of those that an edit or a repair replaced
+  Moment newest{}, lastEdit{};  // of all; of those that isOfAnEdit
   void note(const EarlierSet& set);
 };
 

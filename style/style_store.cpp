@@ -75,7 +75,7 @@ void StyleStore::setStyle(int index, Dictionary record, ChangeKind kind) {
   present = std::move(record);
   noteChange(kind);
   // What the load has joined to the former record, and no file holds yet, went with it.
-  if (isNew && pending_ && kind > ChangeKind::edit) ofLoad_ = false;
+  if (isNew && pending_ && !isOfAnEdit(kind)) ofLoad_ = false;
   if (isNew) tellChange(std::move(change));
   file_.recordChanged(static_cast<std::size_t>(index));
   writeTarvoStylePlist();
