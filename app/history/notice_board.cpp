@@ -12,6 +12,8 @@ namespace tarvo {
 namespace {
 
 constexpr std::array<const char*, 4> offerKeys{"Label.noticeButton", "Notice.undo", "Notice.restore", "Notice.merge"};
+static_assert(offerKeys.size() == static_cast<std::size_t>(Notice::Offer::merge) + 1,
+              "a text for each, in their order");
 
 }  // namespace
 

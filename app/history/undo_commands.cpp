@@ -26,11 +26,13 @@ std::string styleOf(const StoredChange& step) {
 }  // namespace
 
 UndoCommands::UndoCommands(Collaborators with) : with_(std::move(with)) {
-  with_.steps.didChange = [this] {
-    with_.undoMenu.setTitle(titleOf(Way::undo));
-    with_.redoMenu.setTitle(titleOf(Way::redo));
-    with_.notices.undoTakes(with_.steps.mark());
-  };
+  with_.steps.didChange = [this] { showSteps(); };
+}
+
+void UndoCommands::showSteps() {
+  with_.undoMenu.setTitle(titleOf(Way::undo));
+  with_.redoMenu.setTitle(titleOf(Way::redo));
+  with_.notices.undoTakes(with_.steps.mark());
 }
 
 bool UndoCommands::isCovered() const {
@@ -64,7 +66,7 @@ void UndoCommands::take(Way way) {
 }
 
 void UndoCommands::stylesCameFromElsewhere(bool keepsOrder) {
-  if (keepsOrder) return with_.steps.didChange();
+  if (keepsOrder) return showSteps();
   const bool hadSteps = with_.steps.next(Way::undo) != nullptr || with_.steps.next(Way::redo) != nullptr;
   with_.steps.clear();
   if (hadSteps) with_.notices.tell({.text = with_.texts.localized("Undo.ended")});

@@ -49,6 +49,7 @@ class UndoCommands {
 
  private:
   void take(Way way);
+  void showSteps();  // in the titles, and in what the line still offers
   bool isCovered() const;
   std::string titleOf(Way way) const;
   Collaborators with_;
