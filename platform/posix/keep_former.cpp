@@ -35,15 +35,18 @@ Descriptor openRegular(int folder, const std::string& name, struct stat& status)
   return S_ISREG(status.st_mode) ? std::move(file) : Descriptor();
 }
 
-Descriptor copyInto(int from, int place, const std::string& name, std::size_t size) {
-  const auto bytes = readAll(from, size, largestCopy);
-  if (!bytes) return Descriptor();
-  Descriptor copy(::openat(place, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
-  if (!copy || writeAll(copy.get(), *bytes)) return copy;
+// It takes its name when it is whole: who is killed in between leaves a temporary file.
+bool copyInto(int from, int place, const std::string& name, std::size_t size) {
+  const std::string temporary = temporaryName();
+  const auto bytes = temporary.empty() ? std::nullopt : readAll(from, size, largestCopy);
+  if (!bytes) return false;
+  const Descriptor copy(::openat(place, temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+  if (!copy) return false;
+  if (writeAll(copy.get(), *bytes) && renameWithoutReplacing(place, temporary, place, name)) return true;
   const int cause = errno;
-  ::unlinkat(place, name.c_str(), 0);
+  ::unlinkat(place, temporary.c_str(), 0);
   errno = cause;
-  return Descriptor();
+  return false;
 }
 
 // errno says why not, also where something else than a file has taken the name.

@@ -104,6 +104,30 @@ TEST_F(KeepFormer, aFailedRenameTakesTheLinkBack) {
   }
 }
 
+TEST_F(KeepFormer, whereNoLinkIsTakenACopyGetsItsNameWhenItIsWhole) {
+  folder.makeFolder("Above/Kept");
+  RecordedCalls calls;
+  calls.fail("link", EPERM);
+  ASSERT_TRUE(replaceFile(folder.at("file"), "new", keeping()));
+  EXPECT_EQ(calls.names(),
+            (Names{"mode", "write", "sync file", "link", "write", "rename if free", "rename", "sync folder"}));
+  EXPECT_EQ(kept(), Names{"former"});
+  EXPECT_EQ(folder.read("Above/Kept/former"), "old");
+}
+
+TEST_F(KeepFormer, aCopyThatCannotHaveItsNameLeavesNothing) {
+  folder.makeFolder("Above/Kept");
+  RecordedCalls calls;
+  calls.fail("link", EPERM);
+  calls.fail("rename if free", EIO);
+  const Result<Replaced> replaced = replaceFile(folder.at("file"), "new", keeping());
+  ASSERT_TRUE(replaced);
+  ASSERT_TRUE(replaced->unkept);
+  EXPECT_EQ(replaced->unkept->cause, std::errc::io_error);
+  EXPECT_EQ(replaced->kept, "");
+  EXPECT_EQ(kept(), Names{});
+}
+
 TEST_F(KeepFormer, aFileThatNobodyMayReadIsLinkedAllTheSame) {
   ASSERT_EQ(::chmod((folder / "file").c_str(), 0), 0);
   Keeping asked = keeping();
