@@ -26,14 +26,20 @@ DiskPath toolListPath(const Locations& locations) {
   return locations.inHome("Library/Preferences/Wordhaven/TarvoManager.txt");
 }
 
+std::vector<DiskPath> userFolders(const Locations& locations, const ProductPaths& paths) {
+  std::vector<DiskPath> folders{lockPath(locations).folder(),
+                                locations.inHome(gStylePath).folder(),
+                                locations.inHome(gEarlierStyles),
+                                paths.localEnginePath().folder(),
+                                locations.onDisk(paths.preferencesWordhavenCache()),
+                                paths.tarvoPathUserDicFolderURL(),
+                                paths.tarvoPathUserTmaFolderURL()};
+  for (const char* folder : mailScriptFolders) folders.push_back(locations.inHome(folder));
+  return folders;
+}
+
 UserPlace userPlace(FileService& files, const Locations& locations, const ProductPaths& paths) {
-  UserPlace place{
-      lockPath(locations),
-      locations.home(),
-      {lockPath(locations).folder(), locations.inHome(gStylePath).folder(), locations.inHome(gEarlierStyles),
-       paths.localEnginePath().folder(), locations.onDisk(paths.preferencesWordhavenCache()),
-       paths.tarvoPathUserDicFolderURL(), paths.tarvoPathUserTmaFolderURL()}};
-  for (const char* folder : mailScriptFolders) place.folders.push_back(locations.inHome(folder));
+  UserPlace place{lockPath(locations), locations.home(), userFolders(locations, paths)};
   const Result<> made = files.makeFolder(place.lock.folder());
   (void)made;  // whoever takes the lock finds that there is none to be had
   return place;

@@ -18,10 +18,14 @@ DiskPath userDefaultsPath(const Locations& locations);
 DiskPath lockPath(const Locations& locations);
 DiskPath toolListPath(const Locations& locations);
 
+// The folders in which the product writes what is the user's, those of mail programs too. Some may lie outside the
+// home.
+std::vector<DiskPath> userFolders(const Locations& locations, const ProductPaths& paths);
+
 // What the lock of a user's files guards.
 struct UserPlace {
   DiskPath lock, home;
-  std::vector<DiskPath> folders;  // in which the product writes, those of mail programs too; some may lie elsewhere
+  std::vector<DiskPath> folders;  // userFolders
 };
 // The folder of the lock is there now, made as all of the user's folders are, where that can be.
 UserPlace userPlace(FileService& files, const Locations& locations, const ProductPaths& paths);

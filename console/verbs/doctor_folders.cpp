@@ -7,9 +7,7 @@
 #include "app/product.h"
 #include "app/user_files.h"
 #include "dict/dictionary_folders.h"
-#include "install/mail_script_installer.h"
 #include "platform/services/file_service.h"
-#include "style/style_keys.h"
 
 namespace tarvo {
 
@@ -18,13 +16,10 @@ namespace {
 // The folders in which the product keeps something, and those above them up to the home.
 std::set<DiskPath> foldersOf(Product& product) {
   const Locations& locations = product.locations();
-  std::set<DiskPath> folders{locations.inHome(gStylePath).folder(), userDefaultsPath(locations).folder(),
-                             toolListPath(locations).folder(), product.paths().localEnginePath().folder(),
-                             MailScriptInstaller(product.files(), product.bundle(), locations).mailScriptFolder()};
-  for (const DictionaryKind kind : {DictionaryKind::technical, DictionaryKind::user, DictionaryKind::memory}) {
-    for (const Direction direction : {Direction::englishToJapanese, Direction::japaneseToEnglish})
-      folders.insert(dictionaryFolder(product.paths(), kind, direction));
-  }
+  const std::vector<DiskPath> ofTheUser = userFolders(locations, product.paths());
+  std::set<DiskPath> folders(ofTheUser.begin(), ofTheUser.end());
+  for (const Direction direction : bothDirections)
+    folders.insert(dictionaryFolder(product.paths(), DictionaryKind::technical, direction));
   std::set<DiskPath> above;
   for (DiskPath folder : folders) {
     for (; folder.isIn(locations.home()) && folder != locations.home(); folder = folder.folder())
