@@ -86,9 +86,9 @@ void StyleNews::didWrite() {
   tellForeignSet();
   const Replaced& replaced = with_.store.replaced();
   thinLater(replaced);
-  if (replaced.unkept && !std::exchange(toldUnkept_, true)) {
-    with_.notices.tellAside({.text = unkeptSentence(replaced, with_.texts)});
-  }
+  if (!replaced.unkept || replaced.unkept == toldUnkept_) return;
+  toldUnkept_ = replaced.unkept;
+  with_.notices.tellAside({.text = unkeptSentence(replaced, with_.texts)});
 }
 
 // Also for a set of which this program has seen nothing yet.

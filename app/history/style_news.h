@@ -4,8 +4,11 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "platform/services/result.h"
 
 // What happens to the styles without a question becomes notices; what the user does to them becomes steps to take back.
 // Duty: listen to the store and say it once; have old earlier sets let go of, between the edits. Not: showing.
@@ -51,7 +54,8 @@ class StyleNews {
   void thinLater(const Replaced& replaced);
   Collaborators with_;
   std::string toldService_;
-  bool toldUnkept_ = false, toldElsewhere_ = false, importing_ = false;
+  std::optional<Failure> toldUnkept_;  // why former styles were not kept, each cause once in a row
+  bool toldElsewhere_ = false, importing_ = false;
   int writes_ = 0, toldForeign_ = 0;
   std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);  // the loop may outlive this
 };

@@ -25,9 +25,13 @@ class AskedFiles : public FaultyFiles {
   }
   Result<std::string> read(const DiskPath& path) const override { return asked("read", path), FaultyFiles::read(path); }
   Result<Replaced> replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) override {
-    return asked("replace", path), FaultyFiles::replace(path, bytes, keeping);
+    asked("replace", path);
+    Result<Replaced> replaced = FaultyFiles::replace(path, bytes, keeping);
+    if (replaced && !keeping.folder.empty()) replaced->unkept = unkept;
+    return replaced;
   }
   mutable Log log;
+  std::optional<Failure> unkept;  // what becomes of former styles
 
  private:
   void asked(const char* what, const DiskPath& path) const {
@@ -83,6 +87,16 @@ TEST_F(StyleNewsTest, whoComesBackToTheWindowLooksOnceAndIsOnlyTold) {
   EXPECT_EQ(shown()->text, "Notice.foreign");
   EXPECT_EQ(shown()->offer, Notice::Offer::merge);
   EXPECT_EQ(test.stylesOnDisk().find("Elsewhere")->integerValue(), 1);
+}
+
+TEST_F(StyleNewsTest, formerStylesThatCannotBeKeptAreToldOnceForEachCause) {
+  const auto& latest = program.rooms().notices.latest();
+  const auto isOfTheKeeping = [](const Notice& notice) { return notice.text == "Notice.unsure"; };
+  for (const std::errc cause : {std::errc::io_error, std::errc::no_space_on_device}) {
+    files.unkept = Failure{"/styles", Attempt::keep, std::make_error_code(cause)};
+    for (const int option : {2, 1}) edit(option);
+  }
+  EXPECT_EQ(std::ranges::count_if(latest, isOfTheKeeping), 2);
 }
 
 TEST_F(StyleNewsTest, whatAnotherProgramWroteGetsItsFingerprintSoon) {
