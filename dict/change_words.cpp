@@ -6,8 +6,6 @@
 
 #include "dict/display_names.h"
 #include "platform/services/texts.h"
-#include "style/option_table.h"
-#include "style/style_keys.h"
 #include "style/style_store.h"
 
 namespace tarvo {

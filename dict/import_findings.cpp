@@ -12,7 +12,6 @@
 #include "platform/services/file_service.h"
 #include "platform/services/texts.h"
 #include "platform/text/text_rules.h"
-#include "style/style_keys.h"
 
 namespace tarvo {
 

@@ -3,7 +3,6 @@
 #include "style/earlier_styles.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "platform/plist/plist_reader.h"

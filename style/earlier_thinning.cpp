@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "style/earlier_thinning.h"
 
-#include <algorithm>
 #include <optional>
 #include <set>
 

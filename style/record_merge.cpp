@@ -8,14 +8,11 @@
 #include "platform/text/text_rules.h"
 #include "style/option_table.h"
 #include "style/style_keys.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 
 namespace {
-
-bool same(const PropertyList* one, const PropertyList* other) {
-  return one == nullptr || other == nullptr ? one == other : *one == *other;
-}
 
 std::vector<std::string> keysOf(std::initializer_list<const Dictionary*> dictionaries) {
   std::vector<std::string> keys;
@@ -83,7 +80,8 @@ bool RecordMerge::areUnchanged(Half half, const Dictionary& base, const Dictiona
   return std::ranges::all_of(keysOf({&base, &mine}), [&](const std::string& key) {
     if (!half && key == keyNameID) return true;
     const PropertyList *before = base.find(key), *now = mine.find(key);
-    if (same(before, now) || isUnchangedList(half, key, before, now) || isFilledIn(half, key, before, now)) return true;
+    if (sameValue(before, now) || isUnchangedList(half, key, before, now) || isFilledIn(half, key, before, now))
+      return true;
     const std::optional<Direction> inner = half ? std::nullopt : halfNamed(key);
     const Dictionary *halfBefore = dictionaryIn(before), *halfNow = dictionaryIn(now);
     return inner && halfBefore != nullptr && halfNow != nullptr && areUnchanged(inner, *halfBefore, *halfNow);
@@ -109,13 +107,13 @@ Dictionary RecordMerge::joinKeys(Half half, const Dictionary& base, const Dictio
       const Dictionary* halfBefore = dictionaryIn(before);
       joined.emplace_back(
           key, joinKeys(inner, halfBefore != nullptr ? *halfBefore : Dictionary(), *halfHere, *halfThere, notes));
-    } else if (same(here, there)) {
+    } else if (sameValue(here, there)) {
       take(key, here);
     } else if (isUnchangedList(half, key, before, here)) {
       take(key, there);
-    } else if (same(before, there)) {
+    } else if (sameValue(before, there)) {
       take(key, here);
-    } else if (same(before, here) || isFilledIn(half, key, before, here)) {
+    } else if (sameValue(before, here) || isFilledIn(half, key, before, here)) {
       take(key, there);
     } else {
       take(key, here);

@@ -41,8 +41,7 @@ class RecordChanges {
  private:
   void compareKey(std::optional<Direction> half, const std::string& key, const PropertyList* before,
                   const PropertyList* after) {
-    const bool isSame = before != nullptr && after != nullptr && *before == *after;
-    if (isSame || (!half && key == keyNameID)) return;
+    if (sameValue(before, after) || (!half && key == keyNameID)) return;
     if (!half && key == keyNameName) return note(Kind::renamed, half, key, before, after);
     if (half && key == keyNameTD) return compareLists(*half, namesIn(before), namesIn(after));
     for (const Direction direction : bothDirections) {

@@ -22,4 +22,8 @@ std::string recordName(const PropertyList& record) {
   return values != nullptr ? styleName(*values) : std::string();
 }
 
+bool sameValue(const PropertyList* one, const PropertyList* other) {
+  return one == nullptr || other == nullptr ? one == other : *one == *other;
+}
+
 }  // namespace tarvo

@@ -16,4 +16,7 @@ const Array& stylesIn(const Dictionary& root);
 std::string styleName(const Dictionary& record);
 std::string recordName(const PropertyList& record);
 
+// Whether two keys hold the same; null: there is none.
+bool sameValue(const PropertyList* one, const PropertyList* other);
+
 }  // namespace tarvo

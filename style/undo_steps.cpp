@@ -2,7 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "style/undo_steps.h"
 
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "style/style_keys.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 
@@ -19,16 +25,12 @@ const Dictionary& toPut(const StoredChange& step, UndoSteps::Way way) {
   return way == UndoSteps::Way::undo ? step.before : step.after;
 }
 
-bool same(const PropertyList* one, const PropertyList* other) {
-  return one == nullptr || other == nullptr ? one == other : *one == *other;
-}
-
 // The tools whose choices a step has changed.
 std::vector<std::string> changedTools(const StoredChange& step) {
   std::vector<std::string> tools;
   for (const Dictionary* one : {&step.before, &step.after}) {
     for (const auto& [tool, style] : one->entries()) {
-      if (!same(step.before.find(tool), step.after.find(tool))) tools.push_back(tool);
+      if (!sameValue(step.before.find(tool), step.after.find(tool))) tools.push_back(tool);
     }
   }
   return tools;
@@ -74,12 +76,12 @@ bool UndoSteps::isPresent(const StoredChange& step, Way way) const {
   const Dictionary& left = leftBehind(step, way);
   if (step.what == What::record) return store_.getStyleAtIndex(step.index) == left;
   if (step.what == What::root) {
-    return same(store_.root().find(keyNameStyle), left.find(keyNameStyle)) &&
-           same(store_.root().find(keyNameSelection), left.find(keyNameSelection));
+    return sameValue(store_.root().find(keyNameStyle), left.find(keyNameStyle)) &&
+           sameValue(store_.root().find(keyNameSelection), left.find(keyNameSelection));
   }
   const Dictionary* present = store_.getSelection();
   return present != nullptr && std::ranges::all_of(changedTools(step), [&](const std::string& tool) {
-           return same(present->find(tool), left.find(tool));
+           return sameValue(present->find(tool), left.find(tool));
          });
 }
 

@@ -4,10 +4,8 @@
 
 #include <cstddef>
 #include <deque>
-#include <string>
-#include <vector>
+#include <functional>
 
-#include "style/style_changes.h"
 #include "style/style_store.h"
 
 // The last edits of this run, to be taken back and made again.

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/history/style_news.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "app/history/notices.h"
