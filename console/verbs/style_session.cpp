@@ -110,7 +110,7 @@ ExitStatus StyleSession::finish(std::vector<std::string> changed) {
   const std::optional<bool> registered = written_ ? registerStyles() : std::nullopt;
   defaults_.synchronize();  // whose the styles are by now
   say(console_, {std::move(changed), registered});
-  earlier_.thin();
+  if (written_) earlier_.thin();
   return registered == false && engine_->form() != EngineForm::local ? ExitStatus::waiting : ExitStatus::done;
 }
 

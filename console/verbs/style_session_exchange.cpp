@@ -70,6 +70,7 @@ ExitStatus StyleSession::pull() {
     tellUnread("Refusal.TakenOver");
     if (!console_.json) console_.out << "took " << store_.root().array(keyNameStyle)->size() << " styles\n";
     if (console_.json) say(console_, {{pathOfStyles()}, true});
+    earlier_.thin();
     return ExitStatus::done;
   }
   const std::optional<Result<>> handedOver = store_.registration();

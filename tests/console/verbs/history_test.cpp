@@ -54,6 +54,18 @@ TEST_F(HistoryVerbs, whatCannotBeKeptIsTold) {
                                               ": no copy of it can be kept; what should be a folder is none"));
 }
 
+TEST_F(HistoryVerbs, whatIsTooOldGoesOnlyWithAVerbThatWrites) {
+  const std::vector<std::string> edit{"style", "set", "1", "Opt2=2"};
+  ASSERT_EQ(run(edit).status, 0);
+  const std::string old = std::string(earlier_) + "/19700101T010000.000000Z edit -.plist";
+  root_.folder().write(old, "<plist><dict/></plist>");
+  const auto before = tree();
+  EXPECT_EQ(run(edit).out, "already\n");
+  EXPECT_EQ(tree(), before);
+  ASSERT_EQ(run({"style", "set", "1", "Opt2=1"}).status, 0);
+  EXPECT_EQ(ids().size(), 2U);
+}
+
 TEST_F(HistoryVerbs, aChoiceOfAToolIsNoEarlierSet) {
   ASSERT_EQ(run({"style", "use", "1", "MG"}).status, 0);
   EXPECT_TRUE(ids().empty());
