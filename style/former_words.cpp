@@ -3,7 +3,6 @@
 #include "style/former_words.h"
 
 #include "platform/services/failure_text.h"
-#include "platform/services/keeping.h"
 #include "platform/services/texts.h"
 
 namespace tarvo {
@@ -13,9 +12,8 @@ std::string foreignSentence(const std::string& kept, const std::string& beside, 
   return filledIn(texts.localized("Notice.foreignBeside"), beside);
 }
 
-std::string unkeptSentence(const Replaced& replaced, const Texts& texts) {
-  const char* key = replaced.kept.empty() ? "Notice.unkept" : "Notice.unsure";
-  return filledIn(texts.localized(key), failureText(*replaced.unkept, texts));
+std::string unkeptSentence(const std::string& kept, const Failure& why, const Texts& texts) {
+  return filledIn(texts.localized(kept.empty() ? "Notice.unkept" : "Notice.unsure"), failureText(why, texts));
 }
 
 }  // namespace tarvo

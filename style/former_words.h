@@ -8,11 +8,11 @@
 namespace tarvo {
 
 class Texts;
-struct Replaced;
+struct Failure;
 
 // Of another program's: kept is their name among the earlier styles; where that is "", beside is their path.
 std::string foreignSentence(const std::string& kept, const std::string& beside, const Texts& texts);
-// Why they are not among the earlier styles, or a power cut may take them from there; replaced.unkept is there.
-std::string unkeptSentence(const Replaced& replaced, const Texts& texts);
+// Why they are not among the earlier styles or, where kept is a name, may be taken from there by a power cut.
+std::string unkeptSentence(const std::string& kept, const Failure& why, const Texts& texts);
 
 }  // namespace tarvo

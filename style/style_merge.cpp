@@ -40,7 +40,7 @@ int numberOf(const Joined& one) {
 std::vector<std::size_t> orderIn(const Pairing& pairing) {
   std::vector<std::pair<std::size_t, std::size_t>> places;  // in the set, in the base
   for (std::size_t i = 0; i < pairing.size(); ++i) {
-    if (pairing[i]) places.emplace_back(*pairing[i], i);
+    if (const auto& place = pairing[i]) places.emplace_back(*place, i);
   }
   std::ranges::sort(places);
   std::vector<std::size_t> order(places.size());
@@ -230,9 +230,8 @@ MergedStyles onlyMine(const MergedSets& sets, const MergeKnowledge& knowledge) {
   MergedStyles merged{sets.mine, pairRecords(sets.mine, sets.mine), {}};
   const Pairing places = pairRecords(sets.base, sets.mine);
   for (std::size_t i = 0; i < places.size(); ++i) {
-    if (!places[i]) continue;
-    PropertyList& record = merged.styles[*places[i]];
-    record = records.join(sets.base[i], record, sets.base[i], merged.notes);
+    const auto& place = places[i];
+    if (place) merged.styles[*place] = records.join(sets.base[i], sets.mine[*place], sets.base[i], merged.notes);
   }
   return merged;
 }

@@ -87,7 +87,7 @@ void StyleNews::didWrite() {
   thinLater(replaced);
   if (!replaced.unkept || replaced.unkept == toldUnkept_) return;
   toldUnkept_ = replaced.unkept;
-  with_.notices.tellAside({.text = unkeptSentence(replaced, with_.texts)});
+  with_.notices.tellAside({.text = unkeptSentence(replaced.kept, *replaced.unkept, with_.texts)});
 }
 
 // Also for a set of which this program has seen nothing yet.

@@ -88,7 +88,7 @@ void StyleSession::noteWrite() {
   const Texts texts = console_.textsToTell();
   if (replaced.wasForeign) note(console_, pathOfStyles(), foreignSentence(replaced.kept, replaced.beside, texts));
   if (!replaced.unkept || std::exchange(toldUnkept_, true)) return;
-  note(console_, pathOfStyles(), unkeptSentence(replaced, texts));
+  note(console_, pathOfStyles(), unkeptSentence(replaced.kept, *replaced.unkept, texts));
 }
 
 std::optional<Problem> StyleSession::writeLoaded() {

@@ -7,7 +7,7 @@
 #include "platform/posix/descriptor.h"
 #include "platform/services/keeping.h"
 
-struct stat;
+struct stat;  // NOLINT(readability-identifier-naming): the system calls it so
 
 namespace tarvo {
 
