@@ -10,6 +10,7 @@
 #include "platform/posix/bundle_script_runner.h"
 #include "platform/posix/posix_files.h"
 #include "platform/services/engine.h"
+#include "platform/services/machine_texts.h"
 #include "platform/services/plist_file.h"
 #include "platform/text/text_rules.h"
 
@@ -56,7 +57,7 @@ Product::~Product() = default;
 void Product::layTexts(const std::vector<std::string>& strings) {
   overlayShippedTable(texts_, *bundle_, *files_);
   const Result<> laid = overlayTableFile(texts_, *files_, locations_.onDisk(ProductPath(machineTexts)));
-  (void)laid;  // most machines have none
+  (void)laid;  // most machines have none; one that cannot be read is told where it is needed (machineText)
   for (const std::string& file : strings) {
     if (file == "none") {
       texts_.clear();

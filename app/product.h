@@ -22,9 +22,6 @@ class LocalStyleModule;
 struct EnginePlaces;
 class ScriptRunner;
 
-// Texts that belong to one machine: where dictionaries of other makers were installed.
-inline constexpr const char* machineTexts = "/Library/Application Support/Wordhaven/TarvoEiwa/Local.strings";
-
 // What the command line says; what is not said comes from the environment, else from the build.
 struct ProductOptions {
   std::optional<std::string> root, home, language, resources, paths, engine;

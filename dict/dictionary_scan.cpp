@@ -8,6 +8,7 @@
 #include "platform/plist/plist_writer.h"
 #include "platform/services/file_service.h"
 #include "platform/services/locations.h"
+#include "platform/services/machine_texts.h"
 #include "platform/services/texts.h"
 #include "platform/text/text_rules.h"
 
@@ -31,11 +32,13 @@ class MedicalFilter {
         displayName_(scan.texts.localized("NameJCorwell6")),
         abbreviationName_(scan.texts.localized("NameJCorwellAbbrev")) {}
 
-  bool keeps(const std::string& name) const {
+  // unread: nobody knows whether its data is installed.
+  bool keeps(const std::string& name, std::optional<Failure>& unread) const {
     for (const MedicalFile& file : medicalFiles) {
       if (name != file.name) continue;
-      const ProductPath data(scan_.texts.localized(file.dataPathKey));
-      return !scan_.files.isAbsent(scan_.locations.onDisk(data));
+      const Result<std::string> data = machineText(file.dataPathKey, scan_.texts, scan_.files, scan_.locations);
+      if (!data) unread = data.error();
+      return !data || !scan_.files.isAbsent(scan_.locations.onDisk(ProductPath(*data)));
     }
     return !equalIgnoringCase(name, displayName_) && !equalIgnoringCase(name, abbreviationName_);
   }
@@ -74,8 +77,9 @@ DictionaryScan::Found DictionaryScan::find() const {
     return found;
   }
   const MedicalFilter medical(*this);
-  std::erase_if(*names,
-                [&](const std::string& name) { return !medical.keeps(name) || !isOfKind(*this, name, found.unread); });
+  std::erase_if(*names, [&](const std::string& name) {
+    return !medical.keeps(name, found.unread) || !isOfKind(*this, name, found.unread);
+  });
   found.names = std::move(*names);
   return found;
 }

@@ -27,7 +27,9 @@ struct DictionaryScan {
 
   struct Found {
     std::vector<std::string> names;
-    std::optional<Failure> unread;  // why there may be more: the folder, or the type code of a file, cannot be read
+    // Why there may be more: the folder, the type code of a file, or what says which medical ones are installed cannot
+    // be read.
+    std::optional<Failure> unread;
   };
   // The names in the folder that are dictionaries of the kind, in the order of the listing; none when the folder cannot
   // be listed, and one that is not there is an empty one. Folders and hidden names count like any other. Extensions are

@@ -20,6 +20,7 @@
 #include "platform/services/engine.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/file_service.h"
+#include "platform/services/machine_texts.h"
 #include "platform/services/plist_file.h"
 #include "platform/services/system_version.h"
 #include "platform/text/text_rules.h"

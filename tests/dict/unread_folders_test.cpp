@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "dict/unread_folders.h"
 
+#include "platform/services/machine_texts.h"
 #include "tests/dict/style_pane_world.h"
 #include "tests/support/faulty_files.h"
 
@@ -20,6 +21,10 @@ class UnreadableFiles : public FaultyFiles {
     if (path == file) return Failure{path.text(), Attempt::look, cause};
     return FaultyFiles::typeCode(path);
   }
+  Result<std::string> read(const DiskPath& path) const override {
+    return path == DiskPath(machineTexts) ? table : FaultyFiles::read(path);
+  }
+  Result<std::string> table = Failure{machineTexts, Attempt::read, std::make_error_code(std::errc::io_error)};
   DiskPath folder, file;
   std::error_code cause = std::make_error_code(std::errc::io_error);
 };
@@ -101,6 +106,22 @@ TEST_F(UnreadFoldersTest, aTypeCodeThatCannotBeReadLeavesTheOthersAndRefusesEver
   EXPECT_EQ(shown(), (Names{"a.TRet", "c.TRet"}));
   EXPECT_EQ(listOnDisk("EJ"), (Array{"a.TRet", "b", "c.TRet"}));
   EXPECT_EQ(changedKinds, std::vector<int>{});
+}
+
+TEST_F(UnreadFoldersTest, aListStaysOutOfReachWhileNobodyKnowsWhichMedicalDictionariesAreInstalled) {
+  put({"cwl.TRet"});
+  texts.clear();
+  lists.rescan(EJ);
+  ASSERT_TRUE(lists.ejTDController().unread());
+  EXPECT_EQ(lists.ejTDController().unread()->path, machineTexts);
+  faulty.table = "<plist><dict><key>TechECorwell6</key><string>" + folder / "data" + "</string></dict></plist>";
+  lists.rescan(EJ);
+  EXPECT_FALSE(lists.ejTDController().unread());
+  EXPECT_EQ(lists.ejTDController().notSelectedDictionary(), Names{}) << "it is not installed";
+  folder.write("data", "");
+  lists.rescan(EJ);
+  EXPECT_EQ(lists.ejTDController().notSelectedDictionary(), Names{"cwl.TRet"});
+  EXPECT_EQ(shown(), (Names{"a.TRet", "b", "c.TRet"}));
 }
 
 TEST_F(UnreadFoldersTest, rowsAreDroppedNeitherIntoNorUnderAListThatIsOutOfReach) {

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
+#include "platform/services/machine_texts.h"
 #include "tests/console/verbs/verb_test.h"
 
 // Medical dictionaries that join with the load of a verb.
@@ -27,6 +28,17 @@ TEST_F(MedicalMeanwhile, isNotCountedAsJoinedWhereAnImportTookItsPlace) {
   EXPECT_FALSE(isMarked());
   ASSERT_EQ(run({"style", "set", "2", "Opt1=1"}, texts_).status, 0);
   EXPECT_TRUE(isMarked());
+  EXPECT_TRUE(hasDictionary());
+}
+
+TEST_F(MedicalMeanwhile, staysInItsListWhereTheTableOfTheMachineCannotBeRead) {
+  ASSERT_EQ(run({"style", "set", "2", "Opt1=1"}, texts_).status, 0);
+  const std::string before = style(0);
+  root_.folder().write(std::string("root") + machineTexts, "damaged");
+  const ToolResult result = run({"dictionary", "remove", "0", "ej", "cwla.TRet"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_NE(result.err.find("Local.strings"), std::string::npos) << result.err;
+  EXPECT_EQ(style(0), before);
   EXPECT_TRUE(hasDictionary());
 }
 
