@@ -52,13 +52,11 @@ bool holds(const Array& list, const PropertyList& name) {
   return std::ranges::any_of(list, [&name](const PropertyList& one) { return isSameName(one, name); });
 }
 
-bool isList(std::optional<Direction> half, std::string_view key) { return half && key == keyNameTD; }
-
 }  // namespace
 
 bool RecordMerge::isUnchangedList(Half half, std::string_view key, const PropertyList* base,
                                   const PropertyList* mine) const {
-  if (!isList(half, key)) return false;
+  if (!half || key != keyNameTD) return false;
   static const Array none;
   const Array* before = base != nullptr ? base->array() : &none;
   const Array* now = mine != nullptr ? mine->array() : &none;
@@ -107,21 +105,17 @@ Dictionary RecordMerge::joinKeys(Half half, const Dictionary& base, const Dictio
       const Dictionary* halfBefore = dictionaryIn(before);
       joined.emplace_back(
           key, joinKeys(inner, halfBefore != nullptr ? *halfBefore : Dictionary(), *halfHere, *halfThere, notes));
-    } else if (sameValue(here, there)) {
-      take(key, here);
-    } else if (isUnchangedList(half, key, before, here)) {
-      take(key, there);
-    } else if (sameValue(before, there)) {
-      take(key, here);
-    } else if (sameValue(before, here) || isFilledIn(half, key, before, here)) {
-      take(key, there);
-    } else {
-      take(key, here);
-      if (half || key != keyNameID) {
-        notes.push_back(
-            {MergeNote::Kind::otherValue, "", half, key, there != nullptr ? std::optional(*there) : std::nullopt});
-      }
+      continue;
     }
+    const bool isSame = sameValue(here, there), isTheirsOld = sameValue(before, there);
+    const bool isMineOld =
+        !isSame && (isUnchangedList(half, key, before, here) ||
+                    (!isTheirsOld && (sameValue(before, here) || isFilledIn(half, key, before, here))));
+    take(key, isMineOld ? there : here);
+    const bool isClash = !isSame && !isTheirsOld && !isMineOld;
+    if (!isClash || (!half && key == keyNameID)) continue;
+    notes.push_back(
+        {MergeNote::Kind::otherValue, "", half, key, there != nullptr ? std::optional(*there) : std::nullopt});
   }
   return Dictionary::fromEntries(std::move(joined));
 }

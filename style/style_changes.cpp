@@ -106,12 +106,13 @@ std::vector<StyleChange> styleChanges(const Array& before, const Array& after) {
   std::vector<StyleChange> changes;
   std::vector<std::size_t> order;
   for (std::size_t i = 0; i < after.size(); ++i) {
-    if (!formerPlaces[i]) {
+    const auto& place = formerPlaces[i];
+    if (!place) {
       changes.push_back({Kind::added, recordName(after[i]), {}, "", {}, {}});
       continue;
     }
-    order.push_back(*formerPlaces[i]);
-    std::ranges::move(recordChanges(before[*formerPlaces[i]], after[i]), std::back_inserter(changes));
+    order.push_back(*place);
+    std::ranges::move(recordChanges(before[*place], after[i]), std::back_inserter(changes));
   }
   for (const std::size_t place : unpairedPlaces(formerPlaces, before.size())) {
     changes.push_back({Kind::removed, recordName(before[place]), {}, "", {}, {}});

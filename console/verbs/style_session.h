@@ -70,6 +70,7 @@ class StyleSession {
   ExitStatus finish(std::vector<std::string> changed);
   ExitStatus sayHandedOver(const Result<>& outcome);
   std::optional<Problem> keepTaken();
+  ExitStatus finishTaking();
   void noteWhatStaysGone();
   std::optional<bool> registerStyles();
   const std::string& pathOfStyles() const;

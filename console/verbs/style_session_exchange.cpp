@@ -65,19 +65,21 @@ ExitStatus StyleSession::pull() {
   if (store_.isStandIn()) defaults_.forget(lastUpdate);
   const Result<StyleStore::Reconciled> reconciled = store_.reconcile();
   if (!reconciled) return notPulled(reconciled.error());
-  if (*reconciled == StyleStore::Reconciled::replaced) {
-    if (const std::optional<Problem> failure = keepTaken()) return tell(console_, *failure);
-    tellUnread("Refusal.TakenOver");
-    if (!console_.json) console_.out << "took " << store_.root().array(keyNameStyle)->size() << " styles\n";
-    if (console_.json) say(console_, {{pathOfStyles()}, true});
-    earlier_.thin();
-    return ExitStatus::done;
-  }
+  if (*reconciled == StyleStore::Reconciled::replaced) return finishTaking();
   const std::optional<Result<>> handedOver = store_.registration();
   if (!handedOver) return finish({});
   if (const std::optional<Problem> failure = writeLoaded()) return tell(console_, *failure);
   tellUnread("Refusal.Reseeded");
   return sayHandedOver(*handedOver);
+}
+
+ExitStatus StyleSession::finishTaking() {
+  if (const std::optional<Problem> failure = keepTaken()) return tell(console_, *failure);
+  tellUnread("Refusal.TakenOver");
+  if (!console_.json) console_.out << "took " << stylesIn(store_.root()).size() << " styles\n";
+  if (console_.json) say(console_, {{pathOfStyles()}, true});
+  earlier_.thin();
+  return ExitStatus::done;
 }
 
 ExitStatus StyleSession::sayHandedOver(const Result<>& outcome) {
