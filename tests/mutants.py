@@ -181,6 +181,8 @@ MUTANTS = [
            "a name that the engine has no room for"),
     Mutant("dict/dictionary_scan.cpp", 'is("TRet") || is("jtd") || ', 'is("TRet") || ',
            "dictionaries of the older kind are not offered"),
+    Mutant("dict/dictionary_scan.cpp", "if (!data) unread = data.error();", "",
+           "medical dictionaries leave the styles while the machine's table cannot be read"),
     Mutant("dict/medical_dictionaries.cpp", "places.lastClinical + 1", "0",
            "a medical dictionary is asked before the clinical ones"),
     Mutant("dict/medical_dictionaries.cpp", "places.hasGeneral && !places.hasDictionary", "places.hasGeneral",
@@ -231,6 +233,8 @@ MUTANTS = [
            "a script passes although a question never came"),
     Mutant("console/script/scripted_panels.cpp", "answer.kind.value_or(kind) == kind", "true",
            "an answer for one panel answers another"),
+    Mutant("console/verbs/style_session.cpp", "if (written_) earlier_.thin();", "earlier_.thin();",
+           "a verb that says already removes earlier styles"),
     Mutant("console/verbs/style_session.cpp", "const bool isChanged = after != before ||", "const bool isChanged =",
            "an edit by a verb says that it was so already"),
     # the window
