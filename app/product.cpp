@@ -73,8 +73,11 @@ void Product::cannotRead(const Failure& failure) {
 
 std::optional<Dictionary> Product::readPaths(const std::optional<std::string>& overlay) {
   std::optional<Dictionary> configuration;
-  if (Result<Dictionary> shipped = readDictionary(*files_, bundle_->folder() / "WordhavenPaths.plist")) {
+  Result<Dictionary> shipped = readDictionary(*files_, bundle_->folder() / "WordhavenPaths.plist");
+  if (shipped) {
     configuration = std::move(*shipped);
+  } else if (!isAbsence(shipped.error())) {
+    cannotRead(shipped.error());  // another style service, other folders: nothing may be done as if there were none
   }
   if (!overlay) return configuration;
   const Result<Dictionary> over = readDictionary(*files_, absolutePath(*overlay));

@@ -35,7 +35,8 @@ class Product {
   Product(const Product&) = delete;
   Product& operator=(const Product&) = delete;
 
-  // The first text table or path list that was asked for, or configuration that is there, and cannot be read.
+  // The first text table or path list that was asked for, or shipped path list or configuration that is there, and
+  // cannot be read.
   const std::optional<Failure>& unread() const { return unread_; }
   // What was asked for and there is none of; "" when all is well.
   const std::string& problem() const { return problem_; }

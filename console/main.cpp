@@ -70,7 +70,10 @@ ExitStatus runVerb(const CommandLine& line, Command& command) {
   console.reseed = line.reseed;
   console.engineIsWanted = line.product.engine != "none";
   if (!product.problem().empty()) return tell(console, unknownEngine(product.engineURL()));
-  if (const std::optional<Failure>& unread = product.unread()) return tell(console, *unread);
+  const std::optional<Failure>& unread = product.unread();
+  // The doctor tells of a damaged resource among all that it finds.
+  const bool isFound = unread && !line.needsResources && DiskPath(unread->path).isIn(product.bundle().folder());
+  if (unread && !isFound) return tell(console, *unread);
   return command.run(console);
 }
 

@@ -77,6 +77,23 @@ TEST_F(CommandLineOfTool, aFolderWithoutResourcesIsRefusedByAllButTheDoctor) {
   EXPECT_EQ(tree(), before);
 }
 
+TEST_F(CommandLineOfTool, pathsOfTheProductThatCannotBeReadAreNotTakenForNone) {
+  putStyles("root4.plist");
+  root_.folder().write("odd/WordhavenPaths.plist", "damaged");
+  root_.folder().write("odd/DefaultAddin.plist", "<plist><array/></plist>");
+  const std::string folder = root_.folder() / "odd";
+  const auto before = tree();
+  for (const std::vector<std::string>& words : {std::vector<std::string>{"styles"}, {"engine", "push"}, {"run", "-"}}) {
+    std::vector<std::string> all{"--resources", folder};
+    all.insert(all.end(), words.begin(), words.end());
+    const ToolResult result = run(all);
+    EXPECT_TRUE(result.err.starts_with("tarvoctl: " + folder + "/WordhavenPaths.plist: ")) << result.err;
+    EXPECT_EQ(result.status, 1);
+  }
+  EXPECT_EQ(tree(), before);
+  EXPECT_NE(run({"--resources", folder, "doctor"}).out.find("problem  paths"), std::string::npos);
+}
+
 TEST_F(CommandLineOfTool, resourcesThatCannotBeLookedAtAreToldByTheirCause) {
   const std::string folder = root_.folder() / "round";
   std::filesystem::create_directory(folder);
