@@ -79,7 +79,7 @@ bool AppController::loadUserInfor() {
   }
   rooms_.medical.remember(loaded.inserted);
   if (rooms_.store.isPending()) rooms_.store.writeTarvoStylePlist();
-  rooms_.news.didLoad(loaded.filledIn);
+  rooms_.news.didLoad(loaded.filledIn, loaded.isFileAbsent);
   return true;
 }
 

@@ -22,7 +22,8 @@ Result<> makeFolder(FileService& files, const DiskPath& folder) {
 LoadedStyles loadStyles(StyleStore& store, MedicalDictionaries& medical, FileService& files,
                         const ProductPaths& paths) {
   LoadedStyles loaded;
-  if (!store.readUserStyles()) {
+  if (const Result<> read = store.readUserStyles(); !read) {
+    loaded.isFileAbsent = isAbsence(read.error());
     Result<> seeded = makeFolder(files, paths.tarvoPathPreferencesFolderURL());
     if (seeded) seeded = store.readSeedStyles();
     if (!seeded) {

@@ -21,6 +21,7 @@ struct LoadedStyles {
   std::optional<Failure> failure;          // why there are no styles, neither the user's nor the product's
   std::vector<std::string_view> inserted;  // flags of the medical dictionaries that joined, to be remembered
   std::vector<std::string> filledIn;       // options that the user's file lacked
+  bool isFileAbsent = false;               // the user's: at a first start, or it was taken away since
 };
 
 // Reads the styles as a start and every verb that changes styles do: the user's file, else the product's; medical

@@ -56,10 +56,11 @@ Result<Dictionary> StyleFile::read() {
   return root;
 }
 
-bool StyleFile::isChangedElsewhere() const {
-  if (!stamp_ && file_.isUnread()) return false;  // nobody knows what was there
+StandingOfFile StyleFile::standing() const {
+  if (!stamp_ && file_.isUnread()) return StandingOfFile::ours;  // nobody knows what was there
   const Result<FileStamp> now = files_.stamp(path());
-  return now && stamp_ != *now;
+  if (now) return stamp_ == *now ? StandingOfFile::ours : StandingOfFile::changed;
+  return stamp_ && isAbsence(now.error()) ? StandingOfFile::gone : StandingOfFile::ours;
 }
 
 std::string StyleFile::bytesOf(const Dictionary& root) {

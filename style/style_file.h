@@ -13,6 +13,9 @@
 
 namespace tarvo {
 
+// How the file stands to what was read or written last: another program may have changed it or taken it away.
+enum class StandingOfFile { ours, changed, gone };
+
 // The user's style file on disk.
 // Duty: read it whole and write it whole in one step, keeping each record's encoded bytes so that a write encodes only
 // the records that changed. Not: holding the styles.
@@ -33,8 +36,8 @@ class StyleFile {
   Result<> writeCopy(const Dictionary& root, const DiskPath& path) { return files_.write(path, bytesOf(root)); }
   // What became of the file that the last write replaced; empty when it replaced none.
   const Replaced& replaced() const { return replaced_; }
-  // Whether another program has changed the file since it was read or written last; nothing of it is read.
-  bool isChangedElsewhere() const;
+  // Looks, and reads nothing. A file that cannot be looked at counts as ours.
+  StandingOfFile standing() const;
   // Every record of the root's "Style" as it stands, or would stand, in the file; empty when that is no array.
   std::span<const std::string> encode(const Dictionary& root);
   // The record at the index, or every record, is no longer what was written last.

@@ -81,6 +81,16 @@ std::optional<EarlierSet> setWithId(std::vector<EarlierSet> sets, const std::str
   return found;
 }
 
+std::optional<EarlierSet> newestWhole(const EarlierStyles& earlier) {
+  const Result<std::vector<EarlierSet>> sets = earlier.list();
+  if (!sets) return std::nullopt;
+  const auto whole = std::ranges::find_if(*sets, [&](const EarlierSet& set) {
+    const Result<Dictionary> root = earlier.read(set);
+    return root && holdsStyles(*root);
+  });
+  return whole != sets->end() ? std::optional(*whole) : std::nullopt;
+}
+
 bool restoreStyles(StyleStore& store, const Dictionary& earlier) {
   if (!holdsStyles(earlier)) return false;
   Dictionary root = store.root().entries().empty() ? earlier : store.root();

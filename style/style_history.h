@@ -44,6 +44,9 @@ class StyleHistory {
 // The set whose id is the word or begins with it; nothing when there is none, or more than one.
 std::optional<EarlierSet> setWithId(std::vector<EarlierSet> sets, const std::string& word);
 
+// The newest set that can be brought back.
+std::optional<EarlierSet> newestWhole(const EarlierStyles& earlier);
+
 // Brings an earlier set back, with the choices of the tools; all of it where the store holds nothing. Choices that the
 // set says nothing of stay, but for those of a style that is gone, which become the first one. One write; it is an edit
 // like any other. False: the set holds something else than styles, and nothing was written.

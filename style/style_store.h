@@ -105,8 +105,8 @@ class StyleStore {
     Dictionary base;
   };
   const std::optional<ForeignSet>& foreign() const { return foreign_; }
-  // Whether another program has changed the file since it was read or written last; nothing of it is read.
-  bool isChangedElsewhere() const { return file_.isChangedElsewhere(); }
+  // Whether another program has changed the file or taken it away.
+  StandingOfFile standingOfFile() const { return file_.standing(); }
   // What the file held when it was read or written last: from where another program's set and this one parted.
   Dictionary lastStored() const;
   // What the file holds now, whoever has written it; the styles in memory stay.

@@ -13,6 +13,7 @@
 #include "platform/services/texts.h"
 #include "style/former_words.h"
 #include "style/style_changes.h"
+#include "style/style_history.h"
 #include "style/undo_steps.h"
 
 namespace tarvo {
@@ -48,13 +49,17 @@ StyleNews::~StyleNews() {
   with_.store.didRegister = nullptr;
 }
 
-void StyleNews::didLoad(const std::vector<std::string>& defaults) {
-  if (!defaults.empty()) with_.notices.tell({.text = defaultsSentence(defaults, with_.texts)});
-  const std::optional<Failure>& unread = with_.store.unread();
-  if (!unread) return;
-  with_.notices.tell(
-      {.text = filledIn(with_.texts.localized("Notice.unreadable"), failureCauseText(*unread, with_.texts)),
-       .offer = Notice::Offer::restore});
+void StyleNews::didLoad(const std::vector<std::string>& defaults, bool isFileAbsent) {
+  const Texts& texts = with_.texts;
+  if (!defaults.empty()) with_.notices.tell({.text = defaultsSentence(defaults, texts)});
+  if (const std::optional<Failure>& unread = with_.store.unread()) {
+    const std::string cause = failureParts(*unread, texts).cause;
+    with_.notices.tell(
+        {.text = filledIn(texts.localized("Notice.unreadable"), cause), .offer = Notice::Offer::restore});
+  } else if (isFileAbsent && newestWhole(with_.earlier)) {
+    with_.notices.tell({.text = filledIn(texts.localized("Notice.absent"), with_.store.path().text()),
+                        .offer = Notice::Offer::restore});
+  }
 }
 
 void StyleNews::showImported(const std::function<void()>& show) {
@@ -82,6 +87,9 @@ void StyleNews::didWrite() {
   with_.notices.setStanding(
       unsaved ? std::optional(Notice{.text = with_.texts.localized("NotSavedYet") + failureText(*unsaved, with_.texts)})
               : std::nullopt);
+  if (!unsaved && std::exchange(toldStanding_, StandingOfFile::ours) == StandingOfFile::gone) {
+    with_.notices.tellAside({.text = with_.texts.localized("Notice.storedAgain")});
+  }
   tellForeignSet();
   const Replaced& replaced = with_.store.replaced();
   thinLater(replaced);
@@ -105,7 +113,6 @@ void StyleNews::tellForeignSet() {
   const std::optional<StyleStore::ForeignSet>& foreign = with_.store.foreign();
   if (!foreign || foreign->number == toldForeign_) return;
   toldForeign_ = foreign->number;
-  toldElsewhere_ = false;
   const std::optional<EarlierSet> set = earlierSetNamed(foreign->kept);
   with_.notices.tell({.text = foreignSentence(foreign->kept, foreign->beside, with_.texts),
                       .offer = set ? Notice::Offer::merge : Notice::Offer::none,
@@ -113,10 +120,12 @@ void StyleNews::tellForeignSet() {
 }
 
 void StyleNews::look() {
-  if (!with_.store.isChangedElsewhere()) {
-    toldElsewhere_ = false;
-  } else if (!std::exchange(toldElsewhere_, true)) {
+  const StandingOfFile standing = with_.store.standingOfFile();
+  if (std::exchange(toldStanding_, standing) == standing) return;
+  if (standing == StandingOfFile::changed) {
     with_.notices.tell({.text = with_.texts.localized("Notice.foreign"), .offer = Notice::Offer::merge});
+  } else if (standing == StandingOfFile::gone) {
+    with_.notices.tell({.text = filledIn(with_.texts.localized("Notice.gone"), with_.store.path().text())});
   }
 }
 

@@ -14,6 +14,7 @@
 // Duty: listen to the store and say it once; have old earlier sets let go of, between the edits. Not: showing.
 namespace tarvo {
 
+enum class StandingOfFile;
 class EarlierStyles;
 class Notices;
 class RunLoop;
@@ -39,11 +40,12 @@ class StyleNews {
   StyleNews(const StyleNews&) = delete;
   StyleNews& operator=(const StyleNews&) = delete;
 
-  // The styles were loaded: tells when the user's could not be read, or which options got their defaults.
-  void didLoad(const std::vector<std::string>& defaults);
+  // The styles were loaded: tells when the user's could not be read or, although there are earlier ones, were not
+  // there, and which options got their defaults.
+  void didLoad(const std::vector<std::string>& defaults, bool isFileAbsent);
   // Shows a style that was imported. Names that it loses then are the importer's to tell.
   void showImported(const std::function<void()>& show);
-  // The window has become the active one: tells when another program has changed the style file.
+  // The window has become the active one: tells when another program has changed the style file or taken it away.
   void look();
 
  private:
@@ -55,7 +57,8 @@ class StyleNews {
   Collaborators with_;
   std::string toldService_;
   std::optional<Failure> toldUnkept_;  // why former styles were not kept, each cause once in a row
-  bool toldElsewhere_ = false, importing_ = false;
+  bool importing_ = false;
+  StandingOfFile toldStanding_{};
   int writes_ = 0, toldForeign_ = 0;
   std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);  // the loop may outlive this
 };

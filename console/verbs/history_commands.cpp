@@ -38,8 +38,10 @@ Json::Object jsonOf(const HistoryEntry& entry, const Texts& texts) {
 Result<Array> presentStyles(Console& console) {
   Product& product = console.product;
   Result<Dictionary> root = readUsersStyles(console);
-  if (!root && isAbsence(root.error()))
+  if (!root && isAbsence(root.error())) {
+    noteAbsentStyles(console);
     root = readDictionary(product.files(), product.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist))));
+  }
   if (!root) {
     const Failure& failure = root.error();
     note(console, {failure.path, "Refusal.PresentUnread", failureParts(failure, console.textsToTell()).cause});

@@ -8,6 +8,7 @@
 #include "platform/services/plist_file.h"
 #include "style/option_table.h"
 #include "style/style_file.h"
+#include "style/style_history.h"
 #include "style/style_keys.h"
 
 namespace tarvo {
@@ -30,7 +31,10 @@ ReadStyles readStyles(Console& console) {
       readDictionary(product.files(), product.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist))));
   if (!products && !isUnreadable) return {std::nullopt, tell(console, products.error())};
   if (!products) return {std::nullopt, tell(console, Failure{path.text(), Attempt::read, users.error().cause})};
-  if (!isUnreadable) return {std::move(*products)};
+  if (!isUnreadable) {
+    noteAbsentStyles(console);
+    return {std::move(*products)};
+  }
   const std::string cause = failureParts(users.error(), console.textsToTell()).cause;
   note(console, Refusal{path.text(), "Refusal.ProductsStyles", cause});
   return {std::move(*products), ExitStatus::refused};
@@ -41,6 +45,13 @@ void noteMended(Console& console, const DiskPath& path, const Mended& mended) {
   std::vector<std::string> sentences = goneSentences(mended.gone, texts);
   if (!mended.filledIn.empty()) sentences.push_back(defaultsSentence(mended.filledIn, texts));
   for (const std::string& sentence : sentences) note(console, path.text(), sentence);
+}
+
+void noteAbsentStyles(Console& console) {
+  const Locations& locations = console.product.locations();
+  const EarlierStyles earlier(console.product.files(), locations.inHome(gEarlierStyles));
+  const std::optional<EarlierSet> newest = newestWhole(earlier);
+  if (newest) note(console, Refusal{locations.inHome(gStylePath).text(), "Refusal.AbsentStyles", newest->id});
 }
 
 void noteUnreadStyles(Console& console) {

@@ -31,6 +31,9 @@ struct Mended {
 // A line each, about the style file.
 void noteMended(Console& console, const DiskPath& path, const Mended& mended);
 
+// The user's file is not there: tells where earlier styles of the user's are, and how they come back.
+void noteAbsentStyles(Console& console);
+
 // For verbs that need no styles: tells when the user's file is there and cannot be read. Only reading all of it shows
 // that.
 void noteUnreadStyles(Console& console);

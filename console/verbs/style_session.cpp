@@ -43,6 +43,7 @@ std::optional<Problem> StyleSession::open(Needs needs) {
   }
   if (loaded.failure && needs != Needs::nothing) return *loaded.failure;
   inserted_ = loaded.inserted;
+  if (loaded.isFileAbsent && needs == Needs::readable) noteAbsentStyles(console_);
   if (needs == Needs::readable) {
     mended_ = {goneDictionaries(dictionaryServices(product), store_.root()), loaded.filledIn};
   }

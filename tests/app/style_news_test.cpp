@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 
 #include "platform/services/plist_file.h"
 #include "platform/text/fingerprint.h"
@@ -97,6 +98,25 @@ TEST_F(StyleNewsTest, formerStylesThatCannotBeKeptAreToldOnceForEachCause) {
     for (const int option : {2, 1}) edit(option);
   }
   EXPECT_EQ(std::ranges::count_if(latest, isOfTheKeeping), 2);
+}
+
+TEST_F(StyleNewsTest, aStyleFileThatWasTakenAwayIsToldOnceAndTheNextChangePutsItBack) {
+  const std::string path = test.root / test.inHome(TestProgram::stylePath);
+  std::filesystem::remove(path);
+  program.rooms().news.look();
+  ASSERT_NE(shown(), nullptr);
+  EXPECT_EQ(shown()->text, "Notice.gone");
+  EXPECT_EQ(shown()->offer, Notice::Offer::none) << "what is shown is the latest there is";
+  program.rooms().notices.dismiss();
+  program.rooms().news.look();
+  EXPECT_EQ(shown(), nullptr) << "told already";
+  edit(2);
+  EXPECT_TRUE(std::ranges::any_of(program.rooms().notices.latest(),
+                                  [](const Notice& notice) { return notice.text == "Notice.storedAgain"; }));
+  EXPECT_TRUE(std::filesystem::exists(path));
+  std::filesystem::remove(path);
+  program.rooms().news.look();
+  EXPECT_EQ(shown()->text, "Notice.gone") << "taken away again";
 }
 
 TEST_F(StyleNewsTest, whatAnotherProgramWroteGetsItsFingerprintSoon) {

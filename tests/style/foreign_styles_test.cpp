@@ -21,10 +21,10 @@ class ForeignStyles : public EarlierStylesTest {
 TEST_F(ForeignStyles, whatAnotherProgramWroteIsKeptAsItsOwn) {
   write("one");
   folder.write("styles.plist", writePropertyList(stylesNamed("of another program")));
-  EXPECT_TRUE(file.isChangedElsewhere());
+  EXPECT_EQ(file.standing(), StandingOfFile::changed);
   write("two", std::nullopt);
   EXPECT_TRUE(file.replaced().wasForeign);
-  EXPECT_FALSE(file.isChangedElsewhere());
+  EXPECT_EQ(file.standing(), StandingOfFile::ours);
   const auto sets = this->sets();
   ASSERT_EQ(sets.size(), 1U);
   EXPECT_EQ(sets[0].kind, ChangeKind::otherProgram);
@@ -43,9 +43,9 @@ TEST_F(ForeignStyles, whatCouldNotBeReadIsKeptBesideAndAmongTheEarlierOnes) {
 
 TEST_F(ForeignStyles, whatAppearsWhereNoFileWasIsAnotherPrograms) {
   EXPECT_FALSE(file.read());
-  EXPECT_FALSE(file.isChangedElsewhere());
+  EXPECT_EQ(file.standing(), StandingOfFile::ours);
   writeElsewhere("of another program");
-  EXPECT_TRUE(file.isChangedElsewhere());
+  EXPECT_EQ(file.standing(), StandingOfFile::changed);
   write("one");
   EXPECT_TRUE(file.replaced().wasForeign);
   EXPECT_EQ(kinds(), std::vector{ChangeKind::otherProgram});
@@ -56,7 +56,7 @@ TEST_F(ForeignStyles, aFileThatWasMendedMeanwhileIsNoUnreadableOne) {
   folder.write("styles.plist", "no property list");
   EXPECT_FALSE(file.read());
   writeElsewhere("mended");
-  EXPECT_TRUE(file.isChangedElsewhere());
+  EXPECT_EQ(file.standing(), StandingOfFile::changed);
   write("one");
   EXPECT_EQ(kinds(), std::vector{ChangeKind::otherProgram});
   EXPECT_EQ(folder.names(""), (Names{"Earlier", "styles.plist"}));
@@ -119,13 +119,13 @@ TEST_F(StylesReplacedMeanwhile, areReadAnew) {
   const Result<Dictionary> root = file.read();
   ASSERT_TRUE(root);
   EXPECT_EQ(*root, stylesNamed("theirs"));
-  EXPECT_FALSE(file.isChangedElsewhere());
+  EXPECT_EQ(file.standing(), StandingOfFile::ours);
 }
 
 TEST_F(StylesReplacedMeanwhile, againAndAgainAreKeptAsAnotherPrograms) {
   files.replacements = 100;
   EXPECT_TRUE(file.read());
-  EXPECT_TRUE(file.isChangedElsewhere());
+  EXPECT_EQ(file.standing(), StandingOfFile::changed);
   EXPECT_TRUE(file.write(stylesNamed("one"), ChangeKind::edit));
   EXPECT_TRUE(file.replaced().wasForeign);
 }

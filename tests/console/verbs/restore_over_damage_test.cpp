@@ -31,6 +31,25 @@ class AfterDamage : public EarlierSetVerbs {
   std::string id_;
 };
 
+TEST_F(AfterDamage, stylesThatAreGoneAreToldByEachVerbWithTheCommandThatBringsThemBack) {
+  std::filesystem::remove(stylePath());
+  const std::string expected =
+      told(stylePath(),
+           "is not there any more, so the styles of the product are used; it was removed or moved away; "
+           "tarvoctl restore " +
+               id_ + " brings the latest kept styles back, tarvoctl history lists all");
+  for (const std::vector<std::string>& words :
+       {std::vector<std::string>{"styles"}, {"style", "show", "0"}, {"history"}, {"style", "set", "0", "Opt1=2"}}) {
+    const ToolResult result = runInEnglish(words);
+    EXPECT_EQ(result.err, expected) << words[0] << words.back();
+    EXPECT_EQ(result.status, 0);
+  }
+  EXPECT_EQ(runInEnglish({"styles"}).err, "") << "the product's have become the user's";
+  std::filesystem::remove(stylePath());
+  EXPECT_EQ(runInEnglish({"restore", id_}).err, "");
+  EXPECT_EQ(run({"styles"}).out.substr(0, 13), "0  NomalStyle");
+}
+
 TEST_F(AfterDamage, allThatIsBroughtBackSaysWhatItReplaced) {
   const ToolResult result = run({"restore", id_});
   EXPECT_EQ(result.err, toldOf("could not be read, and the earlier styles took its place", ""));

@@ -191,8 +191,8 @@ TEST_F(StyleFrame, stylesThatCannotBeReadAreShownAsTheProductsAndTold) {
   const ToolResult result = run({"styles"});
   EXPECT_EQ(result.out, "0  One\n1  Two  MG\n");
   EXPECT_EQ(result.err, told(stylePath(),
-                             "cannot be read, so the styles of the product are shown; it is no property list; mend it "
-                             "or move it away"));
+                             "cannot be read, so the styles of the product are shown; it is no property list; mend it, "
+                             "or bring earlier styles back with restore"));
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(run({"style", "show", "One"}).status, 1);
   EXPECT_EQ(run({"dictionaries", "0", "ej"}).status, 1);
