@@ -72,6 +72,8 @@ std::vector<std::string> changesInWords(const std::vector<StyleChange>& changes,
   std::vector<std::string> words;
   const StyleChange* former = nullptr;
   for (const StyleChange& change : changes) {
+    const bool isOfDivider = change.style == texts.localized(keyNameSeparator);
+    if (isOfDivider && change.kind == Kind::value) continue;  // no translation uses them
     const bool isSameStyle = former != nullptr && former->style == change.style && change.kind != Kind::moved;
     if (isSameStyle) {
       words.back() += "; " + inWords(change, texts);
