@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QStackedWidget>
 #include <QTimer>
+#include <QToolButton>
 #include <QUrl>
 #include <algorithm>
 #include <utility>
@@ -105,6 +106,16 @@ void MainWindow::buildPanes() {
   if (panes_ != nullptr) return;
   panes_ = binder_.pages(interface_.manager.myTabView, std::move(builders_), paneArea_);
   fitPane();
+}
+
+// Else the line of notices would get it, which was built before the buttons.
+void MainWindow::beginKeyboard() {
+  if (isHiddenItself(*toolbar_)) return giveKeyboardToPane();
+  for (QToolButton* button : toolbar_->findChildren<QToolButton*>()) {
+    if ((button->focusPolicy() & Qt::TabFocus) == 0) continue;
+    button->setFocus(Qt::ActiveWindowFocusReason);
+    return;
+  }
 }
 
 QSize MainWindow::minimumOfPane(Pane pane) {

@@ -31,6 +31,8 @@ class MainWindow : public QWidget {
   QSize minimumOfPane(Pane pane);
   void resizeTo(QSize client, bool animate);
   void buildPanes();  // the shown one
+  // When the window has come up first: the keyboard begins at the toolbar or, where that is hidden, in the pane.
+  void beginKeyboard();
 
   std::function<void()> toolbarChangedHeight;
   std::function<void(std::vector<std::string> paths)> styleFilesDropped;  // at least one

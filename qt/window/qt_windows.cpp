@@ -100,7 +100,9 @@ void QtWindows::show(Window& window) {
   if (isMain(window)) {
     main_->buildPanes();
     applyFrame(window, false);
+    const bool hadKeyboard = main_->focusWidget() != nullptr;
     main_->show();
+    if (!hadKeyboard) main_->beginKeyboard();
     return;
   }
   QDialog* shown = opening(window);

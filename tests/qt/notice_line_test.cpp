@@ -52,6 +52,13 @@ TEST_F(NoticeLineWindow, neverTakesTheKeyboard) {
   EXPECT_EQ(QApplication::focusWidget(), before);
 }
 
+TEST_F(NoticeLineWindow, neverTakesTheKeyboardOfAWindowThatComesUpEither) {
+  folder.write("root/Users/taro/Library/Preferences/Wordhaven/TarvoStyle2009.plist", "damaged");
+  start();
+  ASSERT_TRUE(widget<QPushButton>("manager.noticeButton").isVisible());
+  EXPECT_EQ(window().focusWidget()->objectName(), "manager.StyleManager");
+}
+
 TEST_F(NoticeLineWindow, isANotificationToAssistiveToolsByTheNameOfItsText) {
   start();
   for (const char* text : {"one", "two"}) {
