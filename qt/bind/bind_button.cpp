@@ -5,6 +5,7 @@
 
 #include "qt/bind/binder.h"
 #include "qt/bind/control_view.h"
+#include "qt/look/push_button.h"
 
 namespace tarvo {
 namespace {
@@ -59,8 +60,7 @@ class CheckBoxView : public ControlView {
 }  // namespace
 
 QPushButton* Binder::button(Button& control, QWidget* parent) {
-  auto* button = new QPushButton(parent);
-  button->setAutoDefault(false);
+  auto* button = new PushButton(parent);
   new ButtonView(control, *button, *this);
   return button;
 }

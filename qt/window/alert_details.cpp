@@ -8,6 +8,7 @@
 #include <QPushButton>
 
 #include "qt/look/metrics.h"
+#include "qt/look/push_button.h"
 
 namespace tarvo {
 
@@ -24,9 +25,8 @@ QPushButton* addDetails(QDialog& dialog, QBoxLayout& rows, const QString& detail
   text->setFixedHeight(linesOfDetails * text->fontMetrics().lineSpacing() + 2 * metrics::rowGap);
   text->hide();
   rows.addWidget(text);
-  auto* button = new QPushButton(title, &dialog);
+  auto* button = new PushButton(title, &dialog);
   button->setObjectName(QStringLiteral("alert.details"));
-  button->setAutoDefault(false);
   button->setCheckable(true);
   QObject::connect(button, &QPushButton::toggled, text, [text](bool isWanted) {
     text->setVisible(isWanted);

@@ -9,6 +9,7 @@
 #include "qt/bind/binder.h"
 #include "qt/look/fonts.h"
 #include "qt/look/metrics.h"
+#include "qt/look/push_button.h"
 #include "qt/look/readable.h"
 #include "qt/window/alert_details.h"
 
@@ -41,9 +42,8 @@ AlertDialog::AlertDialog(const Alert& alert, const std::string& detailsTitle, QW
   auto* buttons = new QHBoxLayout;
   rows->addLayout(buttons);
   for (int i = last; i >= 0; --i) {
-    auto* button = new QPushButton(toQString(alert.buttons[static_cast<std::size_t>(i)]), this);
+    auto* button = new PushButton(toQString(alert.buttons[static_cast<std::size_t>(i)]), this);
     button->setObjectName(QStringLiteral("alert.%1").arg(i));
-    button->setAutoDefault(false);
     button->setDefault(i == 0);
     if (i == 0) button->setFocus();
     connect(button, &QPushButton::clicked, this, [this, i] { done(i); });

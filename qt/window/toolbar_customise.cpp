@@ -12,14 +12,13 @@
 #include "qt/bind/binder.h"
 #include "qt/bind/toolbar_choices.h"
 #include "qt/look/metrics.h"
+#include "qt/look/push_button.h"
 
 namespace tarvo {
 namespace {
 
 QPushButton* plainButton(Binder& binder, const char* key, QWidget& dialog) {
-  auto* button = new QPushButton(binder.localized(key), &dialog);
-  button->setAutoDefault(false);
-  return button;
+  return new PushButton(binder.localized(key), &dialog);
 }
 
 QLabel* labelOf(QWidget& field, Binder& binder, const char* key, QWidget& dialog) {

@@ -51,6 +51,17 @@ TEST_F(PanelsTest, returnIsTheFirstButtonAndEscapeTheLast) {
   }
 }
 
+TEST_F(PanelsTest, returnIsTheButtonThatHasTheKeyboard) {
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    QTimer::singleShot(0, &host, [&, key] {
+      auto* other = alert().findChild<QPushButton*>("alert.1");
+      other->setFocus(Qt::TabFocusReason);
+      QTest::keyClick(other, key);
+    });
+    EXPECT_EQ(panels.runAlertPanel(question), 1) << "what is about to be lost is not lost by the wrong key";
+  }
+}
+
 TEST_F(PanelsTest, theFirstButtonStandsRightmostAndTextsAreShownAsTheyAre) {
   AlertDialog dialog({"<b>Title</b>", "100 % of %d", {"First", "Second", "Third"}, "details"}, "Details", nullptr);
   dialog.show();
