@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/history/earlier_styles_panel.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "app/history/notices.h"
@@ -54,6 +55,21 @@ std::optional<std::size_t> EarlierStylesPanel::chosenRow() const {
   return static_cast<std::size_t>(row);
 }
 
+// Somebody who looks for what was done to one style means that one.
+int EarlierStylesPanel::offeredStyle() {
+  const int shown = with_.stylePopup.indexOfSelectedItem();
+  const std::optional<std::size_t> row = chosenRow();
+  if (!row) return shown;
+  const std::vector<StyleChange>& changes = history_->entry(*row).changes;
+  const bool isOfOne = !changes.empty() && std::ranges::all_of(changes, [&changes](const StyleChange& change) {
+    return change.style == changes.front().style && change.kind != StyleChange::Kind::moved;
+  });
+  if (!isOfOne) return shown;
+  const Array& styles = stylesIn(with_.store.root());
+  const auto found = std::ranges::find(styles, changes.front().style, recordName);
+  return found != styles.end() ? static_cast<int>(found - styles.begin()) : shown;
+}
+
 void EarlierStylesPanel::selectionDidChange(TableView&) {
   const std::optional<std::size_t> row = chosenRow();
   chosen_.reset();
@@ -64,12 +80,13 @@ void EarlierStylesPanel::selectionDidChange(TableView&) {
     text = root ? effectOf(*root, set) : failureText(root.error(), with_.texts);
     if (root) chosen_ = std::move(*root);
   }
-  const std::optional<Dictionary> shown = with_.store.getStyleAtIndex(with_.stylePopup.indexOfSelectedItem());
+  offered_ = offeredStyle();
+  const std::optional<Dictionary> offered = with_.store.getStyleAtIndex(offered_);
   with_.outlets.earlierStylesText.setStringValue(text);
   with_.outlets.restoreAllButton.setEnabled(chosen_ && holdsStyles(*chosen_));
-  with_.outlets.restoreStyleButton.setEnabled(chosen_.has_value() && shown.has_value());
+  with_.outlets.restoreStyleButton.setEnabled(chosen_.has_value() && offered.has_value());
   with_.outlets.restoreStyleButton.setLabel(
-      filledIn(with_.texts.localized("History.restoreStyle"), shown ? styleName(*shown) : std::string()));
+      filledIn(with_.texts.localized("History.restoreStyle"), offered ? styleName(*offered) : std::string()));
 }
 
 std::string EarlierStylesPanel::effectOf(const Dictionary& root, const EarlierSet& set) const {
@@ -89,12 +106,11 @@ void EarlierStylesPanel::restoreAll() {
 }
 
 void EarlierStylesPanel::restoreStyle() {
-  const int index = with_.stylePopup.indexOfSelectedItem();
-  const std::optional<Dictionary> shown = with_.store.getStyleAtIndex(index);
-  if (!chosen_ || !shown) return;
-  const std::string name = styleName(*shown);
+  const std::optional<Dictionary> offered = with_.store.getStyleAtIndex(offered_);
+  if (!chosen_ || !offered) return;
+  const std::string name = styleName(*offered);
   const std::size_t before = with_.steps.mark();
-  if (!tarvo::restoreStyle(with_.store, index, *chosen_, with_.standardName)) {
+  if (!tarvo::restoreStyle(with_.store, offered_, *chosen_, with_.standardName)) {
     return with_.outlets.earlierStylesText.setStringValue(filledIn(with_.texts.localized("History.noStyle"), name));
   }
   didRestore(before, "Notice.restoredStyle", name);

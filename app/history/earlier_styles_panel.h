@@ -31,8 +31,8 @@ namespace history_columns {
 inline constexpr const char *time = "time", *kind = "kind", *changed = "changed";
 }
 
-// Duty: list the earlier sets, say what the chosen one would change, bring all of it or the style that the pane shows
-// back. Not: keeping sets; showing the styles.
+// Duty: list the earlier sets, say what the chosen one would change, bring all of it or one style back: the one that
+// was changed then, else the one that the pane shows. Not: keeping sets; showing the styles.
 class EarlierStylesPanel : public TableDataSource, public TableDelegate {
  public:
   // Not owned.
@@ -63,6 +63,7 @@ class EarlierStylesPanel : public TableDataSource, public TableDelegate {
 
  private:
   std::optional<std::size_t> chosenRow() const;
+  int offeredStyle();
   int rowOfSet(const std::string& id);
   std::string effectOf(const Dictionary& root, const EarlierSet& set) const;
   void didRestore(std::size_t stepBefore, const std::string& key, const std::string& value);
@@ -70,6 +71,7 @@ class EarlierStylesPanel : public TableDataSource, public TableDelegate {
   std::optional<StyleHistory> history_;
   std::optional<Failure> unlisted_;   // why nobody knows which sets there are
   std::optional<Dictionary> chosen_;  // the root of the chosen set, when it can be brought back
+  int offered_ = -1;                  // the place of the style that is brought back alone
 };
 
 }  // namespace tarvo

@@ -43,7 +43,7 @@ MenuActions::MenuActions(Interface& interface, Binder& binder, QWidget& window) 
   importStyle = boundAction(interface.exchange.importMenu, binder, window, Qt::CTRL | Qt::Key_O);
   exportStyle = boundAction(interface.exchange.exportMenu, binder, window, Qt::CTRL | Qt::Key_E);
   exportWindow = boundAction(interface.exchange.exportWindowMenu, binder, window, Qt::CTRL | Qt::SHIFT | Qt::Key_E);
-  earlierStyles = boundAction(interface.style.earlierStylesMenu, binder, window);
+  earlierStyles = boundAction(interface.style.earlierStylesMenu, binder, window, Qt::CTRL | Qt::Key_H);
   undo = boundAction(interface.style.undoMenu, binder, window, Qt::CTRL | Qt::Key_Z);
   redo = boundAction(interface.style.redoMenu, binder, window, Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
   quit = boundAction(interface.style.quitMenu, binder, window, Qt::CTRL | Qt::Key_Q);
