@@ -13,8 +13,9 @@ namespace {
 
 TEST(ReleasedProgram, isBuiltAgainstFaultsOfMemory) {
   const TemporaryFolder folder;
-  outputOf("cmake -S " + test::quoted(TARVO_SOURCE_DIR "/tests/hardened") + " -B " + test::quoted(folder.path()) +
-           " -DCMAKE_BUILD_TYPE=Release -DTARVO_WERROR=ON && cmake --build " + test::quoted(folder.path()));
+  outputOf("cmake -G Ninja -S " + test::quoted(TARVO_SOURCE_DIR "/tests/hardened") + " -B " +
+           test::quoted(folder.path()) + " -DCMAKE_BUILD_TYPE=Release -DTARVO_WERROR=ON && cmake --build " +
+           test::quoted(folder.path()));
   const std::string program = test::quoted(folder / "hardened");
   const std::string headers = outputOf("readelf -hldW " + program);
   EXPECT_NE(headers.find("DYN (Position-Independent Executable"), std::string::npos);
