@@ -12,8 +12,9 @@ find_program(CCACHE ccache)
 if(CCACHE)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()
+# Quicker while building. In optimised programs that ld.lld 14 has linked, some errors that are thrown find no handler.
 find_program(LLD ld.lld)
-if(LLD)
+if(LLD AND NOT CMAKE_BUILD_TYPE STREQUAL "Release")
   add_link_options(-fuse-ld=lld)
 endif()
 
