@@ -99,7 +99,7 @@ class Verb {
                     .err = err,
                     .takeLock = [](const UserPlace&) { return Result<>(); },
                     .become = {},
-                    .textsToTell = {}};
+                    .textsToTell = [this] { return product_.texts(); }};
     const ExitStatus status = StyleSetCommand("1", {"Opt1=" + std::to_string(value)}).run(console);
     if (status != ExitStatus::done) throw std::runtime_error(err.str());
   }
