@@ -86,6 +86,7 @@ ExitStatus StyleSession::read(const std::string& style, const Operation& operati
 void StyleSession::noteWrite() {
   written_ = true;
   const Replaced& replaced = store_.replaced();
+  if (!replaced.wasForeign && !replaced.unkept) return;  // most writes have nothing to tell
   const Texts texts = console_.textsToTell();
   if (replaced.wasForeign) note(console_, pathOfStyles(), foreignSentence(replaced.kept, replaced.beside, texts));
   if (!replaced.unkept || std::exchange(toldUnkept_, true)) return;
