@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/engine/http_client.h"
 
-#include <arpa/inet.h>
 #include <curl/curl.h>
-#include <netinet/in.h>
 #include <signal.h>
 
-#include <algorithm>
 #include <fstream>
+#include <optional>
 #include <utility>
 
+#include "platform/engine/http_address.h"
 #include "platform/engine/shared_library.h"
 #include "platform/services/result.h"
 
@@ -22,29 +21,45 @@ struct CurlLibrary {
   decltype(&curl_easy_init) init = library.function<decltype(curl_easy_init)>("curl_easy_init");
   decltype(&curl_easy_reset) reset = library.function<decltype(curl_easy_reset)>("curl_easy_reset");
   decltype(&curl_easy_setopt) setopt = library.function<decltype(curl_easy_setopt)>("curl_easy_setopt");
-  decltype(&curl_easy_perform) perform = library.function<decltype(curl_easy_perform)>("curl_easy_perform");
   decltype(&curl_easy_getinfo) getinfo = library.function<decltype(curl_easy_getinfo)>("curl_easy_getinfo");
   decltype(&curl_easy_cleanup) cleanup = library.function<decltype(curl_easy_cleanup)>("curl_easy_cleanup");
+  decltype(&curl_multi_init) multiInit = library.function<decltype(curl_multi_init)>("curl_multi_init");
+  decltype(&curl_multi_add_handle) add = library.function<decltype(curl_multi_add_handle)>("curl_multi_add_handle");
+  decltype(&curl_multi_remove_handle) remove =
+      library.function<decltype(curl_multi_remove_handle)>("curl_multi_remove_handle");
+  decltype(&curl_multi_perform) perform = library.function<decltype(curl_multi_perform)>("curl_multi_perform");
+  decltype(&curl_multi_poll) poll = library.function<decltype(curl_multi_poll)>("curl_multi_poll");
+  decltype(&curl_multi_wakeup) wakeup = library.function<decltype(curl_multi_wakeup)>("curl_multi_wakeup");
+  decltype(&curl_multi_info_read) infoRead = library.function<decltype(curl_multi_info_read)>("curl_multi_info_read");
+  decltype(&curl_multi_cleanup) multiCleanup = library.function<decltype(curl_multi_cleanup)>("curl_multi_cleanup");
   decltype(&curl_slist_append) append = library.function<decltype(curl_slist_append)>("curl_slist_append");
   decltype(&curl_slist_free_all) freeAll = library.function<decltype(curl_slist_free_all)>("curl_slist_free_all");
 
-  bool isWhole() const { return init && reset && setopt && perform && getinfo && cleanup && append && freeAll; }
+  bool isWhole() const {
+    return init && reset && setopt && getinfo && cleanup && append && freeAll && multiInit && add && remove &&
+           perform && poll && wakeup && infoRead && multiCleanup;
+  }
 };
 
-// The TLS library writes to connections that the other side has closed.
+// The TLS library writes to connections that the other side has closed. For this thread only, whose fault it is.
 class BrokenPipesIgnored {
  public:
   BrokenPipesIgnored() {
-    struct sigaction ignore{};
-    ignore.sa_handler = SIG_IGN;
-    sigaction(SIGPIPE, &ignore, &former_);
+    sigemptyset(&pipe_);
+    sigaddset(&pipe_, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &pipe_, &former_);
   }
-  ~BrokenPipesIgnored() { sigaction(SIGPIPE, &former_, nullptr); }
+  ~BrokenPipesIgnored() {
+    const timespec atOnce{};
+    while (sigismember(&former_, SIGPIPE) == 0 && sigtimedwait(&pipe_, nullptr, &atOnce) == SIGPIPE) {
+    }
+    pthread_sigmask(SIG_SETMASK, &former_, nullptr);
+  }
   BrokenPipesIgnored(const BrokenPipesIgnored&) = delete;
   BrokenPipesIgnored& operator=(const BrokenPipesIgnored&) = delete;
 
  private:
-  struct sigaction former_{};
+  sigset_t pipe_{}, former_{};
 };
 
 class HeaderList {
@@ -73,12 +88,6 @@ std::size_t takeBody(char* bytes, std::size_t, std::size_t size, void* answer) {
   return size;
 }
 
-std::string lowered(std::string_view text) {
-  std::string low(text);
-  for (char& c : low) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-  return low;
-}
-
 std::string_view withoutBlanks(std::string_view text) {
   constexpr std::string_view blanks = " \t\r\n";
   const std::size_t first = text.find_first_not_of(blanks);
@@ -91,24 +100,9 @@ std::size_t takeHeader(char* bytes, std::size_t, std::size_t size, void* answer)
   if (line.starts_with("HTTP/")) headers.clear();  // what came before was an interim answer or a proxy's
   const std::size_t colon = line.find(':');
   if (colon != std::string_view::npos) {
-    headers[lowered(line.substr(0, colon))] = withoutBlanks(line.substr(colon + 1));
+    headers[lowerCaseASCII(line.substr(0, colon))] = withoutBlanks(line.substr(colon + 1));
   }
   return size;
-}
-
-// Scheme and host, with its port, of an address; both in lower case, and empty for what is none.
-struct AddressFront {
-  std::string scheme, host;
-};
-AddressFront frontOf(std::string_view address) {
-  const std::size_t schemeEnd = address.find("://");
-  if (schemeEnd == std::string_view::npos) return {};
-  const std::string_view rest = address.substr(schemeEnd + 3);
-  return {lowered(address.substr(0, schemeEnd)), lowered(rest.substr(0, rest.find_first_of("/?#")))};
-}
-
-bool mayHaveCredentials(const HttpPlace& place) {
-  return place.allowsPlainPasswords || frontOf(place.address).scheme == "https" || isLoopbackAddress(place.address);
 }
 
 std::error_code causeOf(CURLcode code) {
@@ -132,11 +126,13 @@ std::error_code causeOf(CURLcode code) {
 struct HttpClient::Handle {
   CurlLibrary library;
   CURL* curl = library.isWhole() ? library.init() : nullptr;
-  bool keptBack = false;  // credentials that there are
+  CURLM* multi = curl != nullptr ? library.multiInit() : nullptr;  // keeps the open connections, and can be woken
+  bool keptBack = false;                                           // credentials that there are
 
   Handle() = default;
   ~Handle() {
     if (curl != nullptr) library.cleanup(curl);
+    if (multi != nullptr) library.multiCleanup(multi);
   }
   Handle(const Handle&) = delete;
   Handle& operator=(const Handle&) = delete;
@@ -145,16 +141,17 @@ struct HttpClient::Handle {
   void set(CURLoption option, Value value) {
     library.setopt(curl, option, value);
   }
-  // A reset keeps the open connections.
-  void prepare(const HttpPlace& place) {
+  void prepare(const HttpPlace& place, const std::string& address) {
     library.reset(curl);
-    set(CURLOPT_URL, place.address.c_str());
+    set(CURLOPT_URL, address.c_str());
     set(CURLOPT_PROTOCOLS_STR, "http,https");
     set(CURLOPT_NOSIGNAL, 1L);
     set(CURLOPT_QUICK_EXIT, 1L);  // a name service that hangs is not waited for either
     if (isLoopbackAddress(place.address)) set(CURLOPT_NOPROXY, "*");
     const bool hasCredentials = static_cast<bool>(std::ifstream(place.netrc.text()));
-    keptBack = hasCredentials && !mayHaveCredentials(place);
+    const bool mayGoOut =
+        place.allowsPlainPasswords || isEncryptedAddress(place.address) || isLoopbackAddress(place.address);
+    keptBack = hasCredentials && !mayGoOut;
     if (hasCredentials && !keptBack) {
       set(CURLOPT_NETRC, static_cast<long>(CURL_NETRC_REQUIRED));
       set(CURLOPT_NETRC_FILE, place.netrc.text().c_str());
@@ -177,24 +174,25 @@ struct HttpClient::Handle {
     set(CURLOPT_HEADERDATA, &answer);
     set(CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(largestHttpBody));
   }
+  // What became of the one request; nothing when it was called off.
+  std::optional<CURLcode> result() const {
+    int left = 0;
+    const CURLMsg* message = library.infoRead(multi, &left);
+    return message != nullptr ? std::optional(message->data.result) : std::nullopt;
+  }
+  std::optional<CURLcode> perform(const std::atomic<bool>& cancelled) {
+    constexpr int longestSleep = 1000;  // milliseconds; the library wakes up before where it has something to do
+    if (library.add(multi, curl) != CURLM_OK) return CURLE_FAILED_INIT;
+    int running = 1;
+    while (running != 0 && !cancelled) {
+      if (library.perform(multi, &running) != CURLM_OK) break;
+      if (running != 0) library.poll(multi, nullptr, 0, longestSleep, nullptr);
+    }
+    const std::optional<CURLcode> code = result();
+    library.remove(multi, curl);
+    return code;
+  }
 };
-
-bool isHttpAddress(std::string_view address) {
-  const auto [scheme, host] = frontOf(address);
-  const bool isPlain = std::none_of(address.begin(), address.end(), [](unsigned char c) { return c <= ' '; });
-  return (scheme == "http" || scheme == "https") && !host.empty() && host.find('@') == std::string_view::npos &&
-         isPlain;
-}
-
-bool isLoopbackAddress(std::string_view address) {
-  if (!isHttpAddress(address)) return false;
-  std::string host = frontOf(address).host;
-  const std::size_t colon = host.find_last_not_of("0123456789");
-  if (colon != std::string::npos && host[colon] == ':' && colon + 1 < host.size()) host.resize(colon);
-  in_addr number{};
-  const bool isNumber = inet_pton(AF_INET, host.c_str(), &number) == 1;
-  return host == "localhost" || host == "[::1]" || (isNumber && (ntohl(number.s_addr) >> 24) == IN_LOOPBACKNET);
-}
 
 std::string HttpAnswer::header(const std::string& name) const {
   const auto found = headers.find(name);
@@ -204,6 +202,18 @@ std::string HttpAnswer::header(const std::string& name) const {
 HttpClient::HttpClient(HttpPlace place) : place_(std::move(place)) {}
 
 HttpClient::~HttpClient() = default;
+
+HttpClient::Handle* HttpClient::handle() {
+  const std::lock_guard making(making_);
+  if (handle_ == nullptr) handle_ = std::make_unique<Handle>();
+  return handle_->multi != nullptr ? handle_.get() : nullptr;
+}
+
+void HttpClient::cancel() {
+  cancelled_ = true;
+  const std::lock_guard making(making_);
+  if (handle_ != nullptr && handle_->multi != nullptr) handle_->library.wakeup(handle_->multi);
+}
 
 HttpAnswer HttpClient::send(const HttpRequest& request, Milliseconds limit) {
   HttpAnswer answer;
@@ -215,24 +225,24 @@ HttpAnswer HttpClient::send(const HttpRequest& request, Milliseconds limit) {
   answer.cause = std::make_error_code(std::errc::file_too_large);
   if (request.body.size() > largestHttpBody) return answer;
   answer.cause = Reason::unreachable;
-  if (handle_ == nullptr) handle_ = std::make_unique<Handle>();
-  if (handle_->curl == nullptr) return answer;
+  Handle* const handle = this->handle();
+  if (handle == nullptr) return answer;
   const BrokenPipesIgnored ignored;
-  const HeaderList headers(handle_->library, request.headers);
-  handle_->prepare(place_);
-  handle_->ask(request, headers);
-  handle_->takeInto(answer);
-  handle_->set(CURLOPT_TIMEOUT_MS, static_cast<long>(limit.count()));
-  const CURLcode code = handle_->library.perform(handle_->curl);
-  answer.cause = causeOf(code);
+  const HeaderList headers(handle->library, request.headers);
+  handle->prepare(place_, place_.address + std::string(request.behindAddress));
+  handle->ask(request, headers);
+  handle->takeInto(answer);
+  handle->set(CURLOPT_TIMEOUT_MS, static_cast<long>(limit.count()));
+  const std::optional<CURLcode> code = handle->perform(cancelled_);
+  answer.cause = code ? causeOf(*code) : std::make_error_code(std::errc::operation_canceled);
   if (code == CURLE_OPERATION_TIMEDOUT) answer.arrival = HttpAnswer::Arrival::late;
   if (code != CURLE_OK) return answer;
   long status = 0;
-  handle_->library.getinfo(handle_->curl, CURLINFO_RESPONSE_CODE, &status);
+  handle->library.getinfo(handle->curl, CURLINFO_RESPONSE_CODE, &status);
   answer.status = static_cast<int>(status);
   answer.arrival = HttpAnswer::Arrival::whole;
   constexpr int unauthorized = 401;
-  if (answer.status == unauthorized && handle_->keptBack) answer.cause = Reason::plainPassword;
+  if (answer.status == unauthorized && handle->keptBack) answer.cause = Reason::plainPassword;
   return answer;
 }
 

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -18,7 +20,7 @@
 // from the address, and go out over TLS or to this machine only, unless plain ones are allowed; no redirect is
 // followed, so neither styles nor credentials go to a place that nobody configured. Proxies as the environment names
 // them, but for this machine, which needs none. No signal is raised or left handled otherwise. The library that does it
-// is loaded with the first request; without it nothing is sent and no answer comes.
+// is loaded with the first request; without it nothing is sent and no answer comes. For one thread, but for cancel().
 namespace tarvo {
 
 struct HttpPlace {
@@ -28,15 +30,11 @@ struct HttpPlace {
   bool allowsPlainPasswords = false;  // credentials may go out without TLS
 };
 
-// Whether it begins with http:// or https://, has a host, and names neither a user nor a password.
-bool isHttpAddress(std::string_view address);
-// Whether such an address names this machine by its loopback address or as "localhost".
-bool isLoopbackAddress(std::string_view address);
-
 struct HttpRequest {
   std::string method;
   std::vector<std::string> headers;  // "Name: value"
   std::string_view body;
+  std::string_view behindAddress = "";  // what stands behind the address to name a neighbour of it
 };
 
 struct HttpAnswer {
@@ -66,11 +64,17 @@ class HttpClient {
   const std::string& address() const { return place_.address; }
   // Blocks no longer than the limit; without any time left nothing is sent and the answer is late.
   HttpAnswer send(const HttpRequest& request, Milliseconds limit);
+  // From any thread: the request that is under way ends at once with std::errc::operation_canceled, and so does every
+  // later one.
+  void cancel();
 
  private:
   struct Handle;
+  Handle* handle();
   HttpPlace place_;
+  std::mutex making_;               // of the handle
   std::unique_ptr<Handle> handle_;  // null until the first request
+  std::atomic<bool> cancelled_ = false;
 };
 
 }  // namespace tarvo

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The TarvoEiwa Manager authors
 // SPDX-License-Identifier: MIT
 #include "platform/engine/http_client.h"
+#include "platform/engine/http_address.h"
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
