@@ -4,6 +4,19 @@
 
 namespace tarvo {
 
+void ManualRunLoop::post(std::function<void()> call) {
+  const std::lock_guard lock(mutex_);
+  posted_.push_back(std::move(call));
+}
+
+std::function<void()> ManualRunLoop::takePosted() {
+  const std::lock_guard lock(mutex_);
+  if (posted_.empty()) return nullptr;
+  std::function<void()> call = std::move(posted_.front());
+  posted_.pop_front();
+  return call;
+}
+
 RunLoop::Timer ManualRunLoop::after(double seconds, std::function<void()> call) {
   timers_[{now_ + seconds, ++lastTimer_}] = std::move(call);
   return lastTimer_;
@@ -15,16 +28,12 @@ void ManualRunLoop::cancel(Timer timer) {
 
 void ManualRunLoop::settle() {
   while (true) {
-    std::function<void()> call;
-    if (!posted_.empty()) {
-      call = std::move(posted_.front());
-      posted_.pop_front();
-    } else if (!timers_.empty() && timers_.begin()->first.first <= now_) {
+    std::function<void()> call = takePosted();
+    if (!call && !timers_.empty() && timers_.begin()->first.first <= now_) {
       call = std::move(timers_.begin()->second);
       timers_.erase(timers_.begin());
-    } else {
-      return;
     }
+    if (!call) return;
     call();
   }
 }

@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <map>
+#include <mutex>
 #include <utility>
 
 #include "console/script/scenario_clock.h"
@@ -13,13 +14,15 @@ namespace tarvo {
 // A clock that stands still until it is told to advance. Timers fire in the order of their times, then of their making.
 class ManualRunLoop : public ScenarioClock {
  public:
-  void post(std::function<void()> call) override { posted_.push_back(std::move(call)); }
+  void post(std::function<void()> call) override;
   Timer after(double seconds, std::function<void()> call) override;
   void cancel(Timer timer) override;
   void settle() override;
   void advance(double seconds) override;
 
  private:
+  std::function<void()> takePosted();
+  std::mutex mutex_;  // of what was posted
   std::deque<std::function<void()>> posted_;
   std::map<std::pair<double, Timer>, std::function<void()>> timers_;
   double now_ = 0;

@@ -3,11 +3,24 @@
 #include "platform/posix/posix_run_loop.h"
 
 #include <algorithm>
-#include <thread>
 
 namespace tarvo {
 
-void PosixRunLoop::post(std::function<void()> call) { posted_.push_back(std::move(call)); }
+void PosixRunLoop::post(std::function<void()> call) {
+  {
+    const std::lock_guard lock(mutex_);
+    posted_.push_back(std::move(call));
+  }
+  wasPosted_.notify_one();
+}
+
+std::function<void()> PosixRunLoop::takePosted() {
+  const std::lock_guard lock(mutex_);
+  if (posted_.empty()) return nullptr;
+  std::function<void()> call = std::move(posted_.front());
+  posted_.pop_front();
+  return call;
+}
 
 RunLoop::Timer PosixRunLoop::after(double seconds, std::function<void()> call) {
   const std::chrono::duration<double> delay(std::max(seconds, 0.0));
@@ -25,12 +38,11 @@ bool PosixRunLoop::runNext() {
   if (isDue) {
     const auto timer = timers_.extract(timers_.begin());
     timer.mapped()();
-  } else if (!posted_.empty()) {
-    const auto call = std::move(posted_.front());
-    posted_.pop_front();
+  } else if (const auto call = takePosted()) {
     call();
   } else if (!timers_.empty()) {
-    std::this_thread::sleep_until(timers_.begin()->first.first);
+    std::unique_lock lock(mutex_);
+    wasPosted_.wait_until(lock, timers_.begin()->first.first, [this] { return !posted_.empty(); });
   } else {
     return false;
   }

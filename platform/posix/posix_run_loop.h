@@ -3,13 +3,15 @@
 #pragma once
 
 #include <chrono>
+#include <condition_variable>
 #include <deque>
 #include <map>
+#include <mutex>
 #include <utility>
 
 #include "platform/services/run_loop.h"
 
-// A run loop without a window system, on the monotonic clock. For one thread.
+// A run loop without a window system, on the monotonic clock. For one thread, but for post().
 namespace tarvo {
 
 class PosixRunLoop : public RunLoop {
@@ -26,6 +28,9 @@ class PosixRunLoop : public RunLoop {
  private:
   using Clock = std::chrono::steady_clock;
   bool runNext();  // false: nothing is left
+  std::function<void()> takePosted();
+  std::mutex mutex_;  // of what was posted
+  std::condition_variable wasPosted_;
   std::deque<std::function<void()>> posted_;
   std::map<std::pair<Clock::time_point, Timer>, std::function<void()>> timers_;  // the next one first
   Timer lastTimer_ = 0;

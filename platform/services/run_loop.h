@@ -12,7 +12,7 @@ class RunLoop {
  public:
   using Timer = std::uint64_t;  // 0 is no timer
   virtual ~RunLoop() = default;
-  virtual void post(std::function<void()> call) = 0;
+  virtual void post(std::function<void()> call) = 0;                    // from any thread
   virtual Timer after(double seconds, std::function<void()> call) = 0;  // one shot
   virtual void cancel(Timer timer) = 0;
 };
