@@ -59,7 +59,7 @@ std::optional<std::size_t> EarlierStylesPanel::chosenRow() const {
 int EarlierStylesPanel::offeredStyle() {
   const int shown = with_.stylePopup.indexOfSelectedItem();
   const std::optional<std::size_t> row = chosenRow();
-  if (!row) return shown;
+  if (!row || !history_) return shown;
   const std::vector<StyleChange>& changes = history_->entry(*row).changes;
   const bool isOfOne = !changes.empty() && std::ranges::all_of(changes, [&changes](const StyleChange& change) {
     return change.style == changes.front().style && change.kind != StyleChange::Kind::moved;

@@ -132,6 +132,14 @@ Result<> PosixFiles::makeFolder(const DiskPath& path) {
   return makeFolders(*name, privateBelow_);
 }
 
+Result<> PosixFiles::makePrivateFolder(const DiskPath& path) {
+  const Result<DiskPath> name = named(path, Attempt::makeFolder);
+  if (!name) return name.error();
+  Result<> made = tarvo::makePrivateFolder(*name);
+  const bool isThere = !made && made.error().cause == std::errc::file_exists && kind(*name) == Kind::folder;
+  return isThere ? Result<>() : made;
+}
+
 Result<> PosixFiles::copyAs(const DiskPath& from, const DiskPath& to, const std::optional<FinderCodes>& codes) {
   const Result<DiskPath> source = named(from, Attempt::copy), target = named(to, Attempt::create);
   if (!source) return source.error();

@@ -70,14 +70,15 @@ bool fill(int folder, const std::string& name, const Target& target, const Descr
 // The new file beside the old one, until it has its name.
 class Replacement {
  public:
-  Replacement(const Target& target, Descriptor folder)
-      : target_(target), folder_(std::move(folder)), name_(lastPathComponent(target.path)) {}
+  // newMode: of a file that replaces none.
+  Replacement(const Target& target, Descriptor folder, mode_t newMode)
+      : target_(target), folder_(std::move(folder)), name_(lastPathComponent(target.path)), newMode_(newMode) {}
 
   Result<FileStamp> write(std::string_view bytes) {
     temporary_ = temporaryName();
     if (temporary_.empty()) return notWritten(target_.path);
     // A new file takes the umask's answer; one that replaces another is closed to everybody until it has its mode.
-    const mode_t mode = target_.present ? 0600 : 0666;
+    const mode_t mode = target_.present ? 0600 : newMode_;
     Descriptor file(
         ::openat(folder_.get(), temporary_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
     if (!file) return notWritten(target_.path);
@@ -114,6 +115,7 @@ class Replacement {
   const Target& target_;
   Descriptor folder_;
   std::string name_, temporary_;
+  mode_t newMode_;
 };
 
 }  // namespace
@@ -125,7 +127,7 @@ Result<Replaced> replaceFile(const DiskPath& path, std::string_view bytes, const
   if (target->path.ends_with('/')) return notWritten(target->path, std::errc::is_a_directory);
   Descriptor folder = openFolder(AT_FDCWD, deletingLastPathComponent(target->path));
   if (!folder) return notWritten(deletingLastPathComponent(target->path));
-  Replacement replacement(*target, std::move(folder));
+  Replacement replacement(*target, std::move(folder), keeping.isPrivate ? 0600 : 0666);
   const Result<FileStamp> written = replacement.write(bytes);
   if (!written) return written.error();
   FormerFile former(keeping, privateBelow);

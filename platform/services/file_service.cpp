@@ -13,11 +13,18 @@ bool FileService::isThere(const DiskPath& path) const {
   return found && *found != Kind::absent;
 }
 
-Result<> FileService::write(const DiskPath& path, std::string_view bytes) {
-  const Result<Replaced> replaced = replace(path, bytes, {});
+Result<> onTheDisk(const Result<Replaced>& replaced) {
   if (!replaced) return replaced.error();
-  if (replaced->unsynced) return *replaced->unsynced;
-  return {};
+  const std::optional<Failure>& unsynced = replaced->unsynced;
+  return unsynced ? Result<>(*unsynced) : Result<>();
+}
+
+Result<> FileService::write(const DiskPath& path, std::string_view bytes) {
+  return onTheDisk(replace(path, bytes, {}));
+}
+
+Result<> FileService::writePrivate(const DiskPath& path, std::string_view bytes) {
+  return onTheDisk(replace(path, bytes, {.isPrivate = true}));
 }
 
 bool FileService::isAbsent(const DiskPath& path) const { return kind(path) == Kind::absent; }

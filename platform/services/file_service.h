@@ -29,6 +29,9 @@ struct FinderCodes {
   FourCharCode type = 0, creator = 0;
 };
 
+// What a replacement means to somebody who has to rely on it: one that a power cut may take back has failed.
+Result<> onTheDisk(const Result<Replaced>& replaced);
+
 class FileService {
  public:
   virtual ~FileService() = default;
@@ -55,6 +58,8 @@ class FileService {
   // final symbolic link; keeps mode, owner and extended attributes of an existing regular file. Refuses a target that
   // is no regular file. After a failure whatever was there is unchanged and no temporary file is left.
   Result<> write(const DiskPath& path, std::string_view bytes);
+  // The same; where there was none, only its owner reads it.
+  Result<> writePrivate(const DiskPath& path, std::string_view bytes);
   // The same, and a file that goes is kept as asked for (keeping.h).
   virtual Result<Replaced> replace(const DiskPath& path, std::string_view bytes, const Keeping& keeping) = 0;
   // Which file lies at the path, links followed, and as it stands.
@@ -68,6 +73,8 @@ class FileService {
   // Creates the folder and missing ones above it, each open to every user whatever the umask, or, where the product is
   // set up so, to the user alone at and below the home. Done also when it is there.
   virtual Result<> makeFolder(const DiskPath& path) = 0;
+  // Creates one folder that its owner alone may use. Done also when a folder is there, whoever may use it.
+  virtual Result<> makePrivateFolder(const DiskPath& path) = 0;
   // Copies a file, folder (with everything in it) or link with mode and attributes; fails when anything is at the
   // target. The copy takes its name when all of it is on the disk; after a failure nothing of it is there.
   Result<> copy(const DiskPath& from, const DiskPath& to) { return copyAs(from, to, {}); }

@@ -33,7 +33,8 @@ struct Keeping {
   std::optional<FileStamp> expected;
   // When another one stands there: it is kept under this name, sure; beside the file where the folder cannot have it.
   std::string foreignName;
-  bool mayCopy = true;  // of the expected one, where the disk refuses the link
+  bool mayCopy = true;     // of the expected one, where the disk refuses the link
+  bool isPrivate = false;  // a file that is not there yet is made for its owner alone
 };
 
 struct Replaced {

@@ -73,12 +73,7 @@ Result<Replaced> PlistFile::replace(std::string_view bytes, Keeping keeping) {
   return replaced;
 }
 
-Result<> PlistFile::write(std::string_view bytes) {
-  const Result<Replaced> replaced = replace(bytes, {});
-  if (!replaced) return replaced.error();
-  if (replaced->unsynced) return *replaced->unsynced;
-  return {};
-}
+Result<> PlistFile::write(std::string_view bytes) { return onTheDisk(replace(bytes, {})); }
 
 Result<> PlistFile::write(const Dictionary& root) { return write(writePropertyList(root)); }
 

@@ -46,6 +46,7 @@ class FaultyFiles : public FileService {
   Result<> keepUnreadable(const DiskPath& path) override { return disk_.keepUnreadable(path); }
   Result<std::vector<std::string>> list(const DiskPath& folder) const override;
   Result<> makeFolder(const DiskPath& path) override;
+  Result<> makePrivateFolder(const DiskPath& path) override { return disk_.makePrivateFolder(path); }
   Result<> copyAs(const DiskPath& from, const DiskPath& to, const std::optional<FinderCodes>& codes) override;
   Result<> makeFolderOf(const std::vector<DiskPath>& items, const DiskPath& folder) override;
   Result<> move(const DiskPath& from, const DiskPath& to) override { return disk_.move(from, to); }
