@@ -6,6 +6,7 @@
 #include <map>
 
 #include "platform/text/text_rules.h"
+#include "style/style_keys.h"
 #include "style/style_records.h"
 
 namespace tarvo {
@@ -85,6 +86,19 @@ std::vector<std::size_t> unpairedPlaces(const Pairing& pairing, std::size_t coun
     if (!taken[i]) unpaired.push_back(i);
   }
   return unpaired;
+}
+
+void moveSelection(Dictionary& root, const std::vector<std::optional<std::size_t>>& places) {
+  Dictionary* selection = root.dictionary(keyNameSelection);
+  if (selection == nullptr) return;
+  Dictionary moved = *selection;
+  for (const auto& [tool, style] : selection->entries()) {
+    if (!style.hasIntegerValue()) continue;
+    const int index = style.integerValue();
+    if (index < 0 || std::cmp_greater_equal(index, places.size())) continue;
+    moved.set(tool, static_cast<int>(places[static_cast<std::size_t>(index)].value_or(0)));
+  }
+  *selection = std::move(moved);
 }
 
 }  // namespace tarvo

@@ -21,4 +21,8 @@ Pairing pairRecords(const Array& one, const Array& other);
 // The places of the other set, which has that many records, that no record was paired with; ascending.
 std::vector<std::size_t> unpairedPlaces(const Pairing& pairing, std::size_t count);
 
+// Lets each tool keep its style, wherever that is now; the tool of a style that is gone takes the first one. places:
+// where each style has come to; empty: each is where it was. Without a "Selection" nothing is done.
+void moveSelection(Dictionary& root, const std::vector<std::optional<std::size_t>>& places);
+
 }  // namespace tarvo
