@@ -18,6 +18,8 @@ namespace tarvo {
 
 namespace {
 
+constexpr std::string_view sharedBase = "Library/Application Support/Wordhaven/Tarvo Shared Styles";
+
 Locations locationsFor(const ProductOptions& options) {
   Places places = findPlaces(options.root, options.home);
   return {places.root.text(), places.home.text()};
@@ -47,7 +49,7 @@ Product::Product(const ProductOptions& options)
   layTexts(options.strings);
   paths_ = std::make_unique<ProductPaths>(locations_, readPaths(options.paths));
   scripts_ = std::make_unique<BundleScriptRunner>(*files_, locations_, paths_->volumeName());
-  if (engine_ && tarvo::makeEngine(engineURL(), *files_, enginePlaces()) == nullptr) {
+  if (engine_ && !namesEngine(engineURL())) {
     problem_ = "there is no style service of this kind: " + *engine_;
   }
 }
@@ -95,13 +97,13 @@ std::string Product::engineURL() const {
 }
 
 EnginePlaces Product::enginePlaces() const {
-  return {paths_->localEnginePath(), locations_.inHome(".netrc"),
-          configuration_.boolean(configuration_keys::allowPlainPasswords)};
+  return {paths_->localEnginePath(), locations_.inHome(sharedBase), locations_.inHome(".netrc"),
+          authoritiesFor(configuration_), configuration_.boolean(configuration_keys::allowPlainPasswords)};
 }
 
 std::unique_ptr<Engine> Product::makeEngine(FileService& files) {
-  std::unique_ptr<Engine> engine = tarvo::makeEngine(engineURL(), files, enginePlaces());
-  return engine != nullptr ? std::move(engine) : tarvo::makeEngine("none", files, {});
+  std::unique_ptr<Engine> engine = tarvo::makeEngine(engineURL(), files, *files_, enginePlaces());
+  return engine != nullptr ? std::move(engine) : tarvo::makeEngine("none", files, *files_, {});
 }
 
 Services Product::services(FileService& files, Engine& engine, RunLoop& runLoop, Panels& panels, WindowHost& windowHost,

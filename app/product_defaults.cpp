@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "platform/posix/process.h"
+#include "platform/services/configuration.h"
 #include "platform/text/text_rules.h"
 
 namespace tarvo {
@@ -47,6 +48,13 @@ DiskPath systemHome() {
 }
 
 }  // namespace
+
+DiskPath authoritiesFor(const Configuration& configuration) {
+  std::string configured = configuration.text(configuration_keys::authorities);
+  if (!configured.empty()) return DiskPath(std::move(configured));
+  const std::string known = environment("SSL_CERT_FILE");
+  return known.empty() ? DiskPath() : absolutePath(known);
+}
 
 DiskPath programFolder() {
   const Result<DiskPath> file = programFile();

@@ -12,6 +12,12 @@
 // Where the product, its resources and the user's home are when the command line does not say so.
 namespace tarvo {
 
+class Configuration;
+
+// The file of certificates by which a style service is trusted: as the configuration, else SSL_CERT_FILE says, a name
+// that many programs know; empty for the system's.
+DiskPath authoritiesFor(const Configuration& configuration);
+
 // Where the running program lies; empty when the system does not say.
 DiskPath programFolder();
 

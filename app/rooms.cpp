@@ -2,13 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/rooms.h"
 
-#include <memory>
 #include <utility>
 
-#include "dict/dictionary_presence.h"
 #include "platform/services/failure_text.h"
 #include "platform/services/file_service.h"
-#include "style/divider.h"
 
 namespace tarvo {
 
@@ -28,6 +25,13 @@ Rooms::Rooms(With with) : with_(std::move(with)) {
 
 Rooms::~Rooms() = default;
 
+// In the thread of the engine, which ends before the rooms do.
+void Rooms::hearLater() {
+  services_.runLoop.post([this, alive = std::weak_ptr(alive_)] {
+    if (!alive.expired()) news.hear(service.takeNews());
+  });
+}
+
 void Rooms::follow(const Notice& notice) {
   switch (notice.offer) {
     case Notice::Offer::none: return;
@@ -35,21 +39,6 @@ void Rooms::follow(const Notice& notice) {
     case Notice::Offer::restore: return earlierPanel.run(notice.earlierSet);
     case Notice::Offer::merge: return joining.join(notice.earlierSet);
   }
-}
-
-MergeKnowledge Rooms::mergeKnowledge() const {
-  const auto presence = [this](Direction direction) {
-    return std::make_shared<DictionaryPresence>(dictionaryServices_, direction);
-  };
-  const auto ej = presence(Direction::englishToJapanese), je = presence(Direction::japaneseToEnglish);
-  return {.isOnDisk =
-              [ej, je](Direction direction, const std::string& fileName) {
-                DictionaryPresence& files = direction == Direction::englishToJapanese ? *ej : *je;
-                return !files.isKnown() || files.has(fileName);
-              },
-          .isInserted = [this](Direction direction,
-                               const std::string& fileName) { return medical.inserts(direction, fileName); },
-          .isDivider = [this](const Dictionary& record) { return isDivider(record, texts_); }};
 }
 
 }  // namespace tarvo

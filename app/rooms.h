@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "app/history/notices.h"
@@ -10,6 +11,7 @@
 #include "app/history/style_news.h"
 #include "app/history/undo_commands.h"
 #include "app/interface.h"
+#include "app/service_client.h"
 #include "app/services.h"
 #include "app/style_display.h"
 #include "app/tool_chooser.h"
@@ -18,6 +20,7 @@
 #include "dict/dictionary_loading.h"
 #include "dict/dictionary_table.h"
 #include "dict/medical_dictionaries.h"
+#include "dict/merge_knowledge.h"
 #include "dict/new_dictionary.h"
 #include "dict/running_application_guard.h"
 #include "dict/tech_dic_controller.h"
@@ -74,7 +77,8 @@ struct Rooms {
 
  private:
   void follow(const Notice& notice);
-  MergeKnowledge mergeKnowledge() const;
+  void hearLater();
+  const std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);  // the loop may outlive the rooms
   With with_;
   Interface& interface_ = with_.interface;
   const Services& services_ = with_.services;
@@ -129,8 +133,12 @@ struct Rooms {
   EarlierStylesPanel earlierPanel{{interface_.earlier, stylePopup_, store, earlierStyles, windows_, undoSteps, notices,
                                    texts_, texts_.localized(nomalStyle), with_.showStyles}};
   StyleJoining joining{{store, earlierStyles, services_.panels, notices, undo, undoSteps, texts_,
-                        [this] { return mergeKnowledge(); }, with_.showStyles,
+                        [this] { return mergeKnowledge(dictionaryServices_, medical); }, with_.showStyles,
                         [this](const std::string& id) { earlierPanel.run(id); }}};
+  ServiceClient service{{services_.engine, store, defaults_,
+                         locations_.onDisk(ProductPath(std::string(gAppSupportStylePlist))),
+                         locations_.inHome(gEarlierStyles),
+                         [this] { return mergeKnowledge(dictionaryServices_, medical); }, [this] { hearLater(); }}};
   NoticeBoard board{interface_.notices, notices, texts_, [this](const Notice& notice) { follow(notice); }};
   ToolChooser chooser{interface_.style, interface_.options, flags, with_.chooseTool};
   ToolListFile toolList{services_.files, defaults_, module_, toolListPath(services_.locations)};

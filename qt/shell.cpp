@@ -17,6 +17,7 @@
 #include "qt/panes/office_pane.h"
 #include "qt/panes/style_pane.h"
 #include "qt/services/first_paint.h"
+#include "qt/services/held_input.h"
 #include "qt/window/main_window.h"
 #include "qt/window/toolbar_customise.h"
 
@@ -71,7 +72,10 @@ bool Shell::start() {
   };
   if (!program_.load()) return false;
   afterFirstPaint(*windows_.mainWindow(), [this] { finishLater(); });
-  program_.didShow = [this] { waitForFirstPaint(*windows_.mainWindow()); };
+  program_.didShow = [this] {
+    waitForFirstPaint(*windows_.mainWindow());
+    serveWithoutInput([this] { return program_.isTerminated() || !engine_->isAsking(); }, Engine::launchPatience);
+  };
   program_.launch();
   return true;
 }
@@ -103,6 +107,7 @@ void Shell::run() {
     QObject::connect(&application_, request, windows_.mainWindow(), [this] { sessionEnds(); });
   }
   QApplication::exec();
+  engine_->waitUntilSent(Engine::quitPatience);
 }
 
 void Shell::sessionEnds() {

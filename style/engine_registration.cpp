@@ -23,14 +23,32 @@ void EngineRegistration::endStandIn() { defaults_.forget(standsIn); }
 bool EngineRegistration::isStandIn() const { return defaults_.find(standsIn) != nullptr; }
 
 bool EngineRegistration::wasLeftAlone() const {
-  return isStandIn() && outcome_ && !*outcome_ && outcome_->error().cause == std::errc::file_exists;
+  const std::optional<Result<>> ended = outcome();
+  return isStandIn() && ended && !*ended && ended->error().cause == std::errc::file_exists;
+}
+
+std::optional<Result<>> EngineRegistration::outcome() const {
+  switch (handed_) {
+    case Handed::nothing: return std::nullopt;
+    case Handed::nowhere: return unreached_;
+    case Handed::later: return engine_.isSending() ? unreached_ : engine_.didRegister();
+    case Handed::over: break;
+  }
+  return engine_.didRegister();
+}
+
+// What stood in has become what the engine holds.
+void EngineRegistration::settle() {
+  const std::optional<Result<>> ended = outcome();
+  if (ended && *ended) endStandIn();
 }
 
 void EngineRegistration::registerStyles(const StyleSet* styles) {
   if (engine_.checkConnectionWithCurl()) {
     send(styles);
   } else if (styles != nullptr) {
-    outcome_ = whyUnreached(engine_);
+    unreached_ = whyUnreached(engine_);
+    handed_ = engine_.isSending() ? Handed::later : Handed::nowhere;
   }
 }
 
@@ -56,8 +74,8 @@ void EngineRegistration::send(const StyleSet* styles) {
   std::string stamp;
   engine_.setStandIn(isStandIn());
   engine_.sendRegistStyle(*styles, stamp);
-  outcome_ = engine_.didRegister();
-  if (outcome_->has_value()) endStandIn();
+  handed_ = Handed::over;
+  settle();
   keep(stamp);
 }
 

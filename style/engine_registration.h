@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "platform/services/engine.h"
 
@@ -28,8 +29,15 @@ class EngineRegistration {
   bool isStandIn() const;
   // The last registration found a set, and left it alone.
   bool wasLeftAlone() const;
-  // How the last registration ended; nothing before the first that had styles to hand over.
-  const std::optional<Result<>>& outcome() const { return outcome_; }
+  // How the last registration ended, as far as that is known by now; nothing before the first that had styles to hand
+  // over.
+  std::optional<Result<>> outcome() const;
+  // The engine may know more of it.
+  void settle();
+  // Where each style is in the set that was taken last; empty: in its place.
+  std::vector<std::optional<std::size_t>> placesOfTaken() const { return engine_.placesOfRequested(); }
+  void didStoreStyles() { engine_.didStoreStyles(); }
+  void didSeedStyles(const Array& styles) { engine_.didSeedStyles(styles); }
   // Registers the set with an engine that holds none; else asks for a set that is newer than "LastUpdate", and answers
   // it after its stamp was stored. Nothing when there is none. Fails when what the engine holds cannot be read, or is
   // no set of styles that a style file could hold. The caller has made sure that the engine can be reached.
@@ -40,7 +48,10 @@ class EngineRegistration {
   void keep(const std::string& stamp);
   Engine& engine_;
   UserDefaults& defaults_;
-  std::optional<Result<>> outcome_;
+  // later: the engine could not be reached, and takes the styles when it can be.
+  enum class Handed { nothing, nowhere, later, over };
+  Handed handed_ = Handed::nothing;  // by the last registration
+  Result<> unreached_;
 };
 
 }  // namespace tarvo

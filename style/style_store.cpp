@@ -8,6 +8,8 @@
 
 #include "platform/plist/plist_writer.h"
 #include "style/option_table.h"
+#include "style/style_pairing.h"
+#include "style/style_records.h"
 
 namespace tarvo {
 
@@ -31,7 +33,11 @@ Result<> StyleStore::readUserStyles() {
   return done;
 }
 
-Result<> StyleStore::readSeedStyles() { return readFrom(seed_); }
+Result<> StyleStore::readSeedStyles() {
+  Result<> done = readFrom(seed_);
+  if (done && !unread_) registration_.didSeedStyles(stylesIn(tarvoStyle_));
+  return done;
+}
 
 void StyleStore::fillInMissingOptions() {
   Array* styles = tarvoStyle_.array(keyNameStyle);
@@ -171,6 +177,7 @@ void StyleStore::writeTarvoStylePlist() {
     changed_.reset();
     hasWritten_ = true;
     if (ofLoad_) loadStored_ = true;
+    registration_.didStoreStyles();
   }
   unsaved_ = written ? std::nullopt : std::optional(written.error());
   pending_ = pending_ && unsaved_;
@@ -198,6 +205,7 @@ Result<StyleStore::Reconciled> StyleStore::reconcile() {
   ofLoad_ = false;
   endStandIn();
   replaceStyles(std::move(*taken), ChangeKind::pull);
+  moveSelection(tarvoStyle_, registration_.placesOfTaken());
   return Reconciled::replaced;
 }
 

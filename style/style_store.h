@@ -92,6 +92,9 @@ class StyleStore {
   const std::optional<Failure>& unread() const { return unread_; }
   const std::optional<Failure>& unsaved() const { return unsaved_; }
   bool isSaved() const { return !unsaved_; }
+  // Whether the file holds what the memory does.
+  bool isStored() const { return !unsaved_ && unwritten_.empty(); }
+  std::optional<StyleSet> styleSet();  // nothing where the file holds no styles
   // Whether what was loaded, with all that joined it then, has reached the disk in this run, edited or not. Styles that
   // came from elsewhere as a whole say nothing of that.
   bool isLoadStored() const { return loadStored_; }
@@ -112,7 +115,8 @@ class StyleStore {
   // What the file holds now, whoever has written it; the styles in memory stay.
   Result<Dictionary> readPresent() const { return file_.readPresent(); }
   // How the last registration ended; nothing before the first that had styles to hand over.
-  const std::optional<Result<>>& registration() const { return registration_.outcome(); }
+  std::optional<Result<>> registration() const { return registration_.outcome(); }
+  void settleRegistration() { registration_.settle(); }  // the engine may know more of it
   std::function<void(const StoredChange&)> didChange;  // told after a change of what is to be written, before the write
   std::function<void()> didWrite;                      // told after each write, before the engine is
   std::function<void()> didRegister;                   // told after each registration
@@ -130,7 +134,6 @@ class StyleStore {
   Result<> writeRoot();  // fails also where the memory does not suffice
   bool writesAll() const { return writesUnchanged_ || pending_; }
   void noteForeign(const Replaced& replaced);
-  std::optional<StyleSet> styleSet();
   void tellChange(StoredChange change);
   void noteChange(ChangeKind kind) { changed_ = std::max(changed_.value_or(kind), kind); }
   StyleFile file_, seed_;

@@ -14,6 +14,7 @@
 #include "style/style_changes.h"
 #include "style/style_history.h"
 #include "style/style_keys.h"
+#include "style/style_pairing.h"
 #include "style/style_records.h"
 #include "style/style_store.h"
 #include "style/undo_steps.h"
@@ -21,18 +22,6 @@
 namespace tarvo {
 
 namespace {
-
-// Each tool keeps its style, wherever that is now; the tool of a style that is gone takes the first one.
-Dictionary movedChoices(const Dictionary& selection, const std::vector<std::optional<std::size_t>>& places) {
-  Dictionary moved = selection;
-  for (const auto& [tool, style] : selection.entries()) {
-    if (!style.hasIntegerValue()) continue;
-    const int index = style.integerValue();
-    if (index < 0 || std::cmp_greater_equal(index, places.size())) continue;
-    moved.set(tool, static_cast<int>(places[static_cast<std::size_t>(index)].value_or(0)));
-  }
-  return moved;
-}
 
 bool keepsOrder(const MergedStyles& joined) {
   for (std::size_t place = 0; place < joined.placesOfMine.size(); ++place) {
@@ -91,8 +80,8 @@ std::string StyleJoining::effectOf(const Array& joined, const std::vector<MergeN
 
 void StyleJoining::store(const Dictionary& theirs, MergedStyles joined) {
   Dictionary root = with_.store.root();
-  if (const Dictionary* selection = root.dictionary(keyNameSelection)) {
-    root.set(keyNameSelection, movedChoices(*selection, joined.placesOfMine));
+  if (root.dictionary(keyNameSelection) != nullptr) {
+    moveSelection(root, joined.placesOfMine);
   } else if (const Dictionary* other = theirs.dictionary(keyNameSelection)) {
     root.set(keyNameSelection, *other);
   }

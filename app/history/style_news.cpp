@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "app/history/notices.h"
+#include "app/service_client.h"
+#include "app/service_words.h"
 #include "dict/change_words.h"
 #include "dict/display_names.h"
 #include "dict/load_findings.h"
@@ -32,6 +34,8 @@ std::string removedDictionaries(const StoredChange& change, const Texts& texts) 
   }
   return names;
 }
+
+bool isUnderWay(const Result<>& outcome) { return !outcome && outcome.error().cause == Reason::onItsWay; }
 
 bool isServiceMissing(const Failure& failure) { return failure.cause == Reason::noService; }
 
@@ -129,9 +133,17 @@ void StyleNews::look() {
   }
 }
 
+void StyleNews::hear(const ServiceNews& heard) {
+  with_.store.settleRegistration();
+  didRegister();
+  for (const std::string& sentence : sentencesOf(heard, with_.texts)) {
+    with_.notices.tell({.text = sentence, .offer = heard.keptTheirs ? Notice::Offer::restore : Notice::Offer::none});
+  }
+}
+
 void StyleNews::didRegister() {
-  const std::optional<Result<>>& outcome = with_.store.registration();
-  if (!outcome) return;
+  const std::optional<Result<>> outcome = with_.store.registration();
+  if (!outcome || isUnderWay(*outcome)) return;
   const bool isTold = !*outcome && !isServiceMissing(outcome->error());
   const std::string cause = isTold ? failureCauseText(outcome->error(), with_.texts) : std::string();
   if (cause == toldService_) return;

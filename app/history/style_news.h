@@ -22,6 +22,7 @@ class StyleStore;
 class Texts;
 class UndoSteps;
 struct Replaced;
+struct ServiceNews;
 struct StoredChange;
 
 class StyleNews {
@@ -45,6 +46,8 @@ class StyleNews {
   void didLoad(const std::vector<std::string>& defaults, bool isFileAbsent);
   // Shows a style that was imported. Names that it loses then are the importer's to tell.
   void showImported(const std::function<void()>& show);
+  // The style service has answered something.
+  void hear(const ServiceNews& heard);
   // The window has become the active one: tells when another program has changed the style file or taken it away.
   void look();
 

@@ -102,6 +102,11 @@ Result<> RecordedFiles::makeFolder(const DiskPath& path) {
   return disk_.makeFolder(path);
 }
 
+Result<> RecordedFiles::makePrivateFolder(const DiskPath& path) {
+  if (const auto refused = refusal(Operation::make, path, Attempt::makeFolder)) return *refused;
+  return disk_.makePrivateFolder(path);
+}
+
 std::optional<Failure> RecordedFiles::copyRefusal(const DiskPath& from, const DiskPath& to) const {
   auto refused = refusal(Operation::copy, from, Attempt::copy);
   return refused ? refused : refusal(Operation::copy, to, Attempt::create);

@@ -63,6 +63,7 @@ class RecordedFiles : public FileService {
   Result<> keepUnreadable(const DiskPath& path) override;
   Result<std::vector<std::string>> list(const DiskPath& folder) const override;
   Result<> makeFolder(const DiskPath& path) override;
+  Result<> makePrivateFolder(const DiskPath& path) override;
   Result<> copyAs(const DiskPath& from, const DiskPath& to, const std::optional<FinderCodes>& codes) override;
   Result<> makeFolderOf(const std::vector<DiskPath>& items, const DiskPath& folder) override;
   Result<> move(const DiskPath& from, const DiskPath& to) override;
@@ -98,6 +99,14 @@ class RecordedEngine : public Engine {
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
   void setStandIn(bool standsIn) override { engine_.setStandIn(standsIn); }
+  void attach(EngineClient* client) override { engine_.attach(client); }
+  void didStoreStyles() override { engine_.didStoreStyles(); }
+  void didSeedStyles(const Array& styles) override { engine_.didSeedStyles(styles); }
+  bool isAsking() const override { return engine_.isAsking(); }
+  bool isSending() const override { return engine_.isSending(); }
+  void waitForAnswer(std::chrono::milliseconds limit) override { engine_.waitForAnswer(limit); }
+  void waitUntilSent(std::chrono::milliseconds limit) override { engine_.waitUntilSent(limit); }
+  std::vector<std::optional<std::size_t>> placesOfRequested() const override { return engine_.placesOfRequested(); }
   EngineForm form() const override { return engine_.form(); }
   Result<> couldReach() const override { return engine_.couldReach(); }
   Result<> didRegister() const override { return engine_.didRegister(); }

@@ -63,6 +63,7 @@ void ScenarioSession::start() {
     panels_.dropSavePanels();
     phase_ = Phase::terminated;
   };
+  program_->didShow = [this] { engine_.waitForAnswer(Engine::launchPatience); };
   shell_.programMade(*program_);
   if (!program_->construct()) return;
   constructed_ = true;
@@ -72,6 +73,7 @@ void ScenarioSession::start() {
 
 void ScenarioSession::drop() {
   if (!program_) return;
+  if (phase_ != Phase::none) engine_.waitUntilSent(Engine::quitPatience);
   panels_.dropSavePanels();
   shell_.programEnds(*program_);
   constructed_ = false;
@@ -80,8 +82,8 @@ void ScenarioSession::drop() {
 
 void ScenarioSession::kill() {
   if (program().windows().modalWindow() != nullptr) throw ScriptError("a modal window is up");
-  drop();
   phase_ = Phase::none;
+  drop();
 }
 
 DiskPath ScenarioSession::path(const std::string& text) const {

@@ -32,6 +32,7 @@ ExitStatus EngineStatusCommand::run(Console& console) {
   noteUnreadStyles(console);
   const std::string* stamp = defaults.string(lastUpdate);
   const std::string form(wordOf(engine->form()));
+  engine->waitForAnswer(Engine::verbPatience);
   const bool reachable = engine->checkConnectionWithCurl();
   const bool holds = reachable && engine->checkStyle();
   if (!reachable && console.engineIsWanted) tellUnreached(console, *engine);

@@ -5,10 +5,12 @@
 #include <algorithm>
 
 #include "app/product.h"
+#include "app/service_words.h"
 #include "app/style_loading.h"
 #include "app/user_files.h"
 #include "console/verbs/dictionary_services.h"
 #include "console/verbs/style_name.h"
+#include "dict/merge_knowledge.h"
 #include "platform/services/engine.h"
 #include "style/former_words.h"
 #include "style/style_records.h"
@@ -24,7 +26,14 @@ StyleSession::StyleSession(Console& console)
              console.product.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist))), &earlier_),
       medical_({console.product.files(), console.product.locations(), console.product.paths(), console.product.texts(),
                 defaults_, store_}),
-      lists_(store_, dictionaryServices(console.product)) {
+      lists_(store_, dictionaryServices(console.product)),
+      client_({*engine_,
+               store_,
+               defaults_,
+               console.product.locations().onDisk(ProductPath(std::string(gAppSupportStylePlist))),
+               earlier_.folder(),
+               [this] { return mergeKnowledge(dictionaryServices(console_.product), medical_); },
+               {}}) {
   store_.writeOnlyChanges();
   store_.didWrite = [this] { noteWrite(); };
 }
@@ -132,14 +141,23 @@ void StyleSession::noteWhatStaysGone() {
 std::optional<bool> StyleSession::registerStyles() {
   if (engine_->form() == EngineForm::none) return std::nullopt;
   store_.registerStyles();
+  waitUntilSent();
   if (const std::optional<Failure>& unwritten = defaults_.unwritten()) note(console_, *unwritten);
-  const std::optional<Result<>>& outcome = store_.registration();
+  const std::optional<Result<>> outcome = store_.registration();
   if (!outcome) return std::nullopt;
   if (!*outcome) {
     const char* words = store_.wasLeftAlone() ? "Refusal.ServiceLeftAlone" : "Refusal.Waiting";
     note(console_, {service(), words, failureParts(outcome->error(), console_.textsToTell()).cause});
   }
   return outcome->has_value();
+}
+
+// The last chance of this program to bring them there, and to tell what became of them.
+void StyleSession::waitUntilSent() {
+  engine_->waitUntilSent(Engine::verbPatience);
+  store_.settleRegistration();
+  const Texts texts = console_.textsToTell();
+  for (const std::string& sentence : sentencesOf(client_.takeNews(), texts)) note(console_, service(), sentence);
 }
 
 std::string StyleSession::service() const { return serviceName(console_.product, *engine_); }

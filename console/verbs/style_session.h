@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "app/service_client.h"
 #include "console/verbs/refusal.h"
 #include "console/verbs/style_reading.h"
 #include "dict/medical_dictionaries.h"
@@ -73,6 +74,7 @@ class StyleSession {
   ExitStatus finishTaking();
   void noteWhatStaysGone();
   std::optional<bool> registerStyles();
+  void waitUntilSent();
   const std::string& pathOfStyles() const;
   std::string service() const;
   Console& console_;
@@ -82,6 +84,7 @@ class StyleSession {
   StyleStore store_;
   MedicalDictionaries medical_;
   NamedLists lists_;
+  ServiceClient client_;
   std::vector<std::string_view> inserted_;
   Mended mended_;
   bool written_ = false, toldUnkept_ = false;

@@ -21,6 +21,7 @@ ExitStatus StyleSession::push() {
   }
   store_.endStandIn();
   store_.registerStyles();
+  waitUntilSent();
   tellUnread("Refusal.Reseeded");
   return sayHandedOver(store_.registration().value_or(Result<>()));
 }
@@ -60,12 +61,14 @@ ExitStatus StyleSession::pull() {
   const auto notPulled = [this](const Failure& why) {
     return tell(console_, Refusal{service(), "Refusal.NotPulled", failureParts(why, console_.textsToTell()).cause});
   };
+  engine_->waitForAnswer(Engine::verbPatience);
   if (!engine_->checkConnectionWithCurl()) return notPulled(whyUnreached(*engine_));
   // Whatever the service holds is newer than what came from the product.
   if (store_.isStandIn()) defaults_.forget(lastUpdate);
   const Result<StyleStore::Reconciled> reconciled = store_.reconcile();
   if (!reconciled) return notPulled(reconciled.error());
   if (*reconciled == StyleStore::Reconciled::replaced) return finishTaking();
+  waitUntilSent();
   const std::optional<Result<>> handedOver = store_.registration();
   if (!handedOver) return finish({});
   if (const std::optional<Problem> failure = writeLoaded()) return tell(console_, *failure);
@@ -75,6 +78,7 @@ ExitStatus StyleSession::pull() {
 
 ExitStatus StyleSession::finishTaking() {
   if (const std::optional<Problem> failure = keepTaken()) return tell(console_, *failure);
+  waitUntilSent();
   tellUnread("Refusal.TakenOver");
   if (!console_.json) console_.out << "took " << stylesIn(store_.root()).size() << " styles\n";
   if (console_.json) say(console_, {{pathOfStyles()}, true});

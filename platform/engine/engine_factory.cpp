@@ -5,6 +5,7 @@
 #include "platform/engine/engine_http.h"
 #include "platform/engine/engine_local.h"
 #include "platform/engine/engine_none.h"
+#include "platform/engine/http_address.h"
 
 namespace tarvo {
 namespace {
@@ -41,11 +42,17 @@ std::string addressForUser(std::string_view address, std::string_view user) {
   return filled.append(address);
 }
 
-std::unique_ptr<Engine> makeEngine(const std::string& engineURL, FileService& files, const EnginePlaces& places) {
+bool namesEngine(std::string_view engineURL) {
+  return engineURL.empty() || engineURL == "none" || isHttpAddress(engineURL);
+}
+
+std::unique_ptr<Engine> makeEngine(const std::string& engineURL, FileService& files, FileService& disk,
+                                   const EnginePlaces& places) {
   if (engineURL == "none") return std::make_unique<EngineNone>();
   if (engineURL.empty()) return std::make_unique<EngineLocal>(files, places.localPath);
   if (isHttpAddress(engineURL)) {
-    return std::make_unique<EngineHttp>(HttpPlace{engineURL, places.netrc, {}, places.allowsPlainPasswords});
+    return std::make_unique<EngineHttp>(
+        HttpPlace{engineURL, places.netrc, places.authorities, places.allowsPlainPasswords}, disk, places.basePath);
   }
   return nullptr;
 }

@@ -2,70 +2,89 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <chrono>
-#include <functional>
-#include <optional>
+#include <memory>
+#include <mutex>
+#include <string>
 
-#include "platform/engine/style_resource.h"
+#include "platform/engine/style_courier.h"
 #include "platform/services/engine.h"
 
 // The engine's style set on a server, one resource for each user (docs/engine.md).
-// Duty: the four operations within their time. Not: transport (http_client.h), the bytes (style_payload.h).
-// Every operation has a limit that its requests share. When one runs out, the service counts as unreachable and is not
-// asked for a while, so that a server that hangs stops the user once and not at each edit. Operations without a pause
-// between them belong to one action of the user and share a limit too: a service that is merely slow is then not asked
-// for the rest of the action. Those that it answers promptly do not count.
-// The stamp is that of the payload (SetStamp). What is not known is answered so that nothing is lost: a service that
-// cannot say whether it holds a set is taken to hold one, since the answer to "no" is to send ours over it; and after
-// a registration that failed or whose end is not known, the stamp handed back is that of the set as it would have been
-// stored, so that the older set of the service does not count as newer.
+// Duty: the four operations, answered at once from what is known. Not: talking to the server (style_courier.h).
+// What is not known is answered so that nothing is lost: a service that has not answered yet counts as one that can be
+// reached and holds a set, since the answer to "no" is to send ours over it. The stamp of a registration is that which
+// the set will have when nobody else stores before it arrives. Where sets can be joined (EngineClient), neither side
+// loses what it changed.
 namespace tarvo {
 
-struct HttpTimes {
-  using Milliseconds = std::chrono::milliseconds;
-  // A little below 1 s and 2 s, and 3 s for an action with the files that it writes.
-  Milliseconds probe{950}, operation{1900}, silence{30'000}, action{2800}, prompt{250}, pause{500};
+class FileService;
+
+struct HttpTimes : CourierTimes {
+  Milliseconds silence{30'000};  // so long after a contact that failed the service counts as unreachable
 };
 
 class EngineHttp : public Engine {
  public:
   using Milliseconds = HttpTimes::Milliseconds;
-  // Monotonic time since whenever.
-  using Now = std::function<std::chrono::steady_clock::duration()>;
+  // Monotonic time.
+  using Now = std::function<std::chrono::steady_clock::time_point()>;
 
-  explicit EngineHttp(HttpPlace place, HttpTimes times = {}, Now now = {});
-  // Whether the service says what it holds, damaged or not.
+  // basePath: of the file in which the home keeps what it shares with the service (shared_base.h); empty keeps nothing.
+  // files: used by the thread of the engine too.
+  EngineHttp(HttpPlace place, FileService& files, const DiskPath& basePath, HttpTimes times = {},
+             Now now = std::chrono::steady_clock::now);
+  ~EngineHttp() override;
+  EngineHttp(const EngineHttp&) = delete;
+  EngineHttp& operator=(const EngineHttp&) = delete;
+
+  // False only after a contact that failed a short while ago; then the present set is sent when it can be.
   bool checkConnectionWithCurl() override;
-  // Stores the set with the next revision, whatever is there; when another machine stores at the same time, again.
   void sendRegistStyle(const StyleSet& styles, std::string& updateString) override;
   bool checkStyle() override;
   bool requestStyle(Array& styles, std::string& localUpdate) override;
   void setStandIn(bool standsIn) override { standsIn_ = standsIn; }
+  void attach(EngineClient* client) override;
+  void didStoreStyles() override;
+  void didSeedStyles(const Array& styles) override;
+  bool isAsking() const override;
+  bool isSending() const override;
+  void waitForAnswer(std::chrono::milliseconds limit) override { courier_->waitForAnswer(limit); }
+  void waitUntilSent(std::chrono::milliseconds limit) override { courier_->waitUntilDelivered(limit); }
+  std::vector<std::optional<std::size_t>> placesOfRequested() const override { return places_; }
   EngineForm form() const override { return EngineForm::http; }
   Result<> couldReach() const override { return couldReach_; }
-  Result<> didRegister() const override { return didRegister_; }
+  Result<> didRegister() const override;
   Result<> couldRead() const override { return couldRead_; }
 
  private:
-  enum class Try { stored, raced, failed };
-  Failure failure(Attempt attempt, std::error_code cause) const { return {resource_.address(), attempt, cause}; }
-  // An operation begins: until when, or nothing when the service is not to be asked. One that began is finished.
-  std::optional<Deadline> begin(Milliseconds limit);
-  void finish();
+  using Knowledge = StyleCourier::Knowledge;
+  Failure failure(Attempt attempt, std::error_code cause) const { return {place_.address, attempt, cause}; }
   std::uint64_t nextRevision() const;
-  StyleResource::Front readFront(const Deadline& deadline);
-  std::optional<ReadPayload> readWhole(const Deadline& deadline);
-  Result<> keepTrying(const StylePayload& payload, SetStamp& stamp, const Deadline& deadline);
-  Try tryToStore(const StylePayload& payload, SetStamp& stamp, const Deadline& deadline);
-  std::error_code failed_;  // why a try did
-  StyleResource resource_;
+  void send(EncodedSet set);
+  void sendPresent();
+  std::optional<Array> newerThan(const StyleSet& present, const ServiceView& view, const SetStamp& local);
+  std::optional<Array> joined(const Array& mine, const ServiceView& view, const Array& base, StyleJoiner& joiner);
+  std::unique_ptr<StyleCourier> makeCourier();
+  void settle(SharedBase base);
+  ServiceView view() const;
+  void hear();
+  FileService& files_;
+  HttpPlace place_;
+  DiskPath basePath_;
   HttpTimes times_;
   Now now_;
-  std::chrono::steady_clock::duration silentUntil_{}, begun_{}, finished_{};
-  std::chrono::steady_clock::duration spent_{};  // of the action
-  std::uint64_t known_ = 0;                      // the greatest revision that was seen anywhere
+  std::mutex attaching_;
+  EngineClient* client_ = nullptr;
   bool standsIn_ = false;
-  Result<> couldReach_, didRegister_, couldRead_;
+  struct Taken {
+    SharedBase theirs;
+    bool isJoined;  // with what this home has changed
+  };
+  std::optional<Taken> taken_;              // by the last request, and not in the style file yet
+  std::shared_ptr<const SharedBase> base_;  // what this program has settled before the thread knows of it
+  std::vector<std::optional<std::size_t>> places_;
+  Result<> couldReach_, couldRead_;
+  std::unique_ptr<StyleCourier> courier_;  // never null
 };
 
 }  // namespace tarvo

@@ -40,6 +40,7 @@ class StylePayload {
  public:
   explicit StylePayload(const StyleSet& styles);
   SetStamp stamp(std::uint64_t revision) const { return {revision, hash_}; }
+  const std::string& hash() const { return hash_; }
   std::string bytes(std::uint64_t revision) const;
 
  private:

@@ -3,6 +3,7 @@
 #include "platform/engine/style_resource.h"
 
 #include <charconv>
+#include <random>
 #include <utility>
 
 namespace tarvo {
@@ -14,7 +15,19 @@ constexpr std::string_view lockBody =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
     "<lockinfo xmlns=\"DAV:\"><lockscope><exclusive/></lockscope><locktype><write/></locktype></lockinfo>\n";
 
-enum Status { partial = 206, notFound = 404, gone = 410, conditionFailed = 412, noSuchRange = 416, locked = 423 };
+constexpr std::string_view lockFolder = ".lock/", lockOwner = ".lock/owner";
+constexpr std::chrono::milliseconds leastPatience{2000}, mostPatience{3000}, timeToUnlock{1000};
+
+enum Status {
+  created = 201,
+  partial = 206,
+  notFound = 404,
+  notAllowed = 405,
+  gone = 410,
+  conditionFailed = 412,
+  noSuchRange = 416,
+  locked = 423
+};
 constexpr int notImplemented = 501;
 constexpr const char* notFromCaches = "Cache-Control: no-cache";
 
@@ -41,6 +54,14 @@ std::string strongTag(const HttpAnswer& answer) {
 }
 
 }  // namespace
+
+// Machines that wait for one folder do not lose their patience at one moment.
+StyleResource::StyleResource(HttpPlace place) : client_(std::move(place)) {
+  std::random_device random;
+  const auto between = static_cast<int>((mostPatience - leastPatience).count());
+  patience_ = leastPatience + std::chrono::milliseconds(std::uniform_int_distribution<int>(0, between)(random));
+  for (int i = 0; i < 4; ++i) name_ += std::to_string(random()) + ' ';
+}
 
 HttpAnswer StyleResource::send(const HttpRequest& request, const Deadline& deadline) {
   HttpAnswer answer = client_.send(request, deadline.left());
@@ -93,18 +114,62 @@ StyleResource::Storing StyleResource::store(std::string_view bytes, const Front&
 }
 
 StyleResource::Locking StyleResource::lock(const Deadline& deadline) {
-  if (!offersLocks_) return Locking::notOffered;
+  if (!offersLocks_) return lockByFolder(deadline);
   const HttpAnswer answer = send({"LOCK", {lockTime, "Depth: 0", "Content-Type: application/xml"}, lockBody}, deadline);
   if (answer.isWhole() && answer.status == locked) return Locking::busy;
   const bool refused = (answer.status >= 400 && answer.status < 500) || answer.status == notImplemented;
   if (answer.isWhole() && refused) offersLocks_ = false;
   if (isSuccess(answer)) lockToken_ = answer.header("lock-token");
-  return lockToken_.empty() ? Locking::notOffered : Locking::held;
+  if (!lockToken_.empty()) return Locking::held;
+  return offersLocks_ ? Locking::notOffered : lockByFolder(deadline);
 }
 
-void StyleResource::unlock(const Deadline& deadline) {
-  if (lockToken_.empty()) return;
-  send({"UNLOCK", {"Lock-Token: " + std::exchange(lockToken_, {})}, {}}, deadline);
+void StyleResource::unlock() {
+  const std::error_code cause = cause_;
+  const Deadline deadline(timeToUnlock);
+  if (std::exchange(holdsFolder_, false)) send({"DELETE", {"Depth: infinity"}, {}, lockFolder}, deadline);
+  const std::string token = std::exchange(lockToken_, {});
+  if (!token.empty()) send({"UNLOCK", {"Lock-Token: " + token}, {}}, deadline);
+  cause_ = cause;
+}
+
+bool StyleResource::isFolderThere(const Deadline& deadline) {
+  const HttpAnswer answer = send({"GET", {notFromCaches}, {}, lockFolder}, deadline);
+  return answer.isWhole() && answer.status != notFound && answer.status != gone;
+}
+
+// A folder that is refused and not there may have gone in between: only several such answers say that none is offered.
+StyleResource::Locking StyleResource::lockByFolder(const Deadline& deadline) {
+  constexpr int tries = 3;
+  for (int i = 0; i < tries && folders_ != Offered::no; ++i) {
+    const HttpAnswer answer = send({"MKCOL", {}, {}, lockFolder}, deadline);
+    if (!answer.isWhole()) return Locking::notOffered;
+    holdsFolder_ = answer.status == created;
+    const bool isRefused = !holdsFolder_ && answer.status == notAllowed;
+    if (holdsFolder_ || (isRefused && folders_ == Offered::unknown && isFolderThere(deadline))) folders_ = Offered::yes;
+    if (holdsFolder_) {
+      foundFolder_.reset();
+      send({"PUT", {"Content-Type: text/plain"}, name_, lockOwner}, deadline);
+    }
+    if (holdsFolder_) return Locking::held;
+    if (folders_ == Offered::yes) return waitForFolder(deadline);
+    if (answer.status != notAllowed) break;
+  }
+  folders_ = Offered::no;
+  return Locking::notOffered;
+}
+
+// While others store, the folder is now this one's and now that one's; one that stays somebody's was left behind.
+StyleResource::Locking StyleResource::waitForFolder(const Deadline& deadline) {
+  std::string owner = send({"GET", {notFromCaches}, {}, lockOwner}, deadline).body;
+  const auto now = std::chrono::steady_clock::now();
+  if (!foundFolder_ || owner != ownerThen_) foundFolder_ = now;
+  ownerThen_ = std::move(owner);
+  if (now - *foundFolder_ >= patience_) {
+    send({"DELETE", {"Depth: infinity"}, {}, lockFolder}, deadline);
+    foundFolder_.reset();
+  }
+  return Locking::busy;
 }
 
 }  // namespace tarvo

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <string>
 
@@ -32,7 +33,7 @@ class StyleResource {
   enum class Storing { done, raced, failed };  // raced: somebody else stores at the moment, or has just stored
   enum class Locking { held, busy, notOffered };
 
-  explicit StyleResource(HttpPlace place) : client_(std::move(place)) {}
+  explicit StyleResource(HttpPlace place);
 
   // Which set is there; a server that understands ranges sends little more than its stamp.
   Front front(const Deadline& deadline);
@@ -40,22 +41,33 @@ class StyleResource {
   Result<ReadPayload> whole(const Deadline& deadline);
   // Stores the bytes unless the resource is known to have changed since the front was read.
   Storing store(std::string_view bytes, const Front& before, const Deadline& deadline);
-  // Keeps others from storing until unlock() or for a few seconds, where the server offers that.
+  // Keeps others from storing until unlock() or for a few seconds, where the server offers that: by a lock, else by a
+  // folder beside the resource, which only one can make. One that its maker left behind is removed after two to three
+  // seconds; should two find that at the same moment, both may store.
   Locking lock(const Deadline& deadline);
-  void unlock(const Deadline& deadline);
+  void unlock();
 
   // Why the last request did not bring what it asked for.
   const std::error_code& cause() const { return cause_; }
   const std::string& address() const { return client_.address(); }
   // Whether an answer came too late since this was last said.
   bool takeLateness();
+  void cancel() { client_.cancel(); }
 
  private:
   HttpAnswer send(const HttpRequest& request, const Deadline& deadline);
+  Locking lockByFolder(const Deadline& deadline);
+  Locking waitForFolder(const Deadline& deadline);
+  bool isFolderThere(const Deadline& deadline);
   HttpClient client_;
   std::string lockToken_;  // "" when there is no lock
   std::error_code cause_;
-  bool offersLocks_ = true, isLate_ = false;
+  enum class Offered { unknown, yes, no };
+  Offered folders_ = Offered::unknown;
+  bool offersLocks_ = true, holdsFolder_ = false, isLate_ = false;
+  std::optional<std::chrono::steady_clock::time_point> foundFolder_;  // since when another one has it
+  std::string ownerThen_, name_;        // of the folder; which tells this one from all others
+  std::chrono::milliseconds patience_;  // with it
 };
 
 }  // namespace tarvo

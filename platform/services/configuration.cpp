@@ -37,6 +37,12 @@ const DiskPath* Configuration::fileOf(std::string_view key) const {
   return file != nullptr ? &file->path : nullptr;
 }
 
+std::string Configuration::text(std::string_view key) const {
+  const PropertyList* value = find(key);
+  const std::string* text = value != nullptr ? value->string() : nullptr;
+  return text != nullptr ? *text : std::string();
+}
+
 bool Configuration::boolean(std::string_view key) const {
   const PropertyList* value = find(key);
   return value != nullptr && value->booleanValue();

@@ -19,6 +19,8 @@ namespace configuration_keys {
 inline constexpr const char* privateFolders = "PrivateFolders";  // boolean: folders made in homes are the user's alone
 // boolean: credentials may reach a style service without encryption
 inline constexpr const char* allowPlainPasswords = "AllowPlainPasswords";
+// text: PEM file of the certificates by which a style service is trusted, in the place of the system's
+inline constexpr const char* authorities = "CAFile";
 }  // namespace configuration_keys
 
 class Configuration {
@@ -35,6 +37,8 @@ class Configuration {
   const DiskPath* fileOf(std::string_view key) const;
   // False where no file has the key.
   bool boolean(std::string_view key) const;
+  // "" where no file has the key, or something else than a text.
+  std::string text(std::string_view key) const;
 
  private:
   struct File {

@@ -37,7 +37,7 @@ struct ReasonWord {
   Reason reason;
   const char* word;  // the keys are "Cause." and this, and "Cure." and this where something helps
 };
-inline constexpr std::array<ReasonWord, 30> reasonWords{{{Reason::noPath, "noPath"},
+inline constexpr std::array<ReasonWord, 31> reasonWords{{{Reason::noPath, "noPath"},
                                                          {Reason::noRegularFile, "noRegularFile"},
                                                          {Reason::noPropertyList, "noPropertyList"},
                                                          {Reason::noDictionary, "noDictionary"},
@@ -66,7 +66,8 @@ inline constexpr std::array<ReasonWord, 30> reasonWords{{{Reason::noPath, "noPat
                                                          {Reason::plainPassword, "plainPassword"},
                                                          {Reason::noProgram, "noProgram"},
                                                          {Reason::noAddress, "noAddress"},
-                                                         {Reason::ownFile, "ownFile"}}};
+                                                         {Reason::ownFile, "ownFile"},
+                                                         {Reason::onItsWay, "onItsWay"}}};
 
 // Rows stand in the order of their values, so that a value finds its row by its number.
 constexpr const char* wordOf(Attempt attempt) { return attemptWords[static_cast<std::size_t>(attempt)].word; }
@@ -79,7 +80,7 @@ static_assert([] {
   for (std::size_t i = 0; i < reasonWords.size(); ++i) {
     if (reasonWords[i].reason != static_cast<Reason>(i + 1)) return false;
   }
-  return attemptWords.back().attempt == Attempt::open && reasonWords.back().reason == Reason::ownFile;
+  return attemptWords.back().attempt == Attempt::open && reasonWords.back().reason == Reason::onItsWay;
 }());
 
 }  // namespace tarvo

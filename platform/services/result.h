@@ -66,7 +66,8 @@ enum class Reason {
   plainPassword,    // it asks for a name and a password, which go out over an encrypted connection only
   noProgram,        // the desktop has nothing that opens it
   noAddress,        // no address of it is configured
-  ownFile           // what the manager keeps for itself is no place for something else
+  ownFile,          // what the manager keeps for itself is no place for something else
+  onItsWay          // to the service, which has not confirmed it yet
 };
 const std::error_category& reasonCategory();
 inline std::error_code make_error_code(Reason reason) { return {static_cast<int>(reason), reasonCategory()}; }

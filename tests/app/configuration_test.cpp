@@ -13,6 +13,7 @@
 #include "tests/support/memory_files.h"
 #include "tests/support/scripted_server.h"
 #include "tests/support/temporary_folder.h"
+#include "tests/support/web_server.h"
 
 namespace tarvo::test {
 namespace {
@@ -126,6 +127,7 @@ TEST_F(ConfiguredProduct, sendsPlainPasswordsWhereTheConfigurationSaysSo) {
   const auto credentials = [&] {
     Product product(asked);
     const std::unique_ptr<Engine> engine = product.makeEngine(product.files());
+    engine->waitForAnswer(std::chrono::seconds(10));
     EXPECT_FALSE(engine->checkConnectionWithCurl());
     const bool isKeptBack = engine->couldReach().error().cause == Reason::plainPassword;
     const std::vector<SeenRequest> seen = proxy.requests();
@@ -136,6 +138,26 @@ TEST_F(ConfiguredProduct, sendsPlainPasswordsWhereTheConfigurationSaysSo) {
   EXPECT_EQ(credentials(), "");
   configure(list("<key>AllowPlainPasswords</key><true/>"));
   EXPECT_EQ(credentials(), "Basic dGFybzpwYXNzLXdvcmQ=");
+}
+
+TEST_F(ConfiguredProduct, trustsAServiceByTheCertificatesOfTheConfigurationElseOfTheEnvironment) {
+  const WebServer server("nginx", "IP:127.0.0.1");
+  if (!server.isHere()) GTEST_SKIP() << "nginx is not installed";
+  ProductOptions asked = options();
+  asked.engine = server.address();
+  const auto reaches = [&] {
+    Product product(asked);
+    const std::unique_ptr<Engine> engine = product.makeEngine(product.files());
+    engine->waitForAnswer(std::chrono::seconds(10));
+    return engine->checkConnectionWithCurl();
+  };
+  const Environment elsewhere({{"SSL_CERT_FILE", "/nowhere.pem"}, {"no_proxy", "*"}});
+  EXPECT_FALSE(reaches());
+  configure(list("<key>CAFile</key><string>" + server.certificate() + "</string>"));
+  EXPECT_TRUE(reaches());
+  configure(list(""));
+  const Environment known({{"SSL_CERT_FILE", server.certificate()}});
+  EXPECT_TRUE(reaches());
 }
 
 TEST_F(ConfiguredProduct, tellsOfAConfigurationThatCannotBeRead) {

@@ -149,11 +149,12 @@ class HangBench {
     options_.engine = service.address();
     Product product(options_);
     answerTheService(product);
+    if (stage.action == Action::start) service.begin();  // it is asked as soon as there is a window to be
     Shell shell(product, application_, [] { return std::vector<tarvo::ProductPath>(); });
     if (stage.action != Action::start && !shell.start()) throw std::runtime_error("the window did not start");
     prepare(shell, stage.action);
     letEventsPass();
-    service.begin();
+    if (stage.action != Action::start) service.begin();
     const Heartbeat heartbeat;
     letEventsPass();
     if (stage.action == Action::start && !shell.start()) throw std::runtime_error("the window did not start");

@@ -10,6 +10,8 @@
 #include "platform/engine/engine_http.h"
 #include "platform/plist/plist_reader.h"
 #include "platform/plist/plist_writer.h"
+#include "platform/posix/posix_files.h"
+#include "platform/services/locations.h"
 #include "tests/bench/timing.h"
 
 // What an edit adds for a style service, against the least that would move the same bytes: register_bench ADDRESS
@@ -33,17 +35,21 @@ void mustBe(bool held, const char* what) {
 class RegisterBench {
  public:
   RegisterBench(const char* address, const char* styleFile)
-      : styles_(stylesIn(styleFile)), engine_({address, {}, {}}), client_({address, {}, {}}) {
+      : styles_(stylesIn(styleFile)), engine_({address, {}, {}}, files_, {}), client_({address, {}, {}}) {
     for (const PropertyList& style : styles_) appendValue(encoded_.emplace_back(), style, 2);
     bytes_ = StylePayload({styles_, encoded_}).bytes(1);
   }
 
-  // One registration as the store makes it after an edit; the same bytes there and back.
+  // One registration as the store makes it after an edit, until it has arrived; the same bytes there and back.
   void alternate() {
+    styles_.front().dictionary()->set("Edit", ++edits_);
+    encoded_.front().clear();
+    appendValue(encoded_.front(), styles_.front(), 2);
     registrations_.push_back(milliseconds([&] {
       std::string stamp;
       mustBe(engine_.checkConnectionWithCurl(), "the service was not reached");
       engine_.sendRegistStyle({styles_, encoded_}, stamp);
+      engine_.waitUntilSent(std::chrono::seconds(10));
       mustBe(engine_.didRegister().has_value(), "the service did not store");
     }));
     floors_.push_back(milliseconds([&] {
@@ -55,7 +61,10 @@ class RegisterBench {
   void print() const { std::printf("%.4f %.4f %zu\n", median(registrations_), median(floors_), bytes_.size()); }
 
  private:
+  const Locations locations_{"/", "/"};
+  PosixFiles files_{locations_};
   Array styles_;
+  int edits_ = 0;
   std::vector<std::string> encoded_;
   std::string bytes_;
   EngineHttp engine_;

@@ -18,7 +18,7 @@ import sys
 import time
 
 from bus_rows import bus_rows, offscreen
-from server_rows import hang_row, register_row
+from server_rows import SecureServer, hang_row, output_of, register_row
 
 TOP = pathlib.Path(__file__).resolve().parent.parent.parent
 BUILD = TOP / "build/bench"
@@ -193,6 +193,19 @@ def edit_rows():
                   float(here) <= 2 * float(bare))
 
 
+# The same in a window whose styles go to a server with TLS: what that costs the user.
+
+def secure_edit_row():
+    root, floor = fresh_root("root"), WORK / "floor"
+    shutil.rmtree(floor, ignore_errors=True)
+    give_styles(root, 100)
+    with SecureServer() as server:
+        command = [EDIT_BENCH, "gesture", root, home_of(root), server.address(), floor, EDITS]
+        here, bare, files = output_of(command, server.environment()).split()
+    print_row(f"edit of 100 styles, nginx, TLS, {files} files", float(here), float(bare), "ms", "at most 1.05x",
+              float(here) <= 1.05 * float(bare))
+
+
 # Scan: a folder with very many dictionaries, known by their extension or, all of them, by their type code.
 
 def fill_folder(folder, name):
@@ -279,6 +292,7 @@ def main(arguments):
     if "edit" in wanted:
         edit_rows()
         keeping_row()
+        secure_edit_row()
     if "scan" in wanted:
         scan_rows()
     if "picker" in wanted:

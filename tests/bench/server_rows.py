@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Rows about styles on a web server: what a registration costs there, and how long a server that hangs stops the user."""
 
+import os
 import pathlib
 import shutil
 import subprocess
@@ -15,6 +16,31 @@ from web_servers import WebServer  # noqa: E402
 def output_of(command, environment=None):
     return subprocess.run([str(word) for word in command], check=True, stdout=subprocess.PIPE, text=True,
                           env=environment).stdout
+
+
+class SecureServer:
+    """nginx with a certificate of its own, and an environment in which that is trusted."""
+
+    def __enter__(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp())
+        self.folder.chmod(0o755)
+        self.certificate, key = self.folder / "certificate.pem", self.folder / "key.pem"
+        subprocess.run(["openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", "-subj", "/CN=127.0.0.1",
+                        "-addext", "subjectAltName=IP:127.0.0.1", "-keyout", key, "-out", self.certificate], check=True,
+                       stderr=subprocess.DEVNULL)
+        self.server = WebServer("nginx", self.folder / "server", (self.certificate, key))
+        self.server.start()
+        return self
+
+    def __exit__(self, *_):
+        self.server.kill()
+        shutil.rmtree(self.folder)
+
+    def address(self):
+        return self.server.address()
+
+    def environment(self):
+        return os.environ | {"SSL_CERT_FILE": str(self.certificate), "no_proxy": "*"}
 
 
 def traffic_of(server, registrations):
@@ -45,5 +71,5 @@ def register_row(kind, program, style_file, registrations, name, print_row):
 def hang_row(program, root, home, environment):
     rows = [line.split(" ", 1) for line in output_of([program, root, home], environment).splitlines()]
     longest, where = max((float(time), where) for time, where in rows)
-    print(f"{f'longest stop of {len(rows)} troubles':34} {longest:9.2f} ms   at most 3000 ms: "
-          f"{'met' if longest <= 3000 else 'missed'} ({where})", flush=True)
+    print(f"{f'longest stop of {len(rows)} troubles':34} {longest:9.2f} ms   at most 50 ms: "
+          f"{'met' if longest <= 50 else 'missed'} ({where})", flush=True)

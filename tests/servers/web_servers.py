@@ -34,7 +34,7 @@ http {{
     listen 127.0.0.1:{port} {listen};
     root {folder}/files;
     client_max_body_size 64m;
-    location / {{ dav_methods PUT DELETE; create_full_put_path on; }}
+    location / {{ dav_methods PUT DELETE MKCOL; create_full_put_path on; }}
   }}
 }}
 """

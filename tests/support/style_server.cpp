@@ -21,6 +21,11 @@ void StyleServer::hold(std::string bytes) {
 }
 
 Reply StyleServer::respond(const SeenRequest& request) {
+  if (request.path.ends_with(".lock/")) return folder(request);
+  if (request.path.ends_with(".lock/owner")) {
+    if (request.method == "PUT") owner = request.body;
+    return {200, {}, owner};
+  }
   if (request.method == "GET") return get(request);
   if (request.method == "PUT") return put(request);
   if (!locks) return {405, {}, "not here"};
@@ -52,6 +57,14 @@ Reply StyleServer::put(const SeenRequest& request) {
   const int status = held ? 204 : 201;
   hold(request.body);
   return {status, {}, ""};
+}
+
+Reply StyleServer::folder(const SeenRequest& request) {
+  if (request.method == "GET") return {isFolderThere ? 403 : 404, {}, ""};
+  if (!folders || (request.method == "MKCOL" && isFolderThere)) return {405, {}, "not here"};
+  const bool isMade = request.method == "MKCOL";
+  isFolderThere = isMade;
+  return {isMade ? 201 : 204, {}, ""};
 }
 
 Reply StyleServer::lock() {

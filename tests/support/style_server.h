@@ -15,6 +15,9 @@ struct StyleServer {
   enum class Tags { strong, weak, same, none };
   Tags tags = Tags::strong;
   bool ranges = true, conditions = true, locks = false;
+  bool folders = false;        // may be made beside the resource
+  bool isFolderThere = false;  // the one that keeps others from storing
+  std::string owner;           // of it
 
   std::optional<std::string> held;
   int revision = 0;       // of the tag
@@ -34,6 +37,7 @@ struct StyleServer {
   Reply get(const SeenRequest& request) const;
   Reply put(const SeenRequest& request);
   Reply lock();
+  Reply folder(const SeenRequest& request);
   std::string tag() const;
 };
 

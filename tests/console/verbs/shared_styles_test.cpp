@@ -11,12 +11,12 @@
 namespace tarvo::test {
 namespace {
 
-constexpr const char* edits = "50";
+constexpr const char* edits = "100";
 constexpr int notInstalled = 77;
 
 class SharedStyles : public testing::TestWithParam<const char*> {};
 
-TEST_P(SharedStyles, areTheSameOnTwoMachinesAlthoughTheServerIsKilledAgainAndAgain) {
+TEST_P(SharedStyles, loseNoEditOfTenMachinesAlthoughTheyAndTheServerAreKilledAgainAndAgain) {
   const std::string command = "python3 -B " + quoted(TARVO_SOURCE_DIR "/tests/servers/shared_styles.py") + ' ' +
                               quoted(TARVOCTL) + ' ' + GetParam() + ' ' + edits + " 1";
   const int status = std::system(command.c_str());

@@ -2,55 +2,67 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <chrono>
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "platform/engine/engine_http.h"
-#include "tests/support/encoded_styles.h"
-#include "tests/support/style_server.h"
+#include "tests/platform/engine/set_delivery_fixture.h"
 
-// A style service over HTTP, before a server that follows the rules of the web or breaks them on request.
+// A style service over HTTP as a program uses it.
 namespace tarvo::test {
 
-using namespace std::chrono_literals;
+// A program with one set of styles.
+class FakeClient : public EngineClient {
+ public:
+  explicit FakeClient(std::shared_ptr<ListedJoiner> joiner) : joiner_(std::move(joiner)) {}
+  void set(const EncodedStyles& styles) { styles_.emplace(styles); }
+  std::optional<StyleSet> presentStyles() override { return styles_ ? std::optional(styles_->set()) : std::nullopt; }
+  bool areStored() const override { return stored; }
+  std::string lastUpdate() const override { return stamp; }
+  std::shared_ptr<StyleJoiner> joiner() override { return joiner_; }
+  void didHear() override { ++heard; }
 
-class EngineHttpTest : public testing::Test {
+  bool stored = true;
+  std::string stamp;
+  std::atomic<int> heard = 0;
+
+ private:
+  std::shared_ptr<ListedJoiner> joiner_;
+  std::optional<EncodedStyles> styles_;
+};
+
+class EngineHttpTest : public SetDeliveryTest {
  protected:
-  using Methods = std::vector<std::string>;
-  using Way = Reply::Way;
-
-  EngineHttp engine(HttpTimes times = {}) {
-    return EngineHttp({server.address(), {}, {}}, times, [this] { return now; });
+  std::unique_ptr<EngineHttp> engine(const std::string& home = "home") {
+    return std::make_unique<EngineHttp>(HttpPlace{server.address(), {}, {}}, files, basePath(home), HttpTimes{},
+                                        [this] { return std::chrono::steady_clock::now() + passed; });
   }
-  std::string registered(EngineHttp& engine, const EncodedStyles& styles) {
+  // One whose first answer has come, for a program with these styles.
+  std::unique_ptr<EngineHttp> answered(FakeClient& program, const std::string& home = "home") {
+    std::unique_ptr<EngineHttp> made = engine(home);
+    made->attach(&program);
+    made->waitForAnswer(10s);
+    return made;
+  }
+  // An edit, as a store makes it.
+  void edit(EngineHttp& http, FakeClient& program, const EncodedStyles& styles) {
+    program.set(styles);
+    http.didStoreStyles();
+    if (!http.checkConnectionWithCurl()) return;
     std::string stamp;
-    engine.sendRegistStyle(styles.set(), stamp);
-    return stamp;
+    http.sendRegistStyle(styles.set(), stamp);
+    program.stamp = stamp;
   }
-  std::string payload(const EncodedStyles& styles, std::uint64_t revision) {
-    return StylePayload(styles.set()).bytes(revision);
-  }
-  std::string stampOf(const EncodedStyles& styles, std::uint64_t revision) {
-    return StylePayload(styles.set()).stamp(revision).text();
-  }
-  std::optional<Array> newerThan(EngineHttp& engine, std::string stamp) {
-    Array styles{PropertyList("untouched")};
-    const std::string before = stamp;
-    if (engine.requestStyle(styles, stamp)) return styles;
-    EXPECT_EQ(styles, Array{PropertyList("untouched")});
-    EXPECT_EQ(stamp, before);
-    return std::nullopt;
+  // A launch, as a store makes it: what was taken.
+  std::optional<std::vector<std::string>> reconcile(EngineHttp& http, FakeClient& program) {
+    Array styles;
+    std::string stamp = program.stamp;
+    if (!http.requestStyle(styles, stamp)) return std::nullopt;
+    program.stamp = stamp;
+    program.set(EncodedStyles(namesIn(styles)));
+    http.didStoreStyles();
+    return namesIn(styles);
   }
 
-  const EncodedStyles two{{"標準", "特許"}}, one{{"E-mail"}}, same{{"E-mbil"}};  // the last two are equally long
-  const HttpTimes short_{100ms, 200ms, 30s};
-  std::chrono::steady_clock::duration now = 1h;
-  StyleServer web;
-  ScriptedServer server{[this](const SeenRequest& request) { return web.answer(request); }};
+  std::chrono::seconds passed{0};
+  FakeClient client{joiner};
 };
 
 }  // namespace tarvo::test

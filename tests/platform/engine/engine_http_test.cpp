@@ -9,118 +9,112 @@
 namespace tarvo::test {
 namespace {
 
-TEST_F(EngineHttpTest, anEmptyServerIsReachableAndHoldsNothing) {
-  EngineHttp http = engine();
-  EXPECT_TRUE(http.checkConnectionWithCurl());
-  EXPECT_FALSE(http.checkStyle());
-  EXPECT_EQ(newerThan(http, ""), std::nullopt);
-  EXPECT_EQ(http.form(), EngineForm::http);
-  EXPECT_EQ(server.methods(), (Methods{"GET", "GET", "GET"})) << "one request each";
-}
+using Names = std::vector<std::string>;
 
-TEST_F(EngineHttpTest, aRegistrationIsComparedStoredAndSeen) {
-  EngineHttp http = engine();
-  EXPECT_EQ(registered(http, two), stampOf(two, 1));
-  EXPECT_TRUE(http.didRegister());
-  EXPECT_EQ(web.held, payload(two, 1));
-  EXPECT_EQ(server.methods(), (Methods{"LOCK", "GET", "PUT", "GET"}));
-  EXPECT_EQ(server.requests()[2].header("if-none-match"), "*");
-  EXPECT_EQ(server.requests()[2].header("expect"), "");
-  server.forgetRequests();
-  EXPECT_EQ(registered(http, one), stampOf(one, 2));
-  EXPECT_EQ(server.methods(), (Methods{"GET", "PUT", "GET"})) << "locks are not offered";
-  EXPECT_EQ(server.requests()[1].header("if-match"), "\"v1\"");
-  EXPECT_EQ(server.connections(), 1) << "the connection is kept";
-}
-
-TEST_F(EngineHttpTest, anotherMachineTakesTheSetAndItsStamp) {
-  EngineHttp here = engine(), there = engine();
-  registered(here, two);
-  Array taken;
+TEST_F(EngineHttpTest, aServiceThatHasNotAnsweredCountsAsReachableAndHoldsASet) {
+  web.instead = [](const SeenRequest&, int) { return Reply{200, {}, "x", Way::nothing}; };
+  const auto http = engine();
+  EXPECT_TRUE(http->isAsking());
+  EXPECT_TRUE(http->checkConnectionWithCurl());
+  EXPECT_TRUE(http->checkStyle()) << "the answer to no would be to send ours over it";
+  Array styles;
   std::string stamp;
-  EXPECT_TRUE(there.checkStyle());
-  EXPECT_TRUE(there.requestStyle(taken, stamp));
-  EXPECT_EQ(taken, two.records);
-  EXPECT_EQ(stamp, stampOf(two, 1));
-  EXPECT_EQ(newerThan(there, stamp), std::nullopt);
-  EXPECT_EQ(registered(there, one), stampOf(one, 2));
-  EXPECT_EQ(newerThan(here, stamp), one.records);
+  EXPECT_FALSE(http->requestStyle(styles, stamp));
+  ASSERT_FALSE(http->couldRead());
+  EXPECT_EQ(http->couldRead().error().cause, Reason::notAsked);
+  EXPECT_EQ(http->form(), EngineForm::http);
 }
 
-TEST_F(EngineHttpTest, askingWithTheCurrentStampDownloadsNoStyles) {
+TEST_F(EngineHttpTest, aRegistrationAnswersAtOnceWithTheStampThatTheSetWillHave) {
   web.hold(payload(two, 5));
-  EngineHttp http = engine();
-  EXPECT_EQ(newerThan(http, stampOf(two, 5)), std::nullopt);
-  EXPECT_TRUE(http.couldRead());
-  EXPECT_EQ(server.methods(), Methods{"GET"});
-  EXPECT_EQ(server.requests()[0].header("range"), "bytes=0-511");
-  EXPECT_EQ(newerThan(http, stampOf(two, 4)), two.records);
+  client.stamp = stampOf(two, 5);
+  const auto http = answered(client);
+  std::string stamp;
+  client.set(one);
+  http->sendRegistStyle(one.set(), stamp);
+  EXPECT_EQ(stamp, stampOf(one, 6));
+  EXPECT_TRUE(http->isSending() || http->didRegister());
+  http->waitUntilSent(10s);
+  EXPECT_FALSE(http->isSending());
+  EXPECT_TRUE(http->didRegister());
+  EXPECT_EQ(web.held, payload(one, 6));
 }
 
-TEST_F(EngineHttpTest, newnessIsDecidedByTheStampAndNeverByTheTag) {
-  for (const auto tags : {StyleServer::Tags::same, StyleServer::Tags::weak, StyleServer::Tags::none}) {
-    web.tags = tags;
-    web.hold(payload(one, 5));
-    EngineHttp http = engine();
-    EXPECT_EQ(newerThan(http, stampOf(two, 4)), one.records);
-    web.hold(payload(same, 5));
-    EXPECT_EQ(newerThan(http, stampOf(one, 5)), same.records) << "the same revision with another hash is newer";
-    EXPECT_EQ(newerThan(http, stampOf(one, 6)), std::nullopt);
-    EXPECT_EQ(newerThan(http, "00000000000000000009 2026-01-02T03:04:05Z"), same.records) << "a foreign stamp is 0";
-  }
+TEST_F(EngineHttpTest, anEmptyServiceHoldsNothing) {
+  const auto http = answered(client);
+  EXPECT_FALSE(http->isAsking());
+  EXPECT_TRUE(http->checkConnectionWithCurl());
+  EXPECT_FALSE(http->checkStyle());
 }
 
-TEST_F(EngineHttpTest, weakTagsAreNoConditions) {
-  for (const auto tags : {StyleServer::Tags::weak, StyleServer::Tags::none}) {
-    web.tags = tags;
-    web.hold(payload(two, 5));
-    EngineHttp http = engine();
-    server.forgetRequests();
-    EXPECT_EQ(registered(http, one), stampOf(one, 6));
-    EXPECT_EQ(server.requests()[2].method, "PUT");
-    EXPECT_EQ(server.requests()[2].header("if-match"), "");
-  }
+TEST_F(EngineHttpTest, forHalfAMinuteAfterAContactThatFailedTheServiceCountsAsUnreachable) {
+  web.instead = [](const SeenRequest&, int) { return Reply{503, {}, ""}; };
+  client.set(two);
+  const auto http = answered(client);
+  EXPECT_FALSE(http->checkConnectionWithCurl());
+  EXPECT_FALSE(http->couldReach());
+  http->waitUntilSent(10s);
+  passed = 31s;
+  EXPECT_TRUE(http->checkConnectionWithCurl());
+  EXPECT_TRUE(http->couldReach());
 }
 
-TEST_F(EngineHttpTest, aServerWithoutRangesWorksToo) {
-  web.ranges = false;
-  EngineHttp http = engine();
-  EXPECT_EQ(registered(http, two), stampOf(two, 1));
-  EXPECT_EQ(registered(http, one), stampOf(one, 2));
-  EXPECT_TRUE(http.didRegister());
-  EXPECT_EQ(newerThan(http, ""), one.records);
+TEST_F(EngineHttpTest, aProbeThatSaysNoSendsThePresentSetWhenItCan) {
+  bool fails = true;
+  web.instead = [&fails](const SeenRequest&, int) { return fails ? std::optional(Reply{503, {}, ""}) : std::nullopt; };
+  client.set(two);
+  const auto http = answered(client);
+  fails = false;
+  EXPECT_FALSE(http->checkConnectionWithCurl());
+  EXPECT_TRUE(http->isSending() || http->didRegister());
+  http->waitUntilSent(10s);
+  EXPECT_EQ(web.held, payload(two, 1));
 }
 
-TEST_F(EngineHttpTest, revisionsCountOnFromTheGreatestThatWasSeen) {
-  EngineHttp http = engine();
-  EXPECT_EQ(newerThan(http, stampOf(two, 10)), std::nullopt) << "the server was set up anew";
-  EXPECT_EQ(registered(http, one), stampOf(one, 11));
-  web.hold(payload(two, lastRevision));
-  EXPECT_EQ(registered(http, one), stampOf(one, lastRevision));
-  EXPECT_EQ(newerThan(http, stampOf(two, lastRevision)), one.records) << "another hash is newer";
+TEST_F(EngineHttpTest, aSetOfTheServiceWithTheStampThatIsKeptIsNotNewerWhateverItsNumber) {
+  web.hold(payload(two, 7));
+  client.set(two);
+  client.stamp = stampOf(two, 5);
+  const auto http = answered(client);
+  EXPECT_EQ(reconcile(*http, client), std::nullopt);
+  EXPECT_TRUE(http->couldRead());
+  http->waitUntilSent(10s);
+  EXPECT_EQ(web.held, payload(two, 7));
 }
 
-TEST_F(EngineHttpTest, stylesThatStandInForOthersReplaceNoSet) {
-  for (const std::string& held : {payload(two, 5), std::string("damaged")}) {
-    web.hold(held);
-    EngineHttp http = engine();
-    http.setStandIn(true);
-    const std::string stamp = registered(http, one);
-    ASSERT_FALSE(http.didRegister());
-    EXPECT_EQ(http.didRegister().error().cause, std::errc::file_exists);
-    EXPECT_EQ(web.held, held);
-    EXPECT_EQ(newerThan(http, stamp), std::nullopt) << "it does not come over the styles by itself either";
-    http.setStandIn(false);
-    registered(http, one);
-    EXPECT_TRUE(http.didRegister());
-  }
+TEST_F(EngineHttpTest, stylesThatStandInTakeOnlyWhatIsNewer) {
+  web.hold(payload(two, 5));
+  client.set(one);
+  client.stamp = stampOf(two, 5);
+  const auto http = answered(client);
+  http->setStandIn(true);
+  EXPECT_EQ(reconcile(*http, client), std::nullopt);
+  client.stamp = stampOf(same, 4);
+  EXPECT_EQ(reconcile(*http, client), (Names{"標準", "特許"}));
 }
 
-TEST_F(EngineHttpTest, stylesThatStandInForOthersReachAServiceWithoutASet) {
-  EngineHttp http = engine();
-  http.setStandIn(true);
-  EXPECT_EQ(registered(http, one), stampOf(one, 1));
-  EXPECT_TRUE(http.didRegister());
+TEST_F(EngineHttpTest, damagedStylesAreNotTakenAndItIsToldWhy) {
+  web.hold("<html>Please sign in</html>");
+  client.set(one);
+  const auto http = answered(client);
+  EXPECT_TRUE(http->checkConnectionWithCurl());
+  EXPECT_TRUE(http->checkStyle());
+  EXPECT_EQ(reconcile(*http, client), std::nullopt);
+  ASSERT_FALSE(http->couldRead());
+  EXPECT_EQ(http->couldRead().error().cause, Reason::damaged);
+}
+
+TEST_F(EngineHttpTest, whoeverIsDetachedHearsNothingMore) {
+  auto http = answered(client);
+  http->attach(nullptr);
+  const int heard = client.heard;
+  std::string stamp;
+  http->sendRegistStyle(one.set(), stamp);
+  http->waitUntilSent(50ms);
+  EXPECT_EQ(client.heard, heard);
+  http->attach(&client);
+  http->waitForAnswer(10s);
+  EXPECT_FALSE(http->isAsking()) << "attached again it asks anew";
 }
 
 }  // namespace
